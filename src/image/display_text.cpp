@@ -1,0 +1,148 @@
+#include "image/display_text.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <utility>
+
+#include "image/memory_block.h"
+
+namespace rqm5 {
+namespace {
+
+struct CharacterRange
+{
+    char32_t first;
+    char32_t last;
+};
+
+constexpr CharacterRange kHidden[] = {{0x00, 0x1F},     {0x7F, 0x9F},     {0x200E, 0x200F},
+                                      {0x2028, 0x202E}, {0x2066, 0x2069}, {0xFEFF, 0xFEFF}};
+
+constexpr CharacterRange kCombining[] = {{0x0300, 0x036F}, {0x1AB0, 0x1AFF}, {0x1DC0, 0x1DFF},
+                                         {0x200B, 0x200D}, {0x20D0, 0x20FF}, {0x3099, 0x309A},
+                                         {0xFE00, 0xFE0F}, {0xFE20, 0xFE2F}};
+
+constexpr CharacterRange kWide[] = {{0x1100, 0x115F},   {0x2E80, 0x303E},  {0x3041, 0xA4CF},
+                                    {0xAC00, 0xD7A3},   {0xF900, 0xFAFF},  {0xFE30, 0xFE6F},
+                                    {0xFF00, 0xFF60},   {0xFFE0, 0xFFE6},  {0x1F300, 0x1F64F},
+                                    {0x1F900, 0x1F9FF}, {0x20000, 0x3FFFD}};
+
+template <std::size_t N>
+bool IsIn(const CharacterRange (&ranges)[N], char32_t character)
+{
+    return std::any_of(std::begin(ranges), std::end(ranges), [character](const CharacterRange& range) {
+        return character >= range.first && character <= range.last;
+    });
+}
+
+constexpr char32_t kNoCharacter = 0xFFFFFFFF;
+
+struct Character
+{
+    char32_t code;       ///< kNoCharacter for a byte that begins no valid UTF-8 sequence
+    std::size_t length;  ///< bytes, 1 at least
+};
+
+std::size_t SequenceLength(unsigned char lead)
+{
+    if (lead < 0x80)
+        return 1;
+    if (lead >= 0xC2 && lead <= 0xDF)
+        return 2;
+    if (lead >= 0xE0 && lead <= 0xEF)
+        return 3;
+    return lead >= 0xF0 && lead <= 0xF4 ? 4 : 0;
+}
+
+Character FirstCharacter(std::string_view text)
+{
+    constexpr std::array<char32_t, 5> kLowest = {0, 0, 0x80, 0x800, 0x10000};
+    const auto lead = static_cast<unsigned char>(text.front());
+    const std::size_t length = SequenceLength(lead);
+    if (length == 1)
+        return {lead, 1};
+    if (length == 0 || length > text.size())
+        return {kNoCharacter, 1};
+    char32_t code = lead & (0x7FU >> length);
+    for (std::size_t i = 1; i < length; ++i) {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        if ((byte & 0xC0) != 0x80)
+            return {kNoCharacter, 1};
+        code = code << 6 | (byte & 0x3FU);
+    }
+    const bool isSurrogate = code >= 0xD800 && code <= 0xDFFF;
+    if (code < kLowest.at(length) || code > 0x10FFFF || isSurrogate)
+        return {kNoCharacter, 1};
+    return {code, length};
+}
+
+std::string Escaped(char32_t code)
+{
+    constexpr std::pair<char32_t, const char*> kNamed[] = {{'\t', "\\t"}, {'\n', "\\n"}, {'\r', "\\r"}};
+    for (const auto& [character, name] : kNamed)
+        if (code == character)
+            return name;
+    if (code < 0x80)
+        return "\\x" + HexByte(static_cast<int>(code));
+    return "\\u" + HexAddress(static_cast<int>(code));
+}
+
+int WidthOf(char32_t code)
+{
+    if (code == kNoCharacter)
+        return 1;
+    if (IsIn(kCombining, code))
+        return 0;
+    return IsIn(kWide, code) ? 2 : 1;
+}
+
+}  // namespace
+
+std::string VisibleText(std::string_view text)
+{
+    std::string visible;
+    while (!text.empty()) {
+        const Character next = FirstCharacter(text);
+        if (next.code == kNoCharacter)
+            visible += "\\x" + HexByte(static_cast<unsigned char>(text.front()));
+        else if (IsIn(kHidden, next.code))
+            visible += Escaped(next.code);
+        else
+            visible += text.substr(0, next.length);
+        text.remove_prefix(next.length);
+    }
+    return visible;
+}
+
+int DisplayWidth(std::string_view text)
+{
+    int width = 0;
+    while (!text.empty()) {
+        const Character next = FirstCharacter(text);
+        width += WidthOf(next.code);
+        text.remove_prefix(next.length);
+    }
+    return width;
+}
+
+std::string_view CutToWidth(std::string_view text, int columns)
+{
+    std::size_t length = 0;
+    while (length < text.size()) {
+        const Character next = FirstCharacter(text.substr(length));
+        columns -= WidthOf(next.code);
+        if (columns < 0)
+            break;
+        length += next.length;
+    }
+    return text.substr(0, length);
+}
+
+std::string PadToWidth(std::string_view text, int columns)
+{
+    const int missing = std::max(0, columns - DisplayWidth(text));
+    return std::string(text) + std::string(static_cast<std::size_t>(missing), ' ');
+}
+
+}  // namespace rqm5
