@@ -1,0 +1,86 @@
+#include "settings/setting_controls.h"
+
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QGridLayout>
+#include <QLabel>
+#include <QRadioButton>
+#include <QSlider>
+
+namespace rqm5 {
+
+SettingControls::SettingControls(const char* context, CloneImage& image, QObject* parent)
+    : QObject(parent), context_(context), image_(image)
+{
+}
+
+QString SettingControls::Text(const char* text) const
+{
+    return QCoreApplication::translate(context_, text);
+}
+
+template <class T>
+void SettingControls::Store(T ReceiverSettings::*setting, T value)
+{
+    // Showing a setting makes its control report the value that is there already.
+    if (image_.Settings.*setting == value)
+        return;
+    image_.Settings.*setting = value;
+    image_.DataChanged = true;
+    emit Edited();
+}
+
+OptionGroup* SettingControls::Add(const OptionSetting& setting)
+{
+    auto* group = new OptionGroup(context_, setting.name, setting.title, setting.options, setting.columns);
+    for (const Option& option : setting.options)
+        group->Button(option.value)->setStatusTip(Text(setting.tip));
+    connect(group, &OptionGroup::Chosen, this, [this, setting](int value) { Store(setting.value, value); });
+    show_.emplace_back([this, group, setting] { group->Select(image_.Settings.*setting.value); });
+    return group;
+}
+
+QCheckBox* SettingControls::Add(const CheckSetting& setting)
+{
+    auto* box = new QCheckBox(Text(setting.caption));
+    box->setObjectName(QLatin1String(setting.name));
+    box->setStatusTip(Text(setting.tip));
+    connect(box, &QCheckBox::toggled, this, [this, setting](bool on) { Store(setting.value, on); });
+    show_.emplace_back([this, box, setting] { box->setChecked(image_.Settings.*setting.value); });
+    return box;
+}
+
+void SettingControls::Add(const SliderSetting& setting, QGridLayout& grid)
+{
+    auto* slider = new QSlider(Qt::Horizontal);
+    slider->setObjectName(QLatin1String(setting.name));
+    slider->setStatusTip(Text(setting.tip));
+    slider->setRange(0, setting.highest);
+    auto* caption = new QLabel(Text(setting.caption));
+    caption->setBuddy(slider);
+    auto* label = new QLabel;
+    label->setObjectName(QLatin1String(setting.labelName));
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    label->setMinimumWidth(label->fontMetrics().horizontalAdvance(QStringLiteral("000")));
+    connect(slider, &QSlider::valueChanged, this, [this, label, setting](int value) {
+        label->setText(QString::number(value));
+        Store(setting.value, value);
+    });
+    show_.emplace_back([this, slider, label, setting] {
+        slider->setValue(image_.Settings.*setting.value);
+        label->setText(QString::number(slider->value()));
+    });
+    const int row = grid.rowCount();
+    grid.addWidget(caption, row, 0);
+    grid.addWidget(slider, row, 1);
+    grid.addWidget(label, row, 2);
+}
+
+void SettingControls::Show()
+{
+    for (const auto& show : show_)
+        show();
+}
+
+}  // namespace rqm5

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <vector>
+
+#include "image/clone_image.h"
+#include "ui/option_group.h"
+
+class QBoxLayout;
+class QCheckBox;
+class QGridLayout;
+
+namespace rqm5 {
+
+/// A group of option buttons and the setting it shows.
+struct OptionSetting
+{
+    const char* name;
+    const char* title;
+    int ReceiverSettings::*value;
+    std::span<const Option> options;
+    int columns = 1;
+    const char* tip = "";
+};
+
+struct CheckSetting
+{
+    const char* name;
+    const char* caption;
+    bool ReceiverSettings::*value;
+    const char* tip = "";
+};
+
+/// A slider from 0 and the label that shows its value.
+struct SliderSetting
+{
+    const char* name;
+    const char* labelName;
+    const char* caption;
+    int ReceiverSettings::*value;
+    int highest;
+    const char* tip = "";
+};
+
+/// Builds settings controls from tables and keeps them and the settings equal: what the user changes goes
+/// into the settings at once, Show brings the settings into the controls.
+class SettingControls : public QObject
+{
+    Q_OBJECT
+
+  public:
+    /// \param context  translation context of the texts in the tables
+    SettingControls(const char* context, CloneImage& image, QObject* parent);
+
+    OptionGroup* Add(const OptionSetting& setting);
+    QCheckBox* Add(const CheckSetting& setting);
+    void Add(const SliderSetting& setting, QGridLayout& grid);
+
+    /// Shows every setting. Nothing counts as an edit.
+    void Show();
+
+  signals:
+    /// The user gave a setting another value.
+    void Edited();
+
+  private:
+    template <class T>
+    void Store(T ReceiverSettings::*setting, T value);
+    QString Text(const char* text) const;
+
+    const char* context_;
+    CloneImage& image_;
+    std::vector<std::function<void()>> show_;
+};
+
+}  // namespace rqm5

@@ -1,0 +1,138 @@
+#include "settings/settings1_page.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QRadioButton>
+
+#include "ui/transfer_buttons.h"
+#include "vfo/vfo_table.h"
+
+namespace rqm5 {
+namespace {
+
+constexpr Option kModels[] = {
+    {0, QT_TRANSLATE_NOOP("Settings", "RQ-M5 J")},   {1, QT_TRANSLATE_NOOP("Settings", "RQ-M5 E")},
+    {2, QT_TRANSLATE_NOOP("Settings", "RQ-M5 T")},   {3, QT_TRANSLATE_NOOP("Settings", "RQ-M5 K")},
+    {4, QT_TRANSLATE_NOOP("Settings", "Sibling 1")}, {5, QT_TRANSLATE_NOOP("Settings", "Sibling 2")},
+};
+constexpr int kFirstSibling = 4;
+constexpr int kLastSibling = 5;
+
+constexpr Option kOperatingModes[] = {
+    {0, QT_TRANSLATE_NOOP("Settings", "VFO")},
+    {1, QT_TRANSLATE_NOOP("Settings", "Memory")},
+    {11, QT_TRANSLATE_NOOP("Settings", "Preset")},
+};
+
+constexpr Option kScanModes[] = {
+    {0, QT_TRANSLATE_NOOP("Settings", "Busy Scan")},
+    {1, QT_TRANSLATE_NOOP("Settings", "Timer Scan")},
+};
+
+constexpr OptionSetting kModel = {
+    "opbModel",
+    QT_TRANSLATE_NOOP("Settings", "Model"),
+    &ReceiverSettings::model,
+    kModels,
+    2,
+    QT_TRANSLATE_NOOP("Settings", "The receiver's model region: its bands, limits and presets")};
+constexpr OptionSetting kOperatingMode = {"opbOpMode",
+                                          QT_TRANSLATE_NOOP("Settings", "Operating Mode"),
+                                          &ReceiverSettings::operatingMode,
+                                          kOperatingModes,
+                                          1,
+                                          QT_TRANSLATE_NOOP("Settings", "What the receiver tunes with")};
+constexpr OptionSetting kScanMode = {
+    "opbScanMode",
+    QT_TRANSLATE_NOOP("Settings", "Scan Mode"),
+    &ReceiverSettings::scanMode,
+    kScanModes,
+    1,
+    QT_TRANSLATE_NOOP("Settings", "When a scan that has stopped on a signal goes on")};
+
+constexpr SliderSetting kSliders[] = {
+    {"Slider1", "lblVol", QT_TRANSLATE_NOOP("Settings", "V&olume"), &ReceiverSettings::volume, 50,
+     QT_TRANSLATE_NOOP("Settings", "Volume, 0 to 50")},
+    {"Slider2", "lblSql", QT_TRANSLATE_NOOP("Settings", "S&quelch"), &ReceiverSettings::squelch, 9,
+     QT_TRANSLATE_NOOP("Settings", "Squelch, 0 to 9")},
+};
+
+}  // namespace
+
+Settings1Page::Settings1Page(CloneImage& image, Dialogs& /*dialogs*/, QWidget* parent)
+    : QWidget(parent), controls_("Settings", image, nullptr), table_(nullptr)
+{
+    auto* page = new QVBoxLayout(this);
+    page->addLayout(BuildOptions());
+    table_ = new VfoTable(image, this);
+    auto* caption = new QLabel(tr("VFO &bands:"));
+    caption->setBuddy(table_);
+    page->addWidget(caption);
+    page->addWidget(table_, 1);
+    page->addLayout(BuildTransferRow());
+
+    connect(&controls_, &SettingControls::Edited, this, &Settings1Page::Edited);
+    connect(table_, &VfoTable::RowChosen, this, [this](int tableRow) { emit ModifyRequested(tableRow - 1); });
+    ShowSettings();
+}
+
+QLayout* Settings1Page::BuildOptions()
+{
+    OptionGroup* model = controls_.Add(kModel);
+    for (int sibling = kFirstSibling; sibling <= kLastSibling; ++sibling) {
+        model->Button(sibling)->setEnabled(false);
+        model->Button(sibling)->setToolTip(tr("A sibling model; kept when a file or receiver has it"));
+    }
+    connect(model, &OptionGroup::Chosen, this, &Settings1Page::opbModel_Click);
+
+    auto* sound = new QGroupBox(tr("Sound"));
+    auto* sliders = new QGridLayout(sound);
+    for (const SliderSetting& slider : kSliders)
+        controls_.Add(slider, *sliders);
+    sliders->setRowStretch(sliders->rowCount(), 1);
+
+    auto* row = new QHBoxLayout;
+    row->addWidget(model);
+    row->addWidget(controls_.Add(kOperatingMode));
+    row->addWidget(controls_.Add(kScanMode));
+    row->addWidget(sound, 1);
+    return row;
+}
+
+QLayout* Settings1Page::BuildTransferRow()
+{
+    const TransferButtons buttons("cmbRxData1", tr("Rea&d Settings"), "cmbTxData1", tr("Write Settin&gs"));
+    buttons.read->setStatusTip(tr("Read all settings and VFO bands from the receiver"));
+    buttons.write->setStatusTip(tr("Write all settings, VFO bands and presets to the receiver"));
+    connect(buttons.read, &QPushButton::clicked, this, &Settings1Page::ReadRequested);
+    connect(buttons.write, &QPushButton::clicked, this, &Settings1Page::WriteRequested);
+    return buttons.row;
+}
+
+void Settings1Page::ShowSettings()
+{
+    controls_.Show();
+}
+
+void Settings1Page::UpdateVFOData()
+{
+    table_->UpdateVFOData();
+}
+
+int Settings1Page::SelectedVfoRow() const
+{
+    return table_->CurrentTableRow();
+}
+
+void Settings1Page::SetTransferRunning(bool running)
+{
+    setEnabled(!running);
+}
+
+void Settings1Page::opbModel_Click()
+{
+    UpdateVFOData();
+    emit RegionChanged();
+}
+
+}  // namespace rqm5
