@@ -1,0 +1,208 @@
+#include "memory/bank_page.h"
+
+#include <QCheckBox>
+#include <QFocusEvent>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTimer>
+
+#include "memory/bank_layout.h"
+#include "ui/key_filter.h"
+#include "ui/leave_watch.h"
+#include "ui/transfer_buttons.h"
+
+namespace rqm5 {
+namespace {
+
+constexpr int kBanksPerColumn = 10;
+constexpr int kDigits = 9;  ///< more than any size, few enough to stay a number
+
+std::size_t At(int index)
+{
+    return static_cast<std::size_t>(index);
+}
+
+}  // namespace
+
+BankPage::BankPage(CloneImage& image, Dialogs& dialogs, QWidget* parent)
+    : QWidget(parent), image_(image), dialogs_(dialogs), lblChannels_(new QLabel(this))
+{
+    auto* grid = new QGridLayout;
+    for (int bank = 0; bank < kBanks; ++bank)
+        BuildBank(*grid, bank);
+    // The receiver keeps six more link flags than there are banks. They have boxes that nobody sees.
+    for (int flag = 0; flag < kLinkFlags; ++flag) {
+        if (flag >= kBanks) {
+            chkLink_[At(flag)] = new QCheckBox(this);
+            chkLink_[At(flag)]->hide();
+        }
+        chkLink_[At(flag)]->setObjectName(QStringLiteral("chkLink_%1").arg(flag));
+    }
+    auto* page = new QVBoxLayout(this);
+    page->addLayout(grid);
+    page->addStretch();
+    page->addLayout(BuildBottomRow());
+    ShowBanks();
+    ShowLinks();
+}
+
+void BankPage::BuildBank(QGridLayout& grid, int bank)
+{
+    constexpr int kCells = 4;  // label, size, link and a gap
+    const QString name = tr("Bank %1").arg(bank);
+    auto* box = new QLineEdit;
+    box->setObjectName(QStringLiteral("txtBank_%1").arg(bank));
+    box->setAccessibleName(name);
+    box->setStatusTip(tr("Number of channels in bank %1; all banks together hold 1000 at most").arg(bank));
+    box->setMaxLength(kDigits);
+    box->setAlignment(Qt::AlignRight);
+    box->setMinimumWidth(box->fontMetrics().horizontalAdvance(QStringLiteral("00000")));
+    auto* label = new QLabel(name);
+    label->setBuddy(box);
+    auto* link = new QCheckBox;
+    link->setAccessibleName(tr("Link bank %1").arg(bank));
+    link->setStatusTip(tr("Scan bank %1 together with the other linked banks").arg(bank));
+    txtBank_[At(bank)] = box;
+    chkLink_[At(bank)] = link;
+
+    new KeyFilter(*box, KeySet::Digits);
+    box->installEventFilter(this);
+    connect(new LeaveWatch(*box), &LeaveWatch::Left, this, [this, bank] { txtBank_LostFocus(bank); });
+    connect(link, &QCheckBox::clicked, this, [this, bank](bool on) { chkLink_Click(bank, on); });
+
+    const int row = bank % kBanksPerColumn + 1;  // the heads of the columns stand above
+    const int column = bank / kBanksPerColumn * kCells;
+    if (row == 1)
+        grid.addWidget(new QLabel(tr("Link")), 0, column + 2);
+    grid.addWidget(label, row, column);
+    grid.addWidget(box, row, column + 1);
+    grid.addWidget(link, row, column + 2);
+    grid.setColumnStretch(column + 1, 1);
+    grid.setColumnMinimumWidth(column + 3, 6);
+}
+
+QLayout* BankPage::BuildBottomRow()
+{
+    lblChannels_->setObjectName(QStringLiteral("lblChannels"));
+    lblChannels_->setTextFormat(Qt::PlainText);
+    const TransferButtons buttons("cmbReadBank", tr("Read Ban&k"), "cmbWriteBank", tr("Write &Bank"));
+    buttons.read->setStatusTip(tr("Read bank sizes and links from the receiver"));
+    buttons.write->setStatusTip(tr("Write bank sizes and links to the receiver"));
+    connect(buttons.read, &QPushButton::clicked, this, &BankPage::ReadRequested);
+    connect(buttons.write, &QPushButton::clicked, this, &BankPage::WriteRequested);
+    buttons.row->insertWidget(0, new QLabel(tr("Channels in all banks (1000 at most):")));
+    buttons.row->insertWidget(1, lblChannels_);
+    return buttons.row;
+}
+
+void BankPage::ShowBanks()
+{
+    for (int bank = 0; bank < kBanks; ++bank)
+        ShowSize(bank);
+    ShowChannelCount(TotalBankSize(image_));
+}
+
+void BankPage::ShowLinks()
+{
+    for (int flag = 0; flag < kLinkFlags; ++flag)
+        chkLink_[At(flag)]->setChecked(image_.BankLink[At(flag)]);
+}
+
+void BankPage::ShowChannelCount(int channels)
+{
+    lblChannels_->setText(QString::number(channels));
+}
+
+void BankPage::ShowSize(int bank)
+{
+    txtBank_[At(bank)]->setText(QString::fromStdString(image_.BankSizeText[At(bank)]));
+}
+
+bool BankPage::CommitPending()
+{
+    for (int bank = 0; bank < kBanks; ++bank)
+        if (txtBank_[At(bank)] == window()->focusWidget())
+            return txtBank_LostFocus(bank);
+    return true;
+}
+
+void BankPage::SetTransferRunning(bool running)
+{
+    setEnabled(!running);
+}
+
+bool BankPage::eventFilter(QObject* watched, QEvent* event)
+{
+    for (int bank = 0; bank < kBanks; ++bank) {
+        if (watched != txtBank_[At(bank)])
+            continue;
+        if (event->type() == QEvent::FocusIn)
+            txtBank_GotFocus(bank, static_cast<QFocusEvent*>(event)->reason());
+        if (event->type() == QEvent::KeyPress) {
+            const auto* key = static_cast<QKeyEvent*>(event);
+            const bool isPlain = (key->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+            if (isPlain && txtBank_KeyDown(bank, key->key()))
+                return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void BankPage::txtBank_GotFocus(int bank, Qt::FocusReason reason)
+{
+    QLineEdit* box = txtBank_[At(bank)];
+    // The click that brings the focus puts the cursor somewhere afterwards and would undo the selection.
+    if (reason == Qt::MouseFocusReason)
+        QTimer::singleShot(0, box, &QLineEdit::selectAll);
+    else if (reason != Qt::PopupFocusReason)
+        box->selectAll();
+}
+
+bool BankPage::txtBank_KeyDown(int bank, int key)
+{
+    const bool isNext = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Down;
+    if (!isNext && key != Qt::Key_Up)
+        return false;
+    const int next = isNext ? bank + 1 : bank - 1;
+    if (next >= 0 && next < kBanks)
+        txtBank_[At(next)]->setFocus(isNext ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
+}
+
+bool BankPage::txtBank_LostFocus(int bank)
+{
+    const int before = image_.BankSize[At(bank)];
+    const std::string typed = txtBank_[At(bank)]->text().toStdString();
+    const BankEntry entry = EnterBankSize(image_, bank, typed);
+    // A refused box is put right before the message comes up, which takes the focus from it once more.
+    ShowSize(bank);
+    if (entry == BankEntry::TotalTooLarge)
+        ShowTotalTooLarge();
+    if (entry != BankEntry::Accepted)
+        return false;
+    if (image_.BankSize[At(bank)] != before) {
+        image_.DataChanged = true;
+        ShowChannelCount(TotalBankSize(image_));
+        emit Edited();
+        emit BanksChanged();
+    }
+    return true;
+}
+
+void BankPage::ShowTotalTooLarge()
+{
+    dialogs_.Ask(this, {.title = tr("ERROR"),
+                        .text = tr("The total of the number of channels exceeds 1000.\n"
+                                   "Please set for the total of the channel to become 1000 or less.")});
+    ReleasePressedButtons(*window());
+}
+
+void BankPage::chkLink_Click(int bank, bool isLinked)
+{
+    image_.BankLink[At(bank)] = isLinked;
+    image_.DataChanged = true;
+    emit Edited();
+}
+
+}  // namespace rqm5

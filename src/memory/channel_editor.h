@@ -1,0 +1,82 @@
+#pragma once
+
+#include <string>
+
+#include "image/clone_image.h"
+
+namespace rqm5 {
+
+/// The row that the channel editor works on.
+struct EditTarget
+{
+    static constexpr int kVfo = 0;
+    static constexpr int kMemory = 1;
+
+    int ModifyTarget = kMemory;  ///< kMemory or kVfo
+    int ModifyRow = 0;           ///< counted from 1: 1 to 1240 in memory, 1 to 14 in the VFO table
+    int selector = 0;            ///< the bank selector's index, for the rule of the Search Pass list
+
+    bool IsMemory() const { return ModifyTarget == kMemory; }
+    int Row() const { return ModifyRow - 1; }
+};
+
+/// What the editor's controls hold. A choice of kNothing stands for a value that has no control; storing
+/// it keeps what the row has.
+struct ChannelFields
+{
+    static constexpr int kNothing = -1;
+
+    std::string frequency;  ///< as typed
+    int mode = 0;           ///< 0 FM, 1 AM, 2 WFM
+    int step = 0;           ///< 0 to 13, or 19
+    int option = 0;         ///< 0 to 4
+    int secret = 0;
+    int carrier = 0;
+    int tone = 0;
+    int shift = 0;               ///< 0 off, 1 plus, 2 minus
+    std::string shiftFrequency;  ///< as typed
+    std::string note;
+    bool skip = false;
+    bool enable = false;
+};
+
+/// Why a typed frequency or offset was refused.
+enum class Verdict {
+    Accepted,
+    OutOfRange,  ///< without a message
+    Cellular,    ///< blocked in region 2
+    Duplicate,   ///< another enabled Search Pass row has it
+};
+
+/// What becomes of a typed number when its box is left.
+struct CheckedEntry
+{
+    Verdict verdict;
+    std::string text;  ///< what the box holds then: the number in its pattern, or what stood there before
+};
+
+/// Steps that have a button of their own. Rows can hold other steps, which the editor keeps.
+bool HasStepButton(int step);
+
+/// What the selected model region has.
+bool HasSecretCode(int region);
+bool HasCarrier(int region);
+
+/// True when the row exists and the region has it: regions 2 and 3 have VFO bands 1 to 8 only.
+bool CanModify(const CloneImage& image, const EditTarget& target);
+
+/// The range shown beside the frequency box.
+std::string FrequencyRangeText(const CloneImage& image, const EditTarget& target);
+
+/// The fields of a row that can be modified.
+ChannelFields LoadFields(const CloneImage& image, const EditTarget& target);
+
+CheckedEntry CheckFrequency(const CloneImage& image, const EditTarget& target, const std::string& typed);
+CheckedEntry CheckOffset(const CloneImage& image, const EditTarget& target, const std::string& typed);
+
+/// Writes the fields into the row, numbers and texts, and marks the image as changed. What the region
+/// does not have keeps its value. A VFO row has neither note nor skip nor enabled flag.
+/// \return false when there is no such row; nothing changes then
+bool StoreFields(CloneImage& image, const EditTarget& target, const ChannelFields& fields);
+
+}  // namespace rqm5

@@ -1,0 +1,74 @@
+#include "memory/memory_table.h"
+
+#include <QKeyEvent>
+#include <QStyledItemDelegate>
+
+#include "ui/table_font.h"
+
+namespace rqm5 {
+namespace {
+
+QColor Between(const QColor& a, const QColor& b)
+{
+    return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
+}
+
+/// Lets a disabled row look disabled while it is selected too: the selection has a text colour of its own,
+/// and the row that was just switched off is the selected one.
+class ChannelDelegate : public QStyledItemDelegate
+{
+  public:
+    ChannelDelegate(const MemoryTableModel& model, QObject* parent)
+        : QStyledItemDelegate(parent), model_(model)
+    {
+    }
+
+  protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (model_.IsEnabled(index.row()))
+            return;
+        const QColor text = option->palette.color(QPalette::HighlightedText);
+        const QColor ground = option->palette.color(QPalette::Highlight);
+        option->palette.setColor(QPalette::HighlightedText, Between(text, ground));
+    }
+
+  private:
+    const MemoryTableModel& model_;
+};
+
+}  // namespace
+
+MemoryTable::MemoryTable(const CloneImage& image, QWidget* parent)
+    : ChannelTable({400, 1035, 480, 705, 555, 390, 675, 705, 540, 870, 2055}, parent), model_(image, nullptr)
+{
+    setObjectName(QStringLiteral("MSFlexGrid1"));
+    setAccessibleName(tr("Memory channels"));
+    setStatusTip(
+        tr("Memory channels; grey ones are disabled. Enter or a double click edits the selected one."));
+    setModel(&model_);
+    setItemDelegate(new ChannelDelegate(model_, this));
+    ChangeFont(*this);
+}
+
+void MemoryTable::UpDateMemData(int selector)
+{
+    const int row = CurrentTableRow();
+    model_.ShowGroup(selector);
+    SelectTableRow(row);
+}
+
+void MemoryTable::keyPressEvent(QKeyEvent* event)
+{
+    if (event->modifiers() != Qt::NoModifier && event->modifiers() != Qt::KeypadModifier)
+        ChannelTable::keyPressEvent(event);
+    else if (event->key() == Qt::Key_Insert)
+        emit InsertPressed();
+    else if (event->key() == Qt::Key_Delete)
+        emit DeletePressed();
+    else
+        ChannelTable::keyPressEvent(event);
+}
+
+}  // namespace rqm5

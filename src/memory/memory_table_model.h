@@ -1,0 +1,32 @@
+#pragma once
+
+#include "memory/bank_layout.h"
+#include "ui/channel_table_model.h"
+
+namespace rqm5 {
+
+/// The memory rows of the group that the bank selector shows.
+class MemoryTableModel : public ChannelTableModel
+{
+    Q_OBJECT
+
+  public:
+    MemoryTableModel(const CloneImage& image, QObject* parent);
+
+    /// Takes over rows and labels of a group and shows them.
+    void ShowGroup(int selector);
+
+    QVariant data(const QModelIndex& index, int role) const override;
+
+    /// True when the memory row of a data row (from 0) is enabled.
+    bool IsEnabled(int row) const;
+
+  protected:
+    std::string Cell(int row, std::size_t column) const override;
+
+  private:
+    const CloneImage& image_;
+    RowRange rows_;
+};
+
+}  // namespace rqm5

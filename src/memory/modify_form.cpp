@@ -1,0 +1,237 @@
+#include "memory/modify_form.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "ui/key_filter.h"
+
+namespace rqm5 {
+namespace {
+
+constexpr char kContext[] = "Modify";
+constexpr int kNoteLength = 255;
+constexpr int kNumberLength = 20;
+
+constexpr Option kWaves[] = {{0, "FM"}, {1, "AM"}, {2, "WFM"}};
+
+// In the order of their size. What is stored is the button's number, the receiver's own step code.
+constexpr Option kSteps[] = {
+    {19, "1KHz"}, {1, "5KHz"},    {2, "6.25KHz"}, {3, "8.33KHz"}, {0, "9KHz"},
+    {4, "10KHz"}, {5, "12.5KHz"}, {6, "15KHz"},   {7, "20KHz"},   {8, "25KHz"},
+    {9, "30KHz"}, {10, "50KHz"},  {11, "100KHz"}, {12, "125KHz"}, {13, "200KHz"},
+};
+
+constexpr Option kOptions[] = {
+    {0, QT_TRANSLATE_NOOP("Modify", "None")},    {1, QT_TRANSLATE_NOOP("Modify", "Secret")},
+    {2, QT_TRANSLATE_NOOP("Modify", "Carrier")}, {3, QT_TRANSLATE_NOOP("Modify", "Tone")},
+    {4, QT_TRANSLATE_NOOP("Modify", "Reverse")},
+};
+
+constexpr Option kShifts[] = {{0, QT_TRANSLATE_NOOP("Modify", "OFF")}, {1, "+"}, {2, "-"}};
+
+template <class Widget>
+Widget* Named(Widget* widget, const char* name)
+{
+    widget->setObjectName(QLatin1String(name));
+    return widget;
+}
+
+QLabel* PlainLabel(const char* name)
+{
+    auto* label = Named(new QLabel, name);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+QLineEdit* MegahertzBox(const char* name)
+{
+    auto* box = Named(new QLineEdit, name);
+    box->setMaxLength(kNumberLength);
+    box->setAlignment(Qt::AlignRight);
+    new KeyFilter(*box, KeySet::Decimal);
+    return box;
+}
+
+}  // namespace
+
+ModifyForm::ModifyForm(QWidget* parent)
+    : QWidget(parent),
+      lblMode(PlainLabel("lblMode")),
+      lblCH(PlainLabel("lblCH")),
+      lblMHz(PlainLabel("lblMHz")),
+      txtFreq(MegahertzBox("txtFreq")),
+      txtShift(MegahertzBox("txtShift")),
+      chkHold(Named(new QCheckBox(tr("&Hold")), "chkHold")),
+      lastRow(new QHBoxLayout),
+      opbWave_(
+          new OptionGroup(kContext, "opbWave", QT_TRANSLATE_NOOP("Modify", "Modulation Mode"), kWaves, 3)),
+      opbStep_(new OptionGroup(kContext, "opbStep", QT_TRANSLATE_NOOP("Modify", "Tuning Step"), kSteps, 5)),
+      opbTone_(new OptionGroup(kContext, "opbTone", QT_TRANSLATE_NOOP("Modify", "Option"), kOptions, 1)),
+      opbSift_(new OptionGroup(kContext, "opbSift", QT_TRANSLATE_NOOP("Modify", "Shift"), kShifts, 3)),
+      cbbSec_(Named(new QComboBox, "cbbSec")),
+      cbbAir_(Named(new QComboBox, "cbbAir")),
+      cbbTxTone_(Named(new QComboBox, "cbbTxTone")),
+      lblNote_(new QLabel(tr("&Note"))),
+      txtNote_(Named(new QLineEdit, "txtNote")),
+      lblNoteHint_(PlainLabel("lblNoteHint")),
+      chkSkip_(Named(new QCheckBox(tr("S&kip")), "chkSkip")),
+      chkEnable_(Named(new QCheckBox(tr("&Enable")), "chkEnable"))
+{
+    auto* form = new QVBoxLayout(this);
+    form->setContentsMargins(0, 0, 0, 0);
+    form->addLayout(BuildTitle());
+    form->addLayout(BuildFrequency());
+    form->addWidget(opbWave_);
+    form->addWidget(opbStep_);
+    form->addLayout(BuildChoices());
+    form->addLayout(BuildShift());
+    form->addLayout(BuildNote());
+    form->addStretch();
+    BuildChecks();
+}
+
+QLayout* ModifyForm::BuildTitle()
+{
+    QFont bold = font();
+    bold.setBold(true);
+    lblMode->setFont(bold);
+    lblCH->setFont(bold);
+    auto* row = new QHBoxLayout;
+    row->addWidget(lblMode);
+    row->addWidget(lblCH);
+    row->addStretch();
+    return row;
+}
+
+QLayout* ModifyForm::BuildFrequency()
+{
+    auto* label = new QLabel(tr("&Frequency"));
+    label->setBuddy(txtFreq);
+    auto* row = new QHBoxLayout;
+    row->addWidget(label);
+    row->addWidget(txtFreq, 1);
+    row->addWidget(lblMHz);
+    return row;
+}
+
+QLayout* ModifyForm::BuildChoices()
+{
+    auto* row = new QHBoxLayout;
+    row->addWidget(opbTone_);
+    row->addWidget(BuildCodes(), 1);
+    return row;
+}
+
+QWidget* ModifyForm::BuildCodes()
+{
+    for (int code = 0; code < kSecretCodes; ++code)
+        cbbSec_->addItem(QString::number(code));
+    for (int code = 0; code <= kCarrierJr; ++code)
+        cbbAir_->addItem(QString::fromStdString(CarrierText(code)));
+    for (const std::string_view tone : ToneName)
+        cbbTxTone_->addItem(QString::fromUtf8(tone.data(), static_cast<qsizetype>(tone.size())));
+    auto* box = new QGroupBox(tr("Codes and tones"));
+    auto* form = new QFormLayout(box);
+    form->addRow(tr("&Secret code"), cbbSec_);
+    form->addRow(tr("T&rain tone"), cbbAir_);
+    form->addRow(tr("&CTCSS tone"), cbbTxTone_);
+    return box;
+}
+
+QLayout* ModifyForm::BuildShift()
+{
+    auto* label = new QLabel(tr("&Offset Frequency"));
+    label->setBuddy(txtShift);
+    auto* row = new QHBoxLayout;
+    row->addWidget(opbSift_);
+    row->addWidget(label);
+    row->addWidget(txtShift, 1);
+    row->addWidget(new QLabel(tr("MHz")));
+    return row;
+}
+
+QLayout* ModifyForm::BuildNote()
+{
+    lblNote_->setBuddy(txtNote_);
+    lblNoteHint_->setWordWrap(true);
+    lblNoteHint_->setText(tr("A comma or quotation mark in a note can spoil a saved clone file."));
+    connect(txtNote_, &QLineEdit::textChanged, this, &ModifyForm::txtNote_Change);
+    auto* row = new QHBoxLayout;
+    row->addWidget(lblNote_);
+    row->addWidget(txtNote_, 1);
+    auto* column = new QVBoxLayout;
+    column->addLayout(row);
+    column->addWidget(lblNoteHint_);
+    txtNote_Change();
+    return column;
+}
+
+void ModifyForm::BuildChecks()
+{
+    chkSkip_->setToolTip(tr("Scanning skips this channel"));
+    chkEnable_->setToolTip(tr("The channel is in use"));
+    chkHold->setToolTip(tr("The next empty channel starts with the values confirmed here"));
+    lastRow->addWidget(chkSkip_);
+    lastRow->addWidget(chkEnable_);
+    lastRow->addWidget(chkHold);
+    lastRow->addStretch();
+}
+
+void ModifyForm::txtNote_Change()
+{
+    const QString note = txtNote_->text();
+    lblNoteHint_->setVisible(note.contains(u',') || note.contains(u'"'));
+}
+
+void ModifyForm::ShowFields(const ChannelFields& fields)
+{
+    txtFreq->setText(QString::fromStdString(fields.frequency));
+    opbWave_->Select(fields.mode);
+    opbStep_->Select(fields.step);
+    opbTone_->Select(fields.option);
+    cbbSec_->setCurrentIndex(fields.secret);
+    cbbAir_->setCurrentIndex(fields.carrier);
+    cbbTxTone_->setCurrentIndex(fields.tone);
+    opbSift_->Select(fields.shift);
+    txtShift->setText(QString::fromStdString(fields.shiftFrequency));
+    // A note from a file may be longer than what may be typed; it must not lose its end here.
+    const QString note = QString::fromStdString(fields.note);
+    txtNote_->setMaxLength(std::max(kNoteLength, static_cast<int>(note.size())));
+    txtNote_->setText(note);
+    chkSkip_->setChecked(fields.skip);
+    chkEnable_->setChecked(fields.enable);
+}
+
+ChannelFields ModifyForm::Fields() const
+{
+    return {.frequency = txtFreq->text().toStdString(),
+            .mode = opbWave_->Selected(),
+            .step = opbStep_->Selected(),
+            .option = opbTone_->Selected(),
+            .secret = cbbSec_->currentIndex(),
+            .carrier = cbbAir_->currentIndex(),
+            .tone = cbbTxTone_->currentIndex(),
+            .shift = opbSift_->Selected(),
+            .shiftFrequency = txtShift->text().toStdString(),
+            .note = txtNote_->text().toStdString(),
+            .skip = chkSkip_->isChecked(),
+            .enable = chkEnable_->isChecked()};
+}
+
+void ModifyForm::SetAvailable(bool isMemory, int region)
+{
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{lblNote_, txtNote_, chkSkip_, chkEnable_, chkHold})
+        control->setVisible(isMemory);
+    cbbSec_->setEnabled(HasSecretCode(region));
+    cbbAir_->setEnabled(HasCarrier(region));
+    opbTone_->Button(1)->setEnabled(HasSecretCode(region));
+    opbTone_->Button(2)->setEnabled(HasCarrier(region));
+}
+
+}  // namespace rqm5

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QWidget>
+
+#include "memory/channel_editor.h"
+#include "ui/option_group.h"
+
+class QBoxLayout;
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+
+namespace rqm5 {
+
+/// The controls of the channel editor. What they hold goes in and out as ChannelFields.
+class ModifyForm : public QWidget
+{
+    Q_OBJECT
+
+  public:
+    explicit ModifyForm(QWidget* parent);
+
+    void ShowFields(const ChannelFields& fields);
+    ChannelFields Fields() const;
+
+    /// Shows what a kind of row has, and disables what the model region does not have.
+    void SetAvailable(bool isMemory, int region);
+
+    QLabel* lblMode;
+    QLabel* lblCH;
+    QLabel* lblMHz;
+    QLineEdit* txtFreq;
+    QLineEdit* txtShift;
+    QCheckBox* chkHold;
+    QBoxLayout* lastRow;  ///< the check boxes, for the dialog to put below the form, before its buttons
+
+  private:
+    QLayout* BuildTitle();
+    QLayout* BuildFrequency();
+    QLayout* BuildChoices();
+    QWidget* BuildCodes();
+    QLayout* BuildShift();
+    QLayout* BuildNote();
+    void BuildChecks();
+    void txtNote_Change();
+
+    OptionGroup* opbWave_;
+    OptionGroup* opbStep_;
+    OptionGroup* opbTone_;
+    OptionGroup* opbSift_;
+    QComboBox* cbbSec_;
+    QComboBox* cbbAir_;
+    QComboBox* cbbTxTone_;
+    QLabel* lblNote_;
+    QLineEdit* txtNote_;
+    QLabel* lblNoteHint_;
+    QCheckBox* chkSkip_;
+    QCheckBox* chkEnable_;
+};
+
+}  // namespace rqm5

@@ -1,0 +1,30 @@
+#include "memory/start_image.h"
+
+#include "image/fresh_image.h"
+#include "memory/bank_layout.h"
+#include "settings/settings_codec.h"
+#include "vfo/vfo_defaults.h"
+
+namespace rqm5 {
+
+CloneImage StartUpImage(int model)
+{
+    CloneImage image;
+    image.Settings.model = model;
+    BuildEmptyImage(image);
+    ResetSettings(image);
+    BuildVfoDefaults(image);
+    EncodeBankData(image);
+    return image;
+}
+
+void NewImage(CloneImage& image)
+{
+    ResetSettings(image);
+    BuildVfoDefaults(image);
+    ClearForNew(image);
+    EncodeBankData(image);
+    image.DataChanged = false;
+}
+
+}  // namespace rqm5

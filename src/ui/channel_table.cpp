@@ -1,0 +1,116 @@
+#include "ui/channel_table.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <algorithm>
+
+namespace rqm5 {
+namespace {
+
+constexpr int kNoteColumn = ChannelTable::kColumns - 1;
+
+/// The longest text that a column is made for; the note takes what is left.
+constexpr std::array<const char*, ChannelTable::kColumns> kLongestText = {
+    "1299.995000", "WFM", "12.5KHz", "Carrier", "16", "3000Hz", "100.0Hz", "+Shift", "99.999999", ""};
+
+}  // namespace
+
+ChannelTable::ChannelTable(const std::array<int, kColumns + 1>& twips, QWidget* parent)
+    : QTableView(parent), twips_(twips)
+{
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setCornerButtonEnabled(false);
+    setWordWrap(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    horizontalHeader()->setSectionsClickable(false);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    connect(this, &QTableView::doubleClicked, this,
+            [this](const QModelIndex& index) { emit RowChosen(index.row() + 1); });
+}
+
+int ChannelTable::CurrentTableRow() const
+{
+    return currentIndex().isValid() ? currentIndex().row() + 1 : 0;
+}
+
+void ChannelTable::SelectTableRow(int tableRow)
+{
+    const int rows = model()->rowCount();
+    if (rows == 0)
+        return;
+    const int row = std::clamp(tableRow, 1, rows) - 1;
+    selectionModel()->setCurrentIndex(model()->index(row, 0),
+                                      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+void ChannelTable::keyPressEvent(QKeyEvent* event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && CurrentTableRow() > 0)
+        emit RowChosen(CurrentTableRow());
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void ChannelTable::changeEvent(QEvent* event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        FitToFont();
+}
+
+void ChannelTable::resizeEvent(QResizeEvent* event)
+{
+    QTableView::resizeEvent(event);
+    StretchNote();
+}
+
+void ChannelTable::showEvent(QShowEvent* event)
+{
+    FitToFont();
+    QTableView::showEvent(event);
+}
+
+int ChannelTable::Pixels(int twips) const
+{
+    return (twips * logicalDpiX() + 1439) / 1440;
+}
+
+int ChannelTable::ColumnWidth(int column) const
+{
+    constexpr int kCellMargins = 10;
+    const auto index = static_cast<std::size_t>(column);
+    const int text = fontMetrics().horizontalAdvance(QLatin1String(kLongestText[index])) + kCellMargins;
+    const int title = horizontalHeader()->sectionSizeHint(column);
+    return std::max({Pixels(twips_[index + 1]), text, title});
+}
+
+void ChannelTable::FitToFont()
+{
+    if (model() == nullptr)
+        return;
+    // Rows are as far apart as in other lists of the desktop, however small the table's font looks.
+    const int text = std::max(fontMetrics().height(), QFontMetrics(QApplication::font()).height());
+    verticalHeader()->setDefaultSectionSize(text + 6);
+    verticalHeader()->setMinimumWidth(Pixels(twips_[0]));
+    for (int column = 0; column < kNoteColumn; ++column)
+        setColumnWidth(column, ColumnWidth(column));
+    StretchNote();
+}
+
+void ChannelTable::StretchNote()
+{
+    if (model() == nullptr)
+        return;
+    const int others = horizontalHeader()->sectionPosition(kNoteColumn);
+    setColumnWidth(kNoteColumn, std::max(ColumnWidth(kNoteColumn), viewport()->width() - others));
+}
+
+}  // namespace rqm5

@@ -1,0 +1,60 @@
+#include "ui/channel_table_model.h"
+
+#include <QCoreApplication>
+
+#include "image/display_text.h"
+
+namespace rqm5 {
+
+ChannelTableModel::ChannelTableModel(std::string_view titles, QObject* parent) : QAbstractTableModel(parent)
+{
+    const auto text = QString::fromUtf8(titles.data(), static_cast<qsizetype>(titles.size()));
+    for (const QString& title : text.split(u'|'))
+        titles_ += QCoreApplication::translate("rqm5::ChannelTable", title.toUtf8().constData());
+}
+
+int ChannelTableModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(labels_.size());
+}
+
+int ChannelTableModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(titles_.size()) - 1;
+}
+
+QVariant ChannelTableModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || role != Qt::DisplayRole)
+        return {};
+    // Notes come from files: what they hold is shown, never obeyed, and no cell is wider than this.
+    constexpr int kWidest = 400;
+    const std::string text = Cell(index.row(), static_cast<std::size_t>(index.column()));
+    return QString::fromStdString(VisibleText(CutToWidth(text, kWidest)));
+}
+
+QVariant ChannelTableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (role != Qt::DisplayRole)
+        return {};
+    if (orientation == Qt::Horizontal)
+        return titles_.value(section + 1);
+    return QString::fromStdString(labels_.at(static_cast<std::size_t>(section)));
+}
+
+void ChannelTableModel::ShowRows(std::vector<std::string> labels)
+{
+    if (labels.size() != labels_.size()) {
+        beginResetModel();
+        labels_ = std::move(labels);
+        endResetModel();
+        return;
+    }
+    labels_ = std::move(labels);
+    if (labels_.empty())
+        return;
+    emit headerDataChanged(Qt::Vertical, 0, rowCount() - 1);
+    emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+}
+
+}  // namespace rqm5

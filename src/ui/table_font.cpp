@@ -1,0 +1,14 @@
+#include "ui/table_font.h"
+
+#include <QWidget>
+
+#include "printing/fixed_pitch_font.h"
+
+namespace rqm5 {
+
+void ChangeFont(QWidget& table)
+{
+    table.setFont(FixedPitchFont(table.font()));
+}
+
+}  // namespace rqm5

@@ -1,0 +1,28 @@
+#include "ui/tall_area.h"
+
+#include <QScreen>
+#include <QScrollBar>
+
+namespace rqm5 {
+
+TallArea::TallArea(QWidget* contents, QWidget* parent) : QScrollArea(parent)
+{
+    setWidget(contents);
+    setWidgetResizable(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+QSize TallArea::sizeHint() const
+{
+    const int frame = 2 * frameWidth();
+    return widget()->sizeHint() + QSize(frame + verticalScrollBar()->sizeHint().width(), frame);
+}
+
+void TallArea::FitToScreen(QDialog& dialog)
+{
+    constexpr QSize kWindowFrame(8, 36);
+    dialog.resize(dialog.sizeHint().boundedTo(dialog.screen()->availableSize() - kWindowFrame));
+}
+
+}  // namespace rqm5

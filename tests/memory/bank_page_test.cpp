@@ -1,0 +1,112 @@
+#include "memory/bank_page.h"
+
+#include <QCheckBox>
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <tuple>
+
+#include "ui/page_test.h"
+
+namespace rqm5 {
+namespace {
+
+class BankPageTest : public PageTest
+{
+  protected:
+    BankPageTest()
+    {
+        Show(page_);
+        Box(0).setFocus();
+    }
+
+    QLineEdit& Box(int bank) { return Find<QLineEdit>(page_, QStringLiteral("txtBank_%1").arg(bank)); }
+    void Enter(int bank, const char* text)
+    {
+        Box(bank).setFocus();
+        Box(bank).selectAll();
+        QTest::keyClicks(&Box(bank), QLatin1String(text));
+        QTest::keyClick(&Box(bank), Qt::Key_Tab);
+    }
+
+    BankPage page_{image_, dialogs_, nullptr};
+};
+
+TEST_F(BankPageTest, EnterAndArrowsMoveBetweenTheBoxesAndSelectTheText)
+{
+    const std::tuple<int, Qt::Key, Qt::KeyboardModifier, int> cases[] = {
+        {0, Qt::Key_Return, Qt::NoModifier, 1}, {1, Qt::Key_Enter, Qt::KeypadModifier, 2},
+        {2, Qt::Key_Down, Qt::NoModifier, 3},   {3, Qt::Key_Up, Qt::NoModifier, 2},
+        {0, Qt::Key_Up, Qt::NoModifier, 0},     {49, Qt::Key_Return, Qt::NoModifier, 49},
+        {49, Qt::Key_Down, Qt::NoModifier, 49}, {5, Qt::Key_Down, Qt::ShiftModifier, 5},
+    };
+    for (const auto& [from, key, modifier, to] : cases) {
+        Box(from).setFocus();
+        QTest::keyClick(&Box(from), key, modifier);
+        EXPECT_TRUE(Box(to).hasFocus()) << from << " key " << key;
+        EXPECT_TRUE(from == to || Box(to).selectedText() == Box(to).text()) << to;
+    }
+    QTest::mouseClick(&Box(7), Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Box(7).selectedText() == QStringLiteral("70"); }));
+}
+
+TEST_F(BankPageTest, OnlyDigitsArriveTypedOrPasted)
+{
+    QTest::keyClicks(&Box(0), QStringLiteral("x-"));
+    EXPECT_EQ(Box(0).selectedText(), QStringLiteral("200"));  // a refused key does not replace the selection
+    QTest::keyClicks(&Box(0), QStringLiteral("1a.2"));
+    QApplication::clipboard()->setText(QStringLiteral("x4 5"));
+    Box(0).setCursorPosition(1);
+    Box(0).paste();
+    EXPECT_EQ(Box(0).text(), QStringLiteral("1452"));
+}
+
+TEST_F(BankPageTest, SizesAreTakenRefusedSilentlyOrRefusedWithTheMessage)
+{
+    QSignalSpy edited(&page_, &BankPage::Edited);
+    QSignalSpy banks(&page_, &BankPage::BanksChanged);
+    const std::pair<const char*, std::size_t> refusals[] = {{"200", 0}, {"1001", 0}, {"201", 1}};
+    for (const auto& [text, questions] : refusals) {
+        Enter(0, text);
+        EXPECT_EQ(Box(0).text(), QStringLiteral("200"));
+        ASSERT_EQ(dialogs_.asked.size(), questions) << text;
+    }
+    EXPECT_EQ(dialogs_.asked[0].title, QStringLiteral("ERROR"));
+    EXPECT_EQ(dialogs_.asked[0].text,
+              QStringLiteral("The total of the number of channels exceeds 1000.\n"
+                             "Please set for the total of the channel to become 1000 or less."));
+    EXPECT_EQ(dialogs_.asked[0].icon, QMessageBox::Critical);
+    EXPECT_TRUE(edited.empty() && !image_.DataChanged);
+
+    Enter(1, "007");
+    EXPECT_EQ(Box(1).text(), QStringLiteral("7"));
+    EXPECT_EQ(image_.BankSize[1], 7);
+    EXPECT_EQ(Find<QLabel>(page_, QStringLiteral("lblChannels")).text(), QStringLiteral("857"));
+    EXPECT_TRUE(edited.count() == 1 && banks.count() == 1 && image_.DataChanged);
+}
+
+TEST_F(BankPageTest, ABoxBeingTypedIntoCanBeCommitted)
+{
+    QTest::keyClicks(&Box(0), QStringLiteral("5"));
+    EXPECT_EQ(image_.BankSize[0], 200);
+    EXPECT_TRUE(page_.CommitPending());
+    EXPECT_EQ(image_.BankSize[0], 5);
+    QTest::keyClicks(&Box(0), QStringLiteral("00"));
+    EXPECT_FALSE(page_.CommitPending());
+    EXPECT_EQ(Box(0).text(), QStringLiteral("5"));
+    QTest::keyClick(&Box(0), Qt::Key_Tab);
+    EXPECT_EQ(dialogs_.asked.size(), 1U);
+}
+
+TEST_F(BankPageTest, LinksGoIntoTheImageAndTheLastSixStayHidden)
+{
+    Click(page_, "chkLink_49");
+    EXPECT_TRUE(image_.BankLink[49] && image_.DataChanged);
+    image_.BankLink[55] = true;
+    page_.ShowLinks();
+    const auto& hidden = Find<QCheckBox>(page_, QStringLiteral("chkLink_55"));
+    EXPECT_TRUE(hidden.isChecked() && !hidden.isVisible());
+}
+
+}  // namespace
+}  // namespace rqm5

@@ -1,0 +1,96 @@
+#include "memory/channel_operations.h"
+
+#include <gtest/gtest.h>
+
+#include "memory/start_image.h"
+
+namespace rqm5 {
+namespace {
+
+void PutChannel(CloneImage& image, int row, const std::string& note)
+{
+    const auto index = static_cast<std::size_t>(row);
+    image.MemData[index][kFrequency] = 100 + row;
+    image.MemText[index][kFrequency] = std::to_string(100 + row) + ".000000";
+    image.MemText[index][kNote] = note;
+    image.MemEnable[index] = true;
+}
+
+CloneImage FilledImage()
+{
+    CloneImage image = StartUpImage(0);
+    for (int row = 0; row < kRadioRows; ++row)
+        PutChannel(image, row, "n" + std::to_string(row));
+    return image;
+}
+
+std::string NoteOf(const CloneImage& image, int row)
+{
+    return image.MemText[static_cast<std::size_t>(row)][kNote];
+}
+
+void ExpectEmpty(const CloneImage& image, int row)
+{
+    EXPECT_FALSE(HasChannel(image, row)) << row;
+    EXPECT_EQ(NoteOf(image, row), "");
+    EXPECT_FALSE(image.MemEnable[static_cast<std::size_t>(row)]) << row;
+}
+
+TEST(ChannelOperations, EnableNeedsAFrequencyAndItsText)
+{
+    CloneImage image = StartUpImage(0);
+    for (const int row : {1, 2, 3})
+        PutChannel(image, row, "");
+    image.MemData[2][kFrequency] = 0;
+    image.MemText[3][kFrequency].clear();
+    EnableRows(image, {0, 4});
+    for (std::size_t row = 0; row < 5; ++row)
+        EXPECT_EQ(image.MemEnable[row], row == 1) << row;
+    DisableRows(image, {1, 1});
+    EXPECT_FALSE(image.MemEnable[1]);
+    EXPECT_EQ(image.MemData[1][kFrequency], 101);
+}
+
+TEST(ChannelOperations, ClearTakesTheGroupAndItsNotesOnly)
+{
+    CloneImage image = FilledImage();
+    ClearRows(image, GroupRows(image, kSelectPriority));
+    EXPECT_EQ(NoteOf(image, 1199), "n1199");
+    for (int row = 1200; row < 1210; ++row)
+        ExpectEmpty(image, row);
+}
+
+/// The notes that some rows hold afterwards, "" for an empty row.
+void ExpectNotes(const CloneImage& image, std::initializer_list<std::pair<int, const char*>> notes)
+{
+    for (const auto& [row, note] : notes) {
+        EXPECT_EQ(NoteOf(image, row), note) << row;
+        if (*note == '\0')
+            ExpectEmpty(image, row);
+    }
+}
+
+TEST(ChannelOperations, InsertAndDeleteMoveTheFirstTwoHundredRowsOnly)
+{
+    CloneImage image = FilledImage();
+    image.MemEnable[11] = false;
+    ASSERT_TRUE(DeleteTableRow(image, 11));
+    ExpectNotes(image, {{9, "n9"}, {10, "n11"}, {198, "n199"}, {199, ""}, {200, "n200"}});
+    EXPECT_FALSE(image.MemEnable[10]);
+    image = FilledImage();
+    ASSERT_TRUE(InsertTableRow(image, 1));
+    ExpectNotes(image, {{0, ""}, {1, "n0"}, {199, "n198"}, {200, "n200"}});
+
+    const CloneImage before = FilledImage();
+    image = before;
+    for (const int tableRow : {0, 201, 1210})
+        EXPECT_FALSE(DeleteTableRow(image, tableRow) || InsertTableRow(image, tableRow));
+    EXPECT_TRUE(SameContents(image, before));
+    EXPECT_TRUE(DeleteTableRow(image, 200));
+    ExpectNotes(image, {{198, "n198"}, {199, ""}, {200, "n200"}});
+    ASSERT_TRUE(InsertTableRow(image, 200));
+    ExpectNotes(image, {{198, "n198"}, {199, ""}});
+}
+
+}  // namespace
+}  // namespace rqm5
