@@ -1,0 +1,145 @@
+#include <algorithm>
+#include <array>
+
+#include "files/clone_file.h"
+#include "files/clone_lines.h"
+#include "files/text_encoding.h"
+#include "image/channel_record.h"
+#include "image/flag_bits.h"
+#include "memory/bank_layout.h"
+#include "settings/settings_codec.h"
+
+namespace rqm5 {
+namespace {
+
+constexpr int kLastWholeLine = kVfoNoteLine - 1;
+constexpr char kRestore[] = "Take an older copy of the file, or read the receiver again.";
+
+using CloneLines = std::array<std::string_view, kCloneLines>;
+
+std::string LineText(int line)
+{
+    return "line " + std::to_string(line + 1) + " (" + CloneLineName(line) + ")";
+}
+
+ParseError NotACloneFile()
+{
+    return {1,
+            "line 1 is not \"" + std::string(FileStart) +
+                "\", so this is no clone file. Choose a clone file (*.RQ5); a CSV file is imported instead."};
+}
+
+ParseError TooShort(int linesRead)
+{
+    if (linesRead == 0)
+        return {0, "the file is empty. " + std::string(kRestore)};
+    return {linesRead, "the file ends at line " + std::to_string(linesRead) + " of " +
+                           std::to_string(kCloneLines) + ": it was cut short. " + kRestore};
+}
+
+ParseError WrongLength(int line, std::size_t characters)
+{
+    const std::string needed = std::to_string(kBlockChars);
+    return {line + 1,
+            LineText(line) + " has " + std::to_string(characters) + " characters, " + needed +
+                " are needed. Correct the line in a text editor, or take an older copy of the file."};
+}
+
+/// Blames the first comma among the notes when there is one: it shifts every line that follows.
+ParseError WrongEnd(const CloneLineReader& reader)
+{
+    const int splitLine = reader.FirstSplitLine();
+    if (splitLine == 0)
+        return {kCloneLines, LineText(kEndLine) + " is not \"" + std::string(FileEnd) +
+                                 "\": lines were added or the file is damaged. " + kRestore};
+    return {splitLine,
+            LineText(splitLine - 1) +
+                " holds a comma, which ends a note and shifts all that follows. Remove the comma in a "
+                "text editor."};
+}
+
+/// Splits the text and makes every check that can refuse it.
+std::optional<ParseError> SplitLines(std::string_view text, CloneLines& lines)
+{
+    CloneLineReader reader(text);
+    for (int i = 0; i < kCloneLines; ++i) {
+        const auto line = i <= kLastWholeLine ? reader.NextLine() : reader.NextField();
+        if (!line)
+            return TooShort(reader.LineNumber());
+        lines[static_cast<std::size_t>(i)] = *line;
+        if (i == kStartLine && *line != FileStart)
+            return NotACloneFile();
+        if (i <= kLastWholeLine && CharacterCount(*line) != kBlockChars)
+            return WrongLength(i, CharacterCount(*line));
+    }
+    if (lines[kEndLine] != FileEnd)
+        return WrongEnd(reader);
+    return std::nullopt;
+}
+
+/// A line as a block. A character that no block can hold counts as one unreadable digit, so that those
+/// behind it keep their places.
+MemoryBlock BlockOfLine(std::string_view line)
+{
+    const auto isPlain = [](char c) { return c >= 0x20 && c < 0x7F; };
+    if (std::all_of(line.begin(), line.end(), isPlain))
+        return MemoryBlock(line);
+    std::string text;
+    for (const char c : line) {
+        const auto code = static_cast<unsigned char>(c);
+        const bool continuesCharacter = (code & 0xC0) == 0x80;
+        if (!continuesCharacter)
+            text += isPlain(c) ? c : '?';
+    }
+    return MemoryBlock(text);
+}
+
+void DecodeRows(const CloneLines& lines, CloneImage& image)
+{
+    for (std::size_t row = 0; row < image.VFOData.size(); ++row) {
+        DecodeVfoBlock(image, BlockOfLine(lines[kVfoLine + row]), static_cast<int>(row));
+        image.VFOText[row][kNote] = lines[kVfoNoteLine + row];
+    }
+    for (std::size_t row = 0; row < image.MemData.size(); ++row) {
+        DecodeMemoryBlock(image, BlockOfLine(lines[kMemoryLine + row]), static_cast<int>(row));
+        image.MemText[row][kNote] = lines[kMemoryNoteLine + row];
+    }
+}
+
+template <std::size_t N>
+void TakeBlocks(const CloneLines& lines, std::size_t first, std::array<MemoryBlock, N>& blocks)
+{
+    for (std::size_t i = 0; i < N; ++i)
+        blocks[i] = BlockOfLine(lines[first + i]);
+}
+
+void DecodeLines(const CloneLines& lines, CloneImage& image)
+{
+    image.SetData1 = BlockOfLine(lines[kSettingsLine]);
+    image.SetData2 = BlockOfLine(lines[kSettingsLine + 1]);
+    DecodeSettings(image);
+    DecodeRows(lines, image);
+    TakeBlocks(lines, kEnableLine, image.ExtraData);
+    DecodeExtraData(image);
+    TakeBlocks(lines, kBankLine, image.BankData);
+    DecodeBankData(image);
+    image.BankFlagData = BlockOfLine(lines[kLinkLine]);
+    DecodeBankFlagData(image);
+    image.DataChanged = false;
+}
+
+}  // namespace
+
+std::optional<ParseError> ParseCloneFile(std::string_view text, CloneImage& image)
+{
+    const std::string decoded = DecodeFileText(text);
+    CloneLines lines;
+    if (auto error = SplitLines(decoded, lines))
+        return error;
+    // All checks are done; what follows takes every file. A damaged settings block is repaired for the
+    // model selected so far.
+    DecodeLines(lines, image);
+    return std::nullopt;
+}
+
+}  // namespace rqm5

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace rqm5 {
+
+/// Walks through a CSV text (UTF-8) field by field; records play no part. A comma or a line end (CR LF, LF
+/// or CR) ends a field. A field in double quotes may hold both, and a doubled quote stands for one.
+class CsvFieldReader
+{
+  public:
+    explicit CsvFieldReader(std::string_view text) : rest_(text) {}
+
+    /// The next field without its quotes, nothing at the end of the text.
+    std::optional<std::string> Next();
+
+  private:
+    std::string TakeQuoted();
+    std::string_view TakePlain();
+    void SkipSeparator();
+
+    std::string_view rest_;
+    bool isFieldDue_ = false;  ///< a comma was the last thing read
+    bool mayBeQuoted_ = true;  ///< false once a quote was found that nothing closes
+};
+
+/// Appends a text field: in double quotes, quotes inside it doubled.
+void AddQuotedField(std::string& csv, std::string_view text);
+
+}  // namespace rqm5

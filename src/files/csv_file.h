@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "image/clone_image.h"
+
+namespace rqm5 {
+
+/// The VFO rows and memory rows 0 to 1209 as CSV: a header and 1224 records.
+std::string FormatCsv(const CloneImage& image);
+
+/// Overwrites the rows that a CSV text names and leaves all others as they are. Never fails; a text that
+/// is not CSV changes nothing. Touches neither DataChanged nor the settings.
+/// \return how many records were taken
+int ParseCsv(std::string_view text, CloneImage& image);
+
+/// The rows whose notes a spreadsheet would run as a formula (they begin with "=", "+", "-", "@", tab).
+std::vector<std::string> NotesThatLookLikeFormulas(const CloneImage& image);
+
+}  // namespace rqm5

@@ -1,0 +1,204 @@
+#include "files/csv_file.h"
+
+#include <gtest/gtest.h>
+
+#include <tuple>
+
+#include "files/random_image.h"
+#include "image/channel_record.h"
+#include "memory/start_image.h"
+
+namespace rqm5 {
+namespace {
+
+/// A record with one of its ten texts replaced.
+std::string Record(const std::string& keys, std::size_t column, const std::string& text,
+                   const std::string& skip = "#FALSE#")
+{
+    ChannelTexts texts = {"145.5", "FM", "5KHz", "OFF", "0", "300Hz", "67.0Hz", "OFF", "0.6", "note"};
+    texts[column] = text;
+    std::string record = keys;
+    for (const std::string& field : texts)
+        record += field + ",";
+    return record + skip + ",#TRUE#\r\n";
+}
+
+std::string LineAt(const std::string& text, int line)
+{
+    std::size_t first = 0;
+    for (; line > 0; --line)
+        first = text.find("\r\n", first) + 2;
+    return text.substr(first, text.find("\r\n", first) - first);
+}
+
+TEST(Csv, ExportWritesTheStoredTexts)
+{
+    CloneImage image = StartUpImage(2);
+    DecodeMemoryBlock(image, MemoryBlock("01455000000001180400001000600000"), 0);
+    image.MemEnable[0] = true;
+    image.MemText[0][kNote] = "a, \"b\"";
+    const std::string empty = R"(,"","","","","","","","","","","#FALSE#",#FALSE#)";
+    const std::pair<int, std::string> expected[] = {
+        {0, R"("MODEL","BANK","CHANNEL","FREQUENCY","MODE","STEP","OPTION","SECRET","TRAIN","TONE","SHIFT",)"
+            R"("SHIFT FREQUENCY","NOTES","SKIP","ENABLE")"},
+        {1, R"("RQ-M5","VFO","0","0.100000","AM","1KHz","OFF","8","JR","88.5Hz","OFF","0.250000","",)"
+            R"("#FALSE#","#TRUE#")"},
+        {15, R"("RQ-M5","MEMORY","0","145.500000","FM","5KHz","Scrt","4","300Hz","67.0Hz","+Shift",)"
+             R"("0.600000","a, ""b""","#TRUE#",#TRUE#)"},
+        {1015, R"("RQ-M5","PROGRAM SCAN","P0A")" + empty},
+        {1114, R"("RQ-M5","PROGRAM SCAN","P49B")" + empty},
+        {1214, R"("RQ-M5","SEARCH PASS","99")" + empty},
+        {1224, R"("RQ-M5","PRIORITY","9")" + empty},
+        {1225, ""},
+    };
+    for (const auto& [line, text] : expected)
+        EXPECT_EQ(LineAt(FormatCsv(image), line), text) << line;
+}
+
+TEST(Csv, AnExportImportsAgain)
+{
+    for (std::uint32_t seed = 0; seed < 5; ++seed) {
+        CloneImage image = test::RandomImage(seed);
+        for (ChannelTexts& texts : image.VFOText)
+            texts[kNote] = "=1";
+        for (std::size_t row = 0; row < image.MemText.size(); ++row) {
+            if (row >= kRadioRows)
+                ClearMemoryRow(image, static_cast<int>(row));
+            ChannelNumbers& numbers = image.MemData[row];
+            const bool isChannel = numbers[kFrequency] != 0;
+            numbers[kStep] = isChannel ? 13 : 0;             // the steps from 14 on are not imported
+            numbers[kCarrier] = isChannel ? kCarrierJr : 0;  // all others move up by one
+            image.MemText[row][kStep] = isChannel ? "200KHz" : "";
+            image.MemText[row][kCarrier] = isChannel ? "JR" : "";
+            image.MemText[row][kNote] = row % 3 == 0 && row < kRadioRows ? "a, \"b\"" : "";
+        }
+        CloneImage imported = image;
+        for (int row = 0; row < kRadioRows; ++row)
+            ClearMemoryRow(imported, row);
+        imported.VFOText = {};
+        EXPECT_EQ(ParseCsv(FormatCsv(image), imported), 1224);
+        EXPECT_TRUE(SameContents(imported, image)) << seed;
+    }
+}
+
+TEST(Csv, ImportFindsTheRowOfARecord)
+{
+    constexpr int kPassedOver = -1;
+    const std::pair<const char*, int> cases[] = {
+        // clang-format off
+        {"RQ-M5,MEMORY,999,", 999}, {"RQ-M5,memory, 12 ,", 12}, {"RQ-M5,MEMORY,1000,", -1}, {"RQ-M5,MEMORY,-1,", -1},
+        {"RQ-M5,MEMORY,,", -1}, {"RQ-M5,MEMORY,x,", -1}, {"RQ-M5,MEMORY,99999999999,", -1}, {"RQ-M5,BANK,1,", -1},
+        {"RQ-M6,MEMORY,1,", -1}, {"rq-m5,MEMORY,1,", -1}, {"RQ-M5,PROGRAM SCAN,P0A,", 1000},
+        {"RQ-M5,PROGRAM SCAN,49b,", 1099}, {"RQ-M5,PROGRAM SCAN,P50A,", -1}, {"RQ-M5,PROGRAM SCAN,0,", -1},
+        {"RQ-M5,SEARCH PASS,0,", 1100}, {"RQ-M5,SEARCH PASS,S99,", 1199}, {"RQ-M5,SEARCH PASS,100,", -1},
+        {"RQ-M5,PRIORITY,9,", 1209}, {"RQ-M5,PRIORITY,Pr3,", 1203}, {"RQ-M5,PRIORITY,10,", -1}, {"RQ-M5,VFO,14,", -1},
+        {"RQ-M5,x,\"RQ-M5\",\"MEMORY\",\"5\",", 5},
+        {"\"open,\nRQ-M5,MEMORY,1,", 1},  // a quote that nothing closes does not swallow the rest
+        // clang-format on
+    };
+    for (const auto& [keys, row] : cases) {
+        CloneImage image;
+        EXPECT_EQ(ParseCsv(Record(keys, kNote, ""), image), row == kPassedOver ? 0 : 1) << keys;
+        if (row != kPassedOver)
+            ClearMemoryRow(image, row);
+        EXPECT_TRUE(SameContents(image, CloneImage())) << keys;
+    }
+}
+
+TEST(Csv, ImportTurnsTextsBackOrKeepsWhatTheRowHad)
+{
+    // The row before: 433.25 MHz, WFM, 8MHz, Tone + skip, code 5, code 7, tone 9, minus, 7.6 MHz.
+    const std::tuple<Column, const char*, double, const char*> cases[] = {
+        // clang-format off
+        {kFrequency, "10000", 433.25, "433.250000"}, {kFrequency, "9999.9999999", 433.25, "433.250000"},
+        {kFrequency, "-1", 433.25, "433.250000"}, {kFrequency, "88.3000004", 88.3, "88.300000"},
+        {kMode, "fm", 2, "WFM"}, {kMode, "AM", 1, "AM"}, {kStep, "200KHz", 13, "200KHz"},
+        {kStep, "1KHz", 19, "1KHz"}, {kStep, "6MHz", 18, "8MHz"}, {kOption, "SCRT", 16, "Scrt"},
+        {kOption, "Scrt", 16, "Scrt"}, {kOption, "None", 48, "Tone"}, {kSecret, "17", 5, "5"},
+        {kSecret, "16", 16, "16"}, {kCarrier, "300Hz", 1, "300Hz"}, {kCarrier, "200Hz", 0, "200Hz"},
+        {kCarrier, "2999Hz", 27, "2900Hz"}, {kCarrier, "3000Hz", 7, "900Hz"},
+        {kCarrier, "99999999999999", 7, "900Hz"}, {kCarrier, "JR", 28, "JR"}, {kTone, "250.3", 38, "250.3Hz"},
+        {kTone, "159.8Hz", 9, "91.5Hz"}, {kShift, "+SHIFT", 16, "+Shift"}, {kShift, "minus", 0, "OFF"},
+        {kShiftFrequency, "99.9999999", 7.6, "7.600000"}, {kShiftFrequency, "0.05", 0.05, "0.050000"},
+        // clang-format on
+    };
+    for (const auto& [column, text, number, shown] : cases) {
+        CloneImage image;
+        image.MemData[3] = {433.25, 2, 18, 56, 5, 7, 9, 32, 7.6};
+        ASSERT_EQ(ParseCsv(Record("RQ-M5,MEMORY,3,", column, text), image), 1);
+        EXPECT_EQ(image.MemData[3][column], number) << text;
+        EXPECT_EQ(image.MemText[3][column], shown) << text;
+    }
+}
+
+TEST(Csv, ImportKnowsSeveralFormsOfTrue)
+{
+    for (const char* skip : {"#TRUE#", "\"#True#\"", "true", "#FALSE#", "1", ""}) {
+        const bool isTrue = std::string_view(skip).find_first_of("tT") != std::string_view::npos;
+        CloneImage image;
+        ParseCsv(Record("RQ-M5,MEMORY,3,", kOption, "Tone", skip), image);
+        EXPECT_EQ(image.MemData[3][kOption], isTrue ? 56 : 48) << skip;
+        EXPECT_TRUE(image.MemEnable[3]);
+    }
+}
+
+TEST(Csv, VfoRowsHaveTheirOwnOptionTextAndRowsWithoutFrequencyAreEmptied)
+{
+    CloneImage image = test::RandomImage(1);
+    image.MemEnable[13] = false;
+    EXPECT_EQ(ParseCsv(Record("RQ-M5,VFO,13,", kOption, "Scrt"), image), 1);
+    EXPECT_EQ(image.VFOText[13][kOption] + image.VFOText[13][kNote], "SCRTnote");
+    EXPECT_EQ(image.VFOData[13][kOption], 16);
+    EXPECT_FALSE(image.MemEnable[13]);
+
+    EXPECT_EQ(ParseCsv(Record("RQ-M5,MEMORY,7,", kFrequency, ""), image), 1);
+    EXPECT_EQ(image.MemData[7], ChannelNumbers{});
+    EXPECT_EQ(image.MemText[7], (ChannelTexts{"", "", "", "", "", "", "", "", "", "note"}));
+    EXPECT_TRUE(image.MemEnable[7]);
+}
+
+TEST(Csv, NotesComeInAsOneLine)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        // clang-format off
+        {"\"two\r\nlines, \"\"quoted\"\"\"", "two lines, \"quoted\""}, {"  as it stands ", "  as it stands "},
+        {"\"\tx\x01\x7F\"", " x  "}, {"say \"hi\"", "say \"hi\""}, {"\x93\x8C\x8B\x9E", "\xE6\x9D\xB1\xE4\xBA\xAC"},
+        // clang-format on
+    };
+    for (const auto& [field, note] : cases) {
+        CloneImage image;
+        ASSERT_EQ(ParseCsv(Record("RQ-M5,MEMORY,0,", kNote, field), image), 1) << field;
+        EXPECT_EQ(image.MemText[0][kNote], note);
+    }
+}
+
+TEST(Csv, WhatIsNoRecordChangesNothing)
+{
+    std::string allBytes;
+    for (int i = 0; i < 70000; ++i)
+        allBytes += static_cast<char>(i * 7 + i / 256);
+    const CloneImage before = test::RandomImage(7);
+    const std::string record = Record("RQ-M5,MEMORY,0,", kNote, "cut");
+    const std::string cut = record.substr(0, record.rfind(","));
+    const std::string header = LineAt(FormatCsv(before), 0);
+    const std::string texts[] = {"", "\"", "\xEF\xBB\xBF", allBytes, header, "RQ-M5,MEMORY", cut};
+    for (const std::string& text : texts) {
+        CloneImage image = before;
+        EXPECT_EQ(ParseCsv(text, image), 0) << text.substr(0, 80);
+        EXPECT_TRUE(SameContents(image, before)) << text.substr(0, 80);
+    }
+}
+
+TEST(Csv, NamesNotesThatASpreadsheetWouldRun)
+{
+    CloneImage image = StartUpImage(0);
+    image.VFOText[0][kNote] = "@SUM(A1)";
+    image.MemText[1200][kNote] = "=1+1";
+    image.MemText[5][kNote] = "1-1";
+    image.MemText[1239][kNote] = "=not exported";
+    EXPECT_EQ(NotesThatLookLikeFormulas(image),
+              (std::vector<std::string>{"VFO row 0", "memory row 1200 (Priority Pr0)"}));
+}
+
+}  // namespace
+}  // namespace rqm5

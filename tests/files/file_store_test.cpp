@@ -1,0 +1,189 @@
+#include "files/file_store.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <QTemporaryDir>
+#include <clocale>
+#include <csignal>
+#include <locale>
+
+#include "files/clone_file.h"
+#include "files/csv_file.h"
+#include "files/random_image.h"
+#include "memory/start_image.h"
+
+namespace rqm5 {
+namespace {
+
+class FileStore : public testing::Test
+{
+  protected:
+    QString Path(const char* name) const { return folder_.filePath(QString::fromUtf8(name)); }
+
+    void Write(const QString& path, const std::string& bytes) const
+    {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes.data(), static_cast<qint64>(bytes.size()));
+    }
+
+    std::string Read(const QString& path) const
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
+    }
+
+    /// Files of the folder, left-overs included.
+    int FileCount() const
+    {
+        return static_cast<int>(QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden).size());
+    }
+
+    QTemporaryDir folder_;
+};
+
+void ExpectProblem(const std::optional<Problem>& problem, const char* text, const char* details)
+{
+    ASSERT_TRUE(problem) << details;
+    EXPECT_EQ(problem->text, text);
+    EXPECT_NE(problem->details.find(details), std::string::npos) << problem->details;
+}
+
+TEST_F(FileStore, SavingAndLoadingClearTheUnsavedMark)
+{
+    CloneImage image = test::RandomImage(1), loaded;
+    image.DataChanged = loaded.DataChanged = true;
+    const SaveOutcome outcome = SaveCloneFile(Path("a.RQ5"), image);
+    EXPECT_TRUE(!outcome.problem && outcome.lostNotes.empty() && !image.DataChanged);
+    EXPECT_FALSE(LoadCloneFile(Path("a.RQ5"), loaded));
+    EXPECT_TRUE(SameContents(loaded, image) && !loaded.DataChanged);
+
+    int taken = 0;
+    image.DataChanged = loaded.DataChanged = true;
+    EXPECT_TRUE(!ExportCsv(Path("a.csv"), image) && !image.DataChanged);
+    EXPECT_EQ(Read(Path("a.csv")), FormatCsv(image));
+    EXPECT_TRUE(!ImportCsv(Path("a.csv"), loaded, taken) && !loaded.DataChanged && taken == 1224);
+    image.DataChanged = true;
+    ExpectProblem(ImportCsv(Path("no.csv"), image, taken), "File Open Error", "no such file");
+    EXPECT_TRUE(taken == 0 && image.DataChanged);
+    EXPECT_EQ(FileCount(), 2);
+}
+
+TEST_F(FileStore, SavingNamesTheNotesThatAreLostAndWritesTheFile)
+{
+    CloneImage image = StartUpImage(0);
+    image.MemData[0] = {145.5, 0, 1, 0, 0, 0, 0, 16, 0.05};  // this shift reads back as 0.5
+    image.MemText[12][kNote] = "A,B";
+    EXPECT_EQ(SaveCloneFile(Path("a.RQ5"), image).lostNotes,
+              std::vector<std::string>{"memory row 12 (Bank 0, channel 12)"});
+    EXPECT_EQ(Read(Path("a.RQ5")), FormatCloneFile(image));
+    ExpectProblem(LoadCloneFile(Path("a.RQ5"), image), "Data Error", "line 1294 (note of memory row 12)");
+}
+
+TEST_F(FileStore, WhatCannotBeReadLeavesTheImageAsItWas)
+{
+    QDir(folder_.path()).mkdir(QStringLiteral("folder.RQ5"));
+    ASSERT_EQ(mkfifo(QFile::encodeName(Path("pipe")).constData(), 0600), 0);
+    Write(Path("large"), "");
+    ASSERT_TRUE(QFile::resize(Path("large"), qint64{1} << 30));
+    Write(Path("empty"), "");
+    Write(Path("text"), "no clone\r\nfile\r\n");
+    const std::array<const char*, 3> cases[] = {
+        {"no/folder", "File Open Error", "/no/folder: there is no such file"},
+        {"line\nbreak", "File Open Error", "/line\\nbreak: there is no such file"},
+        {"folder.RQ5", "File Open Error", "this is a folder"},
+        {"pipe", "File Open Error", "this is a device"},
+        {"large", "File Open Error", "larger than 16 MiB"},
+        {"empty", "Data Error", "/empty: the file is empty"},
+        {"text", "Data Error", "/text: line 1 is not"},
+    };
+    const CloneImage before = test::RandomImage(3);
+    for (const auto& [name, text, details] : cases) {
+        CloneImage image = before;
+        image.DataChanged = true;
+        ExpectProblem(LoadCloneFile(Path(name), image), text, details);
+        EXPECT_TRUE(SameContents(image, before) && image.DataChanged) << name;
+    }
+}
+
+TEST_F(FileStore, WhatCannotBeWrittenLeavesEverythingAsItWas)
+{
+    QDir(folder_.path()).mkdir(QStringLiteral("folder"));
+    ASSERT_EQ(mkfifo(QFile::encodeName(Path("pipe")).constData(), 0600), 0);
+    Write(Path("file"), "old");
+    const std::pair<const char*, const char*> cases[] = {{"folder", "this is a folder"},
+                                                         {"pipe", "this is a device"},
+                                                         {"no/file", "/no does not exist"},
+                                                         {"file/inside", "/file does not exist"}};
+    CloneImage image = StartUpImage(0);
+    image.DataChanged = true;
+    for (const auto& [name, reason] : cases)
+        ExpectProblem(SaveCloneFile(Path(name), image).problem, "File Open Error", reason);
+    ExpectProblem(SaveCloneFile(QString(), image).problem, "File Open Error", "no file name");
+    EXPECT_TRUE(image.DataChanged && Read(Path("file")) == "old" && FileCount() == 1);
+}
+
+TEST_F(FileStore, AFullDiskLeavesTheOldFile)
+{
+    Write(Path("a.RQ5"), "old");
+    CloneImage image = StartUpImage(0);
+    image.DataChanged = true;
+    rlimit before{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const rlimit small{10000, before.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+    const SaveOutcome outcome = SaveCloneFile(Path("a.RQ5"), image);
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, handler);
+    ExpectProblem(outcome.problem, "File Open Error", "nothing was changed");
+    EXPECT_TRUE(image.DataChanged && Read(Path("a.RQ5")) == "old" && FileCount() == 1);
+}
+
+TEST_F(FileStore, ReplacesWhatALinkPointsToAndKeepsThePermissions)
+{
+    Write(Path("real"), "old");
+    constexpr auto kPermissions = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadGroup;
+    ASSERT_TRUE(QFile::setPermissions(Path("real"), kPermissions));
+    ASSERT_TRUE(QFile::link(QStringLiteral("real"), Path("link")));
+    EXPECT_FALSE(WriteWholeFile(Path("link"), "new"));
+    EXPECT_EQ(Read(Path("real")), "new");
+    EXPECT_TRUE(QFileInfo(Path("link")).isSymLink());
+    // Qt tells the owner's permissions for the present user as well.
+    EXPECT_EQ(QFile::permissions(Path("real")) | QFileDevice::ReadUser | QFileDevice::WriteUser,
+              kPermissions | QFileDevice::ReadUser | QFileDevice::WriteUser);
+}
+
+class CommaNumbers : public std::numpunct<char>
+{
+    char do_decimal_point() const override { return ','; }
+    char do_thousands_sep() const override { return '.'; }
+    std::string do_grouping() const override { return "\3"; }
+};
+
+TEST_F(FileStore, ADecimalCommaChangesNothing)
+{
+    CloneImage image = test::RandomImage(4);
+    const std::string clone = FormatCloneFile(image), csv = FormatCsv(image);
+    CloneImage expected, imported;
+    ParseCsv(csv, expected);
+
+    const std::locale before = std::locale::global(std::locale(std::locale::classic(), new CommaNumbers));
+    std::setlocale(LC_ALL, "de_DE.UTF-8");  // where it is installed
+    QLocale::setDefault(QLocale(QLocale::German));
+    EXPECT_TRUE(FormatCloneFile(image) == clone && FormatCsv(image) == csv);
+    ParseCsv(csv, imported);
+    QLocale::setDefault(QLocale::c());
+    std::locale::global(before);
+    std::setlocale(LC_ALL, "C");
+    EXPECT_TRUE(SameContents(imported, expected));
+}
+
+}  // namespace
+}  // namespace rqm5
