@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "image/clone_image.h"
+#include "link/transfer_scope.h"
+
+namespace rqm5 {
+
+/// A block as a whole write of a scope leaves it in the receiver.
+struct ExpectedBlock
+{
+    int address;
+    MemoryBlock contents;
+    MemoryBlock mask;   ///< a 1 bit counts; a 0 bit is left as the receiver has it
+    std::string label;  ///< "Settings 1", "VFO 3", "Bank sizes 0 to 7", "Row 1105 (Search Pass S5)", ...
+};
+
+/// Every block that a write of this scope leaves changed, in the order of its addresses. The presets are
+/// not among them: they are never read back.
+std::vector<ExpectedBlock> ExpectedAfterWrite(const CloneImage& image, const TransferScope& scope);
+
+/// True when a block read from the receiver is as expected where the mask says so.
+bool Agrees(const ExpectedBlock& expected, const MemoryBlock& read);
+
+/// How a person calls a memory row: "Row 12 (Bank 0, channel 12)", "Row 1105 (Search Pass S5)", "Row 990
+/// (no bank)".
+std::string RowLabel(const CloneImage& image, int row);
+
+}  // namespace rqm5

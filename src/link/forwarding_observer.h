@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "link/transfer_observer.h"
+
+namespace rqm5 {
+
+/// Passes everything on to another observer: the base of those that listen in or leave something out.
+class ForwardingObserver : public TransferObserver
+{
+  public:
+    explicit ForwardingObserver(TransferObserver& next) : next_(next) {}
+
+    void ProgressStarted(int maximum) override { next_.ProgressStarted(maximum); }
+    void ProgressMoved(int value, int row) override { next_.ProgressMoved(value, row); }
+    void ProgressEnded() override { next_.ProgressEnded(); }
+    void BlockDone(int address, bool written) override { next_.BlockDone(address, written); }
+    void BlockFailed(int address, bool written) override { next_.BlockFailed(address, written); }
+    void Refresh(Changed what) override { next_.Refresh(what); }
+    void Message(const Problem& problem) override { next_.Message(problem); }
+    bool IsCancelled() override { return next_.IsCancelled(); }
+
+  private:
+    TransferObserver& next_;
+};
+
+/// Adds to every message what it means for the whole operation.
+class AftermathObserver : public ForwardingObserver
+{
+  public:
+    AftermathObserver(TransferObserver& next, std::string aftermath)
+        : ForwardingObserver(next), aftermath_(std::move(aftermath))
+    {
+    }
+
+    void Message(const Problem& problem) override
+    {
+        ForwardingObserver::Message({problem.text, problem.details, aftermath_});
+    }
+
+  private:
+    const std::string aftermath_;
+};
+
+}  // namespace rqm5

@@ -1,0 +1,60 @@
+#include "link/raw_read.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "image/channel_record.h"
+#include "link/commands.h"
+
+namespace rqm5 {
+namespace {
+
+RawReply::Result ResultOf(const std::string& reply)
+{
+    if (reply == kReadPortFailed)
+        return RawReply::Result::PortFailed;
+    if (reply == kReadTooShort)
+        return RawReply::Result::TooShort;
+    return reply == kReadNoFrame ? RawReply::Result::NoFrame : RawReply::Result::Frame;
+}
+
+}  // namespace
+
+RawReply ReadRaw(RadioLink& link, int address)
+{
+    const std::string reply = link.SendReadCommand(ReadCommand(address));
+    RawReply raw;
+    raw.result = ResultOf(reply);
+    raw.received = link.LastReceived();
+    raw.took = link.LastDuration();
+    if (raw.IsFrame())
+        raw.block = BlockOfReply(reply);
+    return raw;
+}
+
+LinkTestResult TestLink(RadioLink& link, int address, int count, const std::function<bool(int)>& goesOn)
+{
+    LinkTestResult result;
+    std::vector<std::chrono::microseconds> times;
+    while (result.reads < count && !result.hasPortFailed && goesOn(result.reads)) {
+        const RawReply raw = ReadRaw(link, address);
+        // A read that was stopped in its wait says nothing about the line.
+        if (!raw.IsFrame() && !goesOn(result.reads))
+            break;
+        ++result.reads;
+        result.hasPortFailed = raw.result == RawReply::Result::PortFailed;
+        if (raw.IsFrame())
+            times.push_back(raw.took);
+        else
+            ++result.errors;
+    }
+    if (!times.empty()) {
+        std::sort(times.begin(), times.end());
+        result.lowest = times.front();
+        result.median = times[times.size() / 2];
+        result.highest = times.back();
+    }
+    return result;
+}
+
+}  // namespace rqm5

@@ -1,0 +1,141 @@
+#include "link/radio_link.h"
+
+#include <gtest/gtest.h>
+
+#include <QTimer>
+#include <functional>
+
+#include "link/receiver_reader.h"
+#include "link/recording_observer.h"
+
+namespace rqm5 {
+namespace {
+
+using namespace std::chrono_literals;
+using Pieces = std::vector<std::string>;
+
+const std::string kBlock = "0145000000000100081C080000600000";
+const std::string kFrame = "\r\n" + kBlock + "\r\n";
+const std::string kRead = "QT~F1000R\r";
+const std::string kWrite = "QT~F1000W" + kBlock + "\r";
+const std::string kOk = "\r\nOK\r\n";
+
+/// A link to a port that answers each command with pieces that arrive one by one.
+struct Link : SerialPort
+{
+    explicit Link(const Pieces& pieces, std::chrono::milliseconds timeOut = 60ms)
+        : answers([pieces](std::size_t) { return pieces; })
+    {
+        link.SetTimeOut(timeOut);
+    }
+    bool Open() override { return isOpen = opens; }
+    void Close() override { isOpen = false; }
+    bool IsOpen() const override { return isOpen; }
+    bool Send(const std::string& text) override
+    {
+        sent.push_back(text);
+        if (!answers)
+            return false;
+        script = answers(sent.size());
+        Next();
+        return true;
+    }
+    std::string TakeReceived() override { return std::exchange(pending, {}); }
+    QString Device() const override { return {}; }
+    PortFault Fault() const override { return PortFault::Other; }
+    QString Reason() const override { return {}; }
+
+    void Next()
+    {
+        if (script.empty())
+            return;
+        QTimer::singleShot(0, this, [this] {
+            pending += script.front();
+            script.erase(script.begin());
+            emit Received();
+            Next();
+        });
+    }
+
+    std::function<Pieces(std::size_t attempt)> answers;
+    bool opens = true, isOpen = false;
+    Pieces script, sent;
+    std::string pending;
+    RadioLink link{*this};
+};
+
+TEST(RadioLink, TakesTheLastThirtySixCharactersAsTheReply)
+{
+    const std::string odd = "\r\nnot hex, taken as it comes------\r\n";
+    const std::tuple<const char*, Pieces, std::string> kCases[] = {
+        {"no echo", {kFrame}, kFrame},
+        {"fragments", {kRead.substr(0, 3), kRead.substr(3) + "\r", "\n0145", kFrame.substr(6)}, kFrame},
+        {"noise first", {"\xFF\x01~" + kRead + "##", kFrame}, kFrame},
+        {"no hex digits", {kRead + odd}, odd},
+        {"silence", {}, "ERROR01"},
+        {"one character short", {kFrame.substr(1)}, "ERROR01"},
+        {"no line end in front", {kRead + kFrame.substr(0, 1) + "?" + kFrame.substr(2)}, "ERROR02"},
+        {"no line end behind", {kRead + kFrame.substr(0, 35) + "?"}, "ERROR02"},
+    };
+    for (const auto& [what, pieces, reply] : kCases)
+        EXPECT_EQ(Link(pieces).link.SendReadCommand(kRead), reply) << what;
+}
+
+TEST(RadioLink, JudgesAnAcknowledgementByLengthAndEnd)
+{
+    const std::tuple<const char*, Pieces, int> kCases[] = {
+        {"fragments", {kWrite.substr(0, 40), kWrite.substr(40) + "\r\nO", "K\r\n"}, 0},
+        {"NG", {kWrite + "\r\nNG\r\n"}, 1},
+        {"no line end behind", {kWrite + "\r\nOK\r?"}, 1},
+        {"no echo", {kOk}, 2},
+        {"45 characters", {std::string(39, '-') + kOk}, 2},
+        {"46 characters", {std::string(40, '-') + kOk}, 0},
+        {"after 46 it waits on", {std::string(40, '-') + kOk, "late"}, 1},
+    };
+    for (const auto& [what, pieces, code] : kCases)
+        EXPECT_EQ(Link(pieces).link.SendWriteCommand(kWrite), code) << what;
+    // After 47 it does not.
+    EXPECT_EQ(Link({std::string(41, '-') + kOk, "late"}, 60s).link.SendWriteCommand(kWrite), 0);
+}
+
+TEST(RadioLink, PortFailuresEndTheWaitAtOnce)
+{
+    Link closed({kFrame});
+    closed.opens = false;
+    EXPECT_EQ(closed.link.SendReadCommand(kRead), "ERROR00");
+    EXPECT_EQ(closed.link.SendWriteCommand(kWrite), 3);
+    EXPECT_TRUE(closed.sent.empty());
+    Link unplugged({}, 60s);
+    QTimer::singleShot(0, &unplugged, &SerialPort::Failed);
+    EXPECT_EQ(unplugged.link.SendWriteCommand(kWrite), 3);
+    Link dead({});
+    dead.answers = nullptr;
+    EXPECT_EQ(dead.link.SendReadCommand(kRead), "ERROR00");
+}
+
+TEST(RetryRule, TriesABlockTenTimesUnlessItIsCancelled)
+{
+    CloneImage image;
+    for (const std::size_t goodAttempt : {1, 10, 11}) {
+        Link port({}, 2ms);
+        port.answers = [&](std::size_t attempt) {
+            return Pieces{attempt % goodAttempt == 0 ? kFrame : "bad"};
+        };
+        RecordingObserver observer;
+        const bool isGood = ReceiverReader(image, port.link, observer).ReadBank() == TransferResult::Done;
+        EXPECT_EQ(isGood, goodAttempt <= 10);
+        EXPECT_EQ(port.sent.size(), isGood ? 7 * goodAttempt : 10);
+        EXPECT_EQ(observer.problems.size(), isGood ? 0U : 1U);
+    }
+    Link port({}, 60s);
+    RecordingObserver observer;
+    QTimer::singleShot(0, &port, [&] {
+        observer.cancelled = true;
+        port.link.Cancel();
+    });
+    EXPECT_EQ(ReceiverReader(image, port.link, observer).ReadBank(), TransferResult::Cancelled);
+    EXPECT_TRUE(port.sent.size() == 1 && observer.problems.empty());
+}
+
+}  // namespace
+}  // namespace rqm5

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <algorithm>
+#include <functional>
+#include <utility>
+#include <vector>
+
+#include "link/transfer_observer.h"
+
+namespace rqm5 {
+
+/// Writes down what a transfer tells, and cancels it when it is told to.
+struct RecordingObserver : TransferObserver
+{
+    void ProgressStarted(int maximum) override { maxima.push_back(maximum); }
+    void ProgressMoved(int value, int row) override { moves.push_back({value, row}); }
+    void ProgressEnded() override { ++ends; }
+    void BlockDone(int address, bool) override
+    {
+        done.push_back(address);
+        if (afterBlock && static_cast<int>(done.size()) == changeAfter)
+            afterBlock();
+    }
+    void BlockFailed(int address, bool) override { failed.push_back(address); }
+    void Refresh(Changed what) override { refreshed.push_back(what); }
+    void Message(const Problem& problem) override { problems.push_back(problem); }
+    bool IsCancelled() override { return cancelled || static_cast<int>(done.size()) == cancelAfter; }
+
+    bool Refreshed(Changed what) const
+    {
+        return std::find(refreshed.begin(), refreshed.end(), what) != refreshed.end();
+    }
+
+    std::vector<int> maxima, done, failed;
+    std::vector<std::pair<int, int>> moves;
+    std::vector<Changed> refreshed;
+    std::vector<Problem> problems;
+    int ends = 0;
+    int cancelAfter = -1;  ///< blocks
+    int changeAfter = -1;  ///< blocks, after which the next is called
+    std::function<void()> afterBlock;
+    bool cancelled = false;
+};
+
+}  // namespace rqm5

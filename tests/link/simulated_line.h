@@ -1,0 +1,59 @@
+#pragma once
+
+#include <chrono>
+
+#include "link/qt_serial_port.h"
+#include "link/radio_link.h"
+#include "link/receiver_reader.h"
+#include "link/receiver_writer.h"
+#include "link/recording_observer.h"
+#include "simulator/demo_image.h"
+#include "simulator/sim_session.h"
+
+namespace rqm5 {
+
+/// A simulated receiver, an image, and everything between them.
+struct SimulatedLine
+{
+    explicit SimulatedLine(const CloneImage& held, SimOptions options = {})
+        : receiver(WithMemory(std::move(options), held)), port(receiver.Device())
+    {
+    }
+
+    static SimOptions WithMemory(SimOptions options, const CloneImage& held)
+    {
+        options.memory = MemoryFromImage(held);
+        return options;
+    }
+
+    /// A fault that a text describes, and a time-out short enough to meet it often.
+    void Spoil(std::string_view fault, std::chrono::milliseconds timeOut)
+    {
+        receiver.SetFaults({ParseFault(fault).value()});
+        link.SetTimeOut(timeOut);
+    }
+
+    /// Silences the receiver for ten attempts once so many blocks are through. Only then is the time-out
+    /// short, so that a busy machine does not fail blocks that are to go well.
+    void SilenceAfter(int blocks)
+    {
+        observer.changeAfter = blocks;
+        observer.afterBlock = [this] { Spoil("silent:10", std::chrono::milliseconds(5)); };
+    }
+
+    /// True when the first problem says a text in its details.
+    bool ProblemHas(const char* part) const
+    {
+        return observer.problems.at(0).details.find(part) != std::string::npos;
+    }
+
+    SimSession receiver;
+    QtSerialPort port;
+    RadioLink link{port};
+    CloneImage image;
+    RecordingObserver observer;
+    ReceiverReader reader{image, link, observer};
+    ReceiverWriter writer{image, link, observer};
+};
+
+}  // namespace rqm5
