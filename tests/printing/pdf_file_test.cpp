@@ -1,0 +1,101 @@
+#include "printing/pdf_file.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include "memory/start_image.h"
+#include "printing/pdf_text.h"
+
+namespace rqm5 {
+namespace {
+
+const PageTitle kTitle = {"home.RQ5", "2024-05-17"};
+
+bool GoOn(int /*page*/, int /*pages*/)
+{
+    return true;
+}
+
+/// Every row a channel, with notes as wide as a line ever gets.
+CloneImage FullImage()
+{
+    CloneImage image = StartUpImage(0);
+    for (std::size_t row = 0; row < kRadioRows; ++row) {
+        const std::string note = row % 2 ? std::string(39, 'W') + "E" : "東京タワーの放送局を聞くためのメモ";
+        // clang-format off
+        image.MemText[row] = {"1299.995000", "WFM", "12.5KHz", "Carrier", "*", "2400Hz", "250.3Hz", "+Shift",
+                              "20.000000", note};
+        // clang-format on
+        image.MemData[row][kFrequency] = 1299.995;
+        image.MemEnable[row] = true;
+    }
+    return image;
+}
+
+TEST(PdfFile, RepeatsTitleAndHeadsOnEveryPageAndLosesNoRow)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("out.pdf"));
+    ASSERT_EQ(SavePdf(path, DefaultPageLayout(), BuildListing(FullImage(), {}), kTitle, GoOn).end,
+              PrintEnd::Done);
+    const QStringList pages = PdfPages(path);
+    ASSERT_GT(pages.size(), 15);
+    qsizetype rows = 0;
+    for (qsizetype i = 0; i < pages.size(); ++i) {
+        const QStringList lines = pages[i].split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        EXPECT_TRUE(lines[0].endsWith(QStringLiteral("Page %1 of %2").arg(i + 1).arg(pages.size()))) << i;
+        EXPECT_TRUE(lines[1].startsWith(QLatin1String(i > 0 ? "Memory: " : "Settings"))) << i;
+        EXPECT_EQ(lines[2].contains(QStringLiteral("ShiftFreq.")), i > 0) << lines[2].toStdString();
+        EXPECT_FALSE(lines.last().contains(QStringLiteral("ShiftFreq."))) << "a head without a row";
+        rows += pages[i].count(QStringLiteral("1299.995000"));
+    }
+    EXPECT_EQ(rows, kRadioRows);
+}
+
+TEST(PdfFile, FitsTheWidestLineOnEveryPaper)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("out.pdf"));
+    const Listing listing = BuildListing(FullImage(), {false, false, true, kSelectPriority});
+    for (const auto size : {QPageSize::A4, QPageSize::Letter})
+        for (const auto orientation : {QPageLayout::Portrait, QPageLayout::Landscape}) {
+            QPageLayout paper = DefaultPageLayout();
+            paper.setPageSize(QPageSize(size), paper.margins());
+            paper.setOrientation(orientation);
+            ASSERT_EQ(SavePdf(path, paper, listing, kTitle, GoOn).end, PrintEnd::Done);
+            const QRectF printable = paper.paintRect(QPageLayout::Point).adjusted(-1, -1, 1, 1);
+            QRectF all;
+            for (const QRectF& word : PdfWords(path, paper.fullRect(QPageLayout::Point).size()))
+                all |= word;
+            EXPECT_TRUE(printable.contains(all)) << all.right() << " of " << printable.right();
+            EXPECT_GT(all.width(), printable.width() * 0.75) << "the font is too small";
+        }
+}
+
+TEST(PdfFile, LeavesNothingBehindWhenItFailsOrIsCancelled)
+{
+    const QTemporaryDir folder;
+    const Listing listing = BuildListing(FullImage(), {});
+    const auto save = [&](const char* name, const PageProgress& progress) {
+        return SavePdf(folder.filePath(QLatin1String(name)), DefaultPageLayout(), listing, kTitle, progress);
+    };
+    int told = 0;
+    const auto cancelOnThird = [&told](int page, int pages) {
+        EXPECT_GT(pages, 15);
+        EXPECT_EQ(page, told++);
+        return page < 2;
+    };
+    EXPECT_EQ(save("out.pdf", cancelOnThird).end, PrintEnd::Cancelled);
+    EXPECT_EQ(told, 3);
+    for (const char* impossible : {"none/out.pdf", "."}) {
+        const PdfOutcome outcome = save(impossible, GoOn);
+        ASSERT_TRUE(outcome.end == PrintEnd::Failed && outcome.problem);
+        EXPECT_NE(outcome.problem->details.find(folder.path().toStdString()), std::string::npos);
+    }
+    EXPECT_TRUE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).isEmpty());
+}
+
+}  // namespace
+}  // namespace rqm5
