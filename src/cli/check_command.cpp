@@ -1,0 +1,112 @@
+#include <algorithm>
+#include <ostream>
+
+#include "cli/clone_files.h"
+#include "cli/command.h"
+#include "cli/text_table.h"
+#include "files/clone_file.h"
+#include "files/csv_file.h"
+#include "files/file_store.h"
+#include "image/display_text.h"
+#include "memory/bank_layout.h"
+#include "settings/setting_texts.h"
+
+namespace rqm5 {
+namespace {
+
+/// What the rows of a group hold, as a line of the table.
+std::vector<std::string> Summary(const CloneImage& image, const std::string& name, RowRange rows)
+{
+    int channels = 0;
+    int enabled = 0;
+    int skipped = 0;
+    int notes = 0;
+    for (int row = rows.first; row <= rows.Last(); ++row) {
+        const auto index = static_cast<std::size_t>(row);
+        channels += HasChannel(image, row) ? 1 : 0;
+        enabled += image.MemEnable[index] ? 1 : 0;
+        skipped += IsSkipped(image, row) ? 1 : 0;
+        notes += image.MemText[index][kNote].empty() ? 0 : 1;
+    }
+    std::vector<std::string> cells = {name};
+    for (const int count : {rows.count, channels, enabled, skipped, notes})
+        cells.push_back(std::to_string(count));
+    return cells;
+}
+
+void PrintGroups(const CloneImage& image, std::ostream& out)
+{
+    TextTable table;
+    table.AddRow({"", "Rows", "Channels", "On", "Skipped", "Notes"});
+    for (int selector = 0; selector < kSelectorEntries; ++selector) {
+        const RowRange rows = GroupRows(image, selector);
+        if (selector == kSelectProgramScan) {
+            const int used = TotalBankSize(image);
+            table.AddRow(Summary(image, "In no bank", {used, kBankRows - used}));
+        }
+        if (rows.count > 0)
+            table.AddRow(Summary(image, SelectorText(selector), rows));
+    }
+    table.Print(out);
+}
+
+void PrintContents(const CloneImage& image, std::ostream& out)
+{
+    const auto isNote = [](const ChannelTexts& texts) { return !texts[kNote].empty(); };
+    const SettingText model = SettingTexts(image.Settings).front();
+    out << model.caption << ": " << model.value << " (region " << image.ModelNo() << ")\n";
+    out << "VFO bands: " << BandCount(image.ModelNo())
+        << ", notes: " << std::count_if(image.VFOText.begin(), image.VFOText.end(), isNote) << '\n';
+    out << "Linked banks:";
+    for (std::size_t bank = 0; bank < kBanks; ++bank)
+        if (image.BankLink[bank])
+            out << ' ' << bank;
+    const bool hasLinks = std::find(image.BankLink.begin(), image.BankLink.begin() + kBanks, true) !=
+                          image.BankLink.begin() + kBanks;
+    out << (hasLinks ? "\n" : " none\n");
+    PrintGroups(image, out);
+}
+
+/// What a program that is stricter than this one would stumble over.
+void WarnOfForm(std::string_view bytes, Console& console)
+{
+    for (std::size_t at = bytes.find('\n'); at != std::string_view::npos; at = bytes.find('\n', at + 1))
+        if (at == 0 || bytes[at - 1] != '\r') {
+            Warn(console, "lines end in LF in place of CR LF; this program reads them, another may not", {});
+            break;
+        }
+    const std::size_t end = bytes.rfind(FileEnd);
+    if (end != std::string_view::npos &&
+        bytes.find_first_not_of("\r\n", end + FileEnd.size()) != std::string_view::npos)
+        Warn(console, "there is text behind the last line; a save drops it", {});
+}
+
+void WarnOfNotes(const CloneImage& image, Console& console)
+{
+    const std::vector<std::string> lost = NotesThatDoNotSurvive(image);
+    if (!lost.empty())
+        Warn(console, "a save loses these notes; take commas and quotes out of them:", lost);
+    const std::vector<std::string> formulas = NotesThatLookLikeFormulas(image);
+    if (!formulas.empty())
+        Warn(console, "exported as CSV, a spreadsheet would run these notes as formulas:", formulas);
+}
+
+}  // namespace
+
+Status RunCheck(const Arguments& arguments, Console& console)
+{
+    CloneImage image;
+    std::string bytes;
+    auto problem = Load(arguments[0], image);
+    if (!problem)
+        problem = ReadWholeFile(PathOf(arguments[0]), bytes);
+    if (problem)
+        return Fail(console, *problem);
+    console.out << VisibleText(arguments[0]) << " is whole.\n";
+    PrintContents(image, console.out);
+    WarnOfForm(bytes, console);
+    WarnOfNotes(image, console);
+    return Status::Done;
+}
+
+}  // namespace rqm5

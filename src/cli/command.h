@@ -1,0 +1,55 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "cli/arguments.h"
+#include "cli/console.h"
+#include "image/clone_image.h"
+#include "link/transfer_scope.h"
+
+namespace rqm5 {
+
+/// One command of the program. A new one takes a handler and a row in the table of commands.
+struct Command
+{
+    std::string_view name;
+    std::string_view summary;  ///< one line
+    std::string_view details;  ///< what a user needs to know beyond the options
+    std::span<const Operand> operands;
+    std::span<const Option> options;
+    Status (*run)(const Arguments& arguments, Console& console);
+
+    /// What is wrong with arguments that are right one by one; empty when nothing is. May be null.
+    std::string (*conflict)(const Arguments& arguments) = nullptr;
+};
+
+/// Every command, in the order of the help text.
+std::span<const Command> Commands();
+
+/// Null when there is no such command.
+const Command* FindCommand(std::string_view name);
+
+class ReceiverSession;
+
+/// Lists each block that a write of this scope would not have left in the receiver.
+/// \param aftermath  what it means when the comparison itself fails
+Status CompareWithReceiver(const CloneImage& image, const TransferScope& scope, ReceiverSession& session,
+                           Console& console, const std::string& aftermath);
+
+// The handlers.
+Status RunNew(const Arguments& arguments, Console& console);
+Status RunRead(const Arguments& arguments, Console& console);
+Status RunWrite(const Arguments& arguments, Console& console);
+Status RunVerify(const Arguments& arguments, Console& console);
+Status RunExport(const Arguments& arguments, Console& console);
+Status RunImport(const Arguments& arguments, Console& console);
+Status RunPrint(const Arguments& arguments, Console& console);
+Status RunShow(const Arguments& arguments, Console& console);
+Status RunCheck(const Arguments& arguments, Console& console);
+Status RunDiff(const Arguments& arguments, Console& console);
+Status RunPorts(const Arguments& arguments, Console& console);
+Status RunRaw(const Arguments& arguments, Console& console);
+
+}  // namespace rqm5

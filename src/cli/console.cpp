@@ -1,0 +1,30 @@
+#include "cli/console.h"
+
+#include <ostream>
+
+#include "image/display_text.h"
+
+namespace rqm5 {
+
+void Report(Console& console, const Problem& problem)
+{
+    console.err << VisibleText(problem.text) << ": " << VisibleText(problem.details);
+    if (!problem.aftermath.empty())
+        console.err << ' ' << VisibleText(problem.aftermath);
+    console.err << '\n';
+}
+
+Status Fail(Console& console, const Problem& problem)
+{
+    Report(console, problem);
+    return Status::Failed;
+}
+
+void Warn(Console& console, std::string_view text, const std::vector<std::string>& rows)
+{
+    console.err << "Warning: " << VisibleText(text) << '\n';
+    for (const std::string& row : rows)
+        console.err << "  " << VisibleText(row) << '\n';
+}
+
+}  // namespace rqm5

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "image/problem.h"
+
+namespace rqm5 {
+
+/// How a command ended; the number is the exit status of the program.
+enum class Status { Done = 0, Failed = 1, WrongUsage = 2 };
+
+/// Where a command writes to.
+struct Console
+{
+    std::ostream& out;
+    std::ostream& err;
+    int progressColumns = 0;  ///< width of the terminal behind err; 0 when it is none, so no progress bar
+};
+
+/// One line on err: the fixed text, a colon, the details, all of it as visible characters.
+void Report(Console& console, const Problem& problem);
+
+/// Reports the problem and is the status of a failed command.
+Status Fail(Console& console, const Problem& problem);
+
+/// "Warning: ..." on err, for what does not fail the command; each of the rows on a line below.
+void Warn(Console& console, std::string_view text, const std::vector<std::string>& rows);
+
+}  // namespace rqm5

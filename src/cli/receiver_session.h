@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "cli/arguments.h"
+#include "cli/console.h"
+#include "cli/interrupt.h"
+#include "cli/progress_bar.h"
+#include "link/qt_serial_port.h"
+#include "link/radio_link.h"
+
+namespace rqm5 {
+
+/// An event loop for a program that has none yet: the serial port needs one, the other commands start
+/// faster without.
+class EventLoopHost
+{
+  public:
+    EventLoopHost();
+    EventLoopHost(const EventLoopHost&) = delete;
+    EventLoopHost& operator=(const EventLoopHost&) = delete;
+
+  private:
+    // The application keeps referring to them.
+    int argumentCount_ = 1;
+    char programName_[6] = "rq-m5";
+    char* argumentList_[2] = {programName_, nullptr};
+    std::optional<QCoreApplication> application_;
+};
+
+/// A receiver at a port for the length of one command. Ctrl-C cancels what runs.
+class ReceiverSession
+{
+  public:
+    /// The port that --port or RQ-M5.ini says. It is opened by the first transfer.
+    ReceiverSession(const Arguments& arguments, Console& console);
+
+    RadioLink& Link() { return link_; }
+    ProgressBar& Observer() { return progress_; }
+
+    /// What the command ends with after a transfer. Says so when it was cancelled; failures were
+    /// reported when they happened.
+    Status Finish(TransferResult result);
+
+  private:
+    EventLoopHost host_;
+    Console& console_;
+    ProgressBar progress_;
+    QtSerialPort port_;
+    RadioLink link_;
+    Interrupt interrupt_;
+};
+
+}  // namespace rqm5

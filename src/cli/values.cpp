@@ -1,0 +1,110 @@
+#include "cli/values.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+#include "cli/did_you_mean.h"
+#include "link/com_ports.h"
+#include "memory/bank_layout.h"
+
+namespace rqm5 {
+namespace {
+
+constexpr std::array<std::string_view, 4> kGroupWords = {"program-scan", "search-pass", "priority", "all"};
+constexpr std::array<std::string_view, 2> kScopeWords = {"settings", "memory"};
+constexpr std::array<std::string_view, 2> kPaperWords = {"a4", "letter"};
+
+bool IsNumber(std::string_view text)
+{
+    const std::size_t sign = !text.empty() && (text.front() == '-' || text.front() == '+') ? 1 : 0;
+    return text.size() > sign && text.find_first_not_of("0123456789", sign) == std::string_view::npos;
+}
+
+}  // namespace
+
+std::optional<int> ReadNumberIn(std::string_view text, int lowest, int highest)
+{
+    int number = 0;
+    const char* end = text.data() + text.size();
+    const bool isDigits = text.find_first_not_of("0123456789") == std::string_view::npos;
+    if (!isDigits || std::from_chars(text.data(), end, number).ec != std::errc())
+        return std::nullopt;
+    return number >= lowest && number <= highest ? std::optional<int>(number) : std::nullopt;
+}
+
+std::optional<int> ReadSelector(std::string_view text)
+{
+    const int group = IndexOf(kGroupWords, text);
+    if (group >= 0)
+        return kSelectProgramScan + group;
+    return ReadNumberIn(text, 0, kBanks - 1);
+}
+
+std::string RegionFault(std::string_view text)
+{
+    return ReadNumberIn(text, 0, kRegions - 1) ? "" : "regions are 0 to 3";
+}
+
+std::string PortNumberFault(std::string_view text)
+{
+    const bool isTaken = !IsNumber(text) || ReadNumberIn(text, 1, kComPorts);
+    return isTaken ? "" : "port numbers are 1 to 14; a device path such as /dev/ttyUSB0 is taken too";
+}
+
+std::string ScopeFault(std::string_view text)
+{
+    return IndexOf(kScopeWords, text) >= 0 ? "" : "it is settings or memory" + DidYouMean(text, kScopeWords);
+}
+
+std::string SelectorFault(std::string_view text)
+{
+    if (ReadSelector(text))
+        return {};
+    const std::string hint = IsNumber(text) ? std::string() : DidYouMean(text, kGroupWords);
+    return "it is a bank 0 to 49, program-scan, search-pass, priority or all" + hint;
+}
+
+std::string PaperFault(std::string_view text)
+{
+    return IndexOf(kPaperWords, text) >= 0 ? "" : "it is a4 or letter" + DidYouMean(text, kPaperWords);
+}
+
+std::string FileNameFault(std::string_view text)
+{
+    return text.empty() ? "the name of a file is missing" : "";
+}
+
+TransferScope ScopeOf(const Arguments& arguments)
+{
+    const std::string only = arguments.Value("--only");
+    return {only != "memory", only != "settings", SelectorOf(arguments)};
+}
+
+std::string ScopeConflict(const Arguments& arguments)
+{
+    const bool isConflict = arguments.Value("--only") == "settings" && arguments.Has("--bank");
+    return isConflict ? "--bank chooses channels, and --only settings leaves them out" : "";
+}
+
+std::string PrintConflict(const Arguments& arguments)
+{
+    const bool isChosen = arguments.Has("--settings") || arguments.Has("--vfo");
+    const bool hasMemory = arguments.Has("--memory") || !isChosen;
+    for (const char* option : {"--bank", "--empty"})
+        if (arguments.Has(option) && !hasMemory)
+            return std::string(option) + " is about channels, which are not printed; add --memory";
+    for (const char* option : {"--paper", "--landscape"})
+        if (arguments.Has(option) && !arguments.Has("--pdf"))
+            return std::string(option) + " is about the pages of a PDF; add --pdf";
+    return arguments.Has("--pdf") && arguments.Value("--pdf") == arguments[0]
+               ? "both names are the same file, which would be replaced"
+               : "";
+}
+
+int SelectorOf(const Arguments& arguments)
+{
+    return ReadSelector(arguments.Value("--bank", "all")).value_or(kSelectAll);
+}
+
+}  // namespace rqm5

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "cli/arguments.h"
+#include "link/expected_memory.h"
+
+namespace rqm5 {
+
+/// Digits only, as a number from lowest to highest.
+std::optional<int> ReadNumberIn(std::string_view text, int lowest, int highest);
+
+/// A bank 0 to 49, "program-scan", "search-pass", "priority" or "all", as a selector index.
+std::optional<int> ReadSelector(std::string_view text);
+
+// Why a value of this kind is refused; empty when it is taken.
+std::string RegionFault(std::string_view text);
+std::string PortNumberFault(std::string_view text);
+std::string ScopeFault(std::string_view text);
+std::string SelectorFault(std::string_view text);
+std::string PaperFault(std::string_view text);
+std::string FileNameFault(std::string_view text);
+
+/// What --only and --bank ask for.
+TransferScope ScopeOf(const Arguments& arguments);
+
+/// A bank cannot be chosen when no memory is transferred.
+std::string ScopeConflict(const Arguments& arguments);
+
+/// What print does not print cannot be chosen, and a terminal has no paper.
+std::string PrintConflict(const Arguments& arguments);
+
+/// The selector that --bank asks for; all without it.
+int SelectorOf(const Arguments& arguments);
+
+}  // namespace rqm5

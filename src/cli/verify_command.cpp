@@ -1,0 +1,38 @@
+#include <ostream>
+
+#include "cli/clone_files.h"
+#include "cli/command.h"
+#include "cli/receiver_session.h"
+#include "cli/text_table.h"
+#include "cli/values.h"
+#include "link/forwarding_observer.h"
+#include "link/receiver_checks.h"
+
+namespace rqm5 {
+
+Status CompareWithReceiver(const CloneImage& image, const TransferScope& scope, ReceiverSession& session,
+                           Console& console, const std::string& aftermath)
+{
+    const std::vector<ExpectedBlock> expected = ExpectedAfterWrite(image, scope);
+    session.Observer().Begin(static_cast<int>(expected.size()));
+    std::vector<BlockDifference> differences;
+    AftermathObserver observer(session.Observer(), aftermath);
+    const Status status = session.Finish(ReadBack(expected, session.Link(), observer, differences));
+    TextTable table;
+    for (const auto& [block, read] : differences)
+        table.AddRow({HexAddress(block.address), block.label, "expected " + block.contents.String(),
+                      "receiver " + read.String()});
+    table.Print(console.out);
+    return differences.empty() ? status : Status::Failed;
+}
+
+Status RunVerify(const Arguments& arguments, Console& console)
+{
+    CloneImage image;
+    if (const auto problem = Load(arguments[0], image))
+        return Fail(console, *problem);
+    ReceiverSession session(arguments, console);
+    return CompareWithReceiver(image, ScopeOf(arguments), session, console, {});
+}
+
+}  // namespace rqm5

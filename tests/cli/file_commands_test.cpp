@@ -1,0 +1,175 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include "cli/command_run.h"
+#include "files/clone_file.h"
+#include "image/channel_record.h"
+#include "memory/start_image.h"
+#include "simulator/demo_image.h"
+
+namespace rqm5 {
+namespace {
+
+std::string DemoFile()
+{
+    CloneImage image = DemoImage(0);
+    return FormatCloneFile(image);
+}
+
+void ExpectFailure(const Words& words, const char* begin, const std::string& part)
+{
+    const RunResult run = RunProgramFile(words);
+    EXPECT_EQ(run.status, 1) << part;
+    EXPECT_TRUE(run.err.starts_with(begin)) << run.err;
+    EXPECT_TRUE(Has(run.err, part)) << run.err;
+}
+
+TEST(NewCommand, WritesTheImageOfARegionAndReplacesOnlyWhenForced)
+{
+    const Folder folder;
+    const std::string file = folder / "a b\n\".RQ5";
+    EXPECT_EQ(RunProgramFile({"new", "--region", "2", file}).status, 0);
+    CloneImage started = StartUpImage(2);
+    EXPECT_EQ(Bytes(file), FormatCloneFile(started));
+
+    const std::string before = Bytes(file);
+    ExpectFailure({"new", file, "--empty"}, "File Open Error: ", "--force");
+    EXPECT_EQ(Bytes(file), before);
+    EXPECT_EQ(RunProgramFile({"new", file, "--empty", "--force"}).status, 0);
+    CloneImage emptied = StartUpImage(0);
+    NewImage(emptied);
+    EXPECT_EQ(Bytes(file), FormatCloneFile(emptied));
+}
+
+TEST(FileCommands, RefuseWhatIsNoCloneFileAndSayWhy)
+{
+    const Folder folder;
+    const std::string bad = folder / "bad.RQ5";
+    const std::string good = folder / "good.RQ5";
+    PutBytes(good, DemoFile());
+    PutBytes(bad, DemoFile().replace(34 * 3 + 5, 1, ""));
+    for (const char* command : {"check", "show"}) {
+        ExpectFailure({command, bad}, "Data Error: ", "4");
+        ExpectFailure({command, folder / "none.RQ5"}, "File Open Error: ", "none.RQ5");
+        ExpectFailure({command, folder / "."}, "File Open Error: ", "");
+    }
+    ExpectFailure({"export", bad, folder / "out.csv"}, "Data Error: ", "4");
+    EXPECT_EQ(access((folder / "out.csv").c_str(), F_OK), -1);
+    ExpectFailure({"export", good, folder / "no/out.csv"}, "File Open Error: ", "out.csv");
+    ExpectFailure({"export", good, folder / "./good.RQ5"}, "File Open Error: ", "the same file");
+    EXPECT_EQ(Bytes(good), DemoFile());
+    ExpectFailure({"diff", good, bad}, "Data Error: ", "4");
+    ExpectFailure({"new", folder / "no/x.RQ5"}, "File Open Error: ", "x.RQ5");
+    ExpectFailure({"write", "--port", "3", bad}, "Data Error: ", "4");
+    // Found out before anything is read from the port, which is not there.
+    ExpectFailure({"read", "--port", "/dev/none", bad}, "Data Error: ", "4");
+    ExpectFailure({"read", "--port", "/dev/none", folder / "no/x.RQ5"},
+                  "File Open Error: ", "/no does not exist");
+}
+
+TEST(FileCommands, FailWhenTheOutputHasNoRoom)
+{
+    const Folder folder;
+    const std::string file = folder / "a.RQ5";
+    PutBytes(file, DemoFile());
+    const std::string program = "\"" RQM5_PROGRAM "\" ";
+    const RunResult full = RunShell(program + "show '" + file + "' > /dev/full");
+    EXPECT_EQ(full.status, 1);
+    EXPECT_TRUE(Has(full.err, "could not be written")) << full.err;
+    const RunResult limited = RunShell("ulimit -f 8; " + program + "new --force '" + file + "'");
+    EXPECT_EQ(limited.status, 1);
+    EXPECT_TRUE(limited.err.starts_with("File Open Error: ")) << limited.err;
+    EXPECT_EQ(Bytes(file), DemoFile());
+}
+
+TEST(ImportCommand, TakesRowsIntoAFileOrANewOneAndNamesNotesThatAreLost)
+{
+    const Folder folder;
+    const std::string file = folder / "a.RQ5";
+    const std::string csv = folder / "rows.csv";
+    const std::string junk = folder / "junk.csv";
+    PutBytes(csv, CsvRecord("MEMORY", 7, "145.5", "東京"));
+    PutBytes(junk, DemoFile());
+    ExpectFailure({"import", junk, file}, "Data Error: ", "no record");
+    EXPECT_EQ(access(file.c_str(), F_OK), -1);
+    EXPECT_EQ(RunProgramFile({"import", csv, file}).status, 0);
+    EXPECT_TRUE(Has(RunProgramFile({"show", file, "--bank", "0"}).out, "145.500000  AM    5KHz  OFF     "));
+    const std::string before = Bytes(file);
+    ExpectFailure({"import", junk, file}, "Data Error: ", "no record");
+    ExpectFailure({"import", folder / "none.csv", file}, "File Open Error: ", "none.csv");
+    EXPECT_EQ(Bytes(file), before);
+
+    PutBytes(csv, CsvRecord("PRIORITY", 3, "145.5", "home, sweet"));
+    ExpectFailure({"import", csv, file}, "Data Error: ", "Pr3");
+    EXPECT_TRUE(Has(Bytes(file), "home, sweet\r\n"));
+}
+
+TEST(ShowCommand, PrintsTheTableOfAGroupInColumns)
+{
+    const Folder folder;
+    const std::string file = folder / "a.RQ5";
+    CloneImage image = StartUpImage(1);
+    for (const int row : {1200, 1201}) {
+        DecodeMemoryBlock(image, MemoryBlock("01455000000000080000001000600000"), row);
+        image.MemText[static_cast<std::size_t>(row)][kNote] = row == 1200 ? "東京" : "x\x1b[2J";
+    }
+    image.MemEnable[1200] = true;
+    SetBankSize(image, 49, 0);
+    PutBytes(file, FormatCloneFile(image));
+    const std::string out = RunProgramFile({"show", "--bank", "priority", file}).out;
+    EXPECT_TRUE(Has(out, "Priority, 10 rows"));
+    EXPECT_TRUE(
+        Has(out,
+            "       Frequency   Mode  Step  Option  Skip  Carrier  Tone    Shift   ShiftFreq.  Note\n"
+            "   1   145.500000  FM    9KHz  OFF     *     300Hz    67.0Hz  +Shift  0.600000    東京\n"
+            "-  2   145.500000  FM    9KHz  OFF     *     300Hz    67.0Hz  +Shift  0.600000    x\\x1B[2J\n"))
+        << out;
+    const std::string all = RunProgramFile({"show", file}).out;
+    EXPECT_EQ(std::count(all.begin(), all.end(), '\n'), 1212);
+    EXPECT_TRUE(Has(all, "   Pr0  145.500000"));
+    const std::string none = RunProgramFile({"show", "--bank=49", file}).out;
+    EXPECT_EQ(std::count(none.begin(), none.end(), '\n'), 2);
+}
+
+TEST(CheckCommand, SaysWhatAFileHoldsAndWarns)
+{
+    const Folder folder;
+    const std::string file = folder / "a.RQ5";
+    CloneImage image = StartUpImage(3);
+    DecodeMemoryBlock(image, MemoryBlock("01455000000000080000001000600000"), 205);
+    image.MemText[205][kNote] = "=1+1";
+    image.MemEnable[205] = image.BankLink[4] = true;
+    std::string bytes = FormatCloneFile(image);
+    PutBytes(file, bytes);
+    const RunResult run = RunProgramFile({"check", file});
+    EXPECT_EQ(run.status, 0);
+    for (const char* part : {" is whole.\nModel: RQ-M5 K (region 3)\n", "Linked banks: 4\n",
+                             "\nBank 1        150   1         1   1        1\n"})
+        EXPECT_TRUE(Has(run.out, part)) << run.out;
+    EXPECT_TRUE(Has(run.err, "formulas:\n  memory row 205") && !Has(run.err, "LF")) << run.err;
+
+    std::erase(bytes, '\r');
+    PutBytes(file, bytes + "more");
+    const RunResult odd = RunProgramFile({"check", file});
+    EXPECT_EQ(odd.status, 0);
+    EXPECT_TRUE(Has(odd.err, "LF in place of CR LF") && Has(odd.err, "behind the last line")) << odd.err;
+}
+
+TEST(DiffCommand, NamesWhatDiffersAndIsSilentOtherwise)
+{
+    const Folder folder;
+    CloneImage image = DemoImage(0);
+    PutBytes(folder / "a.RQ5", DemoFile());
+    const RunResult same = RunProgramFile({"diff", folder / "a.RQ5", folder / "a.RQ5"});
+    EXPECT_TRUE(same.status == 0 && same.out.empty()) << same.out;
+    image.Settings.volume = 17;
+    image.MemText[3][kNote] = "changed";
+    PutBytes(folder / "b.RQ5", FormatCloneFile(image));
+    const RunResult run = RunProgramFile({"diff", folder / "a.RQ5", folder / "b.RQ5"});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_TRUE(Has(run.out, "Volume") && Has(run.out, "changed")) << run.out;
+    EXPECT_EQ(std::count(run.out.begin(), run.out.end(), '\n'), 2) << run.out;
+}
+
+}  // namespace
+}  // namespace rqm5

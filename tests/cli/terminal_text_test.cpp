@@ -1,0 +1,57 @@
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "cli/progress_bar.h"
+#include "image/display_text.h"
+
+namespace rqm5 {
+namespace {
+
+using std::chrono::seconds;
+
+TEST(DisplayText, CountsColumnsNotBytesAndMakesVisibleWhatATerminalWouldObey)
+{
+    EXPECT_EQ(VisibleText("a\r\n\t\x1b[2J\x7f"), "a\\r\\n\\t\\x1B[2J\\x7F");
+    EXPECT_EQ(VisibleText("\u202Egnp.exe \u0085"), "\\u202Egnp.exe \\u0085");
+    EXPECT_EQ(VisibleText("\xC0\xAF \xED\xA0\x80 \xE3\x81"), "\\xC0\\xAF \\xED\\xA0\\x80 \\xE3\\x81");
+    EXPECT_EQ(VisibleText("日本 é 😀"), "日本 é 😀");
+    EXPECT_EQ(DisplayWidth("日本é") + DisplayWidth("e\u0301ｱ"), 5 + 2);
+    EXPECT_EQ(PadToWidth("東", 4), "東  ");
+    EXPECT_EQ(CutToWidth("a東b", 2), "a");
+}
+
+TEST(ProgressLine, ShowsRowPercentageAndTimeInTheRoomThereIs)
+{
+    EXPECT_EQ(ProgressLine(605, 1210, 604, seconds(84), 79),
+              "[####################....................]  50 %  row  604  1:24 left");
+    EXPECT_EQ(ProgressLine(1, 4, -1, seconds(9), 30), "[##.........]  25 %  0:09 left");
+    EXPECT_EQ(ProgressLine(1, 4, -1, std::nullopt, 30), "[#####.................]  25 %");
+    EXPECT_EQ(ProgressLine(9, 4, -1, seconds(0), 8), "100 %  0");
+    EXPECT_EQ(ProgressLine(0, 0, -1, seconds(0), 0), "");
+}
+
+TEST(ProgressBar, SaysNothingWithoutATerminalAndRepeatsNoMessage)
+{
+    std::ostringstream out;
+    std::ostringstream err;
+    Console console{out, err, 0};
+    ProgressBar bar(console);
+    bar.Begin(2);
+    bar.BlockDone(0x1000, false);
+    EXPECT_EQ(err.str(), "");
+    bar.Message({kComPortError, "gone"});
+    bar.Message({kComPortError, "gone"});
+    EXPECT_EQ(err.str(), "COM Port Error: gone\n");
+
+    console.progressColumns = 40;
+    ProgressBar onTerminal(console);
+    onTerminal.Begin(2);
+    onTerminal.BlockDone(0x1000, false);
+    EXPECT_TRUE(err.str().find("50 %") != std::string::npos) << err.str();
+    onTerminal.Clear();
+    EXPECT_EQ(err.str().back(), '\r');
+}
+
+}  // namespace
+}  // namespace rqm5

@@ -1,0 +1,259 @@
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <future>
+
+#include "cli/command_run.h"
+#include "files/clone_file.h"
+#include "memory/start_image.h"
+#include "simulator/demo_image.h"
+#include "simulator/sim_session.h"
+
+namespace rqm5 {
+namespace {
+
+SimOptions Demo(std::vector<Fault> faults = {})
+{
+    SimOptions options;
+    options.memory = MemoryFromImage(DemoImage(0));
+    options.faults = std::move(faults);
+    return options;
+}
+
+RunResult Transfer(const char* command, const SimSession& receiver, const std::string& file, Words more = {})
+{
+    more.insert(more.begin(), {command, "--port", receiver.Device().toStdString(), file});
+    return RunProgramFile(more);
+}
+
+void ExpectOneLine(const RunResult& run, const std::string& message)
+{
+    EXPECT_EQ(run.status, 1) << message;
+    EXPECT_TRUE(run.err.starts_with(message)) << run.err;
+    EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
+}
+
+TEST(Transfers, ReadChangeWriteAndVerifyTheWholeMemory)
+{
+    const Folder folder;
+    const std::string file = folder / "radio.RQ5";
+    const std::string csv = folder / "radio.csv";
+    SimSession receiver(Demo());
+    const RunResult read = Transfer("read", receiver, file);
+    EXPECT_TRUE(read.status == 0 && read.err.empty()) << read.err;
+    const RunResult same = Transfer("verify", receiver, file);
+    EXPECT_TRUE(same.status == 0 && (same.out + same.err).empty()) << same.out << same.err;
+
+    PutBytes(csv, CsvRecord("SEARCH PASS", 7, "145.625", "new"));
+    EXPECT_EQ(RunProgramFile({"import", csv, file}).status, 0);
+    const RunResult differs = Transfer("verify", receiver, file);
+    EXPECT_EQ(differs.status, 1);
+    EXPECT_TRUE(Has("\n" + differs.out, "\n5530  ") && Has(differs.out, "expected 0145625000"))
+        << differs.out;
+
+    EXPECT_EQ(Transfer("write", receiver, file).status, 0);
+    EXPECT_EQ(receiver.Memory().At(0x5530).Text().substr(0, 10), "0145625000");
+    EXPECT_EQ(Transfer("verify", receiver, file).status, 0);
+    // Notes are only in files: a second read keeps them.
+    EXPECT_EQ(Transfer("read", receiver, file).status, 0);
+    EXPECT_TRUE(Has(Bytes(file), "\r\nnew\r\n"));
+}
+
+TEST(Transfers, MoveOnlyWhatIsAskedFor)
+{
+    const Folder folder;
+    const std::string file = folder / "radio.RQ5";
+    CloneImage image = StartUpImage(0);
+    PutBytes(file, FormatCloneFile(image));
+    SimSession receiver(Demo());
+    const ReceiverMemory before = receiver.Memory();
+    const Words priority = {"--only", "memory", "--bank", "priority"};
+    EXPECT_EQ(Transfer("write", receiver, file, priority).status, 0);
+    const ReceiverMemory after = receiver.Memory();
+    EXPECT_TRUE(after.At(0x0040) == before.At(0x0040) && after.At(0x1000) == before.At(0x1000));
+    EXPECT_EQ(after.At(0x5B00), MemoryFromImage(image).At(0x5B00));
+    EXPECT_EQ(Transfer("verify", receiver, file, priority).status, 0);
+    receiver.ClearCommandLog();
+    EXPECT_EQ(Transfer("read", receiver, file, {"--only=settings"}).status, 0);
+    EXPECT_EQ(receiver.CommandLog().size(), 16U);
+}
+
+TEST(Transfers, AFailedReadLeavesTheFileUntouched)
+{
+    const std::pair<Fault, const char*> kCases[] = {
+        {{FaultKind::Garble, 10, 0, 700}, "Communication Error: "},
+        {{FaultKind::Garble, 10, 0, 3}, "Communication Error: Block 0"},
+        {{FaultKind::HangUp, 1, 0, 700}, "COM Port Error: "},
+    };
+    for (const auto& [fault, message] : kCases) {
+        const Folder folder;
+        const std::string file = folder / "radio.RQ5";
+        EXPECT_EQ(RunProgramFile({"new", "--region", "1", file}).status, 0);
+        const std::string before = Bytes(file);
+        const SimSession receiver(Demo({fault}));
+        ExpectOneLine(Transfer("read", receiver, file), message);
+        EXPECT_EQ(Bytes(file), before) << message;
+        // A settings part that failed is not followed by a minute of memory that nobody keeps.
+        EXPECT_LT(receiver.CommandLog().size(), 711U);
+    }
+}
+
+TEST(Transfers, AFaultEndsEachCommandWithItsMessageAndTheNextOneWorks)
+{
+    const Folder folder;
+    const std::string file = folder / "radio.RQ5";
+    SimOptions options = Demo();
+    options.link = folder / "port";
+    SimSession receiver(options);
+    ASSERT_EQ(Transfer("read", receiver, file).status, 0);
+    const std::string before = Bytes(file);
+    const std::pair<Words, FaultKind> kCommands[] = {{{"read", file}, FaultKind::Garble},
+                                                     {{"write", file}, FaultKind::Ng},
+                                                     {{"verify", file}, FaultKind::Garble},
+                                                     {{"raw", "1000"}, FaultKind::Garble}};
+    for (const auto& [command, badReply] : kCommands)
+        for (const bool hangsUp : {false, true}) {
+            const bool isWrite = command[0] == "write";
+            receiver.SetFaults({{.kind = hangsUp ? FaultKind::HangUp : badReply,
+                                 .count = hangsUp ? 1 : 10,
+                                 .after = command[0] == "raw" ? 0 : 100}});
+            const RunResult run = Transfer(command[0].c_str(), receiver, command[1]);
+            EXPECT_EQ(run.status, 1) << command[0];
+            EXPECT_TRUE(run.err.starts_with(hangsUp ? "COM Port Error: " : "Communication Error: "))
+                << run.err;
+            EXPECT_EQ(Has(run.err, "Sent: settings, VFO bands, region presets, "), isWrite) << run.err;
+            EXPECT_EQ(Bytes(file), before) << command[0];
+            receiver.SetFaults({});
+            EXPECT_EQ(Transfer(command[0].c_str(), receiver, command[1]).status, 0) << "the fault is gone";
+        }
+}
+
+TEST(Write, KeepsABackupAndReadsBackWhenItIsAskedTo)
+{
+    const Folder folder;
+    const std::string file = folder / "radio.RQ5";
+    const std::string copy = folder / "copy.RQ5";
+    EXPECT_EQ(RunProgramFile({"new", "--region", "1", file}).status, 0);
+    SimSession receiver(Demo());
+    const ReceiverMemory before = receiver.Memory();
+    const RunResult run = Transfer("write", receiver, file, {"--backup", copy, "--verify"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out + run.err, "");
+    EXPECT_NE(receiver.Memory(), before);
+    // Nothing of the receiver is written before all of it has been read, or read back before all is written.
+    std::string order;
+    for (const std::string& command : receiver.CommandLog())
+        if (order.empty() || order.back() != command.at(8))
+            order += command.at(8);
+    EXPECT_EQ(order, "RWRWRWR");  // with the flags and the count that a write reads on its way
+
+    EXPECT_EQ(Transfer("write", receiver, copy, {"--verify"}).status, 0);
+    EXPECT_EQ(MemoryFromImage(ImageFromMemory(receiver.Memory(), {})),
+              MemoryFromImage(ImageFromMemory(before, {})));
+}
+
+TEST(Write, WithoutABackupThatWasAskedForNothingIsWritten)
+{
+    const Folder folder;
+    const std::string file = folder / "radio.RQ5";
+    EXPECT_EQ(RunProgramFile({"new", file}).status, 0);
+    const struct
+    {
+        std::string copy;
+        Fault fault;
+        const char* text;
+    } cases[] = {
+        {file, {}, "File Open Error"},
+        {folder / "none/copy.RQ5", {}, "does not exist"},
+        {folder / "copy.RQ5", {FaultKind::Garble, 10, 0, 30}, "Communication Error"},
+        {folder / "copy.RQ5", {FaultKind::HangUp, 1, 0, 30}, "COM Port Error"},
+    };
+    for (const auto& [copy, fault, text] : cases) {
+        const SimSession receiver(Demo({fault}));
+        const ReceiverMemory before = receiver.Memory();
+        const std::string bytes = Bytes(file);
+        const RunResult run = Transfer("write", receiver, file, {"--backup", copy});
+        EXPECT_EQ(run.status, 1);
+        EXPECT_TRUE(Has(run.err, text)) << run.err;
+        EXPECT_TRUE(Has(run.err, "nothing was written")) << run.err;
+        EXPECT_EQ(receiver.Memory(), before);
+        EXPECT_EQ(Bytes(file), bytes);
+        EXPECT_EQ(Bytes(folder / "copy.RQ5"), "");
+    }
+}
+
+TEST(Transfers, APortThatCannotBeUsedIsNamedWithItsRemedy)
+{
+    const Folder folder;
+    const std::string file = folder / "radio.RQ5";
+    EXPECT_EQ(RunProgramFile({"new", file}).status, 0);
+    for (const char* command : {"read", "write", "verify"})
+        for (const std::string& device : {std::string("/dev/no such port"), folder / "."})
+            ExpectOneLine(RunProgramFile({command, file, "--port", device}), "COM Port Error: " + device);
+}
+
+TEST(Transfers, ComNumbersStandForDevices)
+{
+    const SimSession receiver(Demo());
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("RQM5_COM14"), receiver.Device());
+    process.setProcessEnvironment(environment);
+    StartProgram(process, {"ports"});
+    const std::string ports = FinishProgram(process).out;
+    EXPECT_TRUE(Has(ports, "COM 14  " + receiver.Device().toStdString())) << ports;
+    EXPECT_TRUE(Has(ports, "can be opened")) << ports;
+    StartProgram(process, {"raw", "--port", "14", "1000"});
+    EXPECT_EQ(FinishProgram(process).status, 0);
+    EXPECT_EQ(receiver.CommandLog(), Words{"QT~F1000R"});
+}
+
+TEST(RawCommand, ShowsTheReplyAndWhatItMeans)
+{
+    SimOptions options = Demo();
+    options.memory.At(0x1010) = MemoryBlock("01455000000000080000001000600000");
+    SimSession receiver(options);
+    const RunResult run = Transfer("raw", receiver, "0x1010");
+    EXPECT_EQ(run.status, 0) << run.err;
+    for (const char* part :
+         {"QT~F1010R\\r\\r\\n01455000000000080000001000600000\\r\\n", "memory row 1\n", "145.500000"})
+        EXPECT_TRUE(Has(run.out, part)) << run.out;
+    receiver.SetFaults({{FaultKind::Garble, 1, 0, 0}});
+    const RunResult garbled = Transfer("raw", receiver, "0040");
+    ExpectOneLine(garbled, "Communication Error: Block 0040");
+    EXPECT_TRUE(Has(garbled.out, "Reply")) << garbled.out;
+}
+
+TEST(Transfers, CtrlCEndsThemCleanly)
+{
+    for (const char* command : {"read", "write", "verify"})
+        for (const int signal : {SIGINT, SIGTERM}) {
+            const Folder folder;
+            const std::string file = folder / "radio.RQ5";
+            EXPECT_EQ(RunProgramFile({"new", "--region", "1", file}).status, 0);
+            const std::string before = Bytes(file);
+            std::promise<void> isBusy;
+            int commands = 0;
+            SimOptions options = Demo();
+            options.baud = 9600;
+            options.onCommand = [&](const std::string&) {
+                if (++commands == 5)
+                    isBusy.set_value();
+            };
+            const SimSession receiver(options);
+            QProcess process;
+            StartProgram(process, {command, "--port", receiver.Device().toStdString(), file});
+            ASSERT_TRUE(process.waitForStarted());
+            isBusy.get_future().wait();
+            kill(static_cast<pid_t>(process.processId()), signal);
+            const RunResult run = FinishProgram(process);
+            EXPECT_EQ(run.status, 1) << command;
+            EXPECT_TRUE(run.err.starts_with("Cancelled.\n")) << run.err;
+            EXPECT_EQ(Has(run.err, "Not sent: "), std::string_view(command) == "write") << run.err;
+            EXPECT_EQ(Bytes(file), before) << command;
+            EXPECT_LT(receiver.CommandLog().size(), 100U) << command;
+        }
+}
+
+}  // namespace
+}  // namespace rqm5
