@@ -1,0 +1,221 @@
+#include "help/help_browser.h"
+
+#include <QDesktopServices>
+#include <QEvent>
+#include <QScreen>
+#include <QSplitter>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include "app/form_texts.h"
+#include "app/icons.h"
+#include "help/manual.h"
+
+namespace rqm5 {
+namespace {
+
+constexpr QSize kUsualSize(900, 640);
+constexpr int kListWidth = 240;
+constexpr QSize kWindowFrame(20, 60);  ///< more than title bar and borders take
+
+}  // namespace
+
+frmHelp::frmHelp(Dialogs& dialogs, QWidget* parent)
+    : QMainWindow(parent, Qt::Window),
+      dialogs_(dialogs),
+      brwPage_(new PageView(this)),
+      txtSearch_(new QLineEdit(this)),
+      lstPages_(new QListWidget(this))
+{
+    setObjectName(QStringLiteral("frmHelp"));
+    setWindowTitle(tr("Manual"));
+    setWindowIcon(ProgramIcon());
+    Compose();
+    AddTools();
+    connect(txtSearch_, &QLineEdit::textChanged, this, &frmHelp::txtSearch_Change);
+    connect(txtSearch_, &QLineEdit::returnPressed, this, &frmHelp::txtSearch_Enter);
+    connect(lstPages_, &QListWidget::itemClicked, this, &frmHelp::OpenItem);
+    connect(lstPages_, &QListWidget::itemActivated, this, &frmHelp::OpenItem);
+    connect(brwPage_, &QTextBrowser::historyChanged, this, &frmHelp::SelectCurrentPage);
+    connect(brwPage_, &PageView::ExternalLinkClicked, this, &frmHelp::AskToOpen);
+    FillContents();
+    SetFormTexts(*this);
+    const QSize wanted = kUsualSize.expandedTo(QSize(fontMetrics().averageCharWidth() * 110, 0));
+    resize(wanted.boundedTo(screen()->availableSize() - kWindowFrame));
+}
+
+void frmHelp::Compose()
+{
+    brwPage_->setObjectName(QStringLiteral("brwPage"));
+    brwPage_->setAccessibleName(tr("Page of the manual"));
+    txtSearch_->setObjectName(QStringLiteral("txtSearch"));
+    txtSearch_->setPlaceholderText(tr("Search the manual"));
+    txtSearch_->setAccessibleName(tr("Search the manual"));
+    txtSearch_->setToolTip(tr("Lists the pages that hold every word; Enter goes to the next place"));
+    txtSearch_->setClearButtonEnabled(true);
+    lstPages_->setObjectName(QStringLiteral("lstPages"));
+    lstPages_->setAccessibleName(tr("Pages"));
+
+    auto* left = new QWidget(this);
+    auto* column = new QVBoxLayout(left);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(txtSearch_);
+    column->addWidget(lstPages_);
+
+    auto* splitter = new QSplitter(this);
+    splitter->addWidget(left);
+    splitter->addWidget(brwPage_);
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes({kListWidth, kUsualSize.width() - kListWidth});
+    setCentralWidget(splitter);
+}
+
+QAction* frmHelp::AddTool(const char* name, const QString& text, const QString& icon,
+                          const QList<QKeySequence>& keys, std::function<void()> command)
+{
+    auto* action = new QAction(QIcon::fromTheme(icon), text, this);
+    action->setObjectName(QLatin1String(name));
+    action->setShortcuts(keys);
+    action->setToolTip(keys.isEmpty()
+                           ? text
+                           : text + QStringLiteral(" (") + keys.first().toString(QKeySequence::NativeText) +
+                                 QLatin1Char(')'));
+    connect(action, &QAction::triggered, this, std::move(command));
+    addAction(action);
+    return action;
+}
+
+void frmHelp::AddTools()
+{
+    QToolBar* tools = addToolBar(tr("Manual"));
+    tools->setObjectName(QStringLiteral("tbHelp"));
+    tools->setMovable(false);
+    tools->setContextMenuPolicy(Qt::PreventContextMenu);
+    tools->setToolButtonStyle(Qt::ToolButtonTextOnly);
+
+    QAction* back = AddTool("mnuBack", tr("Back"), QStringLiteral("go-previous"), {QKeySequence::Back},
+                            [this] { brwPage_->backward(); });
+    QAction* forward = AddTool("mnuForward", tr("Forward"), QStringLiteral("go-next"),
+                               {QKeySequence::Forward}, [this] { brwPage_->forward(); });
+    back->setEnabled(false);
+    forward->setEnabled(false);
+    connect(brwPage_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
+    connect(brwPage_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
+
+    tools->addActions({back, forward});
+    tools->addAction(AddTool("mnuContents", tr("Contents"), QStringLiteral("go-home"),
+                             {QKeySequence(Qt::ALT | Qt::Key_Home)},
+                             [this] { brwPage_->ShowTopic(QStringLiteral("index.md")); }));
+    tools->addSeparator();
+    // Ctrl+= is the plus key without Shift on many keyboards.
+    tools->addAction(AddTool("mnuLarger", tr("Larger Text"), QStringLiteral("zoom-in"),
+                             {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)},
+                             [this] { brwPage_->SetTextSize(brwPage_->TextSize() + 1); }));
+    tools->addAction(AddTool("mnuSmaller", tr("Smaller Text"), QStringLiteral("zoom-out"),
+                             {QKeySequence(Qt::CTRL | Qt::Key_Minus)},
+                             [this] { brwPage_->SetTextSize(brwPage_->TextSize() - 1); }));
+    AddTool("mnuUsualSize", tr("Usual Text Size"), QStringLiteral("zoom-original"),
+            {QKeySequence(Qt::CTRL | Qt::Key_0)}, [this] { brwPage_->SetTextSize(0); });
+    AddTool("mnuSearch", tr("Search"), QStringLiteral("edit-find"), {QKeySequence::Find}, [this] {
+        txtSearch_->setFocus();
+        txtSearch_->selectAll();
+    });
+    AddTool("mnuClose", tr("Close"), QStringLiteral("window-close"), {QKeySequence(Qt::Key_Escape)},
+            [this] { close(); });
+}
+
+void frmHelp::FillContents()
+{
+    const QString query = txtSearch_->text();
+    const bool isSearch = !QueryWords(query).isEmpty();
+    lstPages_->clear();
+    for (const ManualPage& page : isSearch ? SearchManual(query) : ManualPages()) {
+        auto* item = new QListWidgetItem(page.title, lstPages_);
+        item->setData(Qt::UserRole, page.file);
+    }
+    if (lstPages_->count() == 0) {
+        auto* nothing = new QListWidgetItem(tr("No page holds these words."), lstPages_);
+        nothing->setFlags(Qt::NoItemFlags);
+    }
+    SelectCurrentPage();
+}
+
+void frmHelp::SelectCurrentPage()
+{
+    for (int i = 0; i < lstPages_->count(); ++i) {
+        if (lstPages_->item(i)->data(Qt::UserRole).toString() == brwPage_->Page()) {
+            lstPages_->setCurrentRow(i);
+            return;
+        }
+    }
+    lstPages_->setCurrentItem(nullptr);
+    lstPages_->clearSelection();
+}
+
+void frmHelp::OpenItem(const QListWidgetItem* item)
+{
+    const QString page = item->data(Qt::UserRole).toString();
+    if (page.isEmpty() || page == brwPage_->Page())
+        return;
+    brwPage_->ShowTopic(page);
+    FindWord();
+}
+
+void frmHelp::txtSearch_Change()
+{
+    FillContents();
+    brwPage_->MarkWords(QueryWords(txtSearch_->text()));
+}
+
+void frmHelp::txtSearch_Enter()
+{
+    const QListWidgetItem* first = lstPages_->item(0);
+    if (first->flags() == Qt::NoItemFlags || txtSearch_->text().isEmpty())
+        return;
+    if (lstPages_->currentItem() == nullptr)
+        OpenItem(first);
+    else
+        FindWord();
+}
+
+/// Goes on to the next place where the first word of the search stands, and round to the beginning.
+void frmHelp::FindWord()
+{
+    const QStringList words = QueryWords(txtSearch_->text());
+    if (words.isEmpty() || brwPage_->find(words.first()))
+        return;
+    brwPage_->moveCursor(QTextCursor::Start);
+    brwPage_->find(words.first());
+}
+
+void frmHelp::AskToOpen(const QUrl& link)
+{
+    Prompt prompt;
+    prompt.title = tr("Open Link");
+    prompt.text = tr("This link leads out of the manual. Open it in the web browser?");
+    prompt.details = link.toDisplayString();
+    prompt.icon = QMessageBox::Question;
+    prompt.buttons = QMessageBox::Yes | QMessageBox::No;
+    prompt.defaultButton = QMessageBox::No;
+    if (dialogs_.Ask(this, prompt) == QMessageBox::Yes)
+        QDesktopServices::openUrl(link);
+}
+
+void frmHelp::ShowTopic(const QString& topic)
+{
+    // Shown first: where an anchor is depends on the width of the page.
+    isMinimized() ? showNormal() : show();
+    brwPage_->ShowTopic(topic);
+    raise();
+    activateWindow();
+    brwPage_->setFocus();
+}
+
+void frmHelp::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        SetFormTexts(*this);
+    QMainWindow::changeEvent(event);
+}
+
+}  // namespace rqm5

@@ -1,0 +1,71 @@
+#include "help/help_key.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QTabWidget>
+
+#include "help/help_topics.h"
+
+namespace rqm5 {
+namespace {
+
+/// The name of the page in front, which decides where nothing that has the focus does.
+QString FrontPage(const QObject& mainWindow)
+{
+    const auto* tabs = mainWindow.findChild<QTabWidget*>(QStringLiteral("TabStrip1"));
+    const QWidget* page = tabs != nullptr ? tabs->currentWidget() : nullptr;
+    return page != nullptr ? page->objectName() : QString();
+}
+
+QString TopicOfFocus(const QWidget* modal, const QObject& mainWindow)
+{
+    if (const auto* box = qobject_cast<const QMessageBox*>(modal))
+        return MessageTopic(box->text());
+    QStringList names;
+    for (const QObject* holder = QApplication::focusWidget(); holder != nullptr; holder = holder->parent())
+        names << holder->objectName();
+    if (modal == nullptr)
+        names << FrontPage(mainWindow);
+    return HelpTopic(names);
+}
+
+}  // namespace
+
+HelpKey::HelpKey(Dialogs& dialogs, QWidget& mainWindow) : QObject(&mainWindow), dialogs_(dialogs)
+{
+    QApplication::instance()->installEventFilter(this);
+}
+
+void HelpKey::ShowHelp()
+{
+    QWidget* modal = QApplication::activeModalWidget();
+    const QString topic = TopicOfFocus(modal, *parent());
+    HelpFor(modal).ShowTopic(topic);
+}
+
+/// A modal dialog blocks every window but its own children.
+frmHelp& HelpKey::HelpFor(QWidget* modal)
+{
+    if (modal == nullptr) {
+        if (!help_)
+            help_ = std::make_unique<frmHelp>(dialogs_, nullptr);
+        return *help_;
+    }
+    auto* help = modal->findChild<frmHelp*>(QString(), Qt::FindDirectChildrenOnly);
+    return help != nullptr ? *help : *new frmHelp(dialogs_, modal);
+}
+
+bool HelpKey::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress || !watched->isWidgetType())
+        return false;
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    if (key.key() != Qt::Key_F1 || key.modifiers() != Qt::NoModifier)
+        return false;
+    event->accept();  // else it goes on to what holds the control, and help would be asked for again
+    ShowHelp();
+    return true;
+}
+
+}  // namespace rqm5

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace rqm5 {
+
+/// A page of the manual, which is compiled into the program.
+struct ManualPage
+{
+    QString file;  ///< "first-steps.md"
+    QString title;
+    QString text;  ///< Markdown
+};
+
+/// Where the manual lies among the program's resources.
+inline constexpr char kManualFolder[] = ":/help/manual/";
+
+/// Every page, in the order in which the contents page links to them; the contents page is the first.
+const QList<ManualPage>& ManualPages();
+
+/// The pages that hold every one of the words, in any letter case, those with a word in their title
+/// first, then those that use the words most. Empty for a query without a word.
+QList<ManualPage> SearchManual(const QString& query);
+
+/// The words of a query: what blanks separate.
+QStringList QueryWords(const QString& query);
+
+}  // namespace rqm5

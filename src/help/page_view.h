@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QTextBrowser>
+
+namespace rqm5 {
+
+/// Shows the pages of the manual and follows the links among them.
+class PageView : public QTextBrowser
+{
+    Q_OBJECT
+
+  public:
+    explicit PageView(QWidget* parent);
+
+    /// \param topic  "first-steps.md", "ports.md#linux"
+    void ShowTopic(const QString& topic);
+
+    /// The file name of the page shown.
+    QString Page() const;
+
+    /// Marks every place where one of the words stands.
+    void MarkWords(const QStringList& words);
+
+    void SetTextSize(int step);  ///< 0 is the usual size, each step one point
+    int TextSize() const { return textSize_; }
+
+  signals:
+    void ExternalLinkClicked(const QUrl& link);
+
+  protected:
+    /// Follows a link; back and forward go another way, because they bring back the place in the page.
+    void doSetSource(const QUrl& url, QTextDocument::ResourceType type) override;
+    /// Pictures that are wider than the page are shown smaller.
+    QVariant loadResource(int type, const QUrl& name) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    void Page_Loaded();
+    void Link_Clicked(const QUrl& link);
+    void ShowMarks();
+    void SetPaletteColours();
+
+    QStringList words_;
+    int textSize_ = 0;
+};
+
+}  // namespace rqm5

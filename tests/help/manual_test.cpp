@@ -1,0 +1,137 @@
+#include "help/manual.h"
+
+#include <gmock/gmock.h>
+
+#include <QDir>
+#include <QMap>
+#include <QTextBlock>
+
+#include "help/heading_anchors.h"
+#include "help/help_topics.h"
+
+namespace rqm5 {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// What a page offers to link to, and what it links to.
+struct Links
+{
+    QStringList anchors;
+    QStringList targets;
+    QStringList images;
+};
+
+Links LinksOf(const QString& markdown)
+{
+    QTextDocument document;
+    document.setMarkdown(markdown);
+    Links links;
+    links.anchors = AddHeadingAnchors(document);
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            const QTextCharFormat format = part.fragment().charFormat();
+            if (!format.anchorHref().isEmpty())
+                links.targets << format.anchorHref();
+            if (format.isImageFormat())
+                links.images << format.toImageFormat().name();
+        }
+    return links;
+}
+
+QMap<QString, Links> LinksOfAllPages()
+{
+    QMap<QString, Links> all;
+    for (const ManualPage& page : ManualPages())
+        all[page.file] = LinksOf(page.text);
+    return all;
+}
+
+bool LeadsSomewhere(const QMap<QString, Links>& pages, const QString& from, const QString& target)
+{
+    const QString page = target.section(QLatin1Char('#'), 0, 0);
+    const QString anchor = target.section(QLatin1Char('#'), 1);
+    const auto found = pages.find(page.isEmpty() ? from : page);
+    return found != pages.end() && (anchor.isEmpty() || found->anchors.contains(anchor));
+}
+
+TEST(Manual, EveryLinkLeadsSomewhere)
+{
+    const auto pages = LinksOfAllPages();
+    int links = 0;
+    for (auto page = pages.begin(); page != pages.end(); ++page) {
+        for (const QString& target : page->targets)
+            EXPECT_TRUE(LeadsSomewhere(pages, page.key(), target))
+                << qPrintable(QString(page.key() + QStringLiteral(" -> ") + target));
+        for (const QString& image : page->images)
+            EXPECT_TRUE(QFile::exists(QDir::cleanPath(QLatin1String(kManualFolder) + image)))
+                << qPrintable(QString(page.key() + QStringLiteral(" shows ") + image));
+        links += static_cast<int>(page->targets.size());
+        EXPECT_EQ(page->anchors.size(), QSet<QString>(page->anchors.begin(), page->anchors.end()).size())
+            << "two headings with one anchor in " << qPrintable(page.key());
+    }
+    EXPECT_GT(links, 40);
+}
+
+TEST(Manual, EveryPageIsInTheContents)
+{
+    QStringList listed;
+    for (const ManualPage& page : ManualPages()) {
+        listed << page.file;
+        EXPECT_FALSE(page.title.isEmpty()) << qPrintable(page.file);
+    }
+    listed.sort();
+    EXPECT_EQ(listed, QDir(QLatin1String(kManualFolder)).entryList(QDir::Files, QDir::Name));
+}
+
+TEST(Manual, EveryHelpTopicAndMessageHasItsPlace)
+{
+    const auto pages = LinksOfAllPages();
+    QStringList topics = HelpTopics();
+    for (const char* message :
+         {"COM Port Error", "Communication Error", "Data Error", "File Open Error",
+          "Save changes to settings?", "Clear cannot be undone.\nAre you sure that you want to do the clear?",
+          "Delete cannot be undone.\nAre you sure that you want to do the delete?",
+          "The total of the number of channels exceeds 1000.\nPlease set for the total of the channel to "
+          "become "
+          "1000 or less.",
+          "It is a frequency of the cellular phone.\nIt is not possible to set it.",
+          "The same frequency as other channels cannot be set in Search Pass bank.",
+          "The file is saved, but a clone file cannot hold notes with a comma or quotes. While",
+          "The file is written. A spreadsheet may run these notes as formulas.",
+          "The listing was not printed.", "The program ended before your changes were saved. They were kept.",
+          "The receiver does not hold what was written. Write again.",
+          "This link leads out of the manual. Open it in the web browser?"})
+        topics << MessageTopic(QString::fromLatin1(message));
+    for (const QString& topic : topics)
+        EXPECT_TRUE(LeadsSomewhere(pages, {}, topic)) << qPrintable(topic);
+}
+
+TEST(Manual, TheControlDecidesBeforeWhatHoldsIt)
+{
+    const auto topic = [](const QStringList& names) { return HelpTopic(names).toStdString(); };
+    const QString page = QStringLiteral("Frame1_3");
+    EXPECT_EQ(topic({QStringLiteral("cmbReadBank"), page}), "reading-and-writing.md");
+    EXPECT_EQ(topic({QStringLiteral("txtBank_7"), {}, page}), "channels-and-banks.md#the-bank-page");
+    EXPECT_EQ(topic({QStringLiteral("cmbRxDataOther")}), "index.md");
+    EXPECT_EQ(topic({}), "index.md");
+}
+
+TEST(Manual, SearchNeedsEveryWordAndPrefersTitles)
+{
+    const auto files = [](const char* query) {
+        std::vector<std::string> names;
+        for (const ManualPage& page : SearchManual(QString::fromLatin1(query)))
+            names.push_back(page.file.toStdString());
+        return names;
+    };
+    EXPECT_THAT(files("  dialout "), ElementsAre("ports.md"));
+    EXPECT_EQ(files("VFO").at(0), "vfo-and-regions.md");
+    EXPECT_EQ(files("spreadsheet CSV").at(0), "files-and-csv.md");
+    EXPECT_THAT(files("dialout spreadsheet"), IsEmpty());
+    EXPECT_THAT(files("   "), IsEmpty());
+}
+
+}  // namespace
+}  // namespace rqm5
