@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QWidget>
+
+#include "files/file_store.h"
+#include "image/clone_image.h"
+#include "ui/dialogs.h"
+
+namespace rqm5 {
+
+/// The File menu: which file is the current one, and the question that keeps edits from getting lost.
+class FileCommands : public QObject
+{
+    Q_OBJECT
+
+  public:
+    FileCommands(CloneImage& image, Dialogs& dialogs, QWidget& window);
+
+    /// Asks about unsaved changes, and saves when that is the answer.
+    /// \return false when what was going to happen shall not: cancelled, or the save was cancelled or failed
+    bool MayLoseChanges();
+
+    /// Loads a clone file and makes it the current one. \return false after a message; nothing changed then
+    bool Load(const QString& path);
+
+    /// Loads what a crash left behind, as unsaved changes. The file that the work began with is the current
+    /// one again while it is still there.
+    bool Recover(const QString& path, const QString& origin);
+
+    void mnuFileNew_Click();
+    void mnuFileOpen_Click();
+    bool mnuFileSave_Click();    ///< \return true when the file was written
+    bool mnuFileSaveAs_Click();  ///< \return true when the file was written
+    void mnuFileImport_Click();
+    void mnuFileExport_Click();
+
+    /// The current file's path, empty when there is none. After export and import it is the CSV file, to
+    /// which the next Save writes the clone format: deliberate.
+    const QString& FileName() const { return FileName_; }
+
+    /// The window's caption: the current file's name without its folder, and the program's title.
+    QString Caption() const;
+
+  signals:
+    void NewDone();
+    void Loaded();
+    void Imported();
+    void NothingImported();   ///< the file held no record of this receiver; nothing has changed
+    void FileStateChanged();  ///< another current file, or no unsaved changes any more
+
+  private:
+    void TakeAsCurrent(const QString& path);
+    bool Report(const std::optional<Problem>& problem);
+    void WarnOfNotes(const QString& text, const std::vector<std::string>& rows);
+    bool SaveTo(const QString& path);
+
+    CloneImage& image_;
+    Dialogs& dialogs_;
+    QWidget& window_;
+    QString FileName_;
+};
+
+}  // namespace rqm5

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QObject>
+#include <QThreadPool>
+#include <QTimer>
+#include <chrono>
+#include <functional>
+#include <memory>
+
+#include "files/recovery_file.h"
+#include "image/clone_image.h"
+#include "ui/dialogs.h"
+
+namespace rqm5 {
+
+/// Where the program keeps what is no setting and no document: the user's state folder.
+QString StateFolder();
+
+/// Keeps unsaved changes in a recovery file while there are any, and offers what a crash left behind.
+class Recovery : public QObject
+{
+    Q_OBJECT
+
+  public:
+    /// \param folder  may be empty: nothing is kept or offered then
+    /// \param delay   changes are kept so long after the first of them; formatting and writing take place
+    ///                beside the user's typing
+    Recovery(const CloneImage& image, const QString& folder, std::chrono::milliseconds delay,
+             QObject* parent);
+
+    /// The image or its file may have changed. Without unsaved changes there is nothing to recover.
+    void Look(const QString& fileName);
+
+    /// The program ends in the usual way: nothing is kept any more.
+    void End();
+
+    /// Asks about files that a crash left behind, the latest first, until one is to be recovered and
+    /// `load` can load it (path, original file). \return true when one was
+    bool Offer(Dialogs& dialogs, QWidget* parent,
+               const std::function<bool(const QString& path, const QString& origin)>& load);
+
+  signals:
+    /// The changes are in the recovery file now, or \param reason why they are not.
+    void Kept(const QString& reason);
+
+  private:
+    void Keep();
+    void Remove();
+
+    const CloneImage& image_;
+    const QString folder_;
+    QString fileName_;
+    QTimer timer_;
+    std::unique_ptr<RecoveryFile> file_;  ///< null until there is something to keep
+    bool hasEnded_ = false;
+    QThreadPool pool_;  ///< of one thread; ends before the file that it writes
+};
+
+}  // namespace rqm5

@@ -1,0 +1,100 @@
+// Makes the pictures of README and manual: drives the real windows against the simulated receiver.
+// Usage: rq-m5-screenshots FOLDER
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QProgressBar>
+#include <QTabWidget>
+#include <QTemporaryDir>
+
+#include "app/start_up.h"
+#include "link/port_file.h"
+#include "link/qt_serial_port.h"
+#include "memory/bank_layout.h"
+#include "simulator/demo_image.h"
+#include "simulator/sim_session.h"
+
+namespace {
+
+/// Takes a picture of every dialog in place of running it.
+class PictureDialogs : public rqm5::Dialogs
+{
+  public:
+    explicit PictureDialogs(const QDir& folder) : folder_(folder) {}
+
+    QMessageBox::StandardButton Ask(QWidget*, const rqm5::Prompt& prompt) override
+    {
+        qCritical("%s", qPrintable(prompt.title + QLatin1Char('\n') + prompt.text + QLatin1Char('\n') +
+                                   prompt.details));
+        return QMessageBox::NoButton;
+    }
+
+    QString ChooseFile(QWidget*, rqm5::FileChoice, const QString&) override { return {}; }
+
+    int Run(QDialog& dialog) override
+    {
+        dialog.show();
+        Save(dialog, dialog.objectName());
+        dialog.close();
+        return QDialog::Rejected;
+    }
+
+    void Save(QWidget& widget, const QString& name)
+    {
+        QCoreApplication::processEvents();
+        const QString path = folder_.filePath(name + QStringLiteral(".png"));
+        if (!widget.grab().save(path))
+            qFatal("cannot write %s", qPrintable(path));
+    }
+
+  private:
+    QDir folder_;
+};
+
+void Trigger(QWidget& window, const char* item)
+{
+    window.findChild<QAction*>(QLatin1String(item))->trigger();
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    const QTemporaryDir settings;
+    qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1])))
+        qFatal("usage: rq-m5-screenshots FOLDER");
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    rqm5::SimSession receiver({.memory = rqm5::MemoryFromImage(rqm5::DemoImage(0))});
+    PictureDialogs dialogs{QDir(QString::fromLocal8Bit(argv[1]))};
+    rqm5::QtSerialPort port(receiver.Device());
+    constexpr int kUsualCable = 5;
+    rqm5::StartOptions options;
+    options.portFile = settings.filePath(QStringLiteral("RQ-M5.ini"));
+    rqm5::WritePortFile(options.portFile, kUsualCable);
+    options.splashTime = std::chrono::milliseconds(0);
+    const auto window = rqm5::StartUp(port, dialogs, options);
+    auto* bar = window->findChild<QProgressBar*>();
+    QObject::connect(bar, &QProgressBar::valueChanged, window.get(), [&](int row) {
+        constexpr int kSomewhere = 440;
+        if (row == kSomewhere)
+            dialogs.Save(*window, QStringLiteral("transfer"));
+    });
+    window->resize(1000, 680);
+    Trigger(*window, "mnuReAll");
+
+    auto* tabs = window->findChild<QTabWidget*>(QStringLiteral("TabStrip1"));
+    const char* const pages[] = {"settings-1", "settings-2", "memory", "bank"};
+    for (int i = 0; i < tabs->count(); ++i) {
+        tabs->setCurrentIndex(i);
+        dialogs.Save(*window, QLatin1String(pages[i]));
+    }
+    tabs->setCurrentIndex(2);
+    Trigger(*window, "mnuEditUndo");
+    Trigger(*window, "mnuToolsOptions");
+    Trigger(*window, "mnuFilePrint");
+}

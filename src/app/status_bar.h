@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QLabel>
+#include <QStatusBar>
+
+#include "image/clone_image.h"
+
+namespace rqm5 {
+
+/// `sbStatusBar`: what the control under the pointer or with the focus does; the state of file, receiver
+/// model, channels and port.
+class StatusBar : public QStatusBar
+{
+    Q_OBJECT
+
+  public:
+    explicit StatusBar(QWidget* parent);
+
+    /// \param hasFile  there is a current file; without one an unchanged image is a new one
+    void ShowImage(const CloneImage& image, bool hasFile);
+
+    /// Something to read at leisure in the place of hints; an empty text makes room for them again.
+    void ShowNote(const QString& text);
+
+    void ShowPort(int number, const QString& device);
+
+  private:
+    void ShowHintOf(const QWidget* focused);
+
+    QString note_;
+    QLabel* lblHint_;
+    QLabel* lblFileState_;
+    QLabel* lblRegion_;
+    QLabel* lblEnabled_;
+    QLabel* lblPort_;
+};
+
+}  // namespace rqm5

@@ -1,0 +1,96 @@
+#include "app/tab_strip.h"
+
+#include <QApplication>
+#include <QShortcut>
+#include <QTabBar>
+
+namespace rqm5 {
+
+namespace {
+
+struct TabRow
+{
+    const char* caption;
+    const char* key;
+    const char* toolTip;
+};
+
+#define TEXT(text) QT_TRANSLATE_NOOP("rqm5::frmMain", text)
+
+constexpr TabRow kTabRows[kTabs] = {
+    {TEXT("Settings 1"), "Set1", TEXT("Model, modes, volume, squelch and the VFO bands")},
+    {TEXT("Settings 2"), "", TEXT("Display, power, keys, sound and antennas")},
+    {TEXT("Memory"), "", TEXT("The memory channels")},
+    {TEXT("Bank"), "", TEXT("Sizes and links of the memory banks")},
+};
+
+#undef TEXT
+
+}  // namespace
+
+TabStrip::TabStrip(QWidget* parent) : QTabWidget(parent)
+{
+    setObjectName(QStringLiteral("TabStrip1"));
+    // Connected before the tab widget itself connects to the bar: listeners of AboutToSwitch run while the
+    // page that is being left is still in front.
+    auto* bar = new QTabBar(this);
+    connect(bar, &QTabBar::currentChanged, this, &TabStrip::AboutToSwitch);
+    setTabBar(bar);
+    setDocumentMode(false);
+    for (int i = 0; i < kTabs; ++i) {
+        auto* frame = new QScrollArea(this);
+        frame->setObjectName(QStringLiteral("Frame1_%1").arg(i));
+        frame->setWidgetResizable(true);
+        frame->setFrameShape(QFrame::NoFrame);
+        Frame1_.at(static_cast<std::size_t>(i)) = frame;
+        addTab(frame, QString::fromUtf8(kTabRows[i].caption));
+        setTabToolTip(i, QString::fromUtf8(kTabRows[i].toolTip));
+        bar->setTabData(i, QLatin1String(kTabRows[i].key));
+    }
+    connect(this, &QTabWidget::currentChanged, this, &TabStrip::TabStrip1_Click);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { ShowFocused(now); });
+    // Tables keep Ctrl+Tab for themselves, so that the tab widget never sees it from there.
+    AddStepKey(QKeySequence::NextChild, 1);
+    AddStepKey(QKeySequence::PreviousChild, kTabs - 1);
+}
+
+void TabStrip::AddStepKey(QKeySequence::StandardKey key, int step)
+{
+    auto* shortcut = new QShortcut(key, this);
+    connect(shortcut, &QShortcut::activated, this,
+            [this, step] { setCurrentIndex((currentIndex() + step) % kTabs); });
+}
+
+void TabStrip::SetPage(Tab tab, QWidget& page)
+{
+    Frame1_.at(static_cast<std::size_t>(tab))->setWidget(&page);
+}
+
+void TabStrip::ShowFocused(QWidget* focused)
+{
+    for (QScrollArea* frame : Frame1_)
+        if (focused != nullptr && frame->widget() != nullptr && frame->widget()->isAncestorOf(focused))
+            frame->ensureWidgetVisible(focused);
+}
+
+void TabStrip::Select(Tab tab)
+{
+    const int index = static_cast<int>(tab);
+    if (index == currentIndex())
+        TabStrip1_Click();
+    else
+        setCurrentIndex(index);
+}
+
+void TabStrip::TabStrip1_Click()
+{
+    const auto chosen = static_cast<std::size_t>(currentIndex());
+    Frame1_.at(chosen)->setEnabled(true);
+    // The fourth page is never disabled, only covered: deliberate.
+    for (std::size_t i = 0; i < 3; ++i)
+        if (i != chosen)
+            Frame1_.at(i)->setEnabled(false);
+    emit Switched(Current());
+}
+
+}  // namespace rqm5

@@ -1,0 +1,63 @@
+#include "app/transfer_bar.h"
+
+#include <QHBoxLayout>
+#include <QShortcut>
+
+namespace rqm5 {
+
+TransferBar::TransferBar(QWidget* parent)
+    : QWidget(parent),
+      progressBar_(new QProgressBar(this)),
+      Text3_(new QLineEdit(this)),
+      cmbCancel_(new QPushButton(tr("Cancel"), this))
+{
+    progressBar_->setObjectName(QStringLiteral("ProgressBar1"));
+    progressBar_->setAccessibleName(tr("Progress of the transfer"));
+    Text3_->setObjectName(QStringLiteral("Text3"));
+    Text3_->setAccessibleName(tr("Channel being transferred"));
+    Text3_->setStatusTip(tr("The channel that is being transferred"));
+    Text3_->setReadOnly(true);
+    Text3_->setFocusPolicy(Qt::NoFocus);
+    Text3_->setAlignment(Qt::AlignRight);
+    Text3_->setFixedWidth(Text3_->fontMetrics().horizontalAdvance(QStringLiteral("000000")) + 16);
+    cmbCancel_->setObjectName(QStringLiteral("cmbCancel"));
+    cmbCancel_->setStatusTip(tr("End the transfer now; what was transferred stays"));
+    // A shortcut of the button itself would animate it first; this one ends the transfer at once.
+    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    connect(escape, &QShortcut::activated, this, &TransferBar::CancelRequested);
+
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(progressBar_, 1);
+    row->addWidget(Text3_);
+    row->addWidget(cmbCancel_);
+    connect(cmbCancel_, &QPushButton::clicked, this, &TransferBar::CancelRequested);
+    hide();
+}
+
+void TransferBar::Begin()
+{
+    progressBar_->setRange(0, 0);
+    Text3_->clear();
+    show();
+    cmbCancel_->setFocus();
+}
+
+void TransferBar::End()
+{
+    hide();
+}
+
+void TransferBar::StartProgress(int maximum)
+{
+    progressBar_->setRange(0, maximum);
+    progressBar_->setValue(0);
+}
+
+void TransferBar::MoveProgress(int value, int row)
+{
+    Text3_->setText(row >= 0 ? QString::number(row) : QString());
+    progressBar_->setValue(value);
+}
+
+}  // namespace rqm5

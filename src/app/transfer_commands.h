@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QObject>
+#include <QWidget>
+#include <functional>
+
+#include "image/clone_image.h"
+#include "link/radio_link.h"
+#include "link/transfer_observer.h"
+#include "link/transfer_scope.h"
+#include "ui/dialogs.h"
+
+namespace rqm5 {
+
+enum class Transfer {
+    ReadAll,
+    ReadMemory,
+    ReadSettings,
+    ReadBankPage,
+    WriteAll,
+    WriteMemory,
+    WriteSettings,
+    WriteBankPage
+};
+
+/// Runs one transfer at a time between the receiver and the image, and passes on what it tells.
+class TransferCommands : public QObject, private TransferObserver
+{
+    Q_OBJECT
+
+  public:
+    TransferCommands(CloneImage& image, RadioLink& link, Dialogs& dialogs, QWidget& window);
+
+    /// Runs a transfer to its end; events are processed meanwhile. Does nothing while another one runs.
+    /// \param selector  the group of a memory transfer
+    void Run(Transfer transfer, int selector);
+
+    /// Runs other work that uses the line, in the place of a transfer: nothing else starts meanwhile, and
+    /// Cancel ends it. Does nothing while a transfer runs.
+    void RunOther(const std::function<void()>& work);
+
+    /// True once the work that runs now shall end.
+    bool IsStopped() const { return isCancelled_; }
+
+    bool IsRunning() const { return isRunning_; }
+
+    /// Ends the transfer at once, without a message.
+    void Cancel();
+
+  signals:
+    void Started();
+    void Ended(rqm5::TransferResult result);
+    void ProgressBegan(int maximum);
+    void ProgressAdvanced(int value, int row);
+    void Refreshed(rqm5::Changed what);
+
+    /// What there is to say about a transfer without a message: how far a cancelled write came, that the
+    /// receiver was read back and agrees.
+    void Noted(const QString& text);
+
+  private:
+    void Occupy(const std::function<TransferResult()>& work);
+    TransferResult RunOperation(Transfer transfer, int selector);
+    TransferResult Write(const TransferScope& scope);
+    TransferResult KeepBackup(const TransferScope& scope, const QString& folder);
+    TransferResult WriteBlocks(const TransferScope& scope);
+    TransferResult Verify(const TransferScope& scope);
+    bool SaveBackup(const TransferScope& scope, const QString& folder, CloneImage& backup);
+
+    void ProgressStarted(int maximum) override { emit ProgressBegan(maximum); }
+    void ProgressMoved(int value, int row) override { emit ProgressAdvanced(value, row); }
+    void Refresh(Changed what) override { emit Refreshed(what); }
+    void Message(const Problem& problem) override;
+    bool IsCancelled() override { return isCancelled_; }
+
+    CloneImage& image_;
+    RadioLink& link_;
+    Dialogs& dialogs_;
+    QWidget& window_;
+    bool isRunning_ = false;
+    bool isCancelled_ = false;
+};
+
+}  // namespace rqm5

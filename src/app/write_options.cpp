@@ -1,0 +1,65 @@
+#include "app/write_options.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSettings>
+#include <QStandardPaths>
+
+#include "memory/bank_layout.h"
+
+namespace rqm5 {
+namespace {
+
+const QString kBackup = QStringLiteral("Write/Backup");
+const QString kVerify = QStringLiteral("Write/Verify");
+const QString kFolder = QStringLiteral("Write/BackupFolder");
+
+QSettings Store()
+{
+    return QSettings(QStringLiteral("Tervan"), QStringLiteral("Tervan RQ-M5 Clone Utility"));
+}
+
+QString UsualFolder()
+{
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
+        .filePath(QStringLiteral("RQ-M5 backups"));
+}
+
+QString NameOf(const TransferScope& scope)
+{
+    if (scope.settings)
+        return scope.memory ? QStringLiteral("all") : QStringLiteral("settings");
+    if (!scope.memory)
+        return QStringLiteral("banks");
+    return QStringLiteral("memory ") + QString::fromStdString(SelectorText(scope.selector)).toLower();
+}
+
+}  // namespace
+
+WriteOptions LoadWriteOptions()
+{
+    const QSettings store = Store();
+    const QString folder = store.value(kFolder).toString();
+    return {store.value(kBackup, false).toBool(), store.value(kVerify, false).toBool(),
+            folder.isEmpty() ? UsualFolder() : folder};
+}
+
+void SaveWriteOptions(const WriteOptions& options)
+{
+    QSettings store = Store();
+    store.setValue(kBackup, options.keepsBackup);
+    store.setValue(kVerify, options.verifies);
+    store.setValue(kFolder, options.backupFolder);
+}
+
+QString NewBackupPath(const QString& folder, const TransferScope& scope, const QDateTime& now)
+{
+    const QString name =
+        QStringLiteral("RQ-M5 %1 %2").arg(now.toString(QStringLiteral("yyyy-MM-dd HH-mm-ss")), NameOf(scope));
+    QString path = QDir(folder).filePath(name + QStringLiteral(".RQ5"));
+    for (int copy = 2; QFileInfo::exists(path); ++copy)
+        path = QDir(folder).filePath(QStringLiteral("%1 (%2).RQ5").arg(name).arg(copy));
+    return path;
+}
+
+}  // namespace rqm5

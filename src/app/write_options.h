@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+
+#include "link/transfer_scope.h"
+
+namespace rqm5 {
+
+/// What a person wants done before and after each write; remembered from run to run.
+struct WriteOptions
+{
+    bool keepsBackup = false;
+    bool verifies = false;
+    QString backupFolder;  ///< never empty
+};
+
+WriteOptions LoadWriteOptions();
+void SaveWriteOptions(const WriteOptions& options);
+
+/// The path of a new backup: date, time and what it holds are in its name. No file of that name exists.
+QString NewBackupPath(const QString& folder, const TransferScope& scope, const QDateTime& now);
+
+}  // namespace rqm5

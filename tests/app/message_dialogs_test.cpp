@@ -1,0 +1,69 @@
+#include "ui/message_dialogs.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include "ui/error_prompt.h"
+
+namespace rqm5 {
+namespace {
+
+/// Acts on the modal dialog that comes up next.
+template <typename Dialog>
+void WhenShown(const std::function<void(Dialog&)>& act)
+{
+    QTimer::singleShot(0, [act] {
+        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        act(*dialog);
+        if (dialog->isVisible())
+            dialog->reject();
+    });
+}
+
+TEST(MessageDialogs, TakeTextsOfStrangersAsPlainText)
+{
+    const std::string evil = "<b>/dev/tty</b>\n<img src='x'>";
+    WhenShown<QMessageBox>([&](QMessageBox& box) {
+        EXPECT_EQ(box.windowTitle(), QStringLiteral("ERROR"));
+        EXPECT_EQ(box.text(), QStringLiteral("COM Port Error"));
+        EXPECT_EQ(box.icon(), QMessageBox::Critical);
+        EXPECT_EQ(box.informativeText().toStdString(), evil);
+        for (const QLabel* label : box.findChildren<QLabel*>()) {
+            if (label->text().toStdString() == evil) {
+                EXPECT_EQ(label->textFormat(), Qt::PlainText);
+            }
+        }
+    });
+    MessageDialogs().Ask(nullptr, ErrorPrompt({kComPortError, evil}));
+}
+
+TEST(MessageDialogs, FileChoicesHaveTheirFiltersAndSuffix)
+{
+    const QTemporaryDir folder;
+    const QString name = folder.filePath(QStringLiteral("radio"));
+    MessageDialogs dialogs;
+    WhenShown<QFileDialog>([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.nameFilters().join(QLatin1Char('|')),
+                  QStringLiteral("Tervan RQ-M5 Clone Files (*.RQ5)|All Files (*.*)"));
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_FALSE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
+        dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
+    });
+    EXPECT_EQ(dialogs.ChooseFile(nullptr, FileChoice::SaveClone, name), name + QStringLiteral(".RQ5"));
+    WhenShown<QFileDialog>([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.nameFilters().constFirst(), QStringLiteral("CSV Files (*.csv)"));
+        EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
+    });
+    EXPECT_EQ(dialogs.ChooseFile(nullptr, FileChoice::OpenCsv, QString()), QString());
+}
+
+}  // namespace
+}  // namespace rqm5

@@ -1,0 +1,144 @@
+#include <fstream>
+
+#include "files/file_store.h"
+#include "memory/start_image.h"
+#include "window_fixture.h"
+
+namespace rqm5 {
+namespace {
+
+enum class Place { New, Open, Closing };
+
+/// Three places where edits could get lost; and every answer, a save that is cancelled or fails included.
+class SaveQuestion : public WindowTest
+{
+  protected:
+    void StartEdited(Place place)
+    {
+        place_ = place;
+        dialogs_ = {};
+        QFile::remove(Path("mine.RQ5"));
+        CloneImage other = StartUpImage(2);
+        ASSERT_FALSE(SaveCloneFile(Path("other.RQ5"), other).problem);
+        Start();
+        EditSomething();
+    }
+
+    void Go()
+    {
+        if (place_ == Place::Closing)
+            window_->close();
+        else
+            Item(place_ == Place::New ? "mnuFileNew" : "mnuFileOpen").trigger();
+    }
+
+    /// True when what was asked for happened.
+    bool HasHappened()
+    {
+        if (place_ == Place::Closing)
+            return !window_->isVisible();
+        if (place_ == Place::Open)
+            return window_->windowTitle().startsWith(QStringLiteral("other.RQ5"));
+        return !Find<QAbstractButton>("opbScanMode_1").isChecked();
+    }
+
+    bool IsSaved() const { return QFile::exists(Path("mine.RQ5")); }
+
+    Place place_ = Place::New;
+};
+
+TEST_F(SaveQuestion, EveryAnswerInEveryPlace)
+{
+    const QString open = Path("other.RQ5");
+    const QString save = Path("mine.RQ5");
+    const QString unwritable = Path("no such folder/mine.RQ5");
+    struct
+    {
+        const char* what;
+        QMessageBox::StandardButton answer;
+        std::deque<QString> files;
+        bool happens;
+        bool saves;
+    } const cases[] = {
+        {"cancel", QMessageBox::Cancel, {open}, false, false},
+        {"no", QMessageBox::No, {open}, true, false},
+        {"yes", QMessageBox::Yes, {save, open}, true, true},
+        {"yes, but the save is cancelled", QMessageBox::Yes, {QString(), open}, false, false},
+        {"yes, but the save fails", QMessageBox::Yes, {unwritable, open}, false, false},
+    };
+    for (const Place place : {Place::New, Place::Open, Place::Closing})
+        for (const auto& row : cases) {
+            SCOPED_TRACE(testing::Message() << row.what << " in place " << static_cast<int>(place));
+            StartEdited(place);
+            dialogs_.answers = {row.answer};
+            dialogs_.files = row.files;
+            Go();
+            ASSERT_GE(dialogs_.asked.size(), 1U);
+            const Prompt& question = dialogs_.asked[0];
+            EXPECT_EQ(question.title, QStringLiteral("Save Changes"));
+            EXPECT_EQ(question.text, QStringLiteral("Save changes to settings?"));
+            EXPECT_EQ(question.icon, QMessageBox::Question);
+            EXPECT_EQ(question.buttons, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+            EXPECT_EQ(HasHappened(), row.happens);
+            EXPECT_EQ(IsSaved(), row.saves);
+            if (!row.happens) {
+                EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("Changed"));
+            }
+        }
+}
+
+TEST_F(SaveQuestion, IsNotAskedWithoutEditsNorByImport)
+{
+    Start();
+    dialogs_.files = {QString()};
+    Item("mnuFileOpen").trigger();
+    Item("mnuFileNew").trigger();
+    EditSomething();
+    dialogs_.files = {QString()};
+    Item("mnuFileImport").trigger();
+    EXPECT_TRUE(dialogs_.asked.empty());
+    dialogs_.answers = {QMessageBox::No};
+    window_->close();
+    EXPECT_EQ(dialogs_.asked.size(), 1U);
+}
+
+TEST_F(WindowTest, SaveGoesToTheCurrentFileWhicheverItIs)
+{
+    Start();
+    EditSomething();
+    dialogs_.files = {Path("a.RQ5")};
+    Item("mnuFileSave").trigger();
+    EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("Saved"));
+    EXPECT_TRUE(window_->windowTitle().startsWith(QStringLiteral("a.RQ5 - ")));
+
+    dialogs_.files = {Path("b.csv")};
+    Item("mnuFileExport").trigger();
+    EXPECT_TRUE(window_->windowTitle().startsWith(QStringLiteral("b.csv - ")));
+    QFile csv(Path("b.csv"));
+    ASSERT_TRUE(csv.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(csv.readAll().startsWith("\"MODEL\""));
+
+    // The CSV file is the current one now, and Save writes a clone file to it.
+    Item("mnuFileSave").trigger();
+    CloneImage image;
+    EXPECT_FALSE(LoadCloneFile(Path("b.csv"), image));
+    EXPECT_EQ(image.Settings.scanMode, 1);
+    EXPECT_EQ(dialogs_.choices.size(), 2U);
+}
+
+TEST_F(WindowTest, ImportOverwritesTheRowsItNames)
+{
+    std::ofstream(Path("in.csv").toStdString())
+        << "\"RQ-M5\",\"MEMORY\",\"3\",\"145.500000\",\"FM\",\"10KHz\",\"OFF\",\"0\",\"300Hz\",\"88.5Hz\","
+           "\"OFF\",\"0.600000\",\"\",\"#FALSE#\",#TRUE#\r\n";
+    Start();
+    EditSomething();
+    dialogs_.files = {Path("in.csv")};
+    Item("mnuFileImport").trigger();
+    EXPECT_TRUE(window_->windowTitle().startsWith(QStringLiteral("in.csv - ")));
+    EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("Saved"));
+    EXPECT_EQ(StatusText("lblEnabled"), QStringLiteral("Channels enabled: 1"));
+}
+
+}  // namespace
+}  // namespace rqm5
