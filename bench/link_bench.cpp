@@ -1,0 +1,181 @@
+// How long transfers take: `link_bench line` compares a whole read and a whole write at 9600 baud with the
+// time that their characters need on the wire; `link_bench blocks` times blocks on a line that takes no
+// time, for banks of several sizes.
+
+#include <sys/resource.h>
+
+#include <QCoreApplication>
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <string_view>
+#include <vector>
+
+#include "image/fresh_image.h"
+#include "link/qt_serial_port.h"
+#include "link/receiver_reader.h"
+#include "link/receiver_writer.h"
+#include "simulator/demo_image.h"
+#include "simulator/sim_session.h"
+
+namespace rqm5 {
+namespace {
+
+using Seconds = std::chrono::duration<double>;
+
+constexpr double kCharactersPerSecond = 960;
+constexpr double kReadCharacters = 10 + 36;
+constexpr double kWriteCharacters = 42 + 6;
+constexpr int kRepeats = 20;
+
+/// Counts the blocks of each direction, and how long each took against its characters' time on the wire.
+struct Counter : TransferObserver
+{
+    void BlockDone(int, bool written) override
+    {
+        ++(written ? writes : reads);
+        const auto now = std::chrono::steady_clock::now();
+        const double wire = (written ? kWriteCharacters : kReadCharacters) / kCharactersPerSecond;
+        ratios.push_back(Seconds(now - last).count() / wire);
+        last = now;
+    }
+
+    int Blocks() const { return reads + writes; }
+    double WireSeconds() const
+    {
+        return (reads * kReadCharacters + writes * kWriteCharacters) / kCharactersPerSecond;
+    }
+
+    double MedianRatio()
+    {
+        const auto middle = ratios.begin() + static_cast<std::ptrdiff_t>(ratios.size() / 2);
+        std::nth_element(ratios.begin(), middle, ratios.end());
+        return *middle;
+    }
+
+    int reads = 0;
+    int writes = 0;
+    std::vector<double> ratios{};
+    std::chrono::steady_clock::time_point last = std::chrono::steady_clock::now();
+};
+
+/// Processor time of the calling thread: the transfer's, without the simulated receiver's.
+double ThreadSeconds()
+{
+    rusage usage{};
+    getrusage(RUSAGE_THREAD, &usage);
+    const auto seconds = [](const timeval& time) {
+        return static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_usec);
+    };
+    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
+
+struct Bench
+{
+    explicit Bench(int baud)
+        : receiver({.memory = MemoryFromImage(DemoImage(0)), .baud = baud}), port(receiver.Device())
+    {
+    }
+
+    SimSession receiver;
+    QtSerialPort port;
+    RadioLink link{port};
+    CloneImage image = DemoImage(0);
+};
+
+struct Timing
+{
+    Counter counter;
+    double seconds = 0;
+    double processor = 0;
+};
+
+using Transfer = std::function<TransferResult(Bench&, TransferObserver&)>;
+
+Timing Time(Bench& bench, const Transfer& transfer)
+{
+    Timing timing;
+    const double processor = ThreadSeconds();
+    const auto start = std::chrono::steady_clock::now();
+    const TransferResult result = transfer(bench, timing.counter);
+    timing.seconds = Seconds(std::chrono::steady_clock::now() - start).count();
+    timing.processor = ThreadSeconds() - processor;
+    if (result != TransferResult::Done)
+        std::printf("the transfer failed\n");
+    return timing;
+}
+
+TransferResult ReadEverything(Bench& bench, TransferObserver& observer)
+{
+    return ReceiverReader(bench.image, bench.link, observer).ReadAll();
+}
+
+TransferResult WriteEverything(Bench& bench, TransferObserver& observer)
+{
+    return ReceiverWriter(bench.image, bench.link, observer).WriteAll();
+}
+
+void TimeLine()
+{
+    constexpr int kBaud = 9600;
+    std::printf("%-12s %7s %9s %9s %7s %9s %13s\n", "transfer", "blocks", "wire s", "taken s", "ratio",
+                "(median)", "CPU ms/block");
+    const std::pair<const char*, Transfer> kTransfers[] = {{"whole read", ReadEverything},
+                                                           {"whole write", WriteEverything}};
+    for (const auto& [name, transfer] : kTransfers) {
+        Bench bench(kBaud);
+        Timing timing = Time(bench, transfer);
+        const double wire = timing.counter.WireSeconds();
+        std::printf("%-12s %7d %9.3f %9.3f %7.4f %9.4f %13.3f\n", name, timing.counter.Blocks(), wire,
+                    timing.seconds, timing.seconds / wire, timing.counter.MedianRatio(),
+                    1e3 * timing.processor / timing.counter.Blocks());
+    }
+}
+
+/// The best of some repeats, in microseconds per block.
+double MicrosecondsPerBlock(Bench& bench, const Transfer& transfer)
+{
+    double best = 1e9;
+    for (int i = 0; i < kRepeats; ++i) {
+        const Timing timing = Time(bench, transfer);
+        best = std::min(best, 1e6 * timing.seconds / timing.counter.Blocks());
+    }
+    return best;
+}
+
+void TimeBlocks()
+{
+    std::printf("%-9s %15s %15s\n", "channels", "read us/block", "write us/block");
+    for (const int channels : {100, 400, 1210}) {
+        Bench bench(0);
+        const bool isAll = channels == kRadioRows;
+        const int selector = isAll ? kSelectAll : 0;
+        ClearForNew(bench.image);
+        SetBankSize(bench.image, 0, isAll ? kBankRows : channels);
+        bench.receiver.SetMemory(MemoryFromImage(bench.image));
+        const double read = MicrosecondsPerBlock(bench, [selector](Bench& on, TransferObserver& observer) {
+            return ReceiverReader(on.image, on.link, observer).ReadMemory(selector);
+        });
+        const double write = MicrosecondsPerBlock(bench, [selector](Bench& on, TransferObserver& observer) {
+            return ReceiverWriter(on.image, on.link, observer).WriteMemory(selector);
+        });
+        std::printf("%-9d %15.1f %15.1f\n", channels, read, write);
+    }
+}
+
+}  // namespace
+}  // namespace rqm5
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const std::string_view what = argc > 1 ? argv[1] : "";
+    if (what == "line")
+        rqm5::TimeLine();
+    else if (what == "blocks")
+        rqm5::TimeBlocks();
+    else
+        std::fprintf(stderr, "usage: link_bench line|blocks\n");
+    return what == "line" || what == "blocks" ? 0 : 2;
+}
