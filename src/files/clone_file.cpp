@@ -5,10 +5,8 @@
 #include "files/clone_lines.h"
 #include "files/text_encoding.h"
 #include "image/channel_record.h"
-#include "image/flag_bits.h"
-#include "memory/bank_layout.h"
+#include "memory/rebuild_blocks.h"
 #include "memory/row_names.h"
-#include "settings/settings_codec.h"
 
 namespace rqm5 {
 namespace {
@@ -47,10 +45,7 @@ bool Survives(const std::string& note)
 
 std::string FormatCloneFile(CloneImage& image)
 {
-    EncodeSettings(image);
-    EncodeExtraData(image);
-    EncodeBankData(image);
-    EncodeBankFlagData(image);
+    RebuildBlocks(image);
 
     std::string text;
     text.reserve(kUsualSize);

@@ -6,8 +6,8 @@
 #include "image/flag_bits.h"
 #include "link/memory_map.h"
 #include "memory/bank_layout.h"
+#include "memory/rebuild_blocks.h"
 #include "memory/search_pass.h"
-#include "settings/settings_codec.h"
 
 namespace rqm5 {
 namespace {
@@ -116,10 +116,7 @@ std::string PlaceOfRow(const CloneImage& image, int row)
 std::vector<ExpectedBlock> ExpectedAfterWrite(const CloneImage& image, const TransferScope& scope)
 {
     CloneImage sent = image;
-    EncodeSettings(sent);
-    EncodeBankData(sent);
-    EncodeBankFlagData(sent);
-    EncodeExtraData(sent);
+    RebuildBlocks(sent);
     BuildPassData(sent);
     Blocks blocks;
     if (scope.settings)

@@ -4,6 +4,7 @@
 #include "image/flag_bits.h"
 #include "link/memory_map.h"
 #include "memory/bank_layout.h"
+#include "memory/rebuild_blocks.h"
 #include "memory/search_pass.h"
 #include "settings/settings_codec.h"
 #include "vfo/region_presets.h"
@@ -54,10 +55,7 @@ void GetRows(const ReceiverMemory& memory, CloneImage& image)
 ReceiverMemory MemoryFromImage(const CloneImage& image)
 {
     CloneImage sent = image;
-    EncodeSettings(sent);
-    EncodeBankData(sent);
-    EncodeBankFlagData(sent);
-    EncodeExtraData(sent);
+    RebuildBlocks(sent);
     BuildPassData(sent);
     sent.SetData2.SetByte(kPassCountByte, SearchPassCount(sent));
     ReceiverMemory memory;
