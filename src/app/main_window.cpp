@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QSettings>
+#include <QStatusTipEvent>
 #include <QVBoxLayout>
 
 #include "app/form_texts.h"
@@ -435,6 +436,14 @@ void frmMain::Form_Unload()
         return;
     QSettings settings(QStringLiteral("Tervan"), QStringLiteral("Tervan RQ-M5 Clone Utility"));
     SavePlacement(*this, settings);
+}
+
+bool frmMain::event(QEvent* event)
+{
+    if (event->type() != QEvent::StatusTip)
+        return QMainWindow::event(event);
+    sbStatusBar_->ShowPointerHint(static_cast<QStatusTipEvent*>(event)->tip());
+    return true;
 }
 
 void frmMain::changeEvent(QEvent* event)

@@ -47,6 +47,7 @@ class frmMain : public QMainWindow
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
 
   private:

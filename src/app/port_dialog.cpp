@@ -7,11 +7,14 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "ui/elided_label.h"
 #include "ui/tall_area.h"
 
 namespace rqm5 {
 
 namespace {
+
+constexpr int kPathColumns = 40;
 
 /// A number that the environment gives a device keeps it, whatever the user chooses here.
 bool IsFixed(int number)
@@ -53,8 +56,7 @@ void dlgCOM::AddOption(QGridLayout& rows, int index)
     auto* option = new QRadioButton(tr("COM %1").arg(index + 1, 2), this);
     option->setObjectName(QStringLiteral("opbCom_%1").arg(index));
     opbCom_.addButton(option, index);
-    auto* device = new QLabel(this);
-    device->setTextFormat(Qt::PlainText);
+    auto* device = new ElidedLabel(Qt::ElideMiddle, this);
     device->setObjectName(QStringLiteral("lblDevice_%1").arg(index));
     lblDevice_.at(static_cast<std::size_t>(index)) = device;
     rows.addWidget(option, index, 0);
@@ -67,6 +69,7 @@ QLayout* dlgCOM::MakeDeviceRow()
     lblPath_ = new QLabel(this);
     txtDevice_ = new QLineEdit(this);
     txtDevice_->setObjectName(QStringLiteral("txtDevice"));
+    txtDevice_->setMinimumWidth(txtDevice_->fontMetrics().averageCharWidth() * kPathColumns);
     lblPath_->setBuddy(txtDevice_);
     cbbDevice_ = new QComboBox(this);
     cbbDevice_->setObjectName(QStringLiteral("cbbDevice"));
@@ -125,6 +128,7 @@ void dlgCOM::opbCom_Click()
                                 : tr("The device that this number stands for; empty for the usual one");
     lblPath_->setText(tr("&Device of COM %1:").arg(SelectedNumber()));
     txtDevice_->setText(Selected().device);
+    txtDevice_->setCursorPosition(0);
     txtDevice_->setEnabled(!isFixed);
     txtDevice_->setToolTip(why);
     cbbDevice_->setEnabled(!isFixed && !found_.isEmpty());

@@ -1,15 +1,16 @@
 #include "app/status_bar.h"
 
 #include <QApplication>
-#include <QPainter>
-#include <QStyle>
 #include <algorithm>
+
+#include "ui/elided_label.h"
 
 namespace rqm5 {
 
 namespace {
 
 constexpr int kFieldMargin = 6;
+constexpr int kPortColumns = 36;
 constexpr const char* kModelNames[] = {"RQ-M5 J", "RQ-M5 E", "RQ-M5 T", "RQ-M5 K"};
 
 QString ModelName(int model)
@@ -18,37 +19,18 @@ QString ModelName(int model)
                                           : StatusBar::tr("Sibling model");
 }
 
-/// Ends a text that is too long with an ellipsis instead of in the middle of a letter.
-class ElidedLabel : public QLabel
-{
-  public:
-    using QLabel::QLabel;
-
-  protected:
-    void paintEvent(QPaintEvent* /*event*/) override
-    {
-        QPainter painter(this);
-        style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), palette(), isEnabled(),
-                              fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width()),
-                              foregroundRole());
-    }
-};
-
 }  // namespace
 
 StatusBar::StatusBar(QWidget* parent)
     : QStatusBar(parent),
-      lblHint_(new ElidedLabel(this)),
+      lblHint_(new ElidedLabel(Qt::ElideRight, this)),
       lblFileState_(new QLabel(this)),
       lblRegion_(new QLabel(this)),
       lblEnabled_(new QLabel(this)),
-      lblPort_(new QLabel(this))
+      lblPort_(new ElidedLabel(Qt::ElideMiddle, this))
 {
     setObjectName(QStringLiteral("sbStatusBar"));
     lblHint_->setObjectName(QStringLiteral("lblHint"));
-    lblHint_->setTextFormat(Qt::PlainText);
-    // A long hint is cut off rather than keeping the window from getting smaller.
-    lblHint_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     addWidget(lblHint_, 1);
     const std::pair<QLabel*, QString> fields[] = {{lblFileState_, QStringLiteral("lblFileState")},
                                                   {lblRegion_, QStringLiteral("lblRegion")},
@@ -60,6 +42,8 @@ StatusBar::StatusBar(QWidget* parent)
         label->setContentsMargins(kFieldMargin, 0, kFieldMargin, 0);
         addPermanentWidget(label);
     }
+    // Devices found by their name in /dev/serial have paths longer than the rest of the bar.
+    lblPort_->setMaximumWidth(lblPort_->fontMetrics().averageCharWidth() * kPortColumns);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { ShowHintOf(now); });
 }
 
@@ -73,12 +57,14 @@ void StatusBar::ShowImage(const CloneImage& image, bool hasFile)
 
 void StatusBar::ShowNote(const QString& text)
 {
-    if (text == note_)
-        return;
     note_ = text;
-    lblHint_->setText(text);
-    // The bar may be too narrow for all of it; a paragraph is broken into lines.
-    lblHint_->setToolTip(text.isEmpty() ? QString() : QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped()));
+    ShowFirstText();
+}
+
+void StatusBar::ShowPointerHint(const QString& text)
+{
+    pointerHint_ = text;
+    ShowFirstText();
 }
 
 void StatusBar::ShowPort(int number, const QString& device)
@@ -88,8 +74,18 @@ void StatusBar::ShowPort(int number, const QString& device)
 
 void StatusBar::ShowHintOf(const QWidget* focused)
 {
-    if (note_.isEmpty() && focused != nullptr && focused->window() == window())
-        lblHint_->setText(focused->statusTip());
+    if (focused == nullptr || focused->window() != window())
+        return;
+    focusHint_ = focused->statusTip();
+    ShowFirstText();
+}
+
+void StatusBar::ShowFirstText()
+{
+    for (const QString& text : {pointerHint_, note_, focusHint_})
+        if (!text.isEmpty())
+            return lblHint_->setText(text);
+    lblHint_->clear();
 }
 
 }  // namespace rqm5

@@ -22,12 +22,19 @@ class StatusBar : public QStatusBar
     /// Something to read at leisure in the place of hints; an empty text makes room for them again.
     void ShowNote(const QString& text);
 
+    /// What the control or menu item under the pointer does; before all else, and empty once it is left.
+    void ShowPointerHint(const QString& text);
+
     void ShowPort(int number, const QString& device);
 
   private:
     void ShowHintOf(const QWidget* focused);
 
+    void ShowFirstText();
+
+    QString pointerHint_;
     QString note_;
+    QString focusHint_;
     QLabel* lblHint_;
     QLabel* lblFileState_;
     QLabel* lblRegion_;

@@ -1,0 +1,42 @@
+#include "ui/elided_label.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QToolTip>
+
+namespace rqm5 {
+
+ElidedLabel::ElidedLabel(Qt::TextElideMode mode, QWidget* parent) : QLabel(parent), mode_(mode)
+{
+    setTextFormat(Qt::PlainText);
+}
+
+QSize ElidedLabel::minimumSizeHint() const
+{
+    return {0, QLabel::minimumSizeHint().height()};
+}
+
+bool ElidedLabel::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip || Visible() == text())
+        return QLabel::event(event);
+    // A paragraph is broken into lines.
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
+                       QStringLiteral("<p>%1</p>").arg(text().toHtmlEscaped()), this);
+    return true;
+}
+
+void ElidedLabel::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), palette(), isEnabled(),
+                          Visible(), foregroundRole());
+}
+
+QString ElidedLabel::Visible() const
+{
+    return fontMetrics().elidedText(text(), mode_, contentsRect().width());
+}
+
+}  // namespace rqm5
