@@ -10,6 +10,7 @@
 #include "memory/bank_layout.h"
 #include "ui/key_filter.h"
 #include "ui/leave_watch.h"
+#include "ui/tall_area.h"
 #include "ui/transfer_buttons.h"
 
 namespace rqm5 {
@@ -28,7 +29,9 @@ std::size_t At(int index)
 BankPage::BankPage(CloneImage& image, Dialogs& dialogs, QWidget* parent)
     : QWidget(parent), image_(image), dialogs_(dialogs), lblChannels_(new QLabel(this))
 {
-    auto* grid = new QGridLayout;
+    auto* boxes = new QWidget;
+    auto* grid = new QGridLayout(boxes);
+    grid->setContentsMargins(0, 0, 0, 0);
     for (int bank = 0; bank < kBanks; ++bank)
         BuildBank(*grid, bank);
     // The receiver keeps six more link flags than there are banks. They have boxes that nobody sees.
@@ -40,8 +43,10 @@ BankPage::BankPage(CloneImage& image, Dialogs& dialogs, QWidget* parent)
         chkLink_[At(flag)]->setObjectName(QStringLiteral("chkLink_%1").arg(flag));
     }
     auto* page = new QVBoxLayout(this);
-    page->addLayout(grid);
-    page->addStretch();
+    grid->setRowStretch(kBanksPerColumn + 1, 1);
+    auto* area = new TallArea(boxes, this);
+    area->setFrameShape(QFrame::NoFrame);
+    page->addWidget(area, 1);
     page->addLayout(BuildBottomRow());
     ShowBanks();
     ShowLinks();

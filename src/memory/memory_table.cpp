@@ -8,9 +8,12 @@
 namespace rqm5 {
 namespace {
 
-QColor Between(const QColor& a, const QColor& b)
+/// Two parts of the text's colour to one of its ground: paler than a text that is on, still to be read.
+QColor Paler(const QColor& text, const QColor& ground)
 {
-    return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
+    const auto mix = [](int a, int b) { return (2 * a + b) / 3; };
+    return QColor(mix(text.red(), ground.red()), mix(text.green(), ground.green()),
+                  mix(text.blue(), ground.blue()));
 }
 
 /// Lets a disabled row look disabled while it is selected too: the selection has a text colour of its own,
@@ -31,7 +34,7 @@ class ChannelDelegate : public QStyledItemDelegate
             return;
         const QColor text = option->palette.color(QPalette::HighlightedText);
         const QColor ground = option->palette.color(QPalette::Highlight);
-        option->palette.setColor(QPalette::HighlightedText, Between(text, ground));
+        option->palette.setColor(QPalette::HighlightedText, Paler(text, ground));
     }
 
   private:
@@ -45,8 +48,7 @@ MemoryTable::MemoryTable(const CloneImage& image, QWidget* parent)
 {
     setObjectName(QStringLiteral("MSFlexGrid1"));
     setAccessibleName(tr("Memory channels"));
-    setStatusTip(
-        tr("Memory channels; grey ones are disabled. Enter or a double click edits the selected one."));
+    setStatusTip(tr("Memory channels; grey ones are disabled. Enter edits the selected one."));
     setModel(&model_);
     setItemDelegate(new ChannelDelegate(model_, this));
     ChangeFont(*this);

@@ -102,6 +102,9 @@ void ChannelTable::FitToFont()
     verticalHeader()->setMinimumWidth(Pixels(twips_[0]));
     for (int column = 0; column < kNoteColumn; ++column)
         setColumnWidth(column, ColumnWidth(column));
+    constexpr int kRowsInSight = 6;
+    setMinimumHeight(horizontalHeader()->sizeHint().height() +
+                     kRowsInSight * verticalHeader()->defaultSectionSize() + 2 * frameWidth());
     StretchNote();
 }
 

@@ -1,5 +1,6 @@
 #include "ui/tall_area.h"
 
+#include <QApplication>
 #include <QScreen>
 #include <QScrollBar>
 
@@ -11,6 +12,13 @@ TallArea::TallArea(QWidget* contents, QWidget* parent) : QScrollArea(parent)
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { ShowFocused(now); });
+}
+
+void TallArea::ShowFocused(QWidget* focused)
+{
+    if (focused != nullptr && widget() != nullptr && widget()->isAncestorOf(focused))
+        ensureWidgetVisible(focused);
 }
 
 QSize TallArea::sizeHint() const

@@ -5,7 +5,8 @@
 
 namespace rqm5 {
 
-/// Holds the tall part of a dialog: as large as its contents where the screen is, else it scrolls.
+/// Holds the tall part of a dialog or page: as large as its contents where the screen is, else it scrolls
+/// and keeps the control with the focus in sight.
 class TallArea : public QScrollArea
 {
     Q_OBJECT
@@ -18,6 +19,9 @@ class TallArea : public QScrollArea
 
     /// Gives a dialog the size that it asks for, as far as its screen has room.
     static void FitToScreen(QDialog& dialog);
+
+  private:
+    void ShowFocused(QWidget* focused);
 };
 
 }  // namespace rqm5
