@@ -31,6 +31,7 @@ StatusBar::StatusBar(QWidget* parent)
 {
     setObjectName(QStringLiteral("sbStatusBar"));
     lblHint_->setObjectName(QStringLiteral("lblHint"));
+    lblHint_->setContentsMargins(kFieldMargin, 0, 0, 0);
     addWidget(lblHint_, 1);
     const std::pair<QLabel*, QString> fields[] = {{lblFileState_, QStringLiteral("lblFileState")},
                                                   {lblRegion_, QStringLiteral("lblRegion")},

@@ -145,13 +145,14 @@ QWidget* ModifyForm::BuildCodes()
 
 QLayout* ModifyForm::BuildShift()
 {
-    auto* label = new QLabel(tr("&Offset Frequency"));
-    label->setBuddy(txtShift);
+    auto* offset = new QGroupBox(tr("&Offset Frequency"));
+    txtShift->setAccessibleName(tr("Offset Frequency"));
+    auto* box = new QHBoxLayout(offset);
+    box->addWidget(txtShift, 1);
+    box->addWidget(new QLabel(tr("MHz")));
     auto* row = new QHBoxLayout;
     row->addWidget(opbSift_);
-    row->addWidget(label);
-    row->addWidget(txtShift, 1);
-    row->addWidget(new QLabel(tr("MHz")));
+    row->addWidget(offset, 1);
     return row;
 }
 

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QGridLayout>
 
+#include "ui/tall_area.h"
 #include "ui/transfer_buttons.h"
 
 namespace rqm5 {
@@ -87,16 +88,19 @@ Settings2Page::Settings2Page(CloneImage& image, Dialogs& /*dialogs*/, QWidget* p
     : QWidget(parent), controls_("Settings", image, nullptr)
 {
     auto* page = new QVBoxLayout(this);
-    page->addLayout(BuildSettings());
-    page->addStretch();
+    auto* area = new TallArea(BuildSettings(), this);
+    area->setFrameShape(QFrame::NoFrame);
+    page->addWidget(area, 1);
     page->addLayout(BuildTransferRow());
     connect(&controls_, &SettingControls::Edited, this, &Settings2Page::Edited);
     ShowSettings();
 }
 
-QLayout* Settings2Page::BuildSettings()
+QWidget* Settings2Page::BuildSettings()
 {
-    auto* grid = new QGridLayout;
+    auto* boxes = new QWidget;
+    auto* grid = new QGridLayout(boxes);
+    grid->setContentsMargins(0, 0, 0, 0);
     int place = 0;
     const auto add = [grid, &place](QWidget* box) {
         grid->addWidget(box, place / kColumns, place % kColumns);
@@ -115,7 +119,8 @@ QLayout* Settings2Page::BuildSettings()
     }
     for (int column = 0; column < kColumns; ++column)
         grid->setColumnStretch(column, 1);
-    return grid;
+    grid->setRowStretch(grid->rowCount(), 1);
+    return boxes;
 }
 
 QLayout* Settings2Page::BuildTransferRow()

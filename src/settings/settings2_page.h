@@ -27,7 +27,7 @@ class Settings2Page : public QWidget
     void WriteRequested();
 
   private:
-    QLayout* BuildSettings();
+    QWidget* BuildSettings();
     QLayout* BuildTransferRow();
 
     SettingControls controls_;

@@ -27,6 +27,12 @@ QSize TallArea::sizeHint() const
     return widget()->sizeHint() + QSize(frame + verticalScrollBar()->sizeHint().width(), frame);
 }
 
+QSize TallArea::minimumSizeHint() const
+{
+    return {TallArea::sizeHint().width() - widget()->sizeHint().width() + widget()->minimumSizeHint().width(),
+            QScrollArea::minimumSizeHint().height()};
+}
+
 void TallArea::FitToScreen(QDialog& dialog)
 {
     constexpr QSize kWindowFrame(8, 36);

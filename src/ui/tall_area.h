@@ -17,6 +17,9 @@ class TallArea : public QScrollArea
 
     QSize sizeHint() const override;
 
+    /// As wide as the contents have to be, as it scrolls up and down only.
+    QSize minimumSizeHint() const override;
+
     /// Gives a dialog the size that it asks for, as far as its screen has room.
     static void FitToScreen(QDialog& dialog);
 
