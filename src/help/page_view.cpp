@@ -112,13 +112,15 @@ void PageView::MarkWords(const QStringList& words)
 
 void PageView::ShowMarks()
 {
+    // Paler than a selection, which is the place that the search has come to.
+    QColor ground = palette().color(QPalette::Highlight);
+    ground.setAlphaF(0.35F);
     QList<QTextEdit::ExtraSelection> marks;
     for (const QString& word : words_) {
         QTextCursor place(document());
         while (!(place = document()->find(word, place)).isNull()) {
             QTextCharFormat format;
-            format.setBackground(palette().highlight());
-            format.setForeground(palette().highlightedText());
+            format.setBackground(ground);
             marks.append({place, format});
         }
     }

@@ -103,7 +103,9 @@ QWidget* DiagnosticsPanel::MakeLog()
     tblExchanges_->verticalHeader()->setDefaultSectionSize(metrics.lineSpacing() + 4);
     tblExchanges_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     tblExchanges_->setMinimumHeight(kLogLines * (metrics.lineSpacing() + 4));
-    const int widths[] = {24, 14, 44, 9};  // characters
+    // The reply takes what is left; what does not fit is in the tool tip.
+    tblExchanges_->horizontalHeader()->setSectionResizeMode(ExchangeLog::kReply, QHeaderView::Stretch);
+    const int widths[] = {14, 14, 0, 10};  // characters
     for (int column = 0; column < ExchangeLog::kLogColumns; ++column)
         tblExchanges_->setColumnWidth(column, widths[column] * metrics.averageCharWidth());
     cmbSaveLog_ = Named(new QPushButton(tr("Save Log..."), holder), "cmbSaveLog");

@@ -8,6 +8,8 @@ namespace rqm5 {
 namespace {
 
 constexpr std::chrono::milliseconds kRefreshPause{100};
+/// What the table shows; tool tips and the saved log have the date too.
+constexpr QLatin1String kTimeOfDay("HH:mm:ss.zzz");
 constexpr std::size_t kReceivedAtMost = 1024;  ///< of one reply; a line gone mad must not fill the memory
 
 QString Visible(const std::string& text)
@@ -103,9 +105,12 @@ QVariant ExchangeLog::data(const QModelIndex& index, int role) const
 {
     if (role == Qt::TextAlignmentRole && index.column() == kTook)
         return QVariant(Qt::AlignRight | Qt::AlignVCenter);
-    if (role != Qt::DisplayRole)
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
         return {};
-    return CellText(shown_.at(static_cast<std::size_t>(index.row())), index.column());
+    const Exchange& exchange = shown_.at(static_cast<std::size_t>(index.row()));
+    if (role == Qt::DisplayRole && index.column() == kTime)
+        return QDateTime::fromMSecsSinceEpoch(exchange.time).toString(QString(kTimeOfDay));
+    return CellText(exchange, index.column());
 }
 
 QVariant ExchangeLog::headerData(int section, Qt::Orientation orientation, int role) const
