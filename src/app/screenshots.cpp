@@ -1,12 +1,15 @@
 // Makes the pictures of README and manual: drives the real windows against the simulated receiver.
 // Usage: rq-m5-screenshots FOLDER
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include "app/start_up.h"
 #include "link/port_file.h"
@@ -32,6 +35,8 @@ class PictureDialogs : public rqm5::Dialogs
 
     QString ChooseFile(QWidget*, rqm5::FileChoice, const QString&) override { return {}; }
 
+    QString ChooseFolder(QWidget*, const QString&, const QString&) override { return {}; }
+
     int Run(QDialog& dialog) override
     {
         dialog.show();
@@ -52,9 +57,43 @@ class PictureDialogs : public rqm5::Dialogs
     QDir folder_;
 };
 
-void Trigger(QWidget& window, const char* item)
+/// The part of a window that goes by this name; there is no picture without it.
+template <typename Part>
+Part& Find(const QWidget& window, const char* name)
 {
-    window.findChild<QAction*>(QLatin1String(item))->trigger();
+    Part* part = window.findChild<Part*>(QLatin1String(name));
+    if (part == nullptr)
+        qFatal("no %s", name);
+    return *part;
+}
+
+void Trigger(const QWidget& window, const char* item)
+{
+    Find<QAction>(window, item).trigger();
+}
+
+void SavePages(PictureDialogs& dialogs, QWidget& window)
+{
+    auto& tabs = Find<QTabWidget>(window, "TabStrip1");
+    const char* const pages[] = {"settings-1", "settings-2", "memory", "bank"};
+    for (int i = 0; i < tabs.count(); ++i) {
+        tabs.setCurrentIndex(i);
+        dialogs.Save(window, QLatin1String(pages[i]));
+    }
+    tabs.setCurrentIndex(2);
+}
+
+void SaveDiagnostics(PictureDialogs& dialogs, QWidget& window)
+{
+    Trigger(window, "mnuViewDiagnostics");
+    Find<QLineEdit>(window, "txtRawAddress").setText(QStringLiteral("1000"));
+    Find<QAbstractButton>(window, "cmbRawRead").click();
+    Find<QAbstractButton>(window, "cmbLinkTest").click();
+    // The log shows what has come a moment later, all at once.
+    QEventLoop moment;
+    QTimer::singleShot(500, &moment, &QEventLoop::quit);
+    moment.exec();
+    dialogs.Save(Find<QWidget>(window, "dckDiagnostics"), QStringLiteral("diagnostics"));
 }
 
 }  // namespace
@@ -78,23 +117,18 @@ int main(int argc, char** argv)
     rqm5::WritePortFile(options.portFile, kUsualCable);
     options.splashTime = std::chrono::milliseconds(0);
     const auto window = rqm5::StartUp(port, dialogs, options);
-    auto* bar = window->findChild<QProgressBar*>();
-    QObject::connect(bar, &QProgressBar::valueChanged, window.get(), [&](int row) {
-        constexpr int kSomewhere = 440;
-        if (row == kSomewhere)
-            dialogs.Save(*window, QStringLiteral("transfer"));
-    });
+    QObject::connect(window->findChild<QProgressBar*>(), &QProgressBar::valueChanged, window.get(),
+                     [&](int row) {
+                         constexpr int kSomewhere = 440;
+                         if (row == kSomewhere)
+                             dialogs.Save(*window, QStringLiteral("transfer"));
+                     });
     window->resize(1000, 680);
     Trigger(*window, "mnuReAll");
 
-    auto* tabs = window->findChild<QTabWidget*>(QStringLiteral("TabStrip1"));
-    const char* const pages[] = {"settings-1", "settings-2", "memory", "bank"};
-    for (int i = 0; i < tabs->count(); ++i) {
-        tabs->setCurrentIndex(i);
-        dialogs.Save(*window, QLatin1String(pages[i]));
-    }
-    tabs->setCurrentIndex(2);
+    SavePages(dialogs, *window);
     Trigger(*window, "mnuEditUndo");
     Trigger(*window, "mnuToolsOptions");
     Trigger(*window, "mnuFilePrint");
+    SaveDiagnostics(dialogs, *window);
 }

@@ -122,6 +122,7 @@ TransferResult TransferCommands::Verify(const TransferScope& scope)
         emit Noted(QString::fromStdString(NotVerified()));
     if (!differences.empty()) {
         std::vector<std::string> rows;
+        rows.reserve(differences.size());
         for (const BlockDifference& difference : differences)
             rows.push_back(difference.expected.label);
         Prompt warning;

@@ -90,7 +90,8 @@ const FrequencyRange& LimitOf(const CloneImage& image, const EditTarget& target)
 {
     if (target.IsMemory())
         return kReceiverRange;
-    return BandLimit.at(static_cast<std::size_t>(target.Row() * kRegions + image.ModelNo()));
+    const int limit = target.Row() * kRegions + image.ModelNo();
+    return BandLimit.at(static_cast<std::size_t>(limit));
 }
 
 /// The number as its box and its row will hold it, with six decimals.

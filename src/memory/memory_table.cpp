@@ -63,11 +63,10 @@ void MemoryTable::UpDateMemData(int selector)
 
 void MemoryTable::keyPressEvent(QKeyEvent* event)
 {
-    if (event->modifiers() != Qt::NoModifier && event->modifiers() != Qt::KeypadModifier)
-        ChannelTable::keyPressEvent(event);
-    else if (event->key() == Qt::Key_Insert)
+    const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (isPlain && event->key() == Qt::Key_Insert)
         emit InsertPressed();
-    else if (event->key() == Qt::Key_Delete)
+    else if (isPlain && event->key() == Qt::Key_Delete)
         emit DeletePressed();
     else
         ChannelTable::keyPressEvent(event);

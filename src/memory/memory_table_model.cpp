@@ -30,7 +30,8 @@ QVariant MemoryTableModel::data(const QModelIndex& index, int role) const
 
 bool MemoryTableModel::IsEnabled(int row) const
 {
-    return image_.MemEnable.at(static_cast<std::size_t>(rows_.first + row));
+    const int memoryRow = rows_.first + row;
+    return image_.MemEnable.at(static_cast<std::size_t>(memoryRow));
 }
 
 std::string MemoryTableModel::Cell(int row, std::size_t column) const

@@ -73,6 +73,7 @@ MemoryGroup GroupOf(const CloneImage& image, int group)
     const RowRange rows = GroupRows(image, group);
     const std::vector<std::string> labels = BuildChannelLabels(image, group);
     std::vector<MemoryEntry> entries;
+    entries.reserve(labels.size());
     for (int i = 0; i < rows.count; ++i)
         entries.push_back({rows.first + i, labels.at(static_cast<std::size_t>(i))});
     return {GroupTitle(image, group, entries), std::move(entries)};
