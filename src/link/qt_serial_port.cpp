@@ -71,8 +71,12 @@ bool QtSerialPort::Open()
     const bool isPath = device_.contains(QLatin1Char('/'));
     port_.setPortName(isPath ? QFileInfo(device_).absoluteFilePath() : device_);
     const QSignalBlocker quiet(port_);
-    if (!port_.open(QIODevice::ReadWrite))
-        return Refuse(FaultOf(port_.error(), QFileInfo(DeviceNode(device_))), port_.errorString());
+    if (!port_.open(QIODevice::ReadWrite)) {
+        const PortFault fault = FaultOf(port_.error(), QFileInfo(DeviceNode(device_)));
+        const bool isOther = fault == PortFault::NotAPort;  // the system's own words tell little then
+        return Refuse(fault,
+                      isOther ? tr("not a serial port (%1)").arg(port_.errorString()) : port_.errorString());
+    }
     port_.clearError();
     fault_ = PortFault::None;
     reason_.clear();
