@@ -175,6 +175,8 @@ TEST_F(FileStore, ADecimalCommaChangesNothing)
     ParseCsv(csv, expected);
 
     const std::locale before = std::locale::global(std::locale(std::locale::classic(), new CommaNumbers));
+    // Only this call finds the locale of the tests, so that nothing else of the machine follows it.
+    qputenv("LOCPATH", qgetenv("RQM5_TEST_LOCALES"));
     std::setlocale(LC_ALL, "de_DE.UTF-8");  // where it is installed
     QLocale::setDefault(QLocale(QLocale::German));
     EXPECT_TRUE(FormatCloneFile(image) == clone && FormatCsv(image) == csv);
@@ -182,6 +184,7 @@ TEST_F(FileStore, ADecimalCommaChangesNothing)
     QLocale::setDefault(QLocale::c());
     std::locale::global(before);
     std::setlocale(LC_ALL, "C");
+    qunsetenv("LOCPATH");
     EXPECT_TRUE(SameContents(imported, expected));
 }
 
