@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -15,27 +16,29 @@ struct RecordingObserver : TransferObserver
     void ProgressStarted(int maximum) override { maxima.push_back(maximum); }
     void ProgressMoved(int value, int row) override { moves.push_back({value, row}); }
     void ProgressEnded() override { ++ends; }
-    void BlockDone(int address, bool) override
+    void BlockDone(int address, bool isWritten) override
     {
-        done.push_back(address);
-        if (afterBlock && static_cast<int>(done.size()) == changeAfter)
+        (isWritten ? written : read).insert(address);
+        if (++done == changeAfter)
             afterBlock();
     }
     void BlockFailed(int address, bool) override { failed.push_back(address); }
     void Refresh(Changed what) override { refreshed.push_back(what); }
     void Message(const Problem& problem) override { problems.push_back(problem); }
-    bool IsCancelled() override { return cancelled || static_cast<int>(done.size()) == cancelAfter; }
+    bool IsCancelled() override { return cancelled || done == cancelAfter; }
 
     bool Refreshed(Changed what) const
     {
         return std::find(refreshed.begin(), refreshed.end(), what) != refreshed.end();
     }
 
-    std::vector<int> maxima, done, failed;
+    std::vector<int> maxima, failed;
+    std::set<int> read, written;  ///< addresses of blocks that were done
     std::vector<std::pair<int, int>> moves;
     std::vector<Changed> refreshed;
     std::vector<Problem> problems;
     int ends = 0;
+    int done = 0;          ///< blocks
     int cancelAfter = -1;  ///< blocks
     int changeAfter = -1;  ///< blocks, after which the next is called
     std::function<void()> afterBlock;

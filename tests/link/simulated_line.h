@@ -41,12 +41,6 @@ struct SimulatedLine
         observer.afterBlock = [this] { Spoil("silent:10", std::chrono::milliseconds(5)); };
     }
 
-    /// True when the first problem says a text in its details.
-    bool ProblemHas(const char* part) const
-    {
-        return observer.problems.at(0).details.find(part) != std::string::npos;
-    }
-
     SimSession receiver;
     QtSerialPort port;
     RadioLink link{port};

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
-#include <set>
 
 #include "image/channel_record.h"
 #include "link/raw_read.h"
@@ -58,7 +57,7 @@ struct FaultCase
 using enum RawReply::Result;
 
 const FaultCase kFaults[] = {
-    {"none", nullptr, nullptr, true, Frame},
+    {"", nullptr, nullptr, true, Frame},  // no fault
     {"no-echo", nullptr, "too short", true, Frame},
     {"drop", "too short", "too short", true, TooShort},
     {"cut", "too short", "too short", true, TooShort},
@@ -70,116 +69,86 @@ const FaultCase kFaults[] = {
     {"silent", "sent nothing", "sent nothing", false, TooShort},
 };
 
-/// Tells what was read from what was written.
-struct Observer : RecordingObserver
+struct PortFolder
 {
-    void BlockDone(int address, bool isWritten) override
-    {
-        RecordingObserver::BlockDone(address, isWritten);
-        (isWritten ? written : read).insert(address);
-    }
-
-    std::set<int> read, written;
+    QTemporaryDir folder;
 };
 
 /// A line whose receiver and image hold different things, in everything that an operation moves.
-class Line
+struct Line : PortFolder, SimulatedLine
 {
-  public:
     Line()
-        : line_(DemoImage(1),
-                {.link = folder_.filePath(QStringLiteral("port")).toStdString(), .lateDelay = 60ms})
+        : SimulatedLine(DemoImage(1),
+                        {.link = folder.filePath(QStringLiteral("port")).toStdString(), .lateDelay = 60ms})
     {
-        line_.image = ours_;
+        image = ours;
     }
 
     TransferResult Run(const Operation& operation)
     {
-        observer_ = {};
-        differences_.clear();
+        observer = {};
+        differences.clear();
         if (operation.kind == Kind::Verify)
-            return ReadBack(ExpectedAfterWrite(line_.image, operation.scope), line_.link, observer_,
-                            differences_);
-        WriteRecord record(line_.image, operation.scope, observer_);
-        ReceiverWriter writer(line_.image, line_.link, record);
-        ReceiverReader reader(line_.image, line_.link, observer_);
-        return operation.kind == Kind::Write ? WriteScope(writer, operation.scope)
+            return ReadBack(ExpectedAfterWrite(image, operation.scope), link, observer, differences);
+        WriteRecord record(image, operation.scope, observer);
+        ReceiverWriter recorded(image, link, record);
+        return operation.kind == Kind::Write ? WriteScope(recorded, operation.scope)
                                              : ReadScope(reader, operation.scope);
     }
 
     /// After so many commands the fault strikes ten times in a row, or once when it takes the line away.
-    void Spoil(const FaultCase& fault, int after)
+    void Break(const FaultCase& fault, std::size_t after)
     {
-        const bool isNone = std::string_view(fault.text) == "none";
-        const std::string text = fault.text +
-                                 std::string(std::string_view(fault.text) == "hang-up" ? ":1" : ":10") +
-                                 ":after=" + std::to_string(after);
-        line_.receiver.SetFaults(isNone ? std::vector<Fault>{}
-                                        : std::vector<Fault>{ParseFault(text).value()});
+        const std::string times = fault.raw == PortFailed ? ":1" : ":10";
+        if (*fault.text != '\0')
+            receiver.SetFaults({ParseFault(fault.text + times + ":after=" + std::to_string(after)).value()});
     }
 
-    void Hurry() { line_.link.SetTimeOut(10ms); }
+    void Hurry() { link.SetTimeOut(10ms); }
 
     void Mend()
     {
-        line_.receiver.SetFaults({});
-        line_.link.SetTimeOut(RadioLink::kTimeOut);
+        receiver.SetFaults({});
+        link.SetTimeOut(RadioLink::kTimeOut);
     }
 
-    int Commands() const { return static_cast<int>(line_.receiver.CommandLog().size()); }
-
-    /// The image holds the receiver's contents where a block was read, and its own everywhere else.
-    void ExpectImage()
+    /// The image holds the receiver's contents where a read has brought a block, and its own elsewhere.
+    void ExpectImage(Kind kind) const
     {
-        const CloneImage theirs = ImageFromMemory(held_, ours_);
+        const CloneImage theirs = ImageFromMemory(held, ours);
+        const auto at = [&](int first, std::size_t index = 0) -> const CloneImage& {
+            const int address = first + static_cast<int>(index) * 0x10;
+            return kind == Kind::Read && observer.read.contains(address) ? theirs : ours;
+        };
         for (std::size_t row = 0; row < kRadioRows; ++row)
-            EXPECT_EQ(line_.image.MemData[row], (WasRead(0x1000, row) ? theirs : ours_).MemData[row]) << row;
+            EXPECT_EQ(image.MemData[row], at(0x1000, row).MemData[row]) << row;
         for (std::size_t row = 0; row < kVfoRows; ++row)
-            EXPECT_EQ(line_.image.VFOData[row], (WasRead(0x0C00, row) ? theirs : ours_).VFOData[row]) << row;
-        EXPECT_EQ(line_.image.Settings.model, (WasRead(0x0040, 1) ? theirs : ours_).Settings.model);
-        EXPECT_EQ(line_.image.BankSize, (WasRead(0x00C0, 6) ? theirs : ours_).BankSize);
-        EXPECT_EQ(line_.image.BankLink, (WasRead(0x0260, 0) ? theirs : ours_).BankLink);
-    }
-
-    void ExpectImageUntouched() const
-    {
-        EXPECT_EQ(line_.image.MemData, ours_.MemData);
-        EXPECT_EQ(line_.image.MemText, ours_.MemText);
-        EXPECT_EQ(line_.image.VFOData, ours_.VFOData);
-        EXPECT_EQ(line_.image.BankSize, ours_.BankSize);
-        EXPECT_EQ(line_.image.Settings.model, ours_.Settings.model);
+            EXPECT_EQ(image.VFOData[row], at(0x0C00, row).VFOData[row]) << row;
+        EXPECT_EQ(image.Settings.model, at(0x0050).Settings.model);
+        EXPECT_EQ(image.BankSize, at(0x0120).BankSize);
+        EXPECT_EQ(image.BankLink, at(0x0260).BankLink);
     }
 
     /// The receiver holds the image's blocks where one was acknowledged, and its own everywhere else.
     /// \param isObeyed  what is true of the block that failed
-    void ExpectReceiver(const Operation& operation, bool isObeyed)
+    void ExpectReceiver(const Operation& operation, bool isObeyed) const
     {
-        const ReceiverMemory now = line_.receiver.Memory();
+        const ReceiverMemory now = receiver.Memory();
         if (operation.kind != Kind::Write) {
-            EXPECT_TRUE(now == held_);
+            EXPECT_TRUE(now == held);
             return;
         }
-        const int failed = observer_.failed.empty() ? -1 : observer_.failed.front();
-        for (const ExpectedBlock& block : ExpectedAfterWrite(line_.image, operation.scope)) {
+        const int failed = observer.failed.empty() ? -1 : observer.failed.front();
+        for (const ExpectedBlock& block : ExpectedAfterWrite(image, operation.scope)) {
             const bool isTwiceWritten = block.address == 0x0050 && operation.scope.GoesOnAfterSettings();
-            if (isTwiceWritten && !observer_.written.contains(0x5B90))
+            if (isTwiceWritten && !observer.written.contains(0x5B90))
                 continue;
             const bool isNew =
-                observer_.written.contains(block.address) || (block.address == failed && isObeyed);
+                observer.written.contains(block.address) || (block.address == failed && isObeyed);
             EXPECT_TRUE(isNew ? Agrees(block, now.At(block.address))
-                              : now.At(block.address) == held_.At(block.address))
+                              : now.At(block.address) == held.At(block.address))
                 << block.label;
         }
-    }
-
-    SimulatedLine& Wire() { return line_; }
-    const Observer& Told() const { return observer_; }
-    bool Differs() const { return !differences_.empty(); }
-
-  private:
-    bool WasRead(int first, std::size_t index) const
-    {
-        return observer_.read.contains(first + static_cast<int>(index) * 0x10);
     }
 
     static CloneImage Ours()
@@ -194,66 +163,50 @@ class Line
         return image;
     }
 
-    const CloneImage ours_ = Ours();
-    const QTemporaryDir folder_;
-    SimulatedLine line_;
-    const ReceiverMemory held_ = line_.receiver.Memory();
-    Observer observer_;
-    std::vector<BlockDifference> differences_;
+    const CloneImage ours = Ours();
+    const ReceiverMemory held = receiver.Memory();
+    std::vector<BlockDifference> differences;
 };
-
-int CommandsOf(const Operation& operation)
-{
-    Line line;
-    EXPECT_EQ(line.Run(operation), TransferResult::Done) << operation.name;
-    return line.Commands();
-}
 
 void ExpectMessage(const Line& line, const Operation& operation, const FaultCase& fault, const char* message)
 {
-    const bool isPortLost = fault.raw == PortFailed;
-    ASSERT_EQ(line.Told().problems.size(), message != nullptr ? 1U : 0U);
+    ASSERT_EQ(line.observer.problems.size(), message != nullptr ? 1U : 0U);
     if (message == nullptr)
         return;
-    const Problem& problem = line.Told().problems.front();
-    EXPECT_EQ(problem.text, isPortLost ? kComPortError : kCommunicationError);
+    const Problem& problem = line.observer.problems.front();
+    EXPECT_EQ(problem.text, fault.raw == PortFailed ? kComPortError : kCommunicationError);
     EXPECT_NE(problem.details.find(message), std::string::npos) << problem.details;
     EXPECT_EQ(problem.aftermath.find("Sent: ") == 0, operation.kind == Kind::Write) << problem.aftermath;
 }
 
-void TryInTheMiddle(const Operation& operation, const FaultCase& fault, int commands)
+void TryInTheMiddle(const Operation& operation, const FaultCase& fault, std::size_t commands)
 {
     SCOPED_TRACE(std::string(operation.name) + ", " + fault.text);
-    const bool writes = operation.kind == Kind::Write;
     Line line;
-    line.Spoil(fault, commands / 2);
-    const char* message = writes ? fault.writeMessage : fault.readMessage;
+    line.Break(fault, commands / 2);
+    const char* message = operation.kind == Kind::Write ? fault.writeMessage : fault.readMessage;
     if (message != nullptr)
         line.Hurry();
-    const TransferResult result = line.Run(operation);
-    EXPECT_EQ(result, message == nullptr ? TransferResult::Done : TransferResult::Failed);
+    EXPECT_EQ(line.Run(operation), message == nullptr ? TransferResult::Done : TransferResult::Failed);
     ExpectMessage(line, operation, fault, message);
-    if (operation.kind == Kind::Read)
-        line.ExpectImage();
-    else
-        line.ExpectImageUntouched();
+    line.ExpectImage(operation.kind);
     line.ExpectReceiver(operation, fault.isObeyed);
 
     line.Mend();
     EXPECT_EQ(line.Run(operation), TransferResult::Done) << "the fault is gone";
-    EXPECT_TRUE(line.Told().problems.empty());
-    if (operation.kind == Kind::Read)
-        line.ExpectImage();
+    EXPECT_TRUE(line.observer.problems.empty());
+    line.ExpectImage(operation.kind);
     line.ExpectReceiver(operation, true);
-    EXPECT_EQ(line.Differs(), operation.kind == Kind::Verify);
+    EXPECT_EQ(line.differences.empty(), operation.kind != Kind::Verify);
 }
 
 TEST(LineFaults, EveryFaultInTheMiddleOfEveryOperation)
 {
     for (const Operation& operation : kOperations) {
-        const int commands = CommandsOf(operation);
+        Line sound;
+        EXPECT_EQ(sound.Run(operation), TransferResult::Done) << operation.name;
         for (const FaultCase& fault : kFaults)
-            TryInTheMiddle(operation, fault, commands);
+            TryInTheMiddle(operation, fault, sound.receiver.CommandLog().size());
     }
 }
 
@@ -261,13 +214,12 @@ TEST(LineFaults, ARawReadTellsWhatCameBack)
 {
     for (const FaultCase& fault : kFaults) {
         Line line;
-        line.Spoil(fault, 0);
+        line.Break(fault, 0);
         if (fault.raw == TooShort)
             line.Hurry();
-        EXPECT_EQ(ReadRaw(line.Wire().link, 0x1000).result, fault.raw) << fault.text;
+        EXPECT_EQ(ReadRaw(line.link, 0x1000).result, fault.raw) << fault.text;
         line.Mend();
-        EXPECT_TRUE(ReadRaw(line.Wire().link, 0x1000).IsFrame()) << fault.text;
-        line.ExpectImageUntouched();
+        EXPECT_TRUE(ReadRaw(line.link, 0x1000).IsFrame()) << fault.text;
     }
 }
 
@@ -279,9 +231,9 @@ TEST(LineFaults, LateRepliesLeaveNothingThatRepeatingDoesNotMend)
         SCOPED_TRACE(operation.name);
         Line line;
         line.Hurry();
-        line.Wire().receiver.SetFaults({ParseFault("late:3:after=5").value()});
+        line.receiver.SetFaults({ParseFault("late:3:after=5").value()});
         const TransferResult result = line.Run(operation);
-        EXPECT_EQ(line.Told().problems.empty(), result == TransferResult::Done);
+        EXPECT_EQ(line.observer.problems.empty(), result == TransferResult::Done);
         line.Mend();
         EXPECT_EQ(line.Run(operation), TransferResult::Done);
         line.ExpectReceiver(operation, true);
