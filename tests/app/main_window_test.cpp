@@ -1,12 +1,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>
-#include <QStatusBar>
-#include <QTabBar>
-#include <QToolBar>
-#include <QToolButton>
 #include <QTranslator>
-#include <fstream>
 
 #include "files/file_store.h"
 #include "link/port_file.h"
@@ -18,23 +13,15 @@ namespace {
 
 const QString kTitle = QStringLiteral("Tervan RQ-M5 Clone Utility");
 
-QString Text(const QByteArray& text)
-{
-    return QString::fromUtf8(text);
-}
-
 TEST_F(WindowTest, StartsWithAnUnchangedImageOnTheFirstTab)
 {
     Start();
-    EXPECT_TRUE(window_->isVisible());
     EXPECT_EQ(window_->windowTitle(), kTitle);
     EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("New"));
     EXPECT_EQ(StatusText("lblPort"), QStringLiteral("COM 1: %1").arg(DeviceOfComPort(1)));
     EXPECT_EQ(Tabs().currentIndex(), 0);
     EXPECT_EQ(Find<QLineEdit>("txtBank_0").text(), QStringLiteral("200"));
-    const auto& selector = Find<QComboBox>("cbbBank");
-    EXPECT_EQ(selector.count(), 54);
-    EXPECT_EQ(selector.currentText(), QStringLiteral("Bank 0"));
+    EXPECT_EQ(Find<QComboBox>("cbbBank").count(), 54);
     for (const QWidget* other : QApplication::topLevelWidgets())
         EXPECT_FALSE(other->isVisible() && other != window_.get()) << "the splash window must be gone";
 }
@@ -48,13 +35,10 @@ TEST_F(WindowTest, TakesThePortFromItsFileAndWritesItAtTheEnd)
     ASSERT_TRUE(QFile::remove(options_.portFile));
     EXPECT_TRUE(window_->close());
     EXPECT_EQ(ReadPortFile(options_.portFile), 14);
-}
 
-TEST_F(WindowTest, ClosesEvenWhereNothingCanBeWritten)
-{
     options_.portFile = Path("no such folder/RQ-M5.ini");
     Start();
-    EXPECT_TRUE(window_->close());
+    EXPECT_TRUE(window_->close()) << "even where nothing can be written";
     EXPECT_TRUE(dialogs_.asked.empty());
 }
 
@@ -66,20 +50,14 @@ TEST_F(WindowTest, KeepsItsPlaceOnlyWhenItIsNotMinimised)
         if (isMinimised)
             window_->showMinimized();
         EXPECT_TRUE(window_->close());
-        QSettings settings(QStringLiteral("Tervan"), kTitle);
-        EXPECT_EQ(settings.contains(QStringLiteral("Settings/MainLeft")), !isMinimised);
-        EXPECT_TRUE(QFile::exists(options_.portFile));
-        if (!isMinimised) {
-            const double perPixel = 1440.0 / window_->logicalDpiX();
-            EXPECT_EQ(settings.value(QStringLiteral("Settings/MainWidth")).toString(),
-                      QString::number(window_->frameGeometry().width() * perPixel, 'g', 7));
-            EXPECT_EQ(settings.value(QStringLiteral("Settings/MainTop")).toString(),
-                      QString::number(window_->frameGeometry().top() * perPixel, 'g', 7));
-        }
+        const QVariant width =
+            QSettings(QStringLiteral("Tervan"), kTitle).value(QStringLiteral("Settings/MainWidth"));
+        const double twips = window_->frameGeometry().width() * 1440.0 / window_->logicalDpiX();
+        EXPECT_EQ(width.toString(), isMinimised ? QString() : QString::number(twips, 'g', 7));
     }
 }
 
-TEST_F(WindowTest, OpensTheFileOfTheCommandLine)
+TEST_F(WindowTest, OpensTheFileOfTheCommandLineAndNewEmptiesIt)
 {
     CloneImage image = StartUpImage(2);
     ASSERT_FALSE(SaveCloneFile(Path("radio.RQ5"), image).problem);
@@ -87,11 +65,15 @@ TEST_F(WindowTest, OpensTheFileOfTheCommandLine)
     Start();
     EXPECT_EQ(window_->windowTitle(), QStringLiteral("radio.RQ5 - ") + kTitle);
     EXPECT_EQ(StatusText("lblRegion"), QStringLiteral("RQ-M5 T"));
+    Item("mnuFileNew").trigger();
+    EXPECT_EQ(window_->windowTitle(), kTitle);
+    EXPECT_EQ(Find<QComboBox>("cbbBank").currentText(), QStringLiteral("All"));
+    EXPECT_EQ(Find<QLineEdit>("txtBank_0").text(), QStringLiteral("0"));
+    EXPECT_EQ(StatusText("lblRegion"), QStringLiteral("RQ-M5 T")) << "the model stays";
 
     options_.commandFile = Path("missing.RQ5");
     Start();
     ASSERT_EQ(dialogs_.asked.size(), 1U);
-    EXPECT_EQ(dialogs_.asked[0].title, QStringLiteral("ERROR"));
     EXPECT_EQ(dialogs_.asked[0].text, QStringLiteral("File Open Error"));
     EXPECT_EQ(window_->windowTitle(), kTitle);
 }
@@ -99,7 +81,6 @@ TEST_F(WindowTest, OpensTheFileOfTheCommandLine)
 TEST_F(WindowTest, TabsDisableTheOthersAmongTheFirstThree)
 {
     Start();
-    EXPECT_EQ(Tabs().tabBar()->tabData(0).toString(), QStringLiteral("Set1"));
     const bool allowsModify[] = {true, false, true, false};
     for (const int chosen : {3, 0, 2, 1, 3, 2}) {
         GoTo(static_cast<Tab>(chosen));
@@ -109,7 +90,6 @@ TEST_F(WindowTest, TabsDisableTheOthersAmongTheFirstThree)
                 << chosen << " " << i;
         EXPECT_EQ(Item("mnuEditUndo").isEnabled(), allowsModify[chosen]);
     }
-    EXPECT_TRUE(Find<QComboBox>("cbbBank").hasFocus());
 }
 
 TEST_F(WindowTest, ARefusedBankSizeIsRestoredBeforeThePageChanges)
@@ -125,7 +105,6 @@ TEST_F(WindowTest, ARefusedBankSizeIsRestoredBeforeThePageChanges)
     GoTo(Tab::Memory);
     EXPECT_EQ(shownInMessage, QStringLiteral("0"));
     EXPECT_EQ(dialogs_.asked.size(), 1U);
-    EXPECT_TRUE(Find<QComboBox>("cbbBank").isVisible());
 }
 
 TEST_F(WindowTest, ATypedBankSizeIsTakenBeforeAMenuActs)
@@ -144,57 +123,31 @@ TEST_F(WindowTest, ToolbarButtonsActByTheirKeys)
     Start();
     QStringList keys;
     auto& bar = Find<ToolBar>("tbToolBar");
-    for (const QAction* button : bar.actions()) {
+    for (const QAction* button : bar.actions())
         keys += button->data().toString();
-        EXPECT_FALSE(button->icon().isNull());
-        EXPECT_FALSE(button->toolTip().isEmpty());
-    }
-    EXPECT_EQ(keys.join(QLatin1Char(' ')), Text("新規作成 開く 上書き保存 印刷 ﾍﾙﾌﾟ"));
+    EXPECT_EQ(keys.join(QLatin1Char(' ')), QString::fromUtf8("新規作成 開く 上書き保存 印刷 ﾍﾙﾌﾟ"));
 
     QTest::mouseClick(bar.widgetForAction(bar.actions().at(1)), Qt::LeftButton);
     QTest::mouseClick(bar.widgetForAction(bar.actions().at(2)), Qt::LeftButton);
     EXPECT_EQ(dialogs_.choices, (std::vector{FileChoice::OpenClone, FileChoice::SaveClone}));
-    QString shown;
-    dialogs_.act = [&shown](const QDialog& dialog) { shown = dialog.windowTitle(); };
+    dialogs_.act = [](const QDialog& dialog) { EXPECT_EQ(dialog.windowTitle(), QStringLiteral("About")); };
     QTest::mouseClick(bar.widgetForAction(bar.actions().at(4)), Qt::LeftButton);
-    EXPECT_EQ(shown, QStringLiteral("About"));
-
     for (const char* other : {"ヘルプ", "開く ", "Open", ""})
-        bar.tbToolBar_ButtonClick(Text(other));
+        bar.tbToolBar_ButtonClick(QString::fromUtf8(other));
     EXPECT_EQ(dialogs_.choices.size(), 2U);
     EXPECT_EQ(dialogs_.runs, 1);
-}
-
-TEST_F(WindowTest, TabKeysStepThroughTheTabsFromInsideATable)
-{
-    Start();
-    GoTo(Tab::Memory);
-    auto& table = Find<QWidget>("MSFlexGrid1");
-    table.setFocus();
-    QTest::keyClick(&table, Qt::Key_Tab, Qt::ControlModifier);
-    EXPECT_EQ(Tabs().currentIndex(), 3);
-    QTest::keyClick(&Find<QWidget>("cmbReadBank"), Qt::Key_Tab, Qt::ControlModifier);
-    EXPECT_EQ(Tabs().currentIndex(), 0);
 }
 
 TEST_F(WindowTest, ModifyOpensTheEditorOnTheRowOfTheTab)
 {
     Start();
-    QString title;
-    dialogs_.act = [&](QDialog& dialog) { title = dialog.windowTitle(); };
-    const std::pair<Tab, const char*> cases[] = {{Tab::Settings1, "Modify VFO"},
-                                                 {Tab::Memory, "Modify Memory"}};
-    for (const auto& [tab, expected] : cases) {
-        GoTo(tab);
-        Item("mnuEditUndo").trigger();
-        EXPECT_EQ(title, QLatin1String(expected));
-    }
+    dialogs_.act = [](QDialog& dialog) { EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Modify VFO")); };
+    Item("mnuEditUndo").trigger();
+    EXPECT_EQ(dialogs_.runs, 1);
     EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("New")) << "cancelled";
+    GoTo(Tab::Memory);
     dialogs_.act = [](QDialog& dialog) {
-        auto* frequency = dialog.findChild<QLineEdit*>(QStringLiteral("txtFreq"));
-        frequency->setFocus();
-        frequency->selectAll();
-        QTest::keyClicks(frequency, QStringLiteral("145.5"));
+        dialog.findChild<QLineEdit*>(QStringLiteral("txtFreq"))->setText(QStringLiteral("145.5"));
         dialog.findChild<QAbstractButton*>(QStringLiteral("chkEnable"))->click();
         dialog.findChild<QAbstractButton*>(QStringLiteral("OKButton"))->click();
     };
@@ -228,49 +181,10 @@ TEST_F(WindowTest, FollowsTheLanguageWhileItRuns)
     QApplication::installTranslator(&brackets);
     QCoreApplication::processEvents();
     EXPECT_EQ(texts(), QStringLiteral("[&New][Read(&R)][Memory][The memory channels][New]"));
-    EXPECT_EQ(Tabs().tabText(0), QStringLiteral("[Settings 1]"));
     QApplication::removeTranslator(&brackets);
     QCoreApplication::processEvents();
     EXPECT_EQ(texts(), designed);
     EXPECT_EQ(window_->windowTitle(), kTitle);
-}
-
-TEST_F(WindowTest, ViewItemsShowAndHide)
-{
-    Start();
-    const std::pair<const char*, const char*> cases[] = {{"mnuViewToolbar", "tbToolBar"},
-                                                         {"mnuStatusBar", "sbStatusBar"}};
-    for (const auto& [item, bar] : cases)
-        for (const bool isShown : {false, true}) {
-            Item(item).trigger();
-            EXPECT_EQ(Item(item).isChecked(), isShown);
-            EXPECT_EQ(Find<QWidget>(bar).isVisible(), isShown);
-        }
-}
-
-TEST_F(WindowTest, StatusBarTellsWhatTheFocusedControlDoes)
-{
-    Start();
-    GoTo(Tab::Memory);
-    EXPECT_FALSE(StatusText("lblHint").isEmpty());
-    EXPECT_EQ(StatusText("lblHint"), Find<QComboBox>("cbbBank").statusTip());
-}
-
-TEST_F(WindowTest, NewEmptiesEverything)
-{
-    CloneImage image = StartUpImage(1);
-    ASSERT_FALSE(SaveCloneFile(Path("radio.RQ5"), image).problem);
-    options_.commandFile = Path("radio.RQ5");
-    Start();
-    EditSomething();
-    dialogs_.answers = {QMessageBox::No};
-    Item("mnuFileNew").trigger();
-    EXPECT_EQ(window_->windowTitle(), kTitle);
-    EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("New"));
-    EXPECT_EQ(Find<QComboBox>("cbbBank").currentText(), QStringLiteral("All"));
-    EXPECT_EQ(Find<QLineEdit>("txtBank_0").text(), QStringLiteral("0"));
-    EXPECT_EQ(StatusText("lblRegion"), QStringLiteral("RQ-M5 E")) << "the model stays";
-    EXPECT_FALSE(Find<QAbstractButton>("opbScanMode_1").isChecked());
 }
 
 TEST_F(WindowTest, PrintsWhatTheWindowShows)
@@ -282,7 +196,6 @@ TEST_F(WindowTest, PrintsWhatTheWindowShows)
             dialog.findChild<QAbstractButton*>(QLatin1String(name))->click();
     };
     Item("mnuFilePrint").trigger();
-    EXPECT_EQ(dialogs_.runs, 1);
     EXPECT_TRUE(QFile::exists(Path("out.pdf")));
 }
 

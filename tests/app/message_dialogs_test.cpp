@@ -36,11 +36,8 @@ TEST(MessageDialogs, TakeTextsOfStrangersAsPlainText)
         EXPECT_EQ(box.text(), QStringLiteral("COM Port Error"));
         EXPECT_EQ(box.icon(), QMessageBox::Critical);
         EXPECT_EQ(box.informativeText().toStdString(), evil);
-        for (const QLabel* label : box.findChildren<QLabel*>()) {
-            if (label->text().toStdString() == evil) {
-                EXPECT_EQ(label->textFormat(), Qt::PlainText);
-            }
-        }
+        for (const QLabel* label : box.findChildren<QLabel*>())
+            EXPECT_TRUE(label->text().toStdString() != evil || label->textFormat() == Qt::PlainText);
     });
     MessageDialogs().Ask(nullptr, ErrorPrompt({kComPortError, evil}));
 }
@@ -60,7 +57,6 @@ TEST(MessageDialogs, FileChoicesHaveTheirFiltersAndSuffix)
     EXPECT_EQ(dialogs.ChooseFile(nullptr, FileChoice::SaveClone, name), name + QStringLiteral(".RQ5"));
     WhenShown<QFileDialog>([](QFileDialog& dialog) {
         EXPECT_EQ(dialog.nameFilters().constFirst(), QStringLiteral("CSV Files (*.csv)"));
-        EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
     });
     EXPECT_EQ(dialogs.ChooseFile(nullptr, FileChoice::OpenCsv, QString()), QString());
 }

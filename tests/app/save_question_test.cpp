@@ -42,8 +42,6 @@ class SaveQuestion : public WindowTest
         return !Find<QAbstractButton>("opbScanMode_1").isChecked();
     }
 
-    bool IsSaved() const { return QFile::exists(Path("mine.RQ5")); }
-
     Place place_ = Place::New;
 };
 
@@ -77,29 +75,11 @@ TEST_F(SaveQuestion, EveryAnswerInEveryPlace)
             const Prompt& question = dialogs_.asked[0];
             EXPECT_EQ(question.title, QStringLiteral("Save Changes"));
             EXPECT_EQ(question.text, QStringLiteral("Save changes to settings?"));
-            EXPECT_EQ(question.icon, QMessageBox::Question);
             EXPECT_EQ(question.buttons, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
             EXPECT_EQ(HasHappened(), row.happens);
-            EXPECT_EQ(IsSaved(), row.saves);
-            if (!row.happens) {
-                EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("Changed"));
-            }
+            EXPECT_EQ(QFile::exists(save), row.saves);
+            EXPECT_TRUE(row.happens || StatusText("lblFileState") == QStringLiteral("Changed"));
         }
-}
-
-TEST_F(SaveQuestion, IsNotAskedWithoutEditsNorByImport)
-{
-    Start();
-    dialogs_.files = {QString()};
-    Item("mnuFileOpen").trigger();
-    Item("mnuFileNew").trigger();
-    EditSomething();
-    dialogs_.files = {QString()};
-    Item("mnuFileImport").trigger();
-    EXPECT_TRUE(dialogs_.asked.empty());
-    dialogs_.answers = {QMessageBox::No};
-    window_->close();
-    EXPECT_EQ(dialogs_.asked.size(), 1U);
 }
 
 TEST_F(WindowTest, SaveGoesToTheCurrentFileWhicheverItIs)
@@ -108,16 +88,10 @@ TEST_F(WindowTest, SaveGoesToTheCurrentFileWhicheverItIs)
     EditSomething();
     dialogs_.files = {Path("a.RQ5")};
     Item("mnuFileSave").trigger();
-    EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("Saved"));
     EXPECT_TRUE(window_->windowTitle().startsWith(QStringLiteral("a.RQ5 - ")));
-
     dialogs_.files = {Path("b.csv")};
     Item("mnuFileExport").trigger();
     EXPECT_TRUE(window_->windowTitle().startsWith(QStringLiteral("b.csv - ")));
-    QFile csv(Path("b.csv"));
-    ASSERT_TRUE(csv.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(csv.readAll().startsWith("\"MODEL\""));
-
     // The CSV file is the current one now, and Save writes a clone file to it.
     Item("mnuFileSave").trigger();
     CloneImage image;
@@ -126,7 +100,7 @@ TEST_F(WindowTest, SaveGoesToTheCurrentFileWhicheverItIs)
     EXPECT_EQ(dialogs_.choices.size(), 2U);
 }
 
-TEST_F(WindowTest, ImportOverwritesTheRowsItNames)
+TEST_F(WindowTest, ImportOverwritesTheRowsItNamesWithoutAQuestion)
 {
     std::ofstream(Path("in.csv").toStdString())
         << "\"RQ-M5\",\"MEMORY\",\"3\",\"145.500000\",\"FM\",\"10KHz\",\"OFF\",\"0\",\"300Hz\",\"88.5Hz\","
@@ -135,6 +109,7 @@ TEST_F(WindowTest, ImportOverwritesTheRowsItNames)
     EditSomething();
     dialogs_.files = {Path("in.csv")};
     Item("mnuFileImport").trigger();
+    EXPECT_TRUE(dialogs_.asked.empty());
     EXPECT_TRUE(window_->windowTitle().startsWith(QStringLiteral("in.csv - ")));
     EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("Saved"));
     EXPECT_EQ(StatusText("lblEnabled"), QStringLiteral("Channels enabled: 1"));

@@ -2,13 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QAction>
+#include <QLabel>
+#include <QLineEdit>
 #include <QSettings>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
-#include <functional>
 #include <memory>
 
 #include "app/start_up.h"
@@ -17,20 +19,6 @@
 #include "ui/scripted_dialogs.h"
 
 namespace rqm5 {
-
-/// Scripted answers, and a look at the program while a message is shown.
-class WatchedDialogs : public ScriptedDialogs
-{
-  public:
-    std::function<void()> onAsk;
-
-    QMessageBox::StandardButton Ask(QWidget* parent, const Prompt& prompt) override
-    {
-        if (onAsk)
-            onAsk();
-        return ScriptedDialogs::Ask(parent, prompt);
-    }
-};
 
 /// A started program: its real windows, with scripted answers, a folder of its own and no splash time.
 class WindowTest : public testing::Test
@@ -44,7 +32,12 @@ class WindowTest : public testing::Test
         QSettings(QStringLiteral("Tervan"), QStringLiteral("Tervan RQ-M5 Clone Utility")).clear();
     }
 
-    void Start();
+    void Start()
+    {
+        window_ = StartUp(port_, dialogs_, options_);
+        window_->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+    }
 
     QString Path(const char* name) const { return folder_.filePath(QLatin1String(name)); }
 
@@ -59,20 +52,37 @@ class WindowTest : public testing::Test
 
     QAction& Item(const char* name) { return Find<QAction>(name); }
     QTabWidget& Tabs() { return Find<QTabWidget>("TabStrip1"); }
-    QString StatusText(const char* label);
+    QString StatusText(const char* label) { return Find<QLabel>(label).text(); }
 
-    /// Clicks a control, bringing the page it is on to the front first.
-    void Click(const char* name);
-    void GoTo(Tab tab);
+    /// Clicks a button of the page in front.
+    void Click(const char* name) { QTest::mouseClick(&Find<QAbstractButton>(name), Qt::LeftButton); }
+
+    void GoTo(Tab tab)
+    {
+        QTabBar* bar = Tabs().tabBar();
+        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(static_cast<int>(tab)).center());
+    }
 
     /// Types a size into a bank box and stays in it.
-    void TypeBankSize(int bank, const char* size);
+    void TypeBankSize(int bank, const char* size)
+    {
+        GoTo(Tab::Bank);
+        auto& box = Find<QLineEdit>(qPrintable(QStringLiteral("txtBank_%1").arg(bank)));
+        box.setFocus();
+        box.selectAll();
+        QTest::keyClicks(&box, QLatin1String(size));
+    }
 
     /// Makes an edit that needs no dialog: the scan mode.
-    void EditSomething();
+    void EditSomething()
+    {
+        GoTo(Tab::Settings1);
+        QTest::mouseClick(&Find<QAbstractButton>("opbScanMode_1"), Qt::LeftButton);
+        ASSERT_EQ(StatusText("lblFileState"), QStringLiteral("Changed"));
+    }
 
     QTemporaryDir folder_;
-    WatchedDialogs dialogs_;
+    ScriptedDialogs dialogs_;
     QtSerialPort port_{QString()};
     StartOptions options_;
     std::unique_ptr<frmMain> window_;

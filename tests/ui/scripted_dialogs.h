@@ -18,6 +18,9 @@ class ScriptedDialogs : public Dialogs
     std::deque<QMessageBox::StandardButton> answers;
     std::vector<Prompt> asked;
 
+    /// Looks at the program while a message is shown.
+    std::function<void()> onAsk;
+
     /// Files to choose, used up in order; without one the choice is cancelled.
     std::deque<QString> files;
     std::vector<FileChoice> choices;
@@ -30,6 +33,8 @@ class ScriptedDialogs : public Dialogs
     QMessageBox::StandardButton Ask(QWidget* /*parent*/, const Prompt& prompt) override
     {
         asked.push_back(prompt);
+        if (onAsk)
+            onAsk();
         if (!answers.empty())
             return Next(answers);
         return prompt.buttons == QMessageBox::Ok ? QMessageBox::Ok : QMessageBox::Cancel;
