@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
 #include <tuple>
 
 namespace rqm5 {
@@ -103,36 +102,6 @@ TEST(ChannelRecord, EncodesWhatTheReceiverHolds)
     EXPECT_EQ(EncodeNumbers({1299.995, 2, 19, 72, 16, 28, 38, 32, 99.999999}).Text(),
               "1299995000021348101C262099999999");
     EXPECT_EQ(EncodeNumbers({}).Text(), std::string(32, '0'));
-}
-
-TEST(ChannelRecord, ReplyLineCarriesTheBlockFromItsThirdCharacter)
-{
-    CloneImage image;
-    EXPECT_TRUE(DecodeMemoryBlock(image, "\r\n01455000000000000000001000600000\r\n", 3));
-    EXPECT_EQ(image.MemText[3][kFrequency], "145.500000");
-    EXPECT_TRUE(DecodeVfoBlock(image, "\r\n01455000000000000000001000600000\r\n", 3));
-    EXPECT_EQ(image.VFOText[3][kFrequency], "145.500000");
-    EXPECT_FALSE(DecodeVfoBlock(image, "\r", 3));
-}
-
-TEST(ChannelRecord, AnyCharactersDecodeAndSettleAfterOneRound)
-{
-    std::mt19937 random(20261121);
-    const std::string likely = "0123456789ABCDEFabcf-+. \r\n\x80\xff";
-    for (int round = 0; round < 20000; ++round) {
-        std::string text(32, '0');
-        for (char& c : text)
-            c = round % 2 == 0 ? static_cast<char>(random() & 0xFF) : likely[random() % likely.size()];
-        for (const RowKind kind : {RowKind::Memory, RowKind::Vfo}) {
-            ChannelRecord first, second;
-            DecodeBlock(MemoryBlock(text), kind, first);
-            const bool isChannel = DecodeBlock(EncodeNumbers(first.numbers), kind, second);
-            EXPECT_EQ(isChannel, first.numbers[kFrequency] != 0) << text;
-            // The shift's fraction moves by design; everything else must be the same.
-            second.numbers[kShiftFrequency] = first.numbers[kShiftFrequency];
-            EXPECT_EQ(first.numbers, second.numbers) << text;
-        }
-    }
 }
 
 }  // namespace

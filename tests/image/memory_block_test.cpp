@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "image/flag_bits.h"
+
 namespace rqm5 {
 namespace {
 
@@ -22,33 +24,21 @@ TEST(MemoryBlock, ByteThatIsNotTwoHexDigitsReadsAsZero)
     EXPECT_THROW(static_cast<void>(block.Byte(16)), std::out_of_range);
 }
 
-TEST(MemoryBlock, WordsAreSignedLowByteFirst)
-{
-    const MemoryBlock block("C80000FFFFFF");
-    EXPECT_EQ(block.Word(0), 200);
-    EXPECT_EQ(block.Word(1), -256);
-    EXPECT_EQ(block.Word(2), -1);
-}
-
-TEST(HexDigits, ConvertBothWaysAndRefuseTheRest)
-{
-    for (int value = 0; value < 16; ++value) {
-        const char digit = HexByte(value)[1];
-        const std::string_view bits = HexDigitToBits(digit);
-        EXPECT_EQ(std::stoi(std::string(bits), nullptr, 2), value);
-        EXPECT_EQ(BitsToHexDigit(bits), digit);
-    }
-    for (const char other : {'a', 'f', 'G', ' ', '\0', '\xff'})
-        EXPECT_EQ(HexDigitToBits(other), "0000");
-    for (const char* other : {"", "1", "11111", "002 ", "abcd"})
-        EXPECT_EQ(BitsToHexDigit(other), '\0');
-}
-
-TEST(HexDigits, BitsOfABlockDoNotTakeLowerCase)
+TEST(MemoryBlock, BitsOfABlockDoNotTakeLowerCase)
 {
     const MemoryBlock block("a18F");
     EXPECT_TRUE(!block.Bit(0, 1) && block.Bit(0, 8));
     EXPECT_TRUE(block.Bit(1, 1) && !block.Bit(1, 2) && block.Bit(1, 5));
+}
+
+TEST(FlagBits, DigitsThatAreNoneAreFourFlagsOff)
+{
+    CloneImage image;
+    image.MemEnable.fill(true);
+    image.ExtraData[0] = MemoryBlock("fF?1");
+    DecodeExtraData(image);
+    for (std::size_t i = 0; i < 16; ++i)
+        EXPECT_EQ(image.MemEnable[i], (i >= 4 && i < 8) || i == 15) << i;
 }
 
 }  // namespace

@@ -23,18 +23,6 @@ TEST(BankLayout, SelectionMapsToRows)
     }
 }
 
-TEST(BankLayout, TransferOfBank49MovesChannelZeroAlone)
-{
-    CloneImage image = StartUpImage(0);
-    SetBankSize(image, 0, 100);
-    SetBankSize(image, 49, 100);
-    EXPECT_EQ(GroupRows(image, 49).first, 900);
-    EXPECT_EQ(TransferRows(image, 49).first, 0);
-    EXPECT_EQ(TransferRows(image, 49).Last(), 0);
-    EXPECT_EQ(TransferRows(image, 48).count, 0);
-    EXPECT_EQ(TransferRows(image, kSelectPriority).Last(), 1209);
-}
-
 TEST(BankLayout, LabelsCountFromOneAloneAndFromZeroTogether)
 {
     const CloneImage image = StartUpImage(0);
@@ -84,17 +72,6 @@ TEST(BankLayout, SizesFromOutsideAreMadeSafe)
     }
     EXPECT_EQ(image.BankSize[kUnassigned], 1000);
     EXPECT_EQ(TotalBankSize(image), 1000);
-}
-
-TEST(BankLayout, LastBlockCarriesTheFixedWords)
-{
-    CloneImage image = StartUpImage(0);
-    SetBankSize(image, 48, 0x102);
-    SetBankSize(image, 49, 3);
-    SetBankSize(image, kUnassigned, 1000);
-    EncodeBankData(image);
-    EXPECT_EQ(image.BankData[0].Text(), "C8009600960064006400320050004600");
-    EXPECT_EQ(image.BankData[6].Text(), "02010300E803640064000A0017000000");
 }
 
 }  // namespace

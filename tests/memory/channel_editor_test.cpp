@@ -133,9 +133,6 @@ TEST(ChannelEditor, RowsThatAreNotThereCannotBeModified)
     }
     EXPECT_TRUE(SameContents(image, before));
     EXPECT_TRUE(CanModify(image, {kVfo, 8, 0}) && !CanModify(image, {kVfo, 9, 0}));
-    image.Settings.model = 1;
-    EXPECT_TRUE(CanModify(image, {kVfo, 14, 0}));
-    EXPECT_EQ(FrequencyRangeText(image, {kVfo, 14, 0}), "(960.000-1299.995MHz)");
 }
 
 }  // namespace

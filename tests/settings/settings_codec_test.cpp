@@ -31,20 +31,6 @@ TEST(Settings, DefaultsOfEachRegionDecodeAndEncodeToThemselves)
     }
 }
 
-TEST(Settings, WrongMarkerBringsTheDefaultBlockOfTheSelectedModel)
-{
-    for (const int model : {0, 1, 2, 3, 4}) {
-        CloneImage image;
-        image.Settings.model = model;
-        image.SetData1 = MemoryBlock("A400FF8101060000FFFFFFFF00010500");
-        image.SetData2 = DefaultSetData2();
-        DecodeSettings(image);
-        EXPECT_EQ(image.SetData1, DefaultSetData1(model));
-        EXPECT_EQ(image.Settings.model, model > 3 ? 3 : model);
-        EXPECT_EQ(image.Settings.volume, 30);
-    }
-}
-
 TEST(Settings, InvalidBytesAreRepairedInTheBlock)
 {
     using Value = int ReceiverSettings::*;

@@ -40,10 +40,10 @@ class PageTest : public testing::Test
         QTest::mouseClick(&control, Qt::LeftButton, {}, {8, control.height() / 2});
     }
 
-    /// A channel of 100 MHz + row, row 0 to 899, enabled.
-    void PutChannel(int row)
+    /// An enabled channel of 100 to 999 MHz.
+    void PutChannel(int row, int megahertz)
     {
-        const std::string block = "0" + std::to_string(100 + row) + std::string(28, '0');
+        const std::string block = "0" + std::to_string(megahertz) + std::string(28, '0');
         DecodeMemoryBlock(image_, MemoryBlock(block), row);
         image_.MemEnable[static_cast<std::size_t>(row)] = true;
     }
