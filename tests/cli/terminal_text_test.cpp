@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <sstream>
-
 #include "cli/progress_bar.h"
 #include "image/display_text.h"
 
@@ -29,28 +27,6 @@ TEST(ProgressLine, ShowsRowPercentageAndTimeInTheRoomThereIs)
     EXPECT_EQ(ProgressLine(1, 4, -1, std::nullopt, 30), "[#####.................]  25 %");
     EXPECT_EQ(ProgressLine(9, 4, -1, seconds(0), 8), "100 %  0");
     EXPECT_EQ(ProgressLine(0, 0, -1, seconds(0), 0), "");
-}
-
-TEST(ProgressBar, SaysNothingWithoutATerminalAndRepeatsNoMessage)
-{
-    std::ostringstream out;
-    std::ostringstream err;
-    Console console{out, err, 0};
-    ProgressBar bar(console);
-    bar.Begin(2);
-    bar.BlockDone(0x1000, false);
-    EXPECT_EQ(err.str(), "");
-    bar.Message({kComPortError, "gone"});
-    bar.Message({kComPortError, "gone"});
-    EXPECT_EQ(err.str(), "COM Port Error: gone\n");
-
-    console.progressColumns = 40;
-    ProgressBar onTerminal(console);
-    onTerminal.Begin(2);
-    onTerminal.BlockDone(0x1000, false);
-    EXPECT_TRUE(err.str().find("50 %") != std::string::npos) << err.str();
-    onTerminal.Clear();
-    EXPECT_EQ(err.str().back(), '\r');
 }
 
 }  // namespace
