@@ -43,8 +43,9 @@ bool FileCommands::MayLoseChanges()
     question.buttons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
     question.defaultButton = QMessageBox::Yes;
     const QMessageBox::StandardButton answer = dialogs_.Ask(&window_, question);
+    // A file that may not open again is no reason to let the notes go: here they can still be mended.
     if (answer == QMessageBox::Yes)
-        return mnuFileSave_Click();
+        return mnuFileSave_Click() && !hasLostNotes_;
     return answer == QMessageBox::No;
 }
 
@@ -102,6 +103,7 @@ bool FileCommands::SaveTo(const QString& path)
     const SaveOutcome outcome = SaveCloneFile(path, image_);
     if (!Report(outcome.problem))
         return false;
+    hasLostNotes_ = !outcome.lostNotes.empty();
     TakeAsCurrent(path);
     WarnOfNotes(tr("The file is saved, but a clone file cannot hold notes with a comma or quotes. While "
                    "these notes stay as they are, the file cannot be opened again or shows them changed."),
@@ -141,7 +143,8 @@ void FileCommands::mnuFileImport_Click()
 
 void FileCommands::TakeAsCurrent(const QString& path)
 {
-    FileName_ = path;
+    // Another start may come from another folder, and must not take a file of the same name for this one.
+    FileName_ = path.isEmpty() ? QString() : QFileInfo(path).absoluteFilePath();
     emit FileStateChanged();
 }
 

@@ -185,6 +185,8 @@ void frmMain::Form_Load()
         files_->Load(options_.commandFile);
     image_.DataChanged = isRecovered;
     ShowStatus();
+    if (isRecovered && !options_.commandFile.isEmpty())
+        sbStatusBar_->ShowNote(tr("Recovered changes came first; not opened: %1").arg(options_.commandFile));
 }
 
 bool frmMain::RecoverWork()

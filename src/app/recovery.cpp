@@ -79,8 +79,18 @@ void Recovery::Keep()
     pool_.start([this, image = image_, origin = fileName_, file = file_.get()] {
         const auto problem = file->Keep(RecoveryText(image), origin);
         const QString reason = problem ? QString::fromStdString(problem->details) : QString();
-        QMetaObject::invokeMethod(this, [this, reason] { emit Kept(reason); });
+        QMetaObject::invokeMethod(this, [this, reason] { Keep_Done(reason); });
     });
+}
+
+void Recovery::Keep_Done(const QString& reason)
+{
+    // The disk may have room again, or the folder be there, a moment later.
+    if (!reason.isEmpty() && file_ && image_.DataChanged && !timer_.isActive())
+        timer_.start();
+    if (reason.isEmpty() || reason != lastReason_)
+        emit Kept(reason);
+    lastReason_ = reason;
 }
 
 void Recovery::Remove()

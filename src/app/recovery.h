@@ -40,16 +40,19 @@ class Recovery : public QObject
                const std::function<bool(const QString& path, const QString& origin)>& load);
 
   signals:
-    /// The changes are in the recovery file now, or \param reason why they are not.
+    /// The changes are in the recovery file now, or \param reason why they are not: told once, while the
+    /// attempts go on.
     void Kept(const QString& reason);
 
   private:
     void Keep();
+    void Keep_Done(const QString& reason);
     void Remove();
 
     const CloneImage& image_;
     const QString folder_;
     QString fileName_;
+    QString lastReason_;  ///< why the last attempt to keep the changes failed; it is made again
     QTimer timer_;
     std::unique_ptr<RecoveryFile> file_;  ///< null until there is something to keep
     bool hasEnded_ = false;

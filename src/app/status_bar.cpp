@@ -58,6 +58,9 @@ void StatusBar::ShowImage(const CloneImage& image, bool hasFile)
 
 void StatusBar::ShowNote(const QString& text)
 {
+    // What has just happened is shown at once, wherever the pointer rests; its next move brings hints back.
+    if (text != note_)
+        pointerHint_.clear();
     note_ = text;
     ShowFirstText();
 }

@@ -107,8 +107,10 @@ TransferResult TransferCommands::WriteBlocks(const TransferScope& scope)
     WriteRecord record(image_, scope, *this);
     ReceiverWriter writer(image_, link_, record);
     const TransferResult result = WriteScope(writer, scope);
-    if (result == TransferResult::Cancelled)
-        emit Noted(QString::fromStdString(record.Summary()));
+    if (result == TransferResult::Cancelled && record.HasBegun())
+        Warn({.title = tr("Write"),
+              .text = tr("The write was cancelled."),
+              .details = QString::fromStdString(record.Summary())});
     return result;
 }
 
@@ -125,12 +127,10 @@ TransferResult TransferCommands::Verify(const TransferScope& scope)
         rows.reserve(differences.size());
         for (const BlockDifference& difference : differences)
             rows.push_back(difference.expected.label);
-        Prompt warning;
-        warning.title = tr("Verify");
-        warning.text = tr("The receiver does not hold what was written. Write again.");
-        warning.details = RowList(rows, kNamedBlocks);
-        warning.icon = QMessageBox::Warning;
-        dialogs_.Ask(&window_, warning);
+        Warn({.title = tr("Verify"),
+              .text = tr("The receiver does not hold what was written. Write again."),
+              .details = RowList(rows, kNamedBlocks),
+              .more = rows.size() > kNamedBlocks ? RowList(rows, rows.size()) : QString()});
     } else if (result == TransferResult::Done) {
         emit Noted(tr("Written and verified: the receiver holds what was written."));
     }
@@ -143,6 +143,12 @@ void TransferCommands::Cancel()
         return;
     isCancelled_ = true;
     link_.Cancel();
+}
+
+void TransferCommands::Warn(Prompt warning)
+{
+    warning.icon = QMessageBox::Warning;
+    dialogs_.Ask(&window_, warning);
 }
 
 void TransferCommands::Message(const Problem& problem)

@@ -44,7 +44,8 @@ class TransferCommands : public QObject, private TransferObserver
 
     bool IsRunning() const { return isRunning_; }
 
-    /// Ends the transfer at once, without a message.
+    /// Ends the transfer at once, without a message; only a write that has changed the receiver says how
+    /// far it came.
     void Cancel();
 
   signals:
@@ -54,8 +55,8 @@ class TransferCommands : public QObject, private TransferObserver
     void ProgressAdvanced(int value, int row);
     void Refreshed(rqm5::Changed what);
 
-    /// What there is to say about a transfer without a message: how far a cancelled write came, that the
-    /// receiver was read back and agrees.
+    /// What there is to say about a transfer without a message: that nothing was written, that the receiver
+    /// was read back and agrees.
     void Noted(const QString& text);
 
   private:
@@ -65,6 +66,7 @@ class TransferCommands : public QObject, private TransferObserver
     TransferResult KeepBackup(const TransferScope& scope, const QString& folder);
     TransferResult WriteBlocks(const TransferScope& scope);
     TransferResult Verify(const TransferScope& scope);
+    void Warn(Prompt warning);
     bool SaveBackup(const TransferScope& scope, const QString& folder, CloneImage& backup);
 
     void ProgressStarted(int maximum) override { emit ProgressBegan(maximum); }

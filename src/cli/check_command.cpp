@@ -81,6 +81,30 @@ void WarnOfForm(std::string_view bytes, Console& console)
         Warn(console, "there is text behind the last line; a save drops it", {});
 }
 
+/// Lines that hold blocks, counted from 1: the first and the last of those before the notes and behind them.
+constexpr std::pair<int, int> kBlockLines[] = {{2, 1267}, {2522, 2529}};
+
+/// What is no digit reads as 0, so a value may have been something else once.
+void WarnOfDigits(std::string_view bytes, Console& console)
+{
+    std::vector<std::string> lines;
+    int number = 0;
+    while (!bytes.empty()) {
+        const std::size_t end = bytes.find('\n');
+        std::string_view line = bytes.substr(0, end);
+        bytes.remove_prefix(end == std::string_view::npos ? bytes.size() : end + 1);
+        line.remove_suffix(line.ends_with('\r') ? 1 : 0);
+        ++number;
+        const bool isBlock = std::ranges::any_of(kBlockLines, [number](const auto& range) {
+            return number >= range.first && number <= range.second;
+        });
+        if (isBlock && line.find_first_not_of("0123456789ABCDEF") != std::string_view::npos)
+            lines.push_back("line " + std::to_string(number));
+    }
+    if (!lines.empty())
+        Warn(console, "characters that are no hexadecimal digits count as 0 in:", lines);
+}
+
 void WarnOfNotes(const CloneImage& image, Console& console)
 {
     const std::vector<std::string> lost = NotesThatDoNotSurvive(image);
@@ -105,6 +129,7 @@ Status RunCheck(const Arguments& arguments, Console& console)
     console.out << VisibleText(arguments[0]) << " is whole.\n";
     PrintContents(image, console.out);
     WarnOfForm(bytes, console);
+    WarnOfDigits(bytes, console);
     WarnOfNotes(image, console);
     return Status::Done;
 }

@@ -10,7 +10,7 @@ void Report(Console& console, const Problem& problem)
 {
     console.err << VisibleText(problem.text) << ": " << VisibleText(problem.details);
     if (!problem.aftermath.empty())
-        console.err << ' ' << VisibleText(problem.aftermath);
+        console.err << (problem.details.ends_with('.') ? " " : ". ") << VisibleText(problem.aftermath);
     console.err << '\n';
 }
 

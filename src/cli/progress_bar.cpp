@@ -67,7 +67,7 @@ void ProgressBar::BlockDone(int /*address*/, bool /*written*/)
 
 void ProgressBar::Message(const Problem& problem)
 {
-    const std::string message = problem.text + problem.details;
+    const std::string message = problem.text + problem.details + problem.aftermath;
     if (message == lastMessage_)
         return;
     lastMessage_ = message;

@@ -1,5 +1,7 @@
 #include "files/csv_file.h"
 
+#include <algorithm>
+
 #include "files/csv_fields.h"
 #include "files/csv_groups.h"
 #include "memory/row_names.h"
@@ -57,7 +59,9 @@ void AddMemoryRecord(std::string& csv, const CloneImage& image, const CsvGroup& 
 
 bool LooksLikeFormula(const std::string& note)
 {
-    return !note.empty() && std::string_view("=+-@\t\r").find(note.front()) != std::string_view::npos;
+    // The wide forms too: some spreadsheets take them for the plain ones.
+    constexpr std::string_view kStarts[] = {"=", "+", "-", "@", "\t", "\r", "＝", "＋", "－", "＠"};
+    return std::ranges::any_of(kStarts, [&note](std::string_view start) { return note.starts_with(start); });
 }
 
 }  // namespace

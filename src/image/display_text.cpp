@@ -16,12 +16,14 @@ struct CharacterRange
     char32_t last;
 };
 
-constexpr CharacterRange kHidden[] = {{0x00, 0x1F},     {0x7F, 0x9F},     {0x200E, 0x200F},
-                                      {0x2028, 0x202E}, {0x2066, 0x2069}, {0xFEFF, 0xFEFF}};
+/// Control characters, marks that turn the direction of writing, and others that a reader cannot see.
+constexpr CharacterRange kHidden[] = {{0x00, 0x1F},     {0x7F, 0x9F},      {0xAD, 0xAD},     {0x061C, 0x061C},
+                                      {0x200B, 0x200F}, {0x2028, 0x202E},  {0x2060, 0x206F}, {0xFEFF, 0xFEFF},
+                                      {0xFFF9, 0xFFFB}, {0xE0000, 0xE007F}};
 
 constexpr CharacterRange kCombining[] = {{0x0300, 0x036F}, {0x1AB0, 0x1AFF}, {0x1DC0, 0x1DFF},
-                                         {0x200B, 0x200D}, {0x20D0, 0x20FF}, {0x3099, 0x309A},
-                                         {0xFE00, 0xFE0F}, {0xFE20, 0xFE2F}};
+                                         {0x20D0, 0x20FF}, {0x3099, 0x309A}, {0xFE00, 0xFE0F},
+                                         {0xFE20, 0xFE2F}};
 
 constexpr CharacterRange kWide[] = {{0x1100, 0x115F},   {0x2E80, 0x303E},  {0x3041, 0xA4CF},
                                     {0xAC00, 0xD7A3},   {0xF900, 0xFAFF},  {0xFE30, 0xFE6F},
@@ -85,7 +87,10 @@ std::string Escaped(char32_t code)
             return name;
     if (code < 0x80)
         return "\\x" + HexByte(static_cast<int>(code));
-    return "\\u" + HexAddress(static_cast<int>(code));
+    constexpr char32_t kFourDigits = 0xFFFF;
+    return code <= kFourDigits ? "\\u" + HexAddress(static_cast<int>(code))
+                               : "\\U" + HexAddress(static_cast<int>(code >> 16)) +
+                                     HexAddress(static_cast<int>(code & kFourDigits));
 }
 
 int WidthOf(char32_t code)

@@ -84,7 +84,11 @@ TransferResult BlockLink::Repeat(int address, bool written, Try attempt)
 
 TransferResult BlockLink::Fail(int address, bool written, Attempt last)
 {
-    observer_.BlockFailed(address, written);
+    const bool neverOpened = last == Attempt::PortFailed && link_.Port().Fault() != PortFault::Gone;
+    if (neverOpened)
+        observer_.BlockUnsent(address, written);
+    else
+        observer_.BlockFailed(address, written);
     observer_.Message(
         last == Attempt::PortFailed
             ? ComPortProblem(link_.Port())

@@ -18,6 +18,7 @@ class ForwardingObserver : public TransferObserver
     void ProgressEnded() override { next_.ProgressEnded(); }
     void BlockDone(int address, bool written) override { next_.BlockDone(address, written); }
     void BlockFailed(int address, bool written) override { next_.BlockFailed(address, written); }
+    void BlockUnsent(int address, bool written) override { next_.BlockUnsent(address, written); }
     void Refresh(Changed what) override { next_.Refresh(what); }
     void Message(const Problem& problem) override { next_.Message(problem); }
     bool IsCancelled() override { return next_.IsCancelled(); }

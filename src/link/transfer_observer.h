@@ -33,6 +33,9 @@ class TransferObserver
     /// A block was refused for good; called before Message.
     virtual void BlockFailed(int /*address*/, bool /*written*/) {}
 
+    /// The port could not be opened, so nothing of this block left the computer; called before Message.
+    virtual void BlockUnsent(int /*address*/, bool /*written*/) {}
+
     virtual void Refresh(Changed /*what*/) {}
 
     /// The operation failed; it ends after this call.

@@ -79,6 +79,23 @@ void WriteRecord::BlockFailed(int address, bool written)
     ForwardingObserver::BlockFailed(address, written);
 }
 
+void WriteRecord::BlockUnsent(int address, bool written)
+{
+    isUnderWay_ = false;
+    if (Find(address, written))
+        failedSection_ = next_.section;
+    ForwardingObserver::BlockUnsent(address, written);
+}
+
+bool WriteRecord::HasBegun() const
+{
+    for (const Section& section : sections_)
+        for (std::size_t block = 0; !section.plan.IsRead() && block < section.states.size(); ++block)
+            if (StateAt(section, block) != State::NotSent)
+                return true;
+    return false;
+}
+
 bool WriteRecord::IsCancelled()
 {
     const bool isCancelled = ForwardingObserver::IsCancelled();

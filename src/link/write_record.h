@@ -20,7 +20,11 @@ class WriteRecord : public ForwardingObserver
     std::string Summary() const { return Describe(sections_.size()); }
 
     void BlockDone(int address, bool written) override;
+    /// True once something may have changed in the receiver.
+    bool HasBegun() const;
+
     void BlockFailed(int address, bool written) override;
+    void BlockUnsent(int address, bool written) override;
     void Message(const Problem& problem) override;
     bool IsCancelled() override;
 

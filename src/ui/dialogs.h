@@ -15,6 +15,7 @@ struct Prompt
     QString title;
     QString text;
     QString details = {};  ///< shown as informative text: device, reason, remedy, line number
+    QString more = {};     ///< behind a "Show Details" button: what would be too long below the message
     QMessageBox::Icon icon = QMessageBox::Critical;
     QMessageBox::StandardButtons buttons = QMessageBox::Ok;
     QMessageBox::StandardButton defaultButton = QMessageBox::NoButton;

@@ -51,6 +51,8 @@ QMessageBox::StandardButton MessageDialogs::Ask(QWidget* parent, const Prompt& p
         box.setDefaultButton(prompt.defaultButton);
     for (const auto& [button, caption] : prompt.captions)
         box.button(button)->setText(caption);
+    if (!prompt.more.isEmpty())
+        box.setDetailedText(prompt.more);
     if (!prompt.details.isEmpty()) {
         box.setInformativeText(prompt.details);
         // setTextFormat does not reach the informative text, and a file may well be named "<b>".
