@@ -5,6 +5,7 @@
 #include "cli/command.h"
 #include "cli/text_table.h"
 #include "files/clone_file.h"
+#include "files/clone_lines.h"
 #include "files/csv_file.h"
 #include "files/file_store.h"
 #include "image/display_text.h"
@@ -81,28 +82,22 @@ void WarnOfForm(std::string_view bytes, Console& console)
         Warn(console, "there is text behind the last line; a save drops it", {});
 }
 
-/// Lines that hold blocks, counted from 1: the first and the last of those before the notes and behind them.
-constexpr std::pair<int, int> kBlockLines[] = {{2, 1267}, {2522, 2529}};
+bool HoldsBlock(int line)
+{
+    return (line > kStartLine && line < kVfoNoteLine) || (line >= kBankLine && line < kEndLine);
+}
 
-/// What is no digit reads as 0, so a value may have been something else once.
+/// Blocks are taken as they come; what a stranger made of them may have been meant otherwise.
 void WarnOfDigits(std::string_view bytes, Console& console)
 {
     std::vector<std::string> lines;
-    int number = 0;
-    while (!bytes.empty()) {
-        const std::size_t end = bytes.find('\n');
-        std::string_view line = bytes.substr(0, end);
-        bytes.remove_prefix(end == std::string_view::npos ? bytes.size() : end + 1);
-        line.remove_suffix(line.ends_with('\r') ? 1 : 0);
-        ++number;
-        const bool isBlock = std::ranges::any_of(kBlockLines, [number](const auto& range) {
-            return number >= range.first && number <= range.second;
-        });
-        if (isBlock && line.find_first_not_of("0123456789ABCDEF") != std::string_view::npos)
-            lines.push_back("line " + std::to_string(number));
-    }
+    CloneLineReader reader(bytes);
+    for (int number = kStartLine; const auto line = reader.NextLine(); ++number)
+        if (HoldsBlock(number) && line->find_first_not_of("0123456789ABCDEF") != std::string_view::npos)
+            lines.push_back("line " + std::to_string(number + 1) + " (" + CloneLineName(number) + ")");
     if (!lines.empty())
-        Warn(console, "characters that are no hexadecimal digits count as 0 in:", lines);
+        Warn(console,
+             "what is no upper-case hexadecimal digit may be read as 0; other characters stand in:", lines);
 }
 
 void WarnOfNotes(const CloneImage& image, Console& console)

@@ -4,7 +4,6 @@
 #include <QFileInfo>
 #include <ostream>
 
-#include "files/clone_file.h"
 #include "files/file_store.h"
 #include "image/display_text.h"
 #include "memory/start_image.h"
@@ -49,26 +48,8 @@ Problem SameFileProblem(const std::string& path)
             path + ": both names are the same file, which would be replaced; give another name"};
 }
 
-namespace {
-
-/// A good file must not give way to one that no program can open, nor a missing one come to be.
-Status RefuseToSave(const std::string& path, const std::string& reason, const std::vector<std::string>& rows,
-                    Console& console)
-{
-    Report(console, {kDataError, path + " was not written, because it could not be opened again (" + reason +
-                                     "); take commas and quotes out of these notes:"});
-    for (const std::string& row : rows)
-        console.err << "  " << VisibleText(row) << '\n';
-    return Status::Failed;
-}
-
-}  // namespace
-
 Status Save(const std::string& path, CloneImage& image, Console& console)
 {
-    CloneImage again;
-    if (const auto error = ParseCloneFile(FormatCloneFile(image), again))
-        return RefuseToSave(path, error->reason, NotesThatDoNotSurvive(image), console);
     const SaveOutcome outcome = SaveCloneFile(PathOf(path), image);
     if (outcome.problem)
         return Fail(console, *outcome.problem);

@@ -46,7 +46,7 @@ int main(int argc, char* argv[])
     const rqm5::Status status = rqm5::RunProgram(words, console);
     std::cout.flush();
     if (!std::cout && status == rqm5::Status::Done) {
-        std::cerr << "rq-m5: the output could not be written; is the disk full?\n";
+        std::cerr << rqm5::kFileOpenError << ": the output could not be written; is the disk full?\n";
         return static_cast<int>(rqm5::Status::Failed);
     }
     return static_cast<int>(status);

@@ -9,6 +9,21 @@
 #include "link/receiver_checks.h"
 
 namespace rqm5 {
+namespace {
+
+/// The whole block as a write would leave it: what the write does not touch is the receiver's own.
+std::string ExpectedIn(const ExpectedBlock& block, const MemoryBlock& read)
+{
+    MemoryBlock expected = block.contents;
+    for (std::size_t i = 0; i < kBlockBytes; ++i)
+        if (read.HasByte(i)) {
+            const int mask = block.mask.Byte(i);
+            expected.SetByte(i, (block.contents.Byte(i) & mask) | (read.Byte(i) & ~mask));
+        }
+    return expected.String();
+}
+
+}  // namespace
 
 Status CompareWithReceiver(const CloneImage& image, const TransferScope& scope, ReceiverSession& session,
                            Console& console, const std::string& aftermath)
@@ -20,7 +35,7 @@ Status CompareWithReceiver(const CloneImage& image, const TransferScope& scope, 
     const Status status = session.Finish(ReadBack(expected, session.Link(), observer, differences));
     TextTable table;
     for (const auto& [block, read] : differences)
-        table.AddRow({HexAddress(block.address), block.label, "expected " + block.contents.String(),
+        table.AddRow({HexAddress(block.address), block.label, "expected " + ExpectedIn(block, read),
                       "receiver " + read.String()});
     table.Print(console.out);
     return differences.empty() ? status : Status::Failed;

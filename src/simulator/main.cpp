@@ -90,6 +90,10 @@ int Main(const QStringList& arguments)
         std::cerr << "rq-m5-sim: " << parsed.error.toStdString() << "\nTry 'rq-m5-sim --help'.\n";
         return kWrongUsage;
     }
+    // Not found out at the end, when what was written to the receiver would be lost.
+    const QString& save = parsed.options.save;
+    if (const auto problem = save.isEmpty() ? std::nullopt : SaveObstacle(save))
+        return Report(*problem);
     CloneImage image = DemoImage(parsed.options.region);
     if (!parsed.options.memory.isEmpty()) {
         image = StartUpImage(0);

@@ -135,7 +135,7 @@ TEST_F(RecoveryTest, WhatIsKeptCanAlwaysBeLoaded)
     EXPECT_EQ(loaded.MemText[9][kNote], "5\" rod");
 }
 
-TEST_F(RecoveryTest, AFolderThatCannotBeWrittenIsToldInTheStatusBar)
+TEST_F(RecoveryTest, AFolderThatCannotBeWrittenIsToldAndTriedAgain)
 {
     QFile(options_.stateFolder).open(QIODevice::WriteOnly);
     Start();
@@ -144,6 +144,10 @@ TEST_F(RecoveryTest, AFolderThatCannotBeWrittenIsToldInTheStatusBar)
     ASSERT_TRUE(!kept.isEmpty() || kept.wait());
     EXPECT_FALSE(kept.constLast().constFirst().toString().isEmpty());
     EXPECT_TRUE(StatusText("lblHint").contains(QStringLiteral("cannot be kept")));
+    QFile::remove(options_.stateFolder);
+    ASSERT_TRUE(kept.wait());
+    EXPECT_TRUE(kept.constLast().constFirst().toString().isEmpty());
+    EXPECT_EQ(Kept().size(), 1);
 }
 
 }  // namespace

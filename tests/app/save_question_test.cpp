@@ -82,6 +82,39 @@ TEST_F(SaveQuestion, EveryAnswerInEveryPlace)
         }
 }
 
+TEST_F(SaveQuestion, ASaveThatLosesNotesDoesNotLetThemGo)
+{
+    for (const Place place : {Place::New, Place::Closing}) {
+        StartEdited(place);
+        std::ofstream(Path("in.csv").toStdString()) << "\"RQ-M5\",\"MEMORY\",\"3\",\"145.500000\",\"FM\","
+                                                       "\"10KHz\",\"OFF\",\"0\",\"300Hz\",\"88.5Hz\","
+                                                       "\"OFF\",\"0.600000\",\"a,b\",\"#FALSE#\",#TRUE#\r\n";
+        dialogs_.files = {Path("in.csv"), Path("mine.RQ5")};
+        Item("mnuFileImport").trigger();
+        TypeBankSize(0, "7");
+        GoTo(Tab::Settings1);
+        dialogs_.answers = {QMessageBox::Yes};
+        Go();
+        EXPECT_FALSE(HasHappened()) << "the notes can still be mended";
+        EXPECT_EQ(dialogs_.asked.back().title, QStringLiteral("Notes"));
+    }
+}
+
+TEST_F(WindowTest, AFileNamedFromAFolderIsThatFileFromEveryFolder)
+{
+    CloneImage image = StartUpImage(2);
+    ASSERT_FALSE(SaveCloneFile(Path("here.RQ5"), image).problem);
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(folder_.path());
+    options_.commandFile = QStringLiteral("here.RQ5");
+    Start();
+    QDir::setCurrent(before);
+    EditSomething();
+    Item("mnuFileSave").trigger();
+    EXPECT_FALSE(LoadCloneFile(Path("here.RQ5"), image));
+    EXPECT_EQ(image.Settings.scanMode, 1);
+}
+
 TEST_F(WindowTest, SaveGoesToTheCurrentFileWhicheverItIs)
 {
     Start();

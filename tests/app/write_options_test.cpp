@@ -78,6 +78,7 @@ TEST_F(WriteOptionsTest, VerifyNamesTheRowsThatDiffer)
     EXPECT_EQ(lines.size(), 21);
     EXPECT_EQ(lines.constFirst(), QStringLiteral("Row 0 (Bank 0, channel 0)"));
     EXPECT_EQ(lines.constLast(), QStringLiteral("and 10 more"));
+    EXPECT_TRUE(dialogs_.asked[0].more.endsWith(QStringLiteral("\nRow 29 (Bank 0, channel 29)")));
 }
 
 TEST_F(WriteOptionsTest, WithoutItsBackupNothingIsWrittenAndACancelTellsWhatWas)
@@ -95,9 +96,13 @@ TEST_F(WriteOptionsTest, WithoutItsBackupNothingIsWrittenAndACancelTellsWhatWas)
     SaveWriteOptions({false, false, Path("backups")});
     At(20, [this] { Find<QPushButton>("cmbCancel").click(); });
     Item("mnuWrMemory").trigger();
-    EXPECT_EQ(dialogs_.asked.size(), 1U) << "a cancel shows no message";
-    EXPECT_TRUE(StatusText("lblHint").contains(
+    ASSERT_EQ(dialogs_.asked.size(), 2U);
+    EXPECT_EQ(dialogs_.asked[1].text, QStringLiteral("The write was cancelled."));
+    EXPECT_TRUE(dialogs_.asked[1].details.startsWith(
         QStringLiteral("Sent: bank sizes, bank links, enable flags, rows 0 to 19. ")));
+    At(0, [this] { Find<QPushButton>("cmbCancel").click(); });
+    Item("mnuReMemory").trigger();
+    EXPECT_EQ(dialogs_.asked.size(), 2U) << "a read leaves nothing half done in the receiver";
 }
 
 }  // namespace

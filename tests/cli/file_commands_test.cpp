@@ -74,7 +74,7 @@ TEST_F(FileCommands, FailWhenTheOutputHasNoRoom)
     StartProgram(process, {"show", file});
     const RunResult full = FinishProgram(process);
     EXPECT_EQ(full.status, 1);
-    EXPECT_TRUE(Has(full.err, "could not be written")) << full.err;
+    EXPECT_TRUE(Has(full.err, "File Open Error: the output could not be written")) << full.err;
 }
 
 TEST_F(FileCommands, ImportTakesRowsIntoAFileOrANewOneAndNamesNotesThatAreLost)
@@ -129,9 +129,11 @@ TEST_F(FileCommands, CheckSaysWhatAFileHoldsAndWarns)
     EXPECT_TRUE(Has(run.err, "formulas:\n  memory row 205") && !Has(run.err, "LF")) << run.err;
 
     std::erase(bytes, '\r');
+    bytes.replace(bytes.find('\n') + 3, 1, "x");  // in the first block
     PutBytes(file, bytes + "more");
     const RunResult odd = RunProgramFile({"check", file});
     EXPECT_EQ(odd.status, 0);
+    EXPECT_TRUE(Has(odd.err, "\n  line 2 (settings block")) << odd.err;
     EXPECT_TRUE(Has(odd.err, "LF in place of CR LF") && Has(odd.err, "behind the last line")) << odd.err;
 }
 

@@ -12,6 +12,7 @@ TEST(DisplayText, CountsColumnsNotBytesAndMakesVisibleWhatATerminalWouldObey)
 {
     EXPECT_EQ(VisibleText("a\r\n\t\x1b[2J\x7f"), "a\\r\\n\\t\\x1B[2J\\x7F");
     EXPECT_EQ(VisibleText("\u202Egnp.exe \u0085"), "\\u202Egnp.exe \\u0085");
+    EXPECT_EQ(VisibleText("\u061C\u200B\U000E0041"), "\\u061C\\u200B\\U000E0041");
     EXPECT_EQ(VisibleText("\xC0\xAF \xED\xA0\x80 \xE3\x81"), "\\xC0\\xAF \\xED\\xA0\\x80 \\xE3\\x81");
     EXPECT_EQ(VisibleText("日本 é 😀"), "日本 é 😀");
     EXPECT_EQ(DisplayWidth("日本é") + DisplayWidth("e\u0301ｱ"), 5 + 2);

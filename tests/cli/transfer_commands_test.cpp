@@ -40,6 +40,18 @@ void ExpectOneLine(const RunResult& run, const std::string& message)
     EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
 }
 
+TEST_F(Transfers, APortThatCannotBeUsedIsNamedOncePerPart)
+{
+    EXPECT_EQ(RunProgramFile({"new", file}).status, 0);
+    ExpectOneLine(RunProgramFile({"read", "--port", "/dev/no such", file}),
+                  "COM Port Error: /dev/no such: no such device. ");
+    const RunResult write = RunProgramFile({"write", "--port", "/dev/null", file});
+    EXPECT_EQ(write.status, 1);
+    EXPECT_TRUE(write.err.starts_with("COM Port Error: /dev/null: not a serial port")) << write.err;
+    EXPECT_TRUE(Has(write.err, "The memory is written next.\nCOM Port Error: ")) << write.err;
+    EXPECT_FALSE(Has(write.err, "Refused")) << "nothing left the computer";
+}
+
 TEST_F(Transfers, ReadChangeWriteAndVerifyTheWholeMemory)
 {
     const std::string csv = folder / "radio.csv";

@@ -59,6 +59,18 @@ TEST(WriteRecord, TellsWhichBlocksWereSentAndWhichWereNot)
     }
 }
 
+TEST(WriteRecord, NothingIsInDoubtWhereThePortNeverOpened)
+{
+    CloneImage image = DemoImage(0);
+    QtSerialPort port(QStringLiteral("/no such port"));
+    RadioLink link(port);
+    RecordingObserver observer;
+    WriteRecord record(image, kBanksOnly, observer);
+    EXPECT_EQ(ReceiverWriter(image, link, record).WriteBankPage(), TransferResult::Failed);
+    EXPECT_FALSE(record.HasBegun());
+    EXPECT_EQ(record.Summary(), "Sent: nothing. Not sent: bank sizes, bank links." + kRepeat);
+}
+
 TEST(WriteRecord, ABlockThatACancelMetIsInDoubt)
 {
     const auto hear = [](SimulatedLine& line, const std::string& command) {

@@ -50,10 +50,13 @@ TEST(Program, KeepsWhatWasWrittenAndTheNotesOfItsFile)
 
 TEST(Program, SaysWhatItCannotDo)
 {
-    const std::pair<const char*, int> kCases[] = {
-        {"--memory missing.RQ5", 1}, {"--link /no/such/folder/port", 1},
-        {"--baud fast", 2},          {"--region 4", 2},
-        {"--fault none", 2},         {"file", 2}};
+    const std::pair<const char*, int> kCases[] = {{"--memory missing.RQ5", 1},
+                                                  {"--save /no/such/folder/a.RQ5", 1},
+                                                  {"--link /no/such/folder/port", 1},
+                                                  {"--baud fast", 2},
+                                                  {"--region 4", 2},
+                                                  {"--fault none", 2},
+                                                  {"file", 2}};
     for (const auto& [arguments, status] : kCases) {
         Program program(QString::fromLatin1(arguments));
         program.waitForFinished();
