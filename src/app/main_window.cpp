@@ -30,7 +30,7 @@ constexpr QSize kWindowFrame(8, 36);
 }  // namespace
 
 frmMain::frmMain(SerialPort& port, Dialogs& dialogs, const StartOptions& options)
-    : image_(StartUpImage(0)), dialogs_(dialogs), options_(options), link_(port)
+    : image_(StartUpImage(0)), dialogs_(dialogs), options_(options), link_(port, this)
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowIcon(ProgramIcon());
@@ -149,6 +149,7 @@ void frmMain::ConnectMenus()
     });
     connect(files_, &FileCommands::FileStateChanged, this, [this] {
         setWindowTitle(files_->Caption());
+        sbStatusBar_->ShowNote({});  // it spoke of what was there before
         ShowStatus();
     });
 }
@@ -334,6 +335,7 @@ void frmMain::TabStrip1_Click(Tab tab)
     menus_->SetModifyPossible(tab == Tab::Settings1 || tab == Tab::Memory);
     if (tab == Tab::Memory)
         memory_->FocusSelector();
+    sbStatusBar_->ShowHintOf(focusWidget());
 }
 
 void frmMain::mnuEditUndo_Click()

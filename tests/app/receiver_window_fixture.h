@@ -21,6 +21,12 @@ class ReceiverWindowTest : public WindowTest
 
     ~ReceiverWindowTest() override { port_.Close(); }
 
+    /// How long the receiver may be silent.
+    void SetTimeOut(std::chrono::milliseconds timeOut)
+    {
+        window_->findChild<RadioLink*>()->SetTimeOut(timeOut);
+    }
+
     QProgressBar& Bar() { return Find<QProgressBar>("ProgressBar1"); }
 
     /// Does something once, when the row by row part of a transfer has come to a value.

@@ -119,32 +119,6 @@ TEST_F(TransferTest, WriteAllLeavesInTheReceiverWhatTheWindowShows)
     EXPECT_EQ(now.MemData, demo_.MemData);
 }
 
-TEST_F(TransferTest, AFaultInTheMiddleTellsAndTheNextOperationWorks)
-{
-    const std::tuple<const char*, FaultKind, const char*> cases[] = {
-        {"mnuReMemory", FaultKind::Garble, "Communication Error"},
-        {"mnuWrMemory", FaultKind::HangUp, "COM Port Error"},
-        {"cmbReadBank", FaultKind::HangUp, "COM Port Error"},
-        {"cmbWriteBank", FaultKind::Ng, "Communication Error"},
-    };
-    for (const auto& [control, fault, text] : cases) {
-        SCOPED_TRACE(std::string(control) + ", " + text);
-        GoTo(Tab::Bank);
-        dialogs_.asked.clear();
-        receiver_.SetFaults({{.kind = fault, .count = fault == FaultKind::HangUp ? 1 : 10, .after = 4}});
-        Trigger(control);
-        ASSERT_EQ(dialogs_.asked.size(), 1U);
-        EXPECT_EQ(dialogs_.asked[0].title, QStringLiteral("ERROR"));
-        EXPECT_EQ(dialogs_.asked[0].text, QLatin1String(text));
-        EXPECT_EQ(dialogs_.asked[0].icon, QMessageBox::Critical);
-        ExpectEverythingOn();
-        receiver_.SetFaults({});
-        port_.SetDevice(receiver_.Device());
-        Trigger(control);
-        EXPECT_EQ(dialogs_.asked.size(), 1U) << "the fault is gone";
-    }
-}
-
 TEST_F(TransferTest, CancelEndsItWithoutAMessageAndKeepsWhatCame)
 {
     const std::function<void()> ways[] = {

@@ -93,31 +93,6 @@ TEST_F(Transfers, MoveOnlyWhatIsAskedFor)
     EXPECT_EQ(receiver.CommandLog().size(), 16U);
 }
 
-TEST_F(Transfers, AFaultEndsEachCommandWithItsMessageAndTheNextOneWorks)
-{
-    SimOptions options = Demo();
-    options.link = folder / "port";
-    SimSession receiver(options);
-    EXPECT_EQ(RunProgramFile({"new", "--region", "1", file}).status, 0);
-    const std::string before = Bytes(file);
-    const std::tuple<const char*, Fault, const char*> kCases[] = {
-        {"read", {FaultKind::Garble, 10, 0, 3}, "Communication Error: Block 0"},
-        {"read", {FaultKind::HangUp, 1, 0, 700}, "COM Port Error: "},
-        {"write", {FaultKind::Ng, 10, 0, 100}, "Communication Error: "},
-        {"verify", {FaultKind::Garble, 10, 0, 100}, "Communication Error: "},
-    };
-    for (const auto& [command, fault, message] : kCases) {
-        receiver.SetFaults({fault});
-        receiver.ClearCommandLog();
-        ExpectOneLine(Transfer(command, receiver, file), message);
-        EXPECT_EQ(Bytes(file), before) << command;
-        // A settings part that failed is not followed by a minute of memory that nobody keeps.
-        EXPECT_LT(receiver.CommandLog().size(), 711U);
-    }
-    receiver.SetFaults({});
-    EXPECT_EQ(Transfer("write", receiver, file).status, 0) << "the fault is gone";
-}
-
 using Write = Transfers;
 
 TEST_F(Write, KeepsABackupAndReadsBackWhenItIsAskedTo)

@@ -3,11 +3,11 @@
 #include <QTemporaryDir>
 
 #include "image/channel_record.h"
-#include "link/raw_read.h"
 #include "link/receiver_checks.h"
 #include "link/simulated_line.h"
 #include "link/write_record.h"
 #include "memory/bank_layout.h"
+#include "reliability/fault_table.h"
 
 namespace rqm5 {
 namespace {
@@ -44,31 +44,6 @@ const Operation kOperations[] = {
     {"verify one bank", Kind::Verify, kOneBank},
 };
 
-/// What a fault leads to that strikes ten times in a row in the middle of an operation.
-struct FaultCase
-{
-    const char* text;
-    const char* readMessage;  ///< text and a part of the details; nullptr: the operation succeeds
-    const char* writeMessage;
-    bool isObeyed;         ///< the receiver keeps the block whose write failed
-    RawReply::Result raw;  ///< of a single read
-};
-
-using enum RawReply::Result;
-
-const FaultCase kFaults[] = {
-    {"", nullptr, nullptr, true, Frame},  // no fault
-    {"no-echo", nullptr, "too short", true, Frame},
-    {"drop", "too short", "too short", true, TooShort},
-    {"cut", "too short", "too short", true, TooShort},
-    {"garble", "garbled", "garbled", true, NoFrame},
-    {"ng", "too short", "did not answer OK", false, TooShort},
-    {"pieces", nullptr, nullptr, true, Frame},
-    {"noise", nullptr, nullptr, true, Frame},
-    {"hang-up", "device", "device", false, PortFailed},
-    {"silent", "sent nothing", "sent nothing", false, TooShort},
-};
-
 struct PortFolder
 {
     QTemporaryDir folder;
@@ -96,12 +71,9 @@ struct Line : PortFolder, SimulatedLine
                                              : ReadScope(reader, operation.scope);
     }
 
-    /// After so many commands the fault strikes ten times in a row, or once when it takes the line away.
     void Break(const FaultCase& fault, std::size_t after)
     {
-        const std::string times = fault.raw == PortFailed ? ":1" : ":10";
-        if (*fault.text != '\0')
-            receiver.SetFaults({ParseFault(fault.text + times + ":after=" + std::to_string(after)).value()});
+        receiver.SetFaults(fault.Faults(static_cast<int>(after)));
     }
 
     void Hurry() { link.SetTimeOut(10ms); }
@@ -174,7 +146,7 @@ void ExpectMessage(const Line& line, const Operation& operation, const FaultCase
     if (message == nullptr)
         return;
     const Problem& problem = line.observer.problems.front();
-    EXPECT_EQ(problem.text, fault.raw == PortFailed ? kComPortError : kCommunicationError);
+    EXPECT_EQ(problem.text, fault.TakesTheLine() ? kComPortError : kCommunicationError);
     EXPECT_NE(problem.details.find(message), std::string::npos) << problem.details;
     EXPECT_EQ(problem.aftermath.find("Sent: ") == 0, operation.kind == Kind::Write) << problem.aftermath;
 }
@@ -215,7 +187,7 @@ TEST(LineFaults, ARawReadTellsWhatCameBack)
     for (const FaultCase& fault : kFaults) {
         Line line;
         line.Break(fault, 0);
-        if (fault.raw == TooShort)
+        if (fault.raw == RawReply::Result::TooShort)
             line.Hurry();
         EXPECT_EQ(ReadRaw(line.link, 0x1000).result, fault.raw) << fault.text;
         line.Mend();
