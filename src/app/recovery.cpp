@@ -96,6 +96,7 @@ void Recovery::Keep_Done(const QString& reason)
 void Recovery::Remove()
 {
     timer_.stop();
+    lastReason_.clear();
     if (!file_)
         return;
     pool_.waitForDone();

@@ -25,11 +25,12 @@ class StatusBar : public QStatusBar
     /// What the control or menu item under the pointer does; before all else, and empty once it is left.
     void ShowPointerHint(const QString& text);
 
+    /// What the control with the focus does; behind all else.
+    void ShowHintOf(const QWidget* focused);
+
     void ShowPort(int number, const QString& device);
 
   private:
-    void ShowHintOf(const QWidget* focused);
-
     void ShowFirstText();
 
     QString pointerHint_;

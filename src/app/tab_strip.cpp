@@ -42,6 +42,7 @@ TabStrip::TabStrip(QWidget* parent) : QTabWidget(parent)
         frame->setObjectName(QStringLiteral("Frame1_%1").arg(i));
         frame->setWidgetResizable(true);
         frame->setFrameShape(QFrame::NoFrame);
+        frame->setFocusPolicy(Qt::NoFocus);
         Frame1_.at(static_cast<std::size_t>(i)) = frame;
         addTab(frame, QString::fromUtf8(kTabRows[i].caption));
         setTabToolTip(i, QString::fromUtf8(kTabRows[i].toolTip));
@@ -84,6 +85,7 @@ void TabStrip::Select(Tab tab)
 
 void TabStrip::TabStrip1_Click()
 {
+    tabBar()->setStatusTip(tabToolTip(currentIndex()));
     const auto chosen = static_cast<std::size_t>(currentIndex());
     Frame1_.at(chosen)->setEnabled(true);
     // The fourth page is never disabled, only covered: deliberate.

@@ -46,6 +46,7 @@ BankPage::BankPage(CloneImage& image, Dialogs& dialogs, QWidget* parent)
     grid->setRowStretch(kBanksPerColumn + 1, 1);
     auto* area = new TallArea(boxes, this);
     area->setFrameShape(QFrame::NoFrame);
+    area->ScrollSidewaysToo();
     page->addWidget(area, 1);
     page->addLayout(BuildBottomRow());
     ShowBanks();

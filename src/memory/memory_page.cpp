@@ -11,6 +11,7 @@
 #include "memory/memory_table.h"
 #include "memory/row_names.h"
 #include "ui/table_font.h"
+#include "ui/tall_area.h"
 
 namespace rqm5 {
 
@@ -31,7 +32,10 @@ MemoryPage::MemoryPage(CloneImage& image, Dialogs& dialogs, QWidget* parent)
 {
     auto* middle = new QHBoxLayout;
     middle->addWidget(table_, 1);
-    middle->addLayout(BuildOperations());
+    auto* operations = new TallArea(BuildOperations(), this);
+    operations->setFrameShape(QFrame::NoFrame);
+    operations->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    middle->addWidget(operations);
     auto* page = new QVBoxLayout(this);
     page->addLayout(BuildSelectorRow());
     page->addLayout(middle, 1);
@@ -76,7 +80,7 @@ void MemoryPage::AddButtons(QBoxLayout& layout, std::span<const Operation> opera
     }
 }
 
-QLayout* MemoryPage::BuildOperations()
+QWidget* MemoryPage::BuildOperations()
 {
     static constexpr Operation kOneRow[] = {
         {"cmbEnable", QT_TR_NOOP("E&nable"), QT_TR_NOOP("Enable the selected channel"),
@@ -104,11 +108,13 @@ QLayout* MemoryPage::BuildOperations()
     AddButtons(*new QVBoxLayout(one), kOneRow);
     auto* all = new QGroupBox(tr("All channels shown"));
     AddButtons(*new QVBoxLayout(all), kWholeGroup);
-    auto* column = new QVBoxLayout;
+    auto* boxes = new QWidget;
+    auto* column = new QVBoxLayout(boxes);
+    column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(one);
     column->addWidget(all);
     column->addStretch();
-    return column;
+    return boxes;
 }
 
 QLayout* MemoryPage::BuildTransferRow()

@@ -52,7 +52,7 @@ class MemoryPage : public QWidget
     struct Operation;
 
     QLayout* BuildSelectorRow();
-    QLayout* BuildOperations();
+    QWidget* BuildOperations();
     QLayout* BuildTransferRow();
     void AddButtons(QBoxLayout& layout, std::span<const Operation> operations);
 

@@ -1,6 +1,7 @@
 #include "memory/modify_dialog.h"
 
 #include <QCheckBox>
+#include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -23,10 +24,11 @@ dlgModify::dlgModify(CloneImage& image, Dialogs& dialogs, QWidget* parent)
       shift_{form_->txtShift, CheckOffset, {}}
 {
     setObjectName(QStringLiteral("dlgModify"));
-    auto* ok = new QPushButton(tr("OK"));
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    QPushButton* ok = buttons->button(QDialogButtonBox::Ok);
     ok->setObjectName(QStringLiteral("OKButton"));
     ok->setDefault(true);
-    auto* cancel = new QPushButton(tr("Cancel"));
+    QPushButton* cancel = buttons->button(QDialogButtonBox::Cancel);
     cancel->setObjectName(QStringLiteral("CancelButton"));
     // A click leaves the focus in the box being typed into: OK checks that box itself, so that a refusal
     // can stop it, and Cancel need not care what the box holds.
@@ -37,8 +39,7 @@ dlgModify::dlgModify(CloneImage& image, Dialogs& dialogs, QWidget* parent)
     connect(new LeaveWatch(*frequency_.box), &LeaveWatch::Left, this, &dlgModify::txtFreq_LostFocus);
     connect(new LeaveWatch(*shift_.box), &LeaveWatch::Left, this, &dlgModify::txtShift_LostFocus);
 
-    form_->lastRow->addWidget(ok);
-    form_->lastRow->addWidget(cancel);
+    form_->lastRow->addWidget(buttons);
     auto* layout = new QVBoxLayout(this);
     auto* area = new TallArea(form_, this);
     area->setFrameShape(QFrame::NoFrame);

@@ -229,6 +229,10 @@ void ModifyForm::SetAvailable(bool isMemory, int region)
     for (QWidget* control :
          std::initializer_list<QWidget*>{lblNote_, txtNote_, chkSkip_, chkEnable_, chkHold})
         control->setVisible(isMemory);
+    // The hint comes and goes while somebody types; its place must be in sight then.
+    QSizePolicy place = lblNoteHint_->sizePolicy();
+    place.setRetainSizeWhenHidden(isMemory);
+    lblNoteHint_->setSizePolicy(place);
     cbbSec_->setEnabled(HasSecretCode(region));
     cbbAir_->setEnabled(HasCarrier(region));
     opbTone_->Button(1)->setEnabled(HasSecretCode(region));

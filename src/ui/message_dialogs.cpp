@@ -51,6 +51,10 @@ QMessageBox::StandardButton MessageDialogs::Ask(QWidget* parent, const Prompt& p
         box.setDefaultButton(prompt.defaultButton);
     for (const auto& [button, caption] : prompt.captions)
         box.button(button)->setText(caption);
+    // Else a title that is longer than the text is cut.
+    constexpr int kTitleButtons = 60;
+    if (auto* text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label")))
+        text->setMinimumWidth(text->fontMetrics().horizontalAdvance(prompt.title) + kTitleButtons);
     if (!prompt.more.isEmpty())
         box.setDetailedText(prompt.more);
     if (!prompt.details.isEmpty()) {

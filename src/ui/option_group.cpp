@@ -31,18 +31,19 @@ void OptionGroup::Select(int value)
     QAbstractButton* chosen = buttons_->button(value);
     // An exclusive group refuses to be left without a choice.
     buttons_->setExclusive(false);
-    for (QAbstractButton* button : buttons_->buttons()) {
+    for (QAbstractButton* button : buttons_->buttons())
         button->setChecked(button == chosen);
-        // Tab goes to the chosen button, as in every group; the group itself loses track of it here.
-        button->setFocusPolicy(chosen == nullptr || button == chosen ? Qt::StrongFocus : Qt::ClickFocus);
-    }
     buttons_->setExclusive(true);
+    TakeTabStop(chosen);
 }
 
 void OptionGroup::TakeTabStop(const QAbstractButton* chosen)
 {
+    // Tab goes to the chosen button, as in every group; the group itself loses track of it in Select. To the
+    // others where it cannot go there.
+    const bool isReachable = chosen != nullptr && chosen->isEnabledTo(this);
     for (QAbstractButton* button : buttons_->buttons())
-        button->setFocusPolicy(button == chosen ? Qt::StrongFocus : Qt::ClickFocus);
+        button->setFocusPolicy(!isReachable || button == chosen ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 int OptionGroup::Selected() const

@@ -27,8 +27,15 @@ QSize TallArea::sizeHint() const
     return widget()->sizeHint() + QSize(frame + verticalScrollBar()->sizeHint().width(), frame);
 }
 
+void TallArea::ScrollSidewaysToo()
+{
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+}
+
 QSize TallArea::minimumSizeHint() const
 {
+    if (horizontalScrollBarPolicy() != Qt::ScrollBarAlwaysOff)
+        return QScrollArea::minimumSizeHint();
     return {TallArea::sizeHint().width() - widget()->sizeHint().width() + widget()->minimumSizeHint().width(),
             QScrollArea::minimumSizeHint().height()};
 }

@@ -15,9 +15,12 @@ class TallArea : public QScrollArea
     /// \param contents  laid out already; the area takes it over
     TallArea(QWidget* contents, QWidget* parent);
 
+    /// Lets it scroll sideways too, where its contents are wider than a small screen.
+    void ScrollSidewaysToo();
+
     QSize sizeHint() const override;
 
-    /// As wide as the contents have to be, as it scrolls up and down only.
+    /// As wide as the contents have to be, unless it scrolls sideways.
     QSize minimumSizeHint() const override;
 
     /// Gives a dialog the size that it asks for, as far as its screen has room.
