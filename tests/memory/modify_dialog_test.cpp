@@ -73,6 +73,19 @@ TEST_F(ModifyDialogTest, ShowsWhatItEditsAndSelectsTheFrequency)
     EXPECT_EQ(dialogs_.runs, 2);
 }
 
+TEST_F(ModifyDialogTest, TabReachesAGroupWhoseChoiceTheRegionLacks)
+{
+    image_.MemData[0][kOption] = 16;  // a secret code, which the first region does not have
+    Memory(0, [this] {
+        bool isReached = false;
+        for (int i = 0; i < 12 && !isReached; ++i) {
+            QTest::keyClick(dialog_.focusWidget(), Qt::Key_Tab);
+            isReached = dialog_.focusWidget()->objectName().startsWith(QStringLiteral("opbTone_"));
+        }
+        EXPECT_TRUE(isReached);
+    });
+}
+
 TEST_F(ModifyDialogTest, NumberBoxesTakeDigitsAndOnePoint)
 {
     Memory(0, [this] {
