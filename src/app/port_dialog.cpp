@@ -147,7 +147,7 @@ void dlgCOM::txtDevice_Change()
     port.device = txtDevice_->text().trimmed();
     const auto known = std::ranges::find(found_, port.device, &PortInfo::device);
     const bool isListed = known != found_.end();
-    port.isPresent = isListed || (!port.device.isEmpty() && QFileInfo::exists(port.device));
+    port.isPresent = isListed || (!port.device.isEmpty() && QFileInfo::exists(DeviceNode(port.device)));
     port.description = isListed ? known->description : QString();
     ShowDeviceText(opbCom_.checkedId());
     cbbDevice_->setCurrentIndex(cbbDevice_->findData(port.device));

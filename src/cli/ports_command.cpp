@@ -75,7 +75,7 @@ std::string StateText(PortFault fault)
 /// \return the fault of the port
 PortFault AddPort(const PortInfo& port, TextTable& table)
 {
-    const PortFault fault = port.device.isEmpty() ? PortFault::NotFound : TryToOpen(port.device);
+    const PortFault fault = port.device.isEmpty() ? PortFault::NotFound : TryToOpen(DeviceNode(port.device));
     table.AddRow({port.number > 0 ? "COM " + std::to_string(port.number) : std::string("-"),
                   port.device.toStdString(), StateText(fault), port.description.toStdString()});
     return fault;

@@ -32,7 +32,10 @@ Status CompareWithReceiver(const CloneImage& image, const TransferScope& scope, 
     session.Observer().Begin(static_cast<int>(expected.size()));
     std::vector<BlockDifference> differences;
     AftermathObserver observer(session.Observer(), aftermath);
-    const Status status = session.Finish(ReadBack(expected, session.Link(), observer, differences));
+    const TransferResult result = ReadBack(expected, session.Link(), observer, differences);
+    const Status status = session.Finish(result);
+    if (result == TransferResult::Cancelled && !aftermath.empty())
+        console.err << aftermath << '\n';
     TextTable table;
     for (const auto& [block, read] : differences)
         table.AddRow({HexAddress(block.address), block.label, "expected " + ExpectedIn(block, read),

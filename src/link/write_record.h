@@ -19,10 +19,10 @@ class WriteRecord : public ForwardingObserver
     /// the write completes it: sentences on one line.
     std::string Summary() const { return Describe(sections_.size()); }
 
-    void BlockDone(int address, bool written) override;
     /// True once something may have changed in the receiver.
     bool HasBegun() const;
 
+    void BlockDone(int address, bool written) override;
     void BlockFailed(int address, bool written) override;
     void BlockUnsent(int address, bool written) override;
     void Message(const Problem& problem) override;

@@ -105,8 +105,8 @@ std::vector<MemoryGroup> ChosenGroups(const CloneImage& image, const ListingChoi
     return groups;
 }
 
-/// Paper has no grey text to tell a disabled row by, so a column says it. An empty row is always
-/// disabled; marking it would only be noise.
+/// Paper has no grey text to tell a disabled row by, so a column says it. An empty row is
+/// hardly ever enabled; marking it would only be noise.
 Cells MemoryCells(const CloneImage& image, const MemoryEntry& entry)
 {
     const bool isOff =

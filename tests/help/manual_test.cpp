@@ -79,11 +79,11 @@ TEST(Manual, EveryHelpTopicAndMessageHasItsPlace)
     QStringList topics = HelpTopics();
     for (const char* message :
          {"COM Port Error", "Communication Error", "Data Error", "File Open Error",
-          "Save changes to settings?", "Clear cannot be undone.\nAre you sure that you want to do the clear?",
+          "The write was cancelled.", "Save changes to settings?",
+          "Clear cannot be undone.\nAre you sure that you want to do the clear?",
           "Delete cannot be undone.\nAre you sure that you want to do the delete?",
           "The total of the number of channels exceeds 1000.\nPlease set for the total of the channel to "
-          "become "
-          "1000 or less.",
+          "become 1000 or less.",
           "It is a frequency of the cellular phone.\nIt is not possible to set it.",
           "The same frequency as other channels cannot be set in Search Pass bank.",
           "The file is saved, but a clone file cannot hold notes with a comma or quotes. While",
