@@ -13,6 +13,7 @@ VfoTableModel::VfoTableModel(const CloneImage& image, QObject* parent)
 void VfoTableModel::UpdateVFOData()
 {
     std::vector<std::string> labels;
+    labels.reserve(kVfoRows);
     for (int row = 0; row < kVfoRows; ++row)
         labels.push_back(std::to_string(row));
     ShowRows(std::move(labels));

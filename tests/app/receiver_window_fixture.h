@@ -12,14 +12,15 @@ namespace rqm5 {
 /// A started program with a simulated receiver on its port.
 class ReceiverWindowTest : public WindowTest
 {
+  public:
+    ~ReceiverWindowTest() override { port_.Close(); }
+
   protected:
     ReceiverWindowTest()
     {
         options_.useDevice = [this](const QString&) { port_.SetDevice(receiver_.Device()); };
         Start();
     }
-
-    ~ReceiverWindowTest() override { port_.Close(); }
 
     /// How long the receiver may be silent.
     void SetTimeOut(std::chrono::milliseconds timeOut)

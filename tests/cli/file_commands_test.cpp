@@ -27,7 +27,7 @@ void ExpectFailure(const Words& words, const char* begin, const std::string& par
 class FileCommands : public testing::Test
 {
   protected:
-    const Folder folder;
+    Folder folder;
     const std::string file = folder / "a b\n\".RQ5";
 };
 

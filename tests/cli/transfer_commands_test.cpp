@@ -29,7 +29,7 @@ RunResult Transfer(const char* command, const SimSession& receiver, const std::s
 class Transfers : public testing::Test
 {
   protected:
-    const Folder folder;
+    Folder folder;
     const std::string file = folder / "radio.RQ5";
 };
 

@@ -160,7 +160,7 @@ TEST(Csv, WhatIsNoRecordChangesNothing)
 {
     const CloneImage before = DemoImage(3);
     const std::string record = Record("RQ-M5,MEMORY,0,", kNote, "cut");
-    const std::string cut = record.substr(0, record.rfind(","));
+    const std::string cut = record.substr(0, record.rfind(','));
     const std::string header = LineAt(FormatCsv(before), 0);
     const std::string texts[] = {"", "\"", "\xEF\xBB\xBF", header, "RQ-M5,MEMORY", cut};
     for (const std::string& text : texts) {

@@ -82,8 +82,7 @@ TEST(Manual, EveryHelpTopicAndMessageHasItsPlace)
           "The write was cancelled.", "Save changes to settings?",
           "Clear cannot be undone.\nAre you sure that you want to do the clear?",
           "Delete cannot be undone.\nAre you sure that you want to do the delete?",
-          "The total of the number of channels exceeds 1000.\nPlease set for the total of the channel to "
-          "become 1000 or less.",
+          "The total of the number of channels exceeds 1000.\nPlease set for the total",
           "It is a frequency of the cellular phone.\nIt is not possible to set it.",
           "The same frequency as other channels cannot be set in Search Pass bank.",
           "The file is saved, but a clone file cannot hold notes with a comma or quotes. While",
