@@ -40,6 +40,7 @@ class PictureDialogs : public rqm5::Dialogs
     int Run(QDialog& dialog) override
     {
         dialog.show();
+        dialog.resize(dialog.sizeHint());  // the screen without a display is small
         Save(dialog, dialog.objectName());
         dialog.close();
         return QDialog::Rejected;
