@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
+#include <QFileInfo>
 #include <QMenuBar>
 #include <QScreen>
 #include <QSettings>
@@ -14,6 +15,7 @@
 #include "app/placement.h"
 #include "app/port_dialog.h"
 #include "app/write_options.h"
+#include "image/display_text.h"
 #include "link/com_ports.h"
 #include "link/port_file.h"
 #include "memory/bank_layout.h"
@@ -149,7 +151,9 @@ void frmMain::ConnectMenus()
     });
     connect(files_, &FileCommands::FileStateChanged, this, [this] {
         setWindowTitle(files_->Caption());
-        sbStatusBar_->ShowNote({});  // it spoke of what was there before
+        // They spoke of what was there before.
+        sbStatusBar_->ShowNote({});
+        sbStatusBar_->ShowWarning({});
         ShowStatus();
     });
 }
@@ -166,8 +170,8 @@ void frmMain::ConnectTransfers()
     connect(transfers_, &TransferCommands::ProgressAdvanced, transferBar_, &TransferBar::MoveProgress);
     connect(transfers_, &TransferCommands::Noted, sbStatusBar_, &StatusBar::ShowNote);
     connect(recovery_, &Recovery::Kept, sbStatusBar_, [this](const QString& reason) {
-        if (!reason.isEmpty())
-            sbStatusBar_->ShowNote(tr("Unsaved changes cannot be kept for recovery: %1").arg(reason));
+        sbStatusBar_->ShowWarning(
+            reason.isEmpty() ? QString() : tr("Unsaved changes cannot be kept for recovery: %1").arg(reason));
     });
     connect(transferBar_, &TransferBar::CancelRequested, transfers_, &TransferCommands::Cancel);
 }
@@ -186,8 +190,10 @@ void frmMain::Form_Load()
         files_->Load(options_.commandFile);
     image_.DataChanged = isRecovered;
     ShowStatus();
-    if (isRecovered && !options_.commandFile.isEmpty())
-        sbStatusBar_->ShowNote(tr("Recovered changes came first; not opened: %1").arg(options_.commandFile));
+    const QString& wanted = options_.commandFile;
+    if (isRecovered && !wanted.isEmpty() && QFileInfo(wanted).absoluteFilePath() != files_->FileName())
+        sbStatusBar_->ShowNote(tr("Recovered changes came first; not opened: %1")
+                                   .arg(QString::fromStdString(VisibleText(wanted.toStdString()))));
 }
 
 bool frmMain::RecoverWork()
@@ -316,6 +322,9 @@ void frmMain::SetTransferRunning(bool isRunning)
         transferBar_->End();
     if (!isRunning && focusBefore_ != nullptr)
         focusBefore_->setFocus();
+    // The Cancel button under the pointer is gone, or has come.
+    sbStatusBar_->ShowPointerHint({});
+    sbStatusBar_->ShowHintOf(focusWidget());
 }
 
 void frmMain::Transfer_Ended(TransferResult result)

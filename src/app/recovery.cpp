@@ -85,18 +85,17 @@ void Recovery::Keep()
 
 void Recovery::Keep_Done(const QString& reason)
 {
+    if (!file_ || !image_.DataChanged)
+        return;  // saved meanwhile
     // The disk may have room again, or the folder be there, a moment later.
-    if (!reason.isEmpty() && file_ && image_.DataChanged && !timer_.isActive())
+    if (!reason.isEmpty() && !timer_.isActive())
         timer_.start();
-    if (reason.isEmpty() || reason != lastReason_)
-        emit Kept(reason);
-    lastReason_ = reason;
+    emit Kept(reason);
 }
 
 void Recovery::Remove()
 {
     timer_.stop();
-    lastReason_.clear();
     if (!file_)
         return;
     pool_.waitForDone();

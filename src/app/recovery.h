@@ -40,8 +40,8 @@ class Recovery : public QObject
                const std::function<bool(const QString& path, const QString& origin)>& load);
 
   signals:
-    /// The changes are in the recovery file now, or \param reason why they are not: told once, while the
-    /// attempts go on.
+    /// The changes are in the recovery file now, or \param reason why they are not; then it is tried
+    /// again.
     void Kept(const QString& reason);
 
   private:
@@ -52,7 +52,6 @@ class Recovery : public QObject
     const CloneImage& image_;
     const QString folder_;
     QString fileName_;
-    QString lastReason_;  ///< why the last attempt to keep the changes failed; it is made again
     QTimer timer_;
     std::unique_ptr<RecoveryFile> file_;  ///< null until there is something to keep
     bool hasEnded_ = false;

@@ -58,10 +58,19 @@ void StatusBar::ShowImage(const CloneImage& image, bool hasFile)
 
 void StatusBar::ShowNote(const QString& text)
 {
-    // What has just happened is shown at once, wherever the pointer rests; its next move brings hints back.
+    // What has just happened is shown at once, wherever the pointer rests; the next control that it comes to
+    // brings hints back.
     if (text != note_)
         pointerHint_.clear();
     note_ = text;
+    ShowFirstText();
+}
+
+void StatusBar::ShowWarning(const QString& text)
+{
+    if (text != warning_)
+        pointerHint_.clear();
+    warning_ = text;
     ShowFirstText();
 }
 
@@ -86,7 +95,7 @@ void StatusBar::ShowHintOf(const QWidget* focused)
 
 void StatusBar::ShowFirstText()
 {
-    for (const QString& text : {pointerHint_, note_, focusHint_})
+    for (const QString& text : {pointerHint_, note_, warning_, focusHint_})
         if (!text.isEmpty())
             return lblHint_->setText(text);
     lblHint_->clear();

@@ -22,6 +22,9 @@ class StatusBar : public QStatusBar
     /// Something to read at leisure in the place of hints; an empty text makes room for them again.
     void ShowNote(const QString& text);
 
+    /// What stays true until it is taken back by an empty text; behind a note.
+    void ShowWarning(const QString& text);
+
     /// What the control or menu item under the pointer does; before all else, and empty once it is left.
     void ShowPointerHint(const QString& text);
 
@@ -35,6 +38,7 @@ class StatusBar : public QStatusBar
 
     QString pointerHint_;
     QString note_;
+    QString warning_;
     QString focusHint_;
     QLabel* lblHint_;
     QLabel* lblFileState_;

@@ -1,7 +1,9 @@
 #include "app/tab_strip.h"
 
 #include <QApplication>
+#include <QHoverEvent>
 #include <QShortcut>
+#include <QStatusTipEvent>
 #include <QTabBar>
 
 namespace rqm5 {
@@ -36,6 +38,7 @@ TabStrip::TabStrip(QWidget* parent) : QTabWidget(parent)
     auto* bar = new QTabBar(this);
     connect(bar, &QTabBar::currentChanged, this, &TabStrip::AboutToSwitch);
     setTabBar(bar);
+    bar->installEventFilter(this);
     setDocumentMode(false);
     for (int i = 0; i < kTabs; ++i) {
         auto* frame = new QScrollArea(this);
@@ -69,9 +72,24 @@ void TabStrip::SetPage(Tab tab, QWidget& page)
 
 void TabStrip::ShowFocused(QWidget* focused)
 {
+    if (QApplication::mouseButtons() != Qt::NoButton)
+        return;  // what the mouse presses must not move away under it
     for (QScrollArea* frame : Frame1_)
         if (focused != nullptr && frame->widget() != nullptr && frame->widget()->isAncestorOf(focused))
             frame->ensureWidgetVisible(focused);
+}
+
+void TabStrip::ShowTipOf(int tab)
+{
+    QStatusTipEvent tip(tabToolTip(tab));
+    QCoreApplication::sendEvent(this, &tip);
+}
+
+bool TabStrip::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == tabBar() && event->type() == QEvent::HoverMove)
+        ShowTipOf(tabBar()->tabAt(static_cast<QHoverEvent*>(event)->position().toPoint()));
+    return QTabWidget::eventFilter(watched, event);
 }
 
 void TabStrip::Select(Tab tab)
@@ -86,6 +104,8 @@ void TabStrip::Select(Tab tab)
 void TabStrip::TabStrip1_Click()
 {
     tabBar()->setStatusTip(tabToolTip(currentIndex()));
+    if (tabBar()->underMouse())
+        ShowTipOf(currentIndex());
     const auto chosen = static_cast<std::size_t>(currentIndex());
     Frame1_.at(chosen)->setEnabled(true);
     // The fourth page is never disabled, only covered: deliberate.

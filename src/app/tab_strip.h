@@ -35,6 +35,8 @@ class TabStrip : public QTabWidget
     /// Scrolls the page to a control that got the focus by key or program.
     void ShowFocused(QWidget* focused);
     void TabStrip1_Click();
+    void ShowTipOf(int tab);
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void AddStepKey(QKeySequence::StandardKey key, int step);
 
     std::array<QScrollArea*, kTabs> Frame1_{};

@@ -41,6 +41,9 @@ RecoveryFile::RecoveryFile(const Existing& existing)
 
 bool RecoveryFile::Lock()
 {
+    // Whoever cleared the folder has taken the lock with it.
+    if (lock_.isLocked() && !QFileInfo::exists(lock_.fileName()))
+        lock_.unlock();
     if (lock_.isLocked() || lock_.tryLock(0))
         return true;
     // The number of a dead program may have gone to another one, this one included. The system's own lock

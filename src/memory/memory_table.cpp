@@ -48,7 +48,7 @@ MemoryTable::MemoryTable(const CloneImage& image, QWidget* parent)
 {
     setObjectName(QStringLiteral("MSFlexGrid1"));
     setAccessibleName(tr("Memory channels"));
-    setStatusTip(tr("Memory channels; grey ones are disabled. Enter edits the selected one."));
+    setStatusTip(tr("Memory channels; grey ones are disabled. Enter or a double click edits one."));
     setModel(&model_);
     setItemDelegate(new ChannelDelegate(model_, this));
     ChangeFont(*this);

@@ -159,7 +159,6 @@ QLayout* ModifyForm::BuildShift()
 QLayout* ModifyForm::BuildNote()
 {
     lblNote_->setBuddy(txtNote_);
-    lblNoteHint_->setWordWrap(true);
     lblNoteHint_->setText(tr("A comma or quotation mark in a note can spoil a saved clone file."));
     connect(txtNote_, &QLineEdit::textChanged, this, &ModifyForm::txtNote_Change);
     auto* row = new QHBoxLayout;

@@ -51,10 +51,12 @@ QMessageBox::StandardButton MessageDialogs::Ask(QWidget* parent, const Prompt& p
         box.setDefaultButton(prompt.defaultButton);
     for (const auto& [button, caption] : prompt.captions)
         box.button(button)->setText(caption);
-    // Else a title that is longer than the text is cut.
+    // Else a title that is longer than the text is cut. Only wider: the text is not to be cut for it.
     constexpr int kTitleButtons = 60;
-    if (auto* text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label")))
-        text->setMinimumWidth(text->fontMetrics().horizontalAdvance(prompt.title) + kTitleButtons);
+    const int title = box.fontMetrics().horizontalAdvance(prompt.title) + kTitleButtons;
+    if (title > box.fontMetrics().size(0, prompt.text).width())
+        if (auto* text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label")))
+            text->setMinimumWidth(title);
     if (!prompt.more.isEmpty())
         box.setDetailedText(prompt.more);
     if (!prompt.details.isEmpty()) {

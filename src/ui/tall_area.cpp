@@ -17,7 +17,9 @@ TallArea::TallArea(QWidget* contents, QWidget* parent) : QScrollArea(parent)
 
 void TallArea::ShowFocused(QWidget* focused)
 {
-    if (focused != nullptr && widget() != nullptr && widget()->isAncestorOf(focused))
+    // What the mouse presses must not move away under it.
+    const bool isPressed = QApplication::mouseButtons() != Qt::NoButton;
+    if (!isPressed && focused != nullptr && widget() != nullptr && widget()->isAncestorOf(focused))
         ensureWidgetVisible(focused);
 }
 
@@ -43,6 +45,9 @@ QSize TallArea::minimumSizeHint() const
 void TallArea::FitToScreen(QDialog& dialog)
 {
     constexpr QSize kWindowFrame(8, 36);
+    // A layout remembers how large its parts wanted to be; these do not tell when their contents change.
+    for (TallArea* area : dialog.findChildren<TallArea*>())
+        area->updateGeometry();
     dialog.resize(dialog.sizeHint().boundedTo(dialog.screen()->availableSize() - kWindowFrame));
 }
 

@@ -42,6 +42,21 @@ TEST(MessageDialogs, TakeTextsOfStrangersAsPlainText)
     MessageDialogs().Ask(nullptr, ErrorPrompt({kComPortError, evil}));
 }
 
+TEST(MessageDialogs, CutNeitherTextNorTitle)
+{
+    const QString texts[][2] = {
+        {QStringLiteral("ERROR"), QStringLiteral("It is not possible to set it, whatever.")},
+        {QStringLiteral("Frequency of the cellular phone"), QStringLiteral("No.")}};
+    for (const auto& [title, text] : texts) {
+        WhenShown<QMessageBox>([](QMessageBox& box) {
+            const auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+            EXPECT_GE(label->width(), label->fontMetrics().horizontalAdvance(box.text()));
+            EXPECT_GT(box.width(), label->fontMetrics().horizontalAdvance(box.windowTitle()));
+        });
+        MessageDialogs().Ask(nullptr, {.title = title, .text = text});
+    }
+}
+
 TEST(MessageDialogs, FileChoicesHaveTheirFiltersAndSuffix)
 {
     const QTemporaryDir folder;

@@ -110,7 +110,9 @@ QVariant ExchangeLog::data(const QModelIndex& index, int role) const
     const Exchange& exchange = shown_.at(static_cast<std::size_t>(index.row()));
     if (role == Qt::DisplayRole && index.column() == kTime)
         return QDateTime::fromMSecsSinceEpoch(exchange.time).toString(QString(kTimeOfDay));
-    return CellText(exchange, index.column());
+    const QString text = CellText(exchange, index.column());
+    // A tool tip takes what looks like markup for markup; this has come over the wire.
+    return role == Qt::ToolTipRole ? QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped()) : text;
 }
 
 QVariant ExchangeLog::headerData(int section, Qt::Orientation orientation, int role) const
