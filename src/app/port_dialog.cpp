@@ -36,6 +36,7 @@ dlgCOM::dlgCOM(QWidget* parent) : QDialog(parent), opbCom_(this)
     for (int i = 0; i < kComPorts; ++i)
         AddOption(*rows, i);
     auto* list = new TallArea(options, this);
+    list->setFrameShape(QFrame::StyledPanel);
     column->addWidget(list, 1);
     column->addLayout(MakeDeviceRow());
 

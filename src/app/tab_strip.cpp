@@ -1,10 +1,12 @@
 #include "app/tab_strip.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QHoverEvent>
 #include <QShortcut>
 #include <QStatusTipEvent>
 #include <QTabBar>
+
+#include "ui/follow_focus.h"
 
 namespace rqm5 {
 
@@ -46,13 +48,13 @@ TabStrip::TabStrip(QWidget* parent) : QTabWidget(parent)
         frame->setWidgetResizable(true);
         frame->setFrameShape(QFrame::NoFrame);
         frame->setFocusPolicy(Qt::NoFocus);
+        FollowFocus(*frame);
         Frame1_.at(static_cast<std::size_t>(i)) = frame;
         addTab(frame, QString::fromUtf8(kTabRows[i].caption));
         setTabToolTip(i, QString::fromUtf8(kTabRows[i].toolTip));
         bar->setTabData(i, QLatin1String(kTabRows[i].key));
     }
     connect(this, &QTabWidget::currentChanged, this, &TabStrip::TabStrip1_Click);
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { ShowFocused(now); });
     // Tables keep Ctrl+Tab for themselves, so that the tab widget never sees it from there.
     AddStepKey(QKeySequence::NextChild, 1);
     AddStepKey(QKeySequence::PreviousChild, kTabs - 1);
@@ -68,15 +70,6 @@ void TabStrip::AddStepKey(QKeySequence::StandardKey key, int step)
 void TabStrip::SetPage(Tab tab, QWidget& page)
 {
     Frame1_.at(static_cast<std::size_t>(tab))->setWidget(&page);
-}
-
-void TabStrip::ShowFocused(QWidget* focused)
-{
-    if (QApplication::mouseButtons() != Qt::NoButton)
-        return;  // what the mouse presses must not move away under it
-    for (QScrollArea* frame : Frame1_)
-        if (focused != nullptr && frame->widget() != nullptr && frame->widget()->isAncestorOf(focused))
-            frame->ensureWidgetVisible(focused);
 }
 
 void TabStrip::ShowTipOf(int tab)

@@ -32,8 +32,6 @@ class TabStrip : public QTabWidget
     void Switched(rqm5::Tab tab);
 
   private:
-    /// Scrolls the page to a control that got the focus by key or program.
-    void ShowFocused(QWidget* focused);
     void TabStrip1_Click();
     void ShowTipOf(int tab);
     bool eventFilter(QObject* watched, QEvent* event) override;

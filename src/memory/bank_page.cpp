@@ -45,7 +45,6 @@ BankPage::BankPage(CloneImage& image, Dialogs& dialogs, QWidget* parent)
     auto* page = new QVBoxLayout(this);
     grid->setRowStretch(kBanksPerColumn + 1, 1);
     auto* area = new TallArea(boxes, this);
-    area->setFrameShape(QFrame::NoFrame);
     area->ScrollSidewaysToo();
     page->addWidget(area, 1);
     page->addLayout(BuildBottomRow());

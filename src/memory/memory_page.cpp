@@ -33,7 +33,6 @@ MemoryPage::MemoryPage(CloneImage& image, Dialogs& dialogs, QWidget* parent)
     auto* middle = new QHBoxLayout;
     middle->addWidget(table_, 1);
     auto* operations = new TallArea(BuildOperations(), this);
-    operations->setFrameShape(QFrame::NoFrame);
     operations->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     middle->addWidget(operations);
     auto* page = new QVBoxLayout(this);

@@ -42,7 +42,6 @@ dlgModify::dlgModify(CloneImage& image, Dialogs& dialogs, QWidget* parent)
     form_->lastRow->addWidget(buttons);
     auto* layout = new QVBoxLayout(this);
     auto* area = new TallArea(form_, this);
-    area->setFrameShape(QFrame::NoFrame);
     layout->addWidget(area);
     layout->addLayout(form_->lastRow);  // stays in sight when the form has to scroll
 }

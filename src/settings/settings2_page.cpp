@@ -89,7 +89,6 @@ Settings2Page::Settings2Page(CloneImage& image, Dialogs& /*dialogs*/, QWidget* p
 {
     auto* page = new QVBoxLayout(this);
     auto* area = new TallArea(BuildSettings(), this);
-    area->setFrameShape(QFrame::NoFrame);
     page->addWidget(area, 1);
     page->addLayout(BuildTransferRow());
     connect(&controls_, &SettingControls::Edited, this, &Settings2Page::Edited);

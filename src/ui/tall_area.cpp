@@ -1,8 +1,9 @@
 #include "ui/tall_area.h"
 
-#include <QApplication>
 #include <QScreen>
 #include <QScrollBar>
+
+#include "ui/follow_focus.h"
 
 namespace rqm5 {
 
@@ -12,15 +13,8 @@ TallArea::TallArea(QWidget* contents, QWidget* parent) : QScrollArea(parent)
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { ShowFocused(now); });
-}
-
-void TallArea::ShowFocused(QWidget* focused)
-{
-    // What the mouse presses must not move away under it.
-    const bool isPressed = QApplication::mouseButtons() != Qt::NoButton;
-    if (!isPressed && focused != nullptr && widget() != nullptr && widget()->isAncestorOf(focused))
-        ensureWidgetVisible(focused);
+    setFrameShape(QFrame::NoFrame);
+    FollowFocus(*this);
 }
 
 QSize TallArea::sizeHint() const

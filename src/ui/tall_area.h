@@ -25,9 +25,6 @@ class TallArea : public QScrollArea
 
     /// Gives a dialog the size that it asks for, as far as its screen has room.
     static void FitToScreen(QDialog& dialog);
-
-  private:
-    void ShowFocused(QWidget* focused);
 };
 
 }  // namespace rqm5
