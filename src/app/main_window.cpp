@@ -15,11 +15,11 @@
 #include "app/placement.h"
 #include "app/port_dialog.h"
 #include "app/write_options.h"
-#include "image/display_text.h"
 #include "link/com_ports.h"
 #include "link/port_file.h"
 #include "memory/bank_layout.h"
 #include "memory/start_image.h"
+#include "ui/plain_text.h"
 
 namespace rqm5 {
 
@@ -192,8 +192,7 @@ void frmMain::Form_Load()
     ShowStatus();
     const QString& wanted = options_.commandFile;
     if (isRecovered && !wanted.isEmpty() && QFileInfo(wanted).absoluteFilePath() != files_->FileName())
-        sbStatusBar_->ShowNote(tr("Recovered changes came first; not opened: %1")
-                                   .arg(QString::fromStdString(VisibleText(wanted.toStdString()))));
+        sbStatusBar_->ShowNote(tr("Recovered changes came first; not opened: %1").arg(VisibleText(wanted)));
 }
 
 bool frmMain::RecoverWork()

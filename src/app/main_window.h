@@ -89,7 +89,7 @@ class frmMain : public QMainWindow
     CloneImage image_;
     Dialogs& dialogs_;
     StartOptions options_;
-    RadioLink link_;  ///< a child by name, so that tests can shorten its time-out
+    RadioLink link_;  ///< a child of the window: tests find it to shorten its time-out
     int CommPort_ = 1;
     QTimer Timer1_;
     bool isClosePending_ = false;

@@ -5,7 +5,7 @@
 #include <QLocale>
 #include <QStandardPaths>
 
-#include "image/display_text.h"
+#include "ui/plain_text.h"
 
 namespace rqm5 {
 namespace {
@@ -15,9 +15,8 @@ enum class Choice { Recover, Discard, Later };
 Choice Ask(Dialogs& dialogs, QWidget* parent, const RecoveryFile& file)
 {
     const QString origin = file.Origin();
-    const QString name =
-        origin.isEmpty() ? Recovery::tr("changes that were in no file yet")
-                         : QString::fromStdString(VisibleText(QFileInfo(origin).fileName().toStdString()));
+    const QString name = origin.isEmpty() ? Recovery::tr("changes that were in no file yet")
+                                          : VisibleText(QFileInfo(origin).fileName());
     Prompt question;
     question.title = Recovery::tr("Recovery");
     question.text = Recovery::tr("The program ended before your changes were saved. They were kept.");

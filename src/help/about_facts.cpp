@@ -6,8 +6,8 @@
 #include <QSysInfo>
 
 #include "help/build_info.h"
-#include "image/display_text.h"
 #include "image/value_tables.h"
+#include "ui/plain_text.h"
 
 namespace rqm5 {
 namespace {
@@ -17,17 +17,11 @@ QString Translate(const char* text)
     return QCoreApplication::translate("About", text);
 }
 
-/// A path may hold anything, line breaks too.
-QString Visible(const QString& text)
-{
-    return QString::fromStdString(VisibleText(text.toStdString()));
-}
-
 QString PortText(int port, const QString& device)
 {
     const QString number = QStringLiteral("COM %1").arg(port);
     return device.isEmpty() ? Translate("%1 (no device)").arg(number)
-                            : number + QStringLiteral(", ") + Visible(device);
+                            : number + QStringLiteral(", ") + VisibleText(device);
 }
 
 QString SettingsPath()
@@ -49,8 +43,8 @@ QList<AboutFact> AboutFacts(const QString& portFile, int port, const QString& de
          Translate("%1, built with %2").arg(QString::fromLatin1(qVersion()), QStringLiteral(QT_VERSION_STR))},
         {Translate("System"),
          QSysInfo::prettyProductName() + QStringLiteral(", ") + QSysInfo::currentCpuArchitecture()},
-        {Translate("Settings"), Visible(QDir::toNativeSeparators(SettingsPath()))},
-        {Translate("Port number file"), Visible(QDir::toNativeSeparators(portFile))},
+        {Translate("Settings"), VisibleText(QDir::toNativeSeparators(SettingsPath()))},
+        {Translate("Port number file"), VisibleText(QDir::toNativeSeparators(portFile))},
         {Translate("Port"), PortText(port, device)},
     };
 }

@@ -5,6 +5,8 @@
 #include <QStyle>
 #include <QToolTip>
 
+#include "ui/plain_text.h"
+
 namespace rqm5 {
 
 ElidedLabel::ElidedLabel(Qt::TextElideMode mode, QWidget* parent) : QLabel(parent), mode_(mode)
@@ -21,9 +23,7 @@ bool ElidedLabel::event(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip || Visible() == text())
         return QLabel::event(event);
-    // A paragraph is broken into lines.
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
-                       QStringLiteral("<p>%1</p>").arg(text().toHtmlEscaped()), this);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), PlainToolTip(text()), this);
     return true;
 }
 

@@ -2,7 +2,7 @@
 
 #include <QDateTime>
 
-#include "image/display_text.h"
+#include "ui/plain_text.h"
 
 namespace rqm5 {
 namespace {
@@ -111,8 +111,7 @@ QVariant ExchangeLog::data(const QModelIndex& index, int role) const
     if (role == Qt::DisplayRole && index.column() == kTime)
         return QDateTime::fromMSecsSinceEpoch(exchange.time).toString(QString(kTimeOfDay));
     const QString text = CellText(exchange, index.column());
-    // A tool tip takes what looks like markup for markup; this has come over the wire.
-    return role == Qt::ToolTipRole ? QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped()) : text;
+    return role == Qt::ToolTipRole ? PlainToolTip(text) : text;
 }
 
 QVariant ExchangeLog::headerData(int section, Qt::Orientation orientation, int role) const
