@@ -2,10 +2,11 @@
 
 #include <QFileInfo>
 
+#include "files/clone_file.h"
 #include "files/csv_file.h"
-#include "image/display_text.h"
 #include "memory/start_image.h"
 #include "ui/error_prompt.h"
+#include "ui/plain_text.h"
 #include "ui/row_list.h"
 
 namespace rqm5 {
@@ -28,7 +29,7 @@ QString FileCommands::Caption() const
     if (FileName_.isEmpty())
         return title;
     // A line break would cut the caption, and "[*]" is where a window shows that it was changed.
-    QString file = QString::fromStdString(VisibleText(QFileInfo(FileName_).fileName().toStdString()));
+    QString file = VisibleText(QFileInfo(FileName_).fileName());
     return file.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")) + QStringLiteral(" - ") + title;
 }
 
@@ -45,7 +46,7 @@ bool FileCommands::MayLoseChanges()
     const QMessageBox::StandardButton answer = dialogs_.Ask(&window_, question);
     // A file that may not open again is no reason to let the notes go: here they can still be mended.
     if (answer == QMessageBox::Yes)
-        return mnuFileSave_Click() && !hasLostNotes_;
+        return mnuFileSave_Click() && NotesThatDoNotSurvive(image_).empty();
     return answer == QMessageBox::No;
 }
 
@@ -103,7 +104,6 @@ bool FileCommands::SaveTo(const QString& path)
     const SaveOutcome outcome = SaveCloneFile(path, image_);
     if (!Report(outcome.problem))
         return false;
-    hasLostNotes_ = !outcome.lostNotes.empty();
     TakeAsCurrent(path);
     WarnOfNotes(tr("The file is saved, but a clone file cannot hold notes with a comma or quotes. While "
                    "these notes stay as they are, the file cannot be opened again or shows them changed."),

@@ -60,7 +60,6 @@ class FileCommands : public QObject
     Dialogs& dialogs_;
     QWidget& window_;
     QString FileName_;
-    bool hasLostNotes_ = false;  ///< the last save wrote notes that a clone file cannot bring back
 };
 
 }  // namespace rqm5
