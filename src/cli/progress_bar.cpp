@@ -67,10 +67,6 @@ void ProgressBar::BlockDone(int /*address*/, bool /*written*/)
 
 void ProgressBar::Message(const Problem& problem)
 {
-    const std::string message = problem.text + problem.details + problem.aftermath;
-    if (message == lastMessage_)
-        return;
-    lastMessage_ = message;
     Clear();
     Report(console_, problem);
 }

@@ -16,7 +16,7 @@ namespace rqm5 {
 std::string ProgressLine(int done, int total, int row, std::optional<std::chrono::seconds> left, int columns);
 
 /// What a transfer tells a user at a terminal: one line on err that is rewritten as blocks go by, and
-/// messages. Says no message twice in a row: both parts of a transfer fail alike without a receiver.
+/// messages.
 class ProgressBar : public TransferObserver
 {
   public:
@@ -49,7 +49,6 @@ class ProgressBar : public TransferObserver
     int row_ = -1;
     int drawnColumns_ = 0;
     bool isCancelled_ = false;
-    std::string lastMessage_;
     Clock::time_point first_;  ///< when the first block was done; opening a port takes its own time
     Clock::time_point drawn_;
 };
