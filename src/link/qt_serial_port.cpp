@@ -73,9 +73,10 @@ bool QtSerialPort::Open()
     const QSignalBlocker quiet(port_);
     if (!port_.open(QIODevice::ReadWrite)) {
         const PortFault fault = FaultOf(port_.error(), QFileInfo(DeviceNode(device_)));
-        const bool isOther = fault == PortFault::NotAPort;  // the system's own words tell little then
+        const QString reason = port_.errorString();
+        // The system's own words tell little of a device that is none.
         return Refuse(fault,
-                      isOther ? tr("not a serial port (%1)").arg(port_.errorString()) : port_.errorString());
+                      fault == PortFault::NotAPort ? tr("not a serial port (%1)").arg(reason) : reason);
     }
     port_.clearError();
     fault_ = PortFault::None;
