@@ -8,7 +8,7 @@
 #include "files/clone_file.h"
 #include "files/csv_file.h"
 #include "files/file_store.h"
-#include "image/channel_record.h"
+#include "image/number_text.h"
 #include "memory/start_image.h"
 
 namespace rqm5 {
@@ -19,21 +19,27 @@ CloneImage FullImage()
 {
     CloneImage image = StartUpImage(0);
     for (int row = 0; row < kMemoryRows; ++row) {
-        const auto index = static_cast<std::size_t>(row);
-        const ChannelNumbers numbers = {
-            30 + row * 0.98765, row % 3 + 0.0,  row % 14 + 0.0, row % 5 * 16 + row % 2 * 8.0,
-            row % 17 + 0.0,     row % 29 + 0.0, row % 39 + 0.0, row % 3 * 16.0,
-            row % 90 + 0.6};
-        DecodeMemoryBlock(image, EncodeNumbers(numbers), row);
-        image.MemText[index][kNote] = "Repeater of channel " + std::to_string(row);
-        image.MemEnable[index] = row % 4 != 0;
+        const auto modulo = [row](int count) { return static_cast<std::uint8_t>(row % count); };
+        Channel& channel = image.MemData(row);
+        channel.blank = 0;
+        channel.frequency = Hertz(30 + row * 0.98765);
+        channel.mode = modulo(3);
+        channel.step = modulo(14);
+        channel.option = static_cast<std::uint8_t>(row % 5 * 16 + row % 2 * 8);
+        channel.secret = modulo(17);
+        channel.carrier = modulo(29);
+        channel.tone = modulo(39);
+        channel.shift = static_cast<std::uint8_t>(row % 3 * 16);
+        channel.shiftFrequency = row % 90 * 1'000'000 + 600'000;
+        channel.note = "Repeater of channel " + std::to_string(row);
+        channel.enabled = row % 4 != 0;
     }
     return image;
 }
 
 void FormatClone(benchmark::State& state)
 {
-    CloneImage image = FullImage();
+    const CloneImage image = FullImage();
     for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize(FormatCloneFile(image));
 }

@@ -113,7 +113,7 @@ TransferResult ReadEverything(Bench& bench, TransferObserver& observer)
 
 TransferResult WriteEverything(Bench& bench, TransferObserver& observer)
 {
-    return ReceiverWriter(bench.image, bench.link, observer).WriteAll();
+    return ReceiverWriter(bench.image, {}, bench.link, observer).Write();
 }
 
 void TimeLine()
@@ -152,13 +152,14 @@ void TimeBlocks()
         const bool isAll = channels == kRadioRows;
         const int selector = isAll ? kSelectAll : 0;
         ClearForNew(bench.image);
-        SetBankSize(bench.image, 0, isAll ? kBankRows : channels);
+        bench.image.SetBankSize(0, isAll ? kBankRows : channels);
         bench.receiver.SetMemory(MemoryFromImage(bench.image));
         const double read = MicrosecondsPerBlock(bench, [selector](Bench& on, TransferObserver& observer) {
             return ReceiverReader(on.image, on.link, observer).ReadMemory(selector);
         });
         const double write = MicrosecondsPerBlock(bench, [selector](Bench& on, TransferObserver& observer) {
-            return ReceiverWriter(on.image, on.link, observer).WriteMemory(selector);
+            const TransferScope scope{.settings = false, .selector = selector};
+            return ReceiverWriter(on.image, scope, on.link, observer).Write();
         });
         std::printf("%-9d %15.1f %15.1f\n", channels, read, write);
     }

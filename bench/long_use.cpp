@@ -82,19 +82,18 @@ int RunTransfers(int rounds)
     CountingObserver observer;
     CloneImage image = DemoImage(1);
     ReceiverReader reader(image, link, observer);
-    ReceiverWriter writer(image, link, observer);
+    const auto writeAll = [&] { return ReceiverWriter(image, {}, link, observer).Write(); };
     int whole = 0;
     receiver.SetFaults(RandomFaults());
     for (int round = 1; round <= rounds; ++round) {
         whole += reader.ReadAll() == TransferResult::Done ? 1 : 0;
-        whole += writer.WriteAll() == TransferResult::Done ? 1 : 0;
+        whole += writeAll() == TransferResult::Done ? 1 : 0;
         receiver.ClearCommandLog();
         Report(round, rounds);
     }
     receiver.SetFaults({});
     link.SetTimeOut(RadioLink::kTimeOut);
-    const bool isWhole =
-        writer.WriteAll() == TransferResult::Done && reader.ReadAll() == TransferResult::Done;
+    const bool isWhole = writeAll() == TransferResult::Done && reader.ReadAll() == TransferResult::Done;
     std::printf("\n%d of %d transfers came through whole, %ld blocks moved", whole, 2 * rounds,
                 observer.blocks);
     for (const auto& [text, count] : observer.messages)
@@ -107,8 +106,7 @@ int RunFiles(int rounds)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("radio.RQ5"));
-    CloneImage image = DemoImage(1);
-    if (SaveCloneFile(path, image).problem)
+    if (SaveCloneFile(path, DemoImage(1)).problem)
         return 1;
     QtSerialPort port{QString()};
     ScriptedDialogs dialogs;
@@ -127,7 +125,8 @@ int RunFiles(int rounds)
         window->findChild<QAction*>(QStringLiteral("mnuFileSave"))->trigger();
         Report(round, rounds);
     }
-    const bool isSaved = !LoadCloneFile(path, image) && image.Settings.scanMode == rounds % 2;
+    CloneImage image;
+    const bool isSaved = !LoadCloneFile(path, image) && image.Settings().scanMode == rounds % 2;
     std::printf("\n%zu messages; the file holds the last edit: %s\n", dialogs.asked.size(),
                 isSaved ? "yes" : "NO");
     return isSaved && dialogs.asked.empty() ? 0 : 1;

@@ -4,7 +4,7 @@
 
 #include "files/clone_file.h"
 #include "files/clone_lines.h"
-#include "image/channel_record.h"
+#include "image/channel_block.h"
 #include "memory/start_image.h"
 
 namespace rqm5::fuzz {
@@ -16,10 +16,10 @@ CloneImage GoodImage()
 {
     CloneImage image = StartUpImage(0);
     const MemoryBlock channel("01455000000000000000001000600000");
-    for (const int row : {0, 999, kProgramScanFirst, kSearchPassFirst, kPriorityFirst}) {
+    for (const int row : {0, 999, kProgramScan.rows.first, kSearchPass.rows.first, kPriority.rows.first}) {
         DecodeMemoryBlock(image, channel, row);
-        image.MemEnable[static_cast<std::size_t>(row)] = true;
-        image.MemText[static_cast<std::size_t>(row)][kNote] = "note";
+        image.MemData(row).enabled = true;
+        image.MemData(row).note = "note";
     }
     return image;
 }
@@ -93,10 +93,7 @@ std::string PatchBytes(ClonePatch::Kind kind, int line, std::string_view text)
 
 const std::string& GoodCloneFile()
 {
-    static const std::string text = [] {
-        CloneImage image = GoodImage();
-        return FormatCloneFile(image);
-    }();
+    static const std::string text = FormatCloneFile(GoodImage());
     return text;
 }
 

@@ -6,7 +6,9 @@
 #include "files/csv_file.h"
 #include "fuzz/image_checks.h"
 #include "fuzz/require.h"
-#include "image/channel_record.h"
+#include "image/channel_block.h"
+#include "image/image_change.h"
+#include "image/value_tables.h"
 #include "memory/start_image.h"
 
 namespace rqm5::fuzz {
@@ -19,34 +21,28 @@ const CloneImage& FreshImage()
 }
 
 /// What was imported into a row must fit into a block, or the next save would lose it.
-void RequireEncodable(const ChannelNumbers& numbers, RowKind kind)
+void RequireEncodable(const ChannelContents& contents, RowKind kind)
 {
-    ChannelRecord read;
-    DecodeBlock(EncodeNumbers(numbers), kind, read);
+    ChannelContents read = DecodeBlock(EncodeChannel(contents), kind).value_or(ChannelContents());
     // A shift of 0.05 MHz reads back as 0.5 MHz: deliberate.
-    read.numbers[kShiftFrequency] = numbers[kShiftFrequency];
+    if (read.frequency != 0)
+        read.shiftFrequency = contents.shiftFrequency;
     // The receiver knows the 1 kHz step for VFO rows only.
-    if (kind == RowKind::Memory && numbers[kStep] == StepName.size() - 1)
-        read.numbers[kStep] = numbers[kStep];
-    Require(read.numbers == numbers, "imported numbers survive as a block");
+    if (kind == RowKind::Memory && contents.step == StepName.size() - 1)
+        read.step = contents.step;
+    // A block does not tell that a file brought its carrier.
+    read.isCarrierImported = contents.isCarrierImported;
+    Require(read == contents, "imported contents survive as a block");
 }
 
-/// Checks the rows that an import changed and makes them fresh again.
-void CheckChangedRows(CloneImage& image, const ImageBytes& before)
+/// Checks the rows that an import changed.
+void CheckChangedRows(const ImageChange& change)
 {
-    const CloneImage& fresh = FreshImage();
-    for (std::size_t row = 0; row < image.MemData.size(); ++row) {
-        if (before.HoldRow(image, row))
-            continue;
-        RequireEncodable(image.MemData[row], RowKind::Memory);
-        image.MemData[row] = fresh.MemData[row];
-        image.MemText[row] = fresh.MemText[row];
-    }
-    for (const ChannelNumbers& numbers : image.VFOData)
-        RequireEncodable(numbers, RowKind::Vfo);
-    image.MemEnable = fresh.MemEnable;
-    image.VFOData = fresh.VFOData;
-    image.VFOText = fresh.VFOText;
+    for (const auto& row : change.MemData)
+        RequireEncodable(row.after, RowKind::Memory);
+    for (const auto& row : change.VFOData)
+        RequireEncodable(row.after, RowKind::Vfo);
+    Require(!change.HasBanks() && change.Settings.empty(), "an import brings rows only");
 }
 
 /// An import shifts each train code by one step once; from then on nothing may change any more.
@@ -61,16 +57,16 @@ void RequireStableExport(CloneImage image)
 void CheckCsv(std::string_view text)
 {
     static CloneImage image = FreshImage();
-    static ImageBytes before(image);
-    if (ParseCsv(text, image) == 0) {
-        Require(before.AreThoseOf(image), "a text without records changes nothing");
+    const int taken = ParseCsv(text, image);
+    const ImageChange change = Difference(FreshImage(), image);
+    Require(taken > 0 || change.IsEmpty(), "a text without records changes nothing");
+    if (change.IsEmpty())
         return;
-    }
     RequireSoundImage(image);
+    CheckChangedRows(change);
     if (IsPicked(text, 128))
         RequireStableExport(image);
-    CheckChangedRows(image, before);
-    before.Take(image);
+    change.Revert(image);
 }
 
 }  // namespace

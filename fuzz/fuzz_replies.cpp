@@ -6,7 +6,7 @@
 
 #include "fuzz/image_checks.h"
 #include "fuzz/require.h"
-#include "image/channel_record.h"
+#include "image/channel_block.h"
 #include "image/flag_bits.h"
 #include "link/reply_frames.h"
 #include "memory/bank_layout.h"
@@ -18,35 +18,30 @@ constexpr int kRow = 7;
 
 void CheckRecord(const MemoryBlock& block, RowKind kind)
 {
-    ChannelRecord decoded;
-    if (!DecodeBlock(block, kind, decoded)) {
-        Require(decoded.numbers == ChannelNumbers{} && decoded.texts == ChannelTexts{}, "empty is all empty");
+    const auto decoded = DecodeBlock(block, kind);
+    if (!decoded)
         return;
-    }
-    const MemoryBlock encoded = EncodeNumbers(decoded.numbers);
-    ChannelRecord again;
-    Require(DecodeBlock(encoded, kind, again), "a channel stays a channel");
-    Require(again.numbers == decoded.numbers, "numbers survive encoding and decoding");
-    Require(again.texts == decoded.texts || kind == RowKind::Memory, "texts survive");
-    Require(EncodeNumbers(again.numbers) == encoded, "an encoded block is stable");
+    const MemoryBlock encoded = EncodeChannel(*decoded);
+    const auto again = DecodeBlock(encoded, kind);
+    Require(again.has_value(), "a channel stays a channel");
+    Require(*again == *decoded, "contents survive encoding and decoding");
+    Require(EncodeChannel(*again) == encoded, "an encoded block is stable");
+    for (const Column column : kColumns)
+        Require(column == kNote || !CellText(*decoded, kind, kNoRegion, column).empty(), "no cell is blank");
 }
 
 void CheckFlagsAndBanks(const MemoryBlock& block, CloneImage& image)
 {
-    image.BankData.fill(block);
-    DecodeBankData(image);
+    DecodeBankData(image, std::vector<MemoryBlock>(7, block));
     RequireSoundImage(image);
-    const auto sizes = image.BankSize;
-    EncodeBankData(image);
-    DecodeBankData(image);
-    Require(image.BankSize == sizes, "bank sizes survive encoding and decoding");
+    const auto sizes = BankData(image);
+    DecodeBankData(image, sizes);
+    Require(BankData(image) == sizes, "bank sizes survive encoding and decoding");
 
-    image.BankFlagData = block;
-    DecodeBankFlagData(image);
-    const auto links = image.BankLink;
-    EncodeBankFlagData(image);
-    DecodeBankFlagData(image);
-    Require(image.BankLink == links, "links survive encoding and decoding");
+    DecodeBankFlagData(image, block);
+    const MemoryBlock links = BankFlagData(image);
+    DecodeBankFlagData(image, links);
+    Require(BankFlagData(image) == links, "links survive encoding and decoding");
 }
 
 void CheckReplies(std::string_view received)
@@ -63,10 +58,10 @@ void CheckReplies(std::string_view received)
     const MemoryBlock block = BlockOfReply(reply);
     CheckRecord(block, RowKind::Memory);
     CheckRecord(block, RowKind::Vfo);
-    image.MemText[kRow][kNote] = "kept";
+    image.MemData(kRow).note = "kept";
     const bool isChannel = DecodeMemoryBlock(image, std::string_view(reply), kRow);
-    Require(isChannel == HasChannel(image, kRow), "an empty block clears its row");
-    Require(image.MemText[kRow][kNote] == "kept", "a block brings no note");
+    Require(isChannel == image.MemData(kRow).HasChannel(), "an empty block clears its row");
+    Require(image.MemData(kRow).note == "kept", "a block brings no note");
     CheckFlagsAndBanks(block, image);
 }
 

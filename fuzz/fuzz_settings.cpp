@@ -13,28 +13,21 @@ namespace {
 void CheckSettings(std::string_view input)
 {
     static CloneImage image;
-    image.Settings = {};
+    ReceiverSettings& settings = image.Settings();
+    settings = {};
     if (!input.empty()) {
-        image.Settings.model = static_cast<unsigned char>(input.front()) % 6;
+        settings.model = static_cast<unsigned char>(input.front()) % 6;
         input.remove_prefix(1);
     }
-    image.SetData1 = MemoryBlock(input);
-    image.SetData2 = MemoryBlock(input.substr(std::min(input.size(), kBlockChars)));
-    DecodeSettings(image);
-    RequireSoundSettings(image.Settings);
-    const ReceiverSettings decoded = image.Settings;
-
-    EncodeSettings(image);
-    const MemoryBlock encoded1 = image.SetData1;
-    const MemoryBlock encoded2 = image.SetData2;
-    DecodeSettings(image);
-    ReceiverSettings expected = decoded;
-    // A mode that is none of the three is sent as VFO.
-    if (expected.operatingMode == ReceiverSettings::kNoOption)
-        expected.operatingMode = 0;
-    Require(image.Settings == expected, "settings survive encoding and decoding");
-    EncodeSettings(image);
-    Require(image.SetData1 == encoded1 && image.SetData2 == encoded2, "encoded blocks are stable");
+    const MemoryBlock first(input);
+    const MemoryBlock second(input.substr(std::min(input.size(), kBlockChars)));
+    DecodeSettings(image, {first, second});
+    RequireSoundSettings(settings);
+    const ReceiverSettings expected = AsSent(settings);
+    const SettingsBlocks encoded = {SetData1(image), SetData2(image)};
+    DecodeSettings(image, encoded);
+    Require(settings == expected, "settings survive encoding and decoding");
+    Require((SettingsBlocks{SetData1(image), SetData2(image)}) == encoded, "encoded blocks are stable");
 }
 
 }  // namespace

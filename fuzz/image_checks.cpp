@@ -1,21 +1,10 @@
 #include "fuzz/image_checks.h"
 
-#include <cstring>
-
 #include "fuzz/require.h"
 #include "memory/bank_layout.h"
 
 namespace rqm5::fuzz {
 namespace {
-
-/// Calls take with the address and size of each part.
-template <typename Take>
-void ForEachPart(const CloneImage& image, Take take)
-{
-    take(&image, sizeof image);
-    take(image.MemData.data(), image.MemData.size() * sizeof(ChannelNumbers));
-    take(image.MemText.data(), image.MemText.size() * sizeof(ChannelTexts));
-}
 
 bool IsIn(int value, int lowest, int highest)
 {
@@ -24,36 +13,6 @@ bool IsIn(int value, int lowest, int highest)
 
 }  // namespace
 
-void ImageBytes::Take(const CloneImage& image)
-{
-    bytes_.clear();
-    ForEachPart(image, [this](const void* part, std::size_t size) {
-        bytes_.append(static_cast<const char*>(part), size);
-    });
-}
-
-bool ImageBytes::AreThoseOf(const CloneImage& image) const
-{
-    std::size_t at = 0;
-    bool same = true;
-    ForEachPart(image, [&](const void* part, std::size_t size) {
-        same = same && std::memcmp(bytes_.data() + at, part, size) == 0;
-        at += size;
-    });
-    return same;
-}
-
-bool ImageBytes::HoldRow(const CloneImage& image, std::size_t row) const
-{
-    const auto isSame = [this](std::size_t at, const void* part, std::size_t size) {
-        return std::memcmp(bytes_.data() + at, part, size) == 0;
-    };
-    const std::size_t numbersAt = sizeof image;
-    const std::size_t textsAt = numbersAt + kMemoryRows * sizeof(ChannelNumbers);
-    return isSame(numbersAt + row * sizeof(ChannelNumbers), &image.MemData[row], sizeof(ChannelNumbers)) &&
-           isSame(textsAt + row * sizeof(ChannelTexts), &image.MemText[row], sizeof(ChannelTexts));
-}
-
 bool IsPicked(std::string_view input, std::uint32_t oneIn)
 {
     // FNV-1a
@@ -61,6 +20,15 @@ bool IsPicked(std::string_view input, std::uint32_t oneIn)
     for (const char c : input)
         hash = (hash ^ static_cast<unsigned char>(c)) * 16777619U;
     return hash % oneIn == 0;
+}
+
+ReceiverSettings AsSent(ReceiverSettings settings)
+{
+    if (settings.operatingMode == ReceiverSettings::kNoOption)
+        settings.operatingMode = 0;
+    if (settings.model < 2)
+        settings.passCount = 0x60;
+    return settings;
 }
 
 void RequireSoundSettings(const ReceiverSettings& settings)
@@ -76,11 +44,12 @@ void RequireSoundSettings(const ReceiverSettings& settings)
 
 void RequireSoundImage(const CloneImage& image)
 {
-    RequireSoundSettings(image.Settings);
-    for (const int size : image.BankSize)
-        Require(size >= 0, "no bank size is negative");
+    RequireSoundSettings(image.Settings());
+    for (int bank = 0; bank < kBankSizes; ++bank)
+        Require(image.BankSize(bank) >= 0, "no bank size is negative");
     Require(TotalBankSize(image) <= kBankRows, "bank sizes never exceed 1000");
-    Require(image.MemData.size() == kMemoryRows && image.MemText.size() == kMemoryRows, "rows stay");
+    for (int row = 0; row < kVfoRows; ++row)
+        Require(!image.VFOData(row).enabled, "VFO rows have no flag");
 }
 
 }  // namespace rqm5::fuzz

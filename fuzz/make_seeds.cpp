@@ -8,7 +8,7 @@
 #include "files/clone_lines.h"
 #include "files/csv_file.h"
 #include "fuzz/clone_patches.h"
-#include "image/channel_record.h"
+#include "image/channel_block.h"
 #include "memory/start_image.h"
 #include "settings/settings_codec.h"
 
@@ -42,7 +42,7 @@ CloneImage ImageWithChannels(int model)
     CloneImage image = StartUpImage(model);
     int row = 0;
     for (const std::string_view channel : kChannels)
-        for (const int first : {0, kProgramScanFirst, kSearchPassFirst, kPriorityFirst})
+        for (const int first : {0, kProgramScan.rows.first, kSearchPass.rows.first, kPriority.rows.first})
             DecodeMemoryBlock(image, MemoryBlock(channel), first + row++ % 10);
     return image;
 }

@@ -4,6 +4,7 @@
 
 #include "files/clone_file.h"
 #include "files/csv_file.h"
+#include "image/value_tables.h"
 #include "memory/start_image.h"
 #include "ui/error_prompt.h"
 #include "ui/plain_text.h"
@@ -13,29 +14,35 @@ namespace rqm5 {
 
 namespace {
 
+/// Another start may come from another folder, and must not take a file of the same name for this one.
+QString Absolute(const QString& path)
+{
+    return path.isEmpty() ? QString() : QFileInfo(path).absoluteFilePath();
+}
+
 /// Rows of a warning that are named; the rest are counted.
 constexpr std::size_t kNamedRows = 10;
 
 }  // namespace
 
-FileCommands::FileCommands(CloneImage& image, Dialogs& dialogs, QWidget& window)
-    : QObject(&window), image_(image), dialogs_(dialogs), window_(window)
+FileCommands::FileCommands(Document& document, Dialogs& dialogs, QWidget& window)
+    : QObject(&window), document_(document), dialogs_(dialogs), window_(window)
 {
 }
 
 QString FileCommands::Caption() const
 {
     const QString title = QString::fromUtf8(AppTitle.data(), static_cast<qsizetype>(AppTitle.size()));
-    if (FileName_.isEmpty())
+    if (document_.FileName().isEmpty())
         return title;
     // A line break would cut the caption, and "[*]" is where a window shows that it was changed.
-    QString file = VisibleText(QFileInfo(FileName_).fileName());
+    QString file = VisibleText(QFileInfo(document_.FileName()).fileName());
     return file.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")) + QStringLiteral(" - ") + title;
 }
 
 bool FileCommands::MayLoseChanges()
 {
-    if (!image_.DataChanged)
+    if (!document_.DataChanged())
         return true;
     Prompt question;
     question.title = tr("Save Changes");
@@ -43,10 +50,11 @@ bool FileCommands::MayLoseChanges()
     question.icon = QMessageBox::Question;
     question.buttons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
     question.defaultButton = QMessageBox::Yes;
-    const QMessageBox::StandardButton answer = dialogs_.Ask(&window_, question);
-    // A file that may not open again is no reason to let the notes go: here they can still be mended.
+    const QMessageBox::StandardButton answer = Ask(question);
+    // A file that cannot bring back every note keeps the program from going on: here they can still be
+    // mended.
     if (answer == QMessageBox::Yes)
-        return mnuFileSave_Click() && NotesThatDoNotSurvive(image_).empty();
+        return mnuFileSave_Click() && NotesThatDoNotSurvive(document_.Image()).empty();
     return answer == QMessageBox::No;
 }
 
@@ -54,57 +62,56 @@ void FileCommands::mnuFileNew_Click()
 {
     if (!MayLoseChanges())
         return;
-    NewImage(image_);
-    FileName_.clear();
+    CloneImage image = document_.Image();
+    NewImage(image);
+    document_.Replace(std::move(image), QString());
     emit NewDone();
-    emit FileStateChanged();
 }
 
 void FileCommands::mnuFileOpen_Click()
 {
     if (!MayLoseChanges())
         return;
-    const QString path = dialogs_.ChooseFile(&window_, FileChoice::OpenClone, FileName_);
+    const QString path = dialogs_.ChooseFile(&window_, FileChoice::OpenClone, document_.FileName());
     if (!path.isEmpty())
         Load(path);
 }
 
 bool FileCommands::Load(const QString& path)
 {
-    if (!Report(LoadCloneFile(path, image_)))
+    CloneImage image = document_.Image();
+    if (!Report(LoadCloneFile(path, image)))
         return false;
-    emit Loaded();
-    TakeAsCurrent(path);
+    document_.Replace(std::move(image), Absolute(path));
     return true;
 }
 
 bool FileCommands::Recover(const QString& path, const QString& origin)
 {
-    if (!Report(LoadCloneFile(path, image_)))
+    CloneImage image = document_.Image();
+    if (!Report(LoadCloneFile(path, image)))
         return false;
-    image_.DataChanged = true;
-    emit Loaded();
-    TakeAsCurrent(QFileInfo(origin).isFile() ? origin : QString());
+    document_.Replace(std::move(image), QFileInfo(origin).isFile() ? Absolute(origin) : QString(), false);
     return true;
 }
 
 bool FileCommands::mnuFileSave_Click()
 {
-    return FileName_.isEmpty() ? mnuFileSaveAs_Click() : SaveTo(FileName_);
+    return document_.FileName().isEmpty() ? mnuFileSaveAs_Click() : SaveTo(document_.FileName());
 }
 
 bool FileCommands::mnuFileSaveAs_Click()
 {
-    const QString path = dialogs_.ChooseFile(&window_, FileChoice::SaveClone, FileName_);
+    const QString path = dialogs_.ChooseFile(&window_, FileChoice::SaveClone, document_.FileName());
     return !path.isEmpty() && SaveTo(path);
 }
 
 bool FileCommands::SaveTo(const QString& path)
 {
-    const SaveOutcome outcome = SaveCloneFile(path, image_);
+    const SaveOutcome outcome = SaveCloneFile(path, document_.Image());
     if (!Report(outcome.problem))
         return false;
-    TakeAsCurrent(path);
+    document_.MarkSaved(Absolute(path));
     WarnOfNotes(tr("The file is saved, but a clone file cannot hold notes with a comma or quotes. While "
                    "these notes stay as they are, the file cannot be opened again or shows them changed."),
                 outcome.lostNotes);
@@ -113,16 +120,16 @@ bool FileCommands::SaveTo(const QString& path)
 
 void FileCommands::mnuFileExport_Click()
 {
-    QString suggested = FileName_;
+    QString suggested = document_.FileName();
     if (!suggested.isEmpty())
         suggested = QFileInfo(suggested).path() + QLatin1Char('/') + QFileInfo(suggested).completeBaseName() +
                     QStringLiteral(".csv");
     const QString path = dialogs_.ChooseFile(&window_, FileChoice::SaveCsv, suggested);
-    if (path.isEmpty() || !Report(ExportCsv(path, image_)))
+    if (path.isEmpty() || !Report(ExportCsv(path, document_.Image())))
         return;
-    TakeAsCurrent(path);
+    document_.MarkSaved(Absolute(path));
     WarnOfNotes(tr("The file is written. A spreadsheet may run these notes as formulas."),
-                NotesThatLookLikeFormulas(image_));
+                NotesThatLookLikeFormulas(document_.Image()));
 }
 
 void FileCommands::mnuFileImport_Click()
@@ -130,28 +137,27 @@ void FileCommands::mnuFileImport_Click()
     const QString path = dialogs_.ChooseFile(&window_, FileChoice::OpenCsv, QString());
     if (path.isEmpty())
         return;
+    CloneImage image = document_.Image();
     int taken = 0;
-    if (!Report(ImportCsv(path, image_, taken)))
+    if (!Report(ImportCsv(path, image, taken)))
         return;
-    if (taken == 0) {
+    if (taken == 0)
         emit NothingImported();
-        return;
-    }
-    emit Imported();
-    TakeAsCurrent(path);
+    else
+        document_.Import(tr("Import (%1)").arg(VisibleText(QFileInfo(path).fileName())), image,
+                         Absolute(path));
 }
 
-void FileCommands::TakeAsCurrent(const QString& path)
+QMessageBox::StandardButton FileCommands::Ask(const Prompt& prompt)
 {
-    // Another start may come from another folder, and must not take a file of the same name for this one.
-    FileName_ = path.isEmpty() ? QString() : QFileInfo(path).absoluteFilePath();
-    emit FileStateChanged();
+    emit Asking();
+    return dialogs_.Ask(&window_, prompt);
 }
 
 bool FileCommands::Report(const std::optional<Problem>& problem)
 {
     if (problem)
-        dialogs_.Ask(&window_, ErrorPrompt(*problem));
+        Ask(ErrorPrompt(*problem));
     return !problem;
 }
 
@@ -164,7 +170,7 @@ void FileCommands::WarnOfNotes(const QString& text, const std::vector<std::strin
     warning.text = text;
     warning.details = RowList(rows, kNamedRows);
     warning.icon = QMessageBox::Warning;
-    dialogs_.Ask(&window_, warning);
+    Ask(warning);
 }
 
 }  // namespace rqm5

@@ -4,19 +4,19 @@
 #include <QString>
 #include <QWidget>
 
+#include "document/document.h"
 #include "files/file_store.h"
-#include "image/clone_image.h"
 #include "ui/dialogs.h"
 
 namespace rqm5 {
 
-/// The File menu: which file is the current one, and the question that keeps edits from getting lost.
+/// The File menu, and the question that keeps edits from getting lost.
 class FileCommands : public QObject
 {
     Q_OBJECT
 
   public:
-    FileCommands(CloneImage& image, Dialogs& dialogs, QWidget& window);
+    FileCommands(Document& document, Dialogs& dialogs, QWidget& window);
 
     /// Asks about unsaved changes, and saves when that is the answer.
     /// \return false when what was going to happen shall not: cancelled, or the save was cancelled or failed
@@ -36,30 +36,24 @@ class FileCommands : public QObject
     void mnuFileImport_Click();
     void mnuFileExport_Click();
 
-    /// The current file's path, empty when there is none. After export and import it is the CSV file, to
-    /// which the next Save writes the clone format: deliberate.
-    const QString& FileName() const { return FileName_; }
-
     /// The window's caption: the current file's name without its folder, and the program's title.
     QString Caption() const;
 
   signals:
     void NewDone();
-    void Loaded();
-    void Imported();
-    void NothingImported();   ///< the file held no record of this receiver; nothing has changed
-    void FileStateChanged();  ///< another current file, or no unsaved changes any more
+    void NothingImported();  ///< the file held no record of this receiver; nothing has changed
+    void Asking();           ///< a message or question is about to be shown
 
   private:
-    void TakeAsCurrent(const QString& path);
     bool Report(const std::optional<Problem>& problem);
     void WarnOfNotes(const QString& text, const std::vector<std::string>& rows);
     bool SaveTo(const QString& path);
 
-    CloneImage& image_;
+    QMessageBox::StandardButton Ask(const Prompt& prompt);
+
+    Document& document_;
     Dialogs& dialogs_;
     QWidget& window_;
-    QString FileName_;
 };
 
 }  // namespace rqm5

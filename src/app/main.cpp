@@ -4,12 +4,12 @@
 #include <QTranslator>
 
 #include "app/command_file.h"
-#include "app/icons.h"
 #include "app/recovery.h"
 #include "app/start_up.h"
 #include "files/file_store.h"
 #include "link/port_file.h"
 #include "link/qt_serial_port.h"
+#include "ui/icons.h"
 #include "ui/message_dialogs.h"
 
 namespace {

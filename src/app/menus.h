@@ -3,6 +3,9 @@
 #include <QAction>
 #include <QMenuBar>
 #include <QObject>
+#include <array>
+
+#include "app/menu_items.h"
 
 namespace rqm5 {
 
@@ -15,22 +18,21 @@ class Menus : public QObject
     /// Fills the menu bar. Designed texts only; SetFormTexts translates them.
     explicit Menus(QMenuBar& bar);
 
-    /// The item of a name; there must be one.
-    QAction& Item(const char* name) const;
+    QAction& Item(ItemName name) const { return *actions_[name.Index()]; }
 
     /// Switches off everything that starts a transfer, edits the image or replaces it, and on again what
     /// was on before.
     void SetTransferRunning(bool isRunning);
 
-    /// What the tabs decide about Modify; it takes effect when no transfer runs.
-    void SetModifyPossible(bool isPossible);
+    /// Whether an item can do something; it takes effect when no transfer runs.
+    void SetPossible(ItemName name, bool isPossible);
 
   private:
     void SetItemStates();
 
-    QMenuBar& bar_;
+    std::array<QAction*, std::size(kMenuItems)> actions_{};
+    std::array<bool, std::size(kMenuItems)> isPossible_{};
     bool isTransferRunning_ = false;
-    bool isModifyPossible_ = true;
 };
 
 }  // namespace rqm5

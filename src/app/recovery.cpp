@@ -52,20 +52,22 @@ QString StateFolder()
 #endif
 }
 
-Recovery::Recovery(const CloneImage& image, const QString& folder, std::chrono::milliseconds delay,
+Recovery::Recovery(const Document& document, const QString& folder, std::chrono::milliseconds delay,
                    QObject* parent)
-    : QObject(parent), image_(image), folder_(folder)
+    : QObject(parent), document_(document), folder_(folder)
 {
     pool_.setMaxThreadCount(1);
     timer_.setSingleShot(true);
     timer_.setInterval(delay);
     connect(&timer_, &QTimer::timeout, this, &Recovery::Keep);
+    connect(&document, &Document::StateChanged, this, &Recovery::Look);
+    connect(&document, &Document::Changed, this, &Recovery::Look);
 }
 
-void Recovery::Look(const QString& fileName)
+/// Without unsaved changes there is nothing to recover.
+void Recovery::Look()
 {
-    fileName_ = fileName;
-    if (!image_.DataChanged)
+    if (!document_.DataChanged())
         Remove();
     else if (!folder_.isEmpty() && !hasEnded_ && !timer_.isActive())
         timer_.start();
@@ -75,7 +77,7 @@ void Recovery::Keep()
 {
     if (!file_)
         file_ = std::make_unique<RecoveryFile>(folder_);
-    pool_.start([this, image = image_, origin = fileName_, file = file_.get()] {
+    pool_.start([this, image = document_.Image(), origin = document_.FileName(), file = file_.get()] {
         const auto problem = file->Keep(RecoveryText(image), origin);
         const QString reason = problem ? QString::fromStdString(problem->details) : QString();
         QMetaObject::invokeMethod(this, [this, reason] { Keep_Done(reason); });
@@ -84,7 +86,7 @@ void Recovery::Keep()
 
 void Recovery::Keep_Done(const QString& reason)
 {
-    if (!file_ || !image_.DataChanged)
+    if (!file_ || !document_.DataChanged())
         return;  // saved meanwhile
     // The disk may have room again, or the folder be there, a moment later.
     if (!reason.isEmpty() && !timer_.isActive())
@@ -114,6 +116,7 @@ bool Recovery::Offer(Dialogs& dialogs, QWidget* parent,
     if (folder_.isEmpty())
         return false;
     for (auto& file : RecoveryFile::Abandoned(folder_)) {
+        emit Asking();
         const Choice choice = Ask(dialogs, parent, *file);
         if (choice == Choice::Discard)
             file->Remove();

@@ -7,8 +7,8 @@
 #include <functional>
 #include <memory>
 
+#include "document/document.h"
 #include "files/recovery_file.h"
-#include "image/clone_image.h"
 #include "ui/dialogs.h"
 
 namespace rqm5 {
@@ -16,7 +16,8 @@ namespace rqm5 {
 /// Where the program keeps what is no setting and no document: the user's state folder.
 QString StateFolder();
 
-/// Keeps unsaved changes in a recovery file while there are any, and offers what a crash left behind.
+/// Keeps the unsaved changes of a document in a recovery file while there are any, and offers what a crash
+/// left behind.
 class Recovery : public QObject
 {
     Q_OBJECT
@@ -25,11 +26,8 @@ class Recovery : public QObject
     /// \param folder  may be empty: nothing is kept or offered then
     /// \param delay   changes are kept so long after the first of them; formatting and writing take place
     ///                beside the user's typing
-    Recovery(const CloneImage& image, const QString& folder, std::chrono::milliseconds delay,
+    Recovery(const Document& document, const QString& folder, std::chrono::milliseconds delay,
              QObject* parent);
-
-    /// The image or its file may have changed. Without unsaved changes there is nothing to recover.
-    void Look(const QString& fileName);
 
     /// The program ends in the usual way: nothing is kept any more.
     void End();
@@ -44,14 +42,16 @@ class Recovery : public QObject
     /// again.
     void Kept(const QString& reason);
 
+    void Asking();  ///< a question is about to be shown
+
   private:
+    void Look();
     void Keep();
     void Keep_Done(const QString& reason);
     void Remove();
 
-    const CloneImage& image_;
+    const Document& document_;
     const QString folder_;
-    QString fileName_;
     QTimer timer_;
     std::unique_ptr<RecoveryFile> file_;  ///< null until there is something to keep
     bool hasEnded_ = false;

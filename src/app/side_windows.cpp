@@ -1,51 +1,49 @@
 #include "app/side_windows.h"
 
-#include <QAction>
-#include <QMainWindow>
-
 #include "app/diagnostics/diagnostics_panel.h"
-#include "app/transfer_commands.h"
 #include "help/about_dialog.h"
 #include "help/help_key.h"
 #include "printing/print_job.h"
 
 namespace rqm5 {
 
-void mnuFilePrint_Click(const SideContext& context)
+SideWindows::SideWindows(Document& document, RadioLink& link, TransferCommands& transfers, Dialogs& dialogs,
+                         const PortCommands& ports, const StartOptions& options, QMainWindow& window)
+    : QObject(&window),
+      document_(document),
+      link_(link),
+      dialogs_(dialogs),
+      ports_(ports),
+      options_(options),
+      window_(window),
+      help_(new HelpKey(dialogs, window)),
+      diagnostics_(new DiagnosticsPanel(document.Image(), link, transfers, dialogs, &window))
 {
-    PrintImage(context.image, context.files.FileName(), context.dialogs, &context.window);
+    window.addDockWidget(Qt::BottomDockWidgetArea, diagnostics_);
+    diagnostics_->hide();
 }
 
-void AddSideWindows(const SideContext& context)
+void SideWindows::ConnectDiagnostics(QAction& mnuViewDiagnostics)
 {
-    new HelpKey(context.dialogs, context.window);
-    auto& window = static_cast<QMainWindow&>(context.window);
-    auto* panel =
-        new DiagnosticsPanel(context.image, context.link, context.transfers, context.dialogs, &window);
-    window.addDockWidget(Qt::BottomDockWidgetArea, panel);
-    panel->hide();
-    auto* item = window.findChild<QAction*>(QStringLiteral("mnuViewDiagnostics"));
-    item->setCheckable(true);
+    connect(&mnuViewDiagnostics, &QAction::triggered, diagnostics_, &QDockWidget::setVisible);
     // The panel has a close button of its own.
-    QObject::connect(panel->toggleViewAction(), &QAction::toggled, item, &QAction::setChecked);
+    connect(diagnostics_->toggleViewAction(), &QAction::toggled, &mnuViewDiagnostics, &QAction::setChecked);
 }
 
-void mnuHelpContents_Click(const SideContext& context)
+void SideWindows::mnuFilePrint_Click()
 {
-    context.window.findChild<HelpKey*>()->ShowHelp();
+    PrintImage(document_.Image(), document_.FileName(), dialogs_, &window_);
 }
 
-void mnuViewDiagnostics_Click(const SideContext& context)
+void SideWindows::mnuHelpContents_Click()
 {
-    auto* panel = context.window.findChild<DiagnosticsPanel*>();
-    panel->setVisible(context.window.findChild<QAction*>(QStringLiteral("mnuViewDiagnostics"))->isChecked());
+    help_->ShowHelp();
 }
 
-void mnuHelpAbout_Click(const SideContext& context)
+void SideWindows::mnuHelpAbout_Click()
 {
-    dlgAbout about(AboutFacts(context.portFile, context.CommPort, context.link.Port().Device()),
-                   &context.window);
-    context.dialogs.Run(about);
+    dlgAbout about(AboutFacts(options_.portFile, ports_.CommPort(), link_.Port().Device()), &window_);
+    dialogs_.Run(about);
 }
 
 }  // namespace rqm5

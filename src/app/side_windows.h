@@ -1,38 +1,46 @@
 #pragma once
 
-#include <QWidget>
+#include <QMainWindow>
 
-#include "app/file_commands.h"
-#include "image/clone_image.h"
+#include "app/menus.h"
+#include "app/port_commands.h"
+#include "app/start_options.h"
+#include "document/document.h"
 #include "link/radio_link.h"
 #include "ui/dialogs.h"
 
 namespace rqm5 {
 
+class DiagnosticsPanel;
+class HelpKey;
 class TransferCommands;
 
-/// What the windows beside the main window may work with.
-struct SideContext
+/// The windows beside the main window: printing, diagnostics, help and the About box. The diagnostics panel
+/// keeps the log of the line also while it is hidden.
+class SideWindows : public QObject
 {
-    QWidget& window;
-    CloneImage& image;
-    Dialogs& dialogs;
-    const FileCommands& files;
-    RadioLink& link;
-    TransferCommands& transfers;
-    const QString& portFile;  ///< path of "RQ-M5.ini"
-    const int& CommPort;      ///< COM number in use
+    Q_OBJECT
+
+  public:
+    SideWindows(Document& document, RadioLink& link, TransferCommands& transfers, Dialogs& dialogs,
+                const PortCommands& ports, const StartOptions& options, QMainWindow& window);
+
+    /// Keeps the item of the View menu and the panel equal.
+    void ConnectDiagnostics(QAction& mnuViewDiagnostics);
+
+    void mnuFilePrint_Click();
+    void mnuHelpContents_Click();
+    void mnuHelpAbout_Click();
+
+  private:
+    Document& document_;
+    RadioLink& link_;
+    Dialogs& dialogs_;
+    const PortCommands& ports_;
+    const StartOptions& options_;
+    QMainWindow& window_;
+    HelpKey* help_;
+    DiagnosticsPanel* diagnostics_;
 };
-
-/// Makes what must be there before it is shown: the diagnostics panel, which keeps the log of the line
-/// also while it is hidden, and the help key in dialogs. Call it once, when the menus are there.
-void AddSideWindows(const SideContext& context);
-
-// What the menu items of these names do, apart from the main window's own work.
-
-void mnuFilePrint_Click(const SideContext& context);
-void mnuHelpContents_Click(const SideContext& context);
-void mnuHelpAbout_Click(const SideContext& context);
-void mnuViewDiagnostics_Click(const SideContext& context);
 
 }  // namespace rqm5

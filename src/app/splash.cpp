@@ -7,8 +7,8 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
-#include "app/icons.h"
 #include "image/value_tables.h"
+#include "ui/icons.h"
 
 namespace rqm5 {
 

@@ -1,7 +1,6 @@
 #include "app/status_bar.h"
 
 #include <QApplication>
-#include <algorithm>
 
 #include "ui/elided_label.h"
 
@@ -11,12 +10,20 @@ namespace {
 
 constexpr int kFieldMargin = 6;
 constexpr int kPortColumns = 36;
-constexpr const char* kModelNames[] = {"RQ-M5 J", "RQ-M5 E", "RQ-M5 T", "RQ-M5 K"};
-
 QString ModelName(int model)
 {
-    return model >= 0 && model < kRegions ? QLatin1String(kModelNames[model])
-                                          : StatusBar::tr("Sibling model");
+    if (model < 0 || model >= kRegions)
+        return StatusBar::tr("Sibling model");
+    const std::string_view name = RegionOf(model).model;
+    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+int EnabledChannels(const CloneImage& image)
+{
+    int enabled = 0;
+    for (int row = 0; row < kRadioRows; ++row)
+        enabled += image.MemEnable(row) ? 1 : 0;
+    return enabled;
 }
 
 }  // namespace
@@ -48,12 +55,12 @@ StatusBar::StatusBar(QWidget* parent)
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { ShowHintOf(now); });
 }
 
-void StatusBar::ShowImage(const CloneImage& image, bool hasFile)
+void StatusBar::ShowDocument(const Document& document)
 {
-    const auto enabled = std::count(image.MemEnable.begin(), image.MemEnable.begin() + kRadioRows, true);
-    lblFileState_->setText(image.DataChanged ? tr("Changed") : hasFile ? tr("Saved") : tr("New"));
-    lblRegion_->setText(ModelName(image.Settings.model));
-    lblEnabled_->setText(tr("Channels enabled: %1").arg(enabled));
+    const bool hasFile = !document.FileName().isEmpty();
+    lblFileState_->setText(document.DataChanged() ? tr("Changed") : hasFile ? tr("Saved") : tr("New"));
+    lblRegion_->setText(ModelName(document.Image().Settings().model));
+    lblEnabled_->setText(tr("Channels enabled: %1").arg(EnabledChannels(document.Image())));
 }
 
 void StatusBar::ShowNote(const QString& text)

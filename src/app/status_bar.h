@@ -3,7 +3,7 @@
 #include <QLabel>
 #include <QStatusBar>
 
-#include "image/clone_image.h"
+#include "document/document.h"
 
 namespace rqm5 {
 
@@ -16,8 +16,8 @@ class StatusBar : public QStatusBar
   public:
     explicit StatusBar(QWidget* parent);
 
-    /// \param hasFile  there is a current file; without one an unchanged image is a new one
-    void ShowImage(const CloneImage& image, bool hasFile);
+    /// Without a current file an unchanged image is a new one.
+    void ShowDocument(const Document& document);
 
     /// Something to read at leisure in the place of hints; an empty text makes room for them again.
     void ShowNote(const QString& text);

@@ -6,14 +6,16 @@ namespace rqm5 {
 
 namespace {
 
+constexpr int kButtonsBeforeHistory = 3;
+
 struct ButtonRow
 {
     const char* key;
-    const char* item;  ///< the menu item that does the same
+    ItemName item;  ///< the menu item that does the same
     const char* toolTip;
 };
 
-constexpr ButtonRow kButtons[] = {
+const ButtonRow kButtons[] = {
     {"新規作成", "mnuFileNew", QT_TRANSLATE_NOOP("rqm5::frmMain", "New")},
     {"開く", "mnuFileOpen", QT_TRANSLATE_NOOP("rqm5::frmMain", "Open")},
     {"上書き保存", "mnuFileSave", QT_TRANSLATE_NOOP("rqm5::frmMain", "Save")},
@@ -37,6 +39,11 @@ ToolBar::ToolBar(const Menus& menus, QWidget* parent) : QToolBar(parent), menus_
         // What the menu does not offer now, the button does not either.
         connect(&item, &QAction::enabledChanged, button, &QAction::setEnabled);
     }
+    // These show what they would take back, so they are the menu's own.
+    QAction* behind = actions().at(kButtonsBeforeHistory);
+    insertActions(behind, {&menus_.Item("mnuHistoryUndo"), &menus_.Item("mnuHistoryRedo")});
+    insertSeparator(behind);
+    insertSeparator(&menus_.Item("mnuHistoryUndo"));
     connect(this, &QToolBar::actionTriggered, this,
             [this](const QAction* button) { tbToolBar_ButtonClick(button->data().toString()); });
 }

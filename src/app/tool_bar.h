@@ -7,7 +7,7 @@
 
 namespace rqm5 {
 
-/// `tbToolBar`: five buttons whose data is their key. The key alone chooses what a button does.
+/// `tbToolBar`: five buttons whose data is their key, which alone chooses what they do, and Undo and Redo.
 class ToolBar : public QToolBar
 {
     Q_OBJECT

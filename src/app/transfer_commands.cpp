@@ -6,16 +6,15 @@
 #include "files/file_store.h"
 #include "link/forwarding_observer.h"
 #include "link/receiver_checks.h"
-#include "link/receiver_reader.h"
 #include "link/receiver_writer.h"
-#include "link/write_record.h"
+#include "memory/bank_layout.h"
 #include "ui/error_prompt.h"
 #include "ui/row_list.h"
 
 namespace rqm5 {
 
-TransferCommands::TransferCommands(CloneImage& image, RadioLink& link, Dialogs& dialogs, QWidget& window)
-    : QObject(&window), image_(image), link_(link), dialogs_(dialogs), window_(window)
+TransferCommands::TransferCommands(Document& document, RadioLink& link, Dialogs& dialogs, QWidget& window)
+    : QObject(&window), document_(document), link_(link), dialogs_(dialogs), window_(window)
 {
 }
 
@@ -46,16 +45,16 @@ void TransferCommands::RunOther(const std::function<void()>& work)
 
 TransferResult TransferCommands::RunOperation(Transfer transfer, int selector)
 {
-    ReceiverReader reader(image_, link_, *this);
     switch (transfer) {
         case Transfer::ReadAll:
-            return reader.ReadAll();
+            return Read(tr("Read ALL"), [](ReceiverReader& reader) { return reader.ReadAll(); });
         case Transfer::ReadMemory:
-            return reader.ReadMemory(selector);
+            return Read(tr("Read Memory (%1)").arg(QString::fromStdString(SelectorText(selector))),
+                        [selector](ReceiverReader& reader) { return reader.ReadMemory(selector); });
         case Transfer::ReadSettings:
-            return reader.ReadSettings();
+            return Read(tr("Read Settings"), [](ReceiverReader& reader) { return reader.ReadSettings(); });
         case Transfer::ReadBankPage:
-            return reader.ReadBankPage();
+            return Read(tr("Read Bank"), [](ReceiverReader& reader) { return reader.ReadBankPage(); });
         case Transfer::WriteAll:
             return Write({});
         case Transfer::WriteMemory:
@@ -66,6 +65,26 @@ TransferResult TransferCommands::RunOperation(Transfer transfer, int selector)
             return Write({.settings = false, .memory = false, .banks = true});
     }
     return TransferResult::Failed;
+}
+
+TransferResult TransferCommands::Read(const QString& name,
+                                      const std::function<TransferResult(ReceiverReader&)>& read)
+{
+    Transaction reading(document_, name);
+    reading_ = &reading;
+    ReceiverReader reader(reading.Image(), link_, *this);
+    const TransferResult result = read(reader);
+    // What has arrived is in no file, also when it is what was there, and when the read broke off.
+    if (reader.HasStored())
+        reading.MarkChanged();
+    reading_ = nullptr;
+    return result;
+}
+
+void TransferCommands::Stored()
+{
+    if (reading_ != nullptr)
+        reading_->Announce();
 }
 
 TransferResult TransferCommands::Write(const TransferScope& scope)
@@ -84,7 +103,7 @@ TransferResult TransferCommands::Write(const TransferScope& scope)
 TransferResult TransferCommands::KeepBackup(const TransferScope& scope, const QString& folder)
 {
     CloneImage backup;
-    const TransferResult result = ReadBackup(image_, scope, link_, *this, backup);
+    const TransferResult result = ReadBackup(document_.Image(), scope, link_, *this, backup);
     if (result == TransferResult::Cancelled)
         emit Noted(QString::fromStdString(NothingWritten()));
     if (result != TransferResult::Done)
@@ -92,7 +111,7 @@ TransferResult TransferCommands::KeepBackup(const TransferScope& scope, const QS
     return SaveBackup(scope, folder, backup) ? TransferResult::Done : TransferResult::Failed;
 }
 
-bool TransferCommands::SaveBackup(const TransferScope& scope, const QString& folder, CloneImage& backup)
+bool TransferCommands::SaveBackup(const TransferScope& scope, const QString& folder, const CloneImage& backup)
 {
     QDir().mkpath(folder);  // where it cannot be made, saving says why
     const auto problem =
@@ -104,13 +123,13 @@ bool TransferCommands::SaveBackup(const TransferScope& scope, const QString& fol
 
 TransferResult TransferCommands::WriteBlocks(const TransferScope& scope)
 {
-    WriteRecord record(image_, scope, *this);
-    ReceiverWriter writer(image_, link_, record);
-    const TransferResult result = WriteScope(writer, scope);
-    if (result == TransferResult::Cancelled && record.HasBegun())
+    ReceiverWriter writer(document_.Image(), scope, link_, *this);
+    const TransferResult result = writer.Write();
+    document_.Absorb([&writer](CloneImage& image) { image = writer.Written(); });
+    if (result == TransferResult::Cancelled && writer.Plan().HasBegun())
         Warn({.title = tr("Write"),
               .text = tr("The write was cancelled."),
-              .details = QString::fromStdString(record.Summary())});
+              .details = QString::fromStdString(writer.Plan().Summary())});
     return result;
 }
 
@@ -119,7 +138,8 @@ TransferResult TransferCommands::Verify(const TransferScope& scope)
     constexpr std::size_t kNamedBlocks = 20;
     std::vector<BlockDifference> differences;
     AftermathObserver observer(*this, NotVerified());
-    const TransferResult result = ReadBack(ExpectedAfterWrite(image_, scope), link_, observer, differences);
+    const TransferResult result =
+        ReadBack(ExpectedAfterWrite(document_.Image(), scope), link_, observer, differences);
     if (result == TransferResult::Cancelled)
         emit Noted(QString::fromStdString(NotVerified()));
     if (!differences.empty()) {

@@ -4,8 +4,9 @@
 #include <QWidget>
 #include <functional>
 
-#include "image/clone_image.h"
+#include "document/document.h"
 #include "link/radio_link.h"
+#include "link/receiver_reader.h"
 #include "link/transfer_observer.h"
 #include "link/transfer_scope.h"
 #include "ui/dialogs.h"
@@ -23,13 +24,13 @@ enum class Transfer {
     WriteBankPage
 };
 
-/// Runs one transfer at a time between the receiver and the image, and passes on what it tells.
+/// Runs one transfer at a time between the receiver and the document, and passes on what it tells.
 class TransferCommands : public QObject, private TransferObserver
 {
     Q_OBJECT
 
   public:
-    TransferCommands(CloneImage& image, RadioLink& link, Dialogs& dialogs, QWidget& window);
+    TransferCommands(Document& document, RadioLink& link, Dialogs& dialogs, QWidget& window);
 
     /// Runs a transfer to its end; events are processed meanwhile. Does nothing while another one runs.
     /// \param selector  the group of a memory transfer
@@ -38,6 +39,10 @@ class TransferCommands : public QObject, private TransferObserver
     /// Runs other work that uses the line, in the place of a transfer: nothing else starts meanwhile, and
     /// Cancel ends it. Does nothing while a transfer runs.
     void RunOther(const std::function<void()>& work);
+
+    /// How far other work is: it begins, up to a maximum, and comes to a value.
+    void ShowProgress(int maximum) { emit ProgressBegan(maximum); }
+    void MoveProgress(int value) { emit ProgressAdvanced(value, value); }
 
     /// True once the work that runs now shall end.
     bool IsStopped() const { return isCancelled_; }
@@ -53,7 +58,7 @@ class TransferCommands : public QObject, private TransferObserver
     void Ended(rqm5::TransferResult result);
     void ProgressBegan(int maximum);
     void ProgressAdvanced(int value, int row);
-    void Refreshed(rqm5::Changed what);
+    void GroupWanted(int selector);  ///< an "all" operation moves the bank selector
 
     /// What there is to say about a transfer without a message: that nothing was written, that the receiver
     /// was read back and agrees.
@@ -62,23 +67,26 @@ class TransferCommands : public QObject, private TransferObserver
   private:
     void Occupy(const std::function<TransferResult()>& work);
     TransferResult RunOperation(Transfer transfer, int selector);
+    TransferResult Read(const QString& name, const std::function<TransferResult(ReceiverReader&)>& read);
     TransferResult Write(const TransferScope& scope);
     TransferResult KeepBackup(const TransferScope& scope, const QString& folder);
     TransferResult WriteBlocks(const TransferScope& scope);
     TransferResult Verify(const TransferScope& scope);
     void Warn(Prompt warning);
-    bool SaveBackup(const TransferScope& scope, const QString& folder, CloneImage& backup);
+    bool SaveBackup(const TransferScope& scope, const QString& folder, const CloneImage& backup);
 
     void ProgressStarted(int maximum) override { emit ProgressBegan(maximum); }
     void ProgressMoved(int value, int row) override { emit ProgressAdvanced(value, row); }
-    void Refresh(Changed what) override { emit Refreshed(what); }
+    void GroupChosen(int selector) override { emit GroupWanted(selector); }
+    void Stored() override;
     void Message(const Problem& problem) override;
     bool IsCancelled() override { return isCancelled_; }
 
-    CloneImage& image_;
+    Document& document_;
     RadioLink& link_;
     Dialogs& dialogs_;
     QWidget& window_;
+    Transaction* reading_ = nullptr;  ///< of the read that runs
     bool isRunning_ = false;
     bool isCancelled_ = false;
 };

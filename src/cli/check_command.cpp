@@ -9,6 +9,7 @@
 #include "files/csv_file.h"
 #include "files/file_store.h"
 #include "image/display_text.h"
+#include "image/value_tables.h"
 #include "memory/bank_layout.h"
 #include "settings/setting_texts.h"
 
@@ -23,11 +24,11 @@ std::vector<std::string> Summary(const CloneImage& image, const std::string& nam
     int skipped = 0;
     int notes = 0;
     for (int row = rows.first; row <= rows.Last(); ++row) {
-        const auto index = static_cast<std::size_t>(row);
-        channels += HasChannel(image, row) ? 1 : 0;
-        enabled += image.MemEnable[index] ? 1 : 0;
-        skipped += IsSkipped(image, row) ? 1 : 0;
-        notes += image.MemText[index][kNote].empty() ? 0 : 1;
+        const Channel& channel = image.MemData(row);
+        channels += channel.HasChannel() ? 1 : 0;
+        enabled += channel.enabled ? 1 : 0;
+        skipped += channel.IsSkipped() ? 1 : 0;
+        notes += channel.note.empty() ? 0 : 1;
     }
     std::vector<std::string> cells = {name};
     for (const int count : {rows.count, channels, enabled, skipped, notes})
@@ -53,18 +54,18 @@ void PrintGroups(const CloneImage& image, std::ostream& out)
 
 void PrintContents(const CloneImage& image, std::ostream& out)
 {
-    const auto isNote = [](const ChannelTexts& texts) { return !texts[kNote].empty(); };
-    const SettingText model = SettingTexts(image.Settings).front();
-    out << model.caption << ": " << model.value << " (region " << image.ModelNo() << ")\n";
-    out << "VFO bands: " << BandCount(image.ModelNo())
-        << ", notes: " << std::count_if(image.VFOText.begin(), image.VFOText.end(), isNote) << '\n';
-    out << "Linked banks:";
-    for (std::size_t bank = 0; bank < kBanks; ++bank)
-        if (image.BankLink[bank])
-            out << ' ' << bank;
-    const bool hasLinks = std::find(image.BankLink.begin(), image.BankLink.begin() + kBanks, true) !=
-                          image.BankLink.begin() + kBanks;
-    out << (hasLinks ? "\n" : " none\n");
+    int notes = 0;
+    for (int row = 0; row < kVfoRows; ++row)
+        notes += image.VFOData(row).note.empty() ? 0 : 1;
+    std::string links;
+    for (int bank = 0; bank < kBanks; ++bank)
+        if (image.BankLink(bank))
+            links += ' ' + std::to_string(bank);
+    const int model = SettingIndex(&ReceiverSettings::model);
+    out << SettingCaption(model) << ": " << SettingText(image.Settings(), model) << " (region "
+        << image.ModelNo() << ")\n";
+    out << "VFO bands: " << RegionOf(image.ModelNo()).vfoBands << ", notes: " << notes << '\n';
+    out << "Linked banks:" << (links.empty() ? " none" : links) << '\n';
     PrintGroups(image, out);
 }
 

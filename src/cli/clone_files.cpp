@@ -48,7 +48,7 @@ Problem SameFileProblem(const std::string& path)
             path + ": both names are the same file, which would be replaced; give another name"};
 }
 
-Status Save(const std::string& path, CloneImage& image, Console& console)
+Status Save(const std::string& path, const CloneImage& image, Console& console)
 {
     const SaveOutcome outcome = SaveCloneFile(PathOf(path), image);
     if (outcome.problem)

@@ -28,6 +28,6 @@ Problem SameFileProblem(const std::string& path);
 
 /// Saves the image. Notes that the file cannot bring back are named; the file is written and the status
 /// is that of a failure.
-Status Save(const std::string& path, CloneImage& image, Console& console);
+Status Save(const std::string& path, const CloneImage& image, Console& console);
 
 }  // namespace rqm5

@@ -2,8 +2,8 @@
 
 #include "cli/clone_files.h"
 #include "cli/command.h"
-#include "files/image_diff.h"
 #include "image/display_text.h"
+#include "memory/change_words.h"
 
 namespace rqm5 {
 
@@ -16,7 +16,7 @@ Status RunDiff(const Arguments& arguments, Console& console)
         problem = Load(arguments[1], b);
     if (problem)
         return Fail(console, *problem);
-    const std::vector<std::string> differences = DescribeDifferences(a, b);
+    const std::vector<std::string> differences = DescribeChange(a, Difference(a, b));
     for (const std::string& difference : differences)
         console.out << VisibleText(difference) << '\n';
     return differences.empty() ? Status::Done : Status::Failed;

@@ -5,7 +5,6 @@
 #include "cli/text_table.h"
 #include "cli/values.h"
 #include "link/block_address.h"
-#include "link/block_meaning.h"
 #include "link/link_problems.h"
 #include "link/memory_map.h"
 #include "link/raw_read.h"
@@ -17,12 +16,9 @@ TransferResult Refuse(ReceiverSession& session, int address, const RawReply& raw
 {
     if (session.Observer().IsCancelled())
         return TransferResult::Cancelled;
-    const BadReply reply = raw.result == RawReply::Result::NoFrame ? BadReply::Garbled
-                           : raw.received.empty()                  ? BadReply::Nothing
-                                                                   : BadReply::TooShort;
-    session.Observer().Message(raw.result == RawReply::Result::PortFailed
+    session.Observer().Message(IsPortFailure(raw.outcome)
                                    ? ComPortProblem(session.Link().Port())
-                                   : CommunicationProblem(address, false, 1, reply));
+                                   : CommunicationProblem(address, false, 1, raw.outcome));
     return TransferResult::Failed;
 }
 

@@ -5,7 +5,7 @@
 #include "cli/text_table.h"
 #include "cli/values.h"
 #include "memory/bank_layout.h"
-#include "memory/memory_cells.h"
+#include "memory/table_titles.h"
 
 namespace rqm5 {
 namespace {
@@ -24,11 +24,11 @@ std::vector<std::string> Heads()
     }
 }
 
-std::vector<std::string> Cells(const CloneImage& image, int row, const std::string& label)
+std::vector<std::string> Cells(const Channel& channel, int region, const std::string& label)
 {
-    std::vector<std::string> cells = {image.MemEnable.at(static_cast<std::size_t>(row)) ? "" : "-", label};
-    for (std::size_t column = 0; column < kTextColumns; ++column)
-        cells.push_back(MemoryCell(image, row, column));
+    std::vector<std::string> cells = {channel.enabled ? "" : "-", label};
+    for (const Column column : kColumns)
+        cells.push_back(CellText(channel, RowKind::Memory, region, column));
     return cells;
 }
 
@@ -45,7 +45,8 @@ Status RunShow(const Arguments& arguments, Console& console)
     TextTable table;
     table.AddRow(Heads());
     for (int i = 0; i < rows.count; ++i)
-        table.AddRow(Cells(image, rows.first + i, labels[static_cast<std::size_t>(i)]));
+        table.AddRow(
+            Cells(image.MemData(rows.first + i), image.ModelNo(), labels.at(static_cast<std::size_t>(i))));
     console.out << SelectorText(selector) << ", " << rows.count << " rows (- in front: off)\n";
     table.Print(console.out);
     return Status::Done;

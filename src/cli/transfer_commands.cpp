@@ -8,7 +8,6 @@
 #include "link/receiver_checks.h"
 #include "link/receiver_reader.h"
 #include "link/receiver_writer.h"
-#include "link/write_record.h"
 
 namespace rqm5 {
 namespace {
@@ -41,15 +40,14 @@ Status KeepBackup(const CloneImage& image, const TransferScope& scope, const std
     return Fail(console, {outcome.problem->text, outcome.problem->details, NothingWritten()});
 }
 
-Status Write(CloneImage& image, const TransferScope& scope, ReceiverSession& session, Console& console)
+Status Write(const CloneImage& image, const TransferScope& scope, ReceiverSession& session, Console& console)
 {
-    session.Observer().Begin(BlocksToWrite(image, scope));
-    WriteRecord record(image, scope, session.Observer());
-    ReceiverWriter writer(image, session.Link(), record);
-    const TransferResult result = WriteScope(writer, scope);
+    ReceiverWriter writer(image, scope, session.Link(), session.Observer());
+    session.Observer().Begin(writer.Plan().BlockCount());
+    const TransferResult result = writer.Write();
     const Status status = session.Finish(result);
     if (result == TransferResult::Cancelled)
-        console.err << record.Summary() << '\n';
+        console.err << writer.Plan().Summary() << '\n';
     return status;
 }
 
@@ -67,7 +65,7 @@ Status RunRead(const Arguments& arguments, Console& console)
     ReceiverSession session(arguments, console);
     session.Observer().Begin(BlocksToBackUp(image, scope));
     ReceiverReader reader(image, session.Link(), session.Observer());
-    const Status status = session.Finish(ReadScope(reader, scope));
+    const Status status = session.Finish(reader.Read(scope));
     return status == Status::Done ? Save(arguments[0], image, console) : status;
 }
 

@@ -3,15 +3,17 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <vector>
 
 #include "cli/did_you_mean.h"
+#include "image/value_tables.h"
 #include "link/com_ports.h"
 #include "memory/bank_layout.h"
 
 namespace rqm5 {
 namespace {
 
-constexpr std::array<std::string_view, 4> kGroupWords = {"program-scan", "search-pass", "priority", "all"};
+constexpr std::string_view kAllWord = "all";
 constexpr std::array<std::string_view, 2> kScopeWords = {"settings", "memory"};
 constexpr std::array<std::string_view, 2> kPaperWords = {"a4", "letter"};
 
@@ -35,10 +37,10 @@ std::optional<int> ReadNumberIn(std::string_view text, int lowest, int highest)
 
 std::optional<int> ReadSelector(std::string_view text)
 {
-    const int group = IndexOf(kGroupWords, text);
-    if (group >= 0)
-        return kSelectProgramScan + group;
-    return ReadNumberIn(text, 0, kBanks - 1);
+    if (text == kAllWord)
+        return kSelectAll;
+    const auto* group = std::ranges::find(kRowGroups, text, &RowGroup::option);
+    return group != kRowGroups.end() ? std::optional(group->selector) : ReadNumberIn(text, 0, kBanks - 1);
 }
 
 std::string RegionFault(std::string_view text)
@@ -61,8 +63,15 @@ std::string SelectorFault(std::string_view text)
 {
     if (ReadSelector(text))
         return {};
-    const std::string hint = IsNumber(text) ? std::string() : DidYouMean(text, kGroupWords);
-    return "it is a bank 0 to 49, program-scan, search-pass, priority or all" + hint;
+    std::vector<std::string_view> words;
+    std::string list;
+    for (const RowGroup& group : kRowGroups) {
+        words.push_back(group.option);
+        list += ", " + std::string(group.option);
+    }
+    words.push_back(kAllWord);
+    const std::string hint = IsNumber(text) ? std::string() : DidYouMean(text, words);
+    return "it is a bank 0 to 49" + list + " or " + std::string(kAllWord) + hint;
 }
 
 std::string PaperFault(std::string_view text)

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "cli/arguments.h"
-#include "link/expected_memory.h"
+#include "link/transfer_scope.h"
 
 namespace rqm5 {
 

@@ -15,7 +15,7 @@ namespace {
 std::string ExpectedIn(const ExpectedBlock& block, const MemoryBlock& read)
 {
     MemoryBlock expected = block.contents;
-    for (std::size_t i = 0; i < kBlockBytes; ++i)
+    for (int i = 0; i < kBlockBytes; ++i)
         if (read.HasByte(i)) {
             const int mask = block.mask.Byte(i);
             expected.SetByte(i, (block.contents.Byte(i) & mask) | (read.Byte(i) & ~mask));

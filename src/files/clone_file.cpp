@@ -3,10 +3,13 @@
 #include <algorithm>
 
 #include "files/clone_lines.h"
-#include "files/text_encoding.h"
-#include "image/channel_record.h"
-#include "memory/rebuild_blocks.h"
+#include "image/channel_block.h"
+#include "image/flag_bits.h"
+#include "image/utf8.h"
+#include "image/value_tables.h"
+#include "memory/bank_layout.h"
 #include "memory/row_names.h"
+#include "settings/settings_codec.h"
 
 namespace rqm5 {
 namespace {
@@ -27,12 +30,14 @@ std::string OneLine(std::string note)
     return note;
 }
 
-void AddNotes(std::string& text, const CloneImage& image)
+/// The rows of both tables, in the order of the file.
+template <class Use>
+void ForEachRow(const CloneImage& image, Use use)
 {
-    for (const ChannelTexts& texts : image.VFOText)
-        AddLine(text, OneLine(texts[kNote]));
-    for (const ChannelTexts& texts : image.MemText)
-        AddLine(text, OneLine(texts[kNote]));
+    for (int row = 0; row < kVfoRows; ++row)
+        use(RowId{RowKind::Vfo, row}, image.VFOData(row));
+    for (int row = 0; row < kMemoryRows; ++row)
+        use(RowId{RowKind::Memory, row}, image.MemData(row));
 }
 
 bool Survives(const std::string& note)
@@ -43,25 +48,20 @@ bool Survives(const std::string& note)
 
 }  // namespace
 
-std::string FormatCloneFile(CloneImage& image)
+std::string FormatCloneFile(const CloneImage& image)
 {
-    RebuildBlocks(image);
-
     std::string text;
     text.reserve(kUsualSize);
     AddLine(text, FileStart);
-    AddLine(text, image.SetData1.Text());
-    AddLine(text, image.SetData2.Text());
-    for (int row = 0; row < kVfoRows; ++row)
-        AddLine(text, EncodeVfoRow(image, row).Text());
-    for (int row = 0; row < kMemoryRows; ++row)
-        AddLine(text, EncodeMemoryRow(image, row).Text());
-    for (const MemoryBlock& block : image.ExtraData)
+    AddLine(text, SetData1(image).Text());
+    AddLine(text, SetData2(image).Text());
+    ForEachRow(image, [&](RowId, const Channel& row) { AddLine(text, EncodeChannel(row).Text()); });
+    for (const MemoryBlock& block : ExtraData(image))
         AddLine(text, block.Text());
-    AddNotes(text, image);
-    for (const MemoryBlock& block : image.BankData)
+    ForEachRow(image, [&](RowId, const Channel& row) { AddLine(text, OneLine(row.note)); });
+    for (const MemoryBlock& block : BankData(image))
         AddLine(text, block.Text());
-    AddLine(text, image.BankFlagData.Text());
+    AddLine(text, BankFlagData(image).Text());
     AddLine(text, FileEnd);
     return text;
 }
@@ -69,12 +69,10 @@ std::string FormatCloneFile(CloneImage& image)
 std::vector<std::string> NotesThatDoNotSurvive(const CloneImage& image)
 {
     std::vector<std::string> names;
-    for (int row = 0; row < kVfoRows; ++row)
-        if (!Survives(image.VFOText[static_cast<std::size_t>(row)][kNote]))
-            names.push_back(VfoRowName(row));
-    for (int row = 0; row < kMemoryRows; ++row)
-        if (!Survives(image.MemText[static_cast<std::size_t>(row)][kNote]))
-            names.push_back(RowName(image, row));
+    ForEachRow(image, [&](RowId id, const Channel& row) {
+        if (!row.note.empty() && !Survives(row.note))
+            names.push_back(RowName(image, id));
+    });
     return names;
 }
 

@@ -10,8 +10,8 @@
 
 namespace rqm5 {
 
-/// The whole text of a clone file (2530 lines, CR LF, UTF-8). Rebuilds the image's block texts first.
-std::string FormatCloneFile(CloneImage& image);
+/// The whole text of a clone file (2530 lines, CR LF, UTF-8).
+std::string FormatCloneFile(const CloneImage& image);
 
 /// Why a text is no clone file. Nothing was changed.
 struct ParseError
@@ -21,7 +21,7 @@ struct ParseError
 };
 
 /// Reads the text of a clone file (UTF-8, or code page 932 when it is not valid UTF-8) into the image.
-/// A refused text leaves the image as it was. Clears DataChanged.
+/// A refused text leaves the image as it was.
 std::optional<ParseError> ParseCloneFile(std::string_view text, CloneImage& image);
 
 /// The rows whose notes a clone file cannot bring back ("memory row 12 (Bank 0, channel 12)", ...): a

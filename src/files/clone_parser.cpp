@@ -4,8 +4,10 @@
 #include "files/clone_file.h"
 #include "files/clone_lines.h"
 #include "files/text_encoding.h"
-#include "image/channel_record.h"
+#include "image/channel_block.h"
 #include "image/flag_bits.h"
+#include "image/utf8.h"
+#include "image/value_tables.h"
 #include "memory/bank_layout.h"
 #include "settings/settings_codec.h"
 
@@ -94,38 +96,36 @@ MemoryBlock BlockOfLine(std::string_view line)
     return MemoryBlock(text);
 }
 
-void DecodeRows(const CloneLines& lines, CloneImage& image)
+/// `count` lines from `first` on.
+std::vector<MemoryBlock> BlocksOfLines(const CloneLines& lines, int first, int count)
 {
-    for (std::size_t row = 0; row < image.VFOData.size(); ++row) {
-        DecodeVfoBlock(image, BlockOfLine(lines[kVfoLine + row]), static_cast<int>(row));
-        image.VFOText[row][kNote] = lines[kVfoNoteLine + row];
-    }
-    for (std::size_t row = 0; row < image.MemData.size(); ++row) {
-        DecodeMemoryBlock(image, BlockOfLine(lines[kMemoryLine + row]), static_cast<int>(row));
-        image.MemText[row][kNote] = lines[kMemoryNoteLine + row];
-    }
+    std::vector<MemoryBlock> blocks;
+    for (int line = first; line < first + count; ++line)
+        blocks.push_back(BlockOfLine(lines[static_cast<std::size_t>(line)]));
+    return blocks;
 }
 
-template <std::size_t N>
-void TakeBlocks(const CloneLines& lines, std::size_t first, std::array<MemoryBlock, N>& blocks)
+/// The rows of a table: their blocks, and their notes further behind.
+void DecodeRows(const CloneLines& lines, RowKind kind, int count, int firstLine, int firstNote,
+                CloneImage& image)
 {
-    for (std::size_t i = 0; i < N; ++i)
-        blocks[i] = BlockOfLine(lines[first + i]);
+    for (int row = 0; row < count; ++row) {
+        Channel& channel = image.At({kind, row});
+        const MemoryBlock block = BlockOfLine(lines[static_cast<std::size_t>(firstLine + row)]);
+        static_cast<ChannelContents&>(channel) = DecodeBlock(block, kind).value_or(ChannelContents{});
+        channel.note = lines[static_cast<std::size_t>(firstNote + row)];
+    }
 }
 
 void DecodeLines(const CloneLines& lines, CloneImage& image)
 {
-    image.SetData1 = BlockOfLine(lines[kSettingsLine]);
-    image.SetData2 = BlockOfLine(lines[kSettingsLine + 1]);
-    DecodeSettings(image);
-    DecodeRows(lines, image);
-    TakeBlocks(lines, kEnableLine, image.ExtraData);
-    DecodeExtraData(image);
-    TakeBlocks(lines, kBankLine, image.BankData);
-    DecodeBankData(image);
-    image.BankFlagData = BlockOfLine(lines[kLinkLine]);
-    DecodeBankFlagData(image);
-    image.DataChanged = false;
+    const auto settings = BlocksOfLines(lines, kSettingsLine, kVfoLine - kSettingsLine);
+    DecodeSettings(image, {settings[0], settings[1]});
+    DecodeRows(lines, RowKind::Vfo, kVfoRows, kVfoLine, kVfoNoteLine, image);
+    DecodeRows(lines, RowKind::Memory, kMemoryRows, kMemoryLine, kMemoryNoteLine, image);
+    DecodeExtraData(image, BlocksOfLines(lines, kEnableLine, kVfoNoteLine - kEnableLine));
+    DecodeBankData(image, BlocksOfLines(lines, kBankLine, kLinkLine - kBankLine));
+    DecodeBankFlagData(image, BlocksOfLines(lines, kLinkLine, 1).front());
 }
 
 }  // namespace

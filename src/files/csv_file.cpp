@@ -3,7 +3,8 @@
 #include <algorithm>
 
 #include "files/csv_fields.h"
-#include "files/csv_groups.h"
+#include "files/csv_record.h"
+#include "image/value_tables.h"
 #include "memory/row_names.h"
 
 namespace rqm5 {
@@ -31,29 +32,26 @@ void AddHeader(std::string& csv)
 }
 
 /// The fields that VFO and memory records share: all but the last two, with a comma behind each.
-void AddFields(std::string& csv, std::string_view bank, std::string_view channel, const ChannelTexts& texts)
+void AddFields(std::string& csv, std::string_view bank, std::string_view channel, const Channel& row,
+               RowKind kind)
 {
     for (const std::string_view key : {kCsvModel, bank, channel}) {
         AddQuotedField(csv, key);
         csv += ',';
     }
-    for (const std::string& text : texts) {
-        AddQuotedField(csv, text);
+    for (const Column column : kColumns) {
+        AddQuotedField(csv, CellText(row, kind, kNoRegion, column));
         csv += ',';
     }
 }
 
-void AddMemoryRecord(std::string& csv, const CloneImage& image, const CsvGroup& group, int channel)
+void AddMemoryRecord(std::string& csv, const Channel& row, std::string_view bank, std::string_view channel)
 {
-    const int row = group.first + channel;
-    const auto index = static_cast<std::size_t>(row);
-    const bool isScanEdge = &group == &kCsvGroups[kCsvProgramScan];
-    AddFields(csv, group.bank, isScanEdge ? ProgramScanLabel(channel) : std::to_string(channel),
-              image.MemText[index]);
-    AddQuotedField(csv, TruthText(IsSkipped(image, row)));
+    AddFields(csv, bank, channel, row, RowKind::Memory);
+    AddQuotedField(csv, TruthText(row.IsSkipped()));
     // The flag stands bare although the skip mark is a text: programs that read these files know both.
     csv += ',';
-    csv += TruthText(image.MemEnable[index]);
+    csv += TruthText(row.enabled);
     csv += "\r\n";
 }
 
@@ -71,13 +69,16 @@ std::string FormatCsv(const CloneImage& image)
     std::string csv;
     csv.reserve(kUsualSize);
     AddHeader(csv);
-    for (std::size_t row = 0; row < image.VFOText.size(); ++row) {
-        AddFields(csv, kCsvVfo, std::to_string(row), image.VFOText[row]);
+    for (int row = 0; row < kVfoRows; ++row) {
+        AddFields(csv, kCsvVfo, std::to_string(row), image.VFOData(row), RowKind::Vfo);
         csv += "\"#FALSE#\",\"#TRUE#\"\r\n";
     }
-    for (const CsvGroup& group : kCsvGroups)
-        for (int channel = 0; channel < group.count; ++channel)
-            AddMemoryRecord(csv, image, group, channel);
+    for (int row = 0; row < kBankRows; ++row)
+        AddMemoryRecord(csv, image.MemData(row), kCsvBankRows, std::to_string(row));
+    for (const RowGroup& group : kRowGroups)
+        for (int i = 0; i < group.rows.count; ++i)
+            AddMemoryRecord(csv, image.MemData(group.rows.first + i), group.csvName,
+                            group.isPairs ? ProgramScanLabel(i) : std::to_string(i));
     return csv;
 }
 
@@ -85,10 +86,10 @@ std::vector<std::string> NotesThatLookLikeFormulas(const CloneImage& image)
 {
     std::vector<std::string> names;
     for (int row = 0; row < kVfoRows; ++row)
-        if (LooksLikeFormula(image.VFOText[static_cast<std::size_t>(row)][kNote]))
+        if (LooksLikeFormula(image.VFOData(row).note))
             names.push_back(VfoRowName(row));
     for (int row = 0; row < kRadioRows; ++row)
-        if (LooksLikeFormula(image.MemText[static_cast<std::size_t>(row)][kNote]))
+        if (LooksLikeFormula(image.MemData(row).note))
             names.push_back(RowName(image, row));
     return names;
 }

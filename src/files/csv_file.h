@@ -12,7 +12,7 @@ namespace rqm5 {
 std::string FormatCsv(const CloneImage& image);
 
 /// Overwrites the rows that a CSV text names and leaves all others as they are. Never fails; a text that
-/// is not CSV changes nothing. Touches neither DataChanged nor the settings.
+/// is not CSV changes nothing. The settings stay.
 /// \return how many records were taken
 int ParseCsv(std::string_view text, CloneImage& image);
 

@@ -5,6 +5,7 @@
 #include "files/clone_file.h"
 #include "files/csv_file.h"
 #include "image/display_text.h"
+#include "image/image_change.h"
 #include "memory/row_names.h"
 
 namespace rqm5 {
@@ -29,13 +30,12 @@ std::vector<std::string> LostNotes(const CloneImage& image, const std::string& w
     CloneImage loaded;
     if (ParseCloneFile(written, loaded))
         return NotesThatDoNotSurvive(image);
+    const ImageChange change = Difference(image, loaded);
     std::vector<std::string> names;
-    for (std::size_t row = 0; row < image.VFOText.size(); ++row)
-        if (loaded.VFOText[row][kNote] != image.VFOText[row][kNote])
-            names.push_back(VfoRowName(static_cast<int>(row)));
-    for (std::size_t row = 0; row < image.MemText.size(); ++row)
-        if (loaded.MemText[row][kNote] != image.MemText[row][kNote])
-            names.push_back(RowName(image, static_cast<int>(row)));
+    for (const auto& note : change.VFONotes)
+        names.push_back(VfoRowName(note.index));
+    for (const auto& note : change.MemNotes)
+        names.push_back(RowName(image, note.index));
     return names;
 }
 
@@ -51,7 +51,7 @@ std::optional<Problem> LoadCloneFile(const QString& path, CloneImage& image)
     return std::nullopt;
 }
 
-SaveOutcome SaveCloneFile(const QString& path, CloneImage& image)
+SaveOutcome SaveCloneFile(const QString& path, const CloneImage& image)
 {
     const std::string text = FormatCloneFile(image);
     if (auto problem = WriteWholeFile(path, text))
@@ -61,16 +61,12 @@ SaveOutcome SaveCloneFile(const QString& path, CloneImage& image)
         return {std::move(problem), {}};
     if (written != text)
         return {NotAsWritten(path), {}};
-    image.DataChanged = false;
     return {std::nullopt, LostNotes(image, written)};
 }
 
-std::optional<Problem> ExportCsv(const QString& path, CloneImage& image)
+std::optional<Problem> ExportCsv(const QString& path, const CloneImage& image)
 {
-    auto problem = WriteWholeFile(path, FormatCsv(image));
-    if (!problem)
-        image.DataChanged = false;
-    return problem;
+    return WriteWholeFile(path, FormatCsv(image));
 }
 
 std::optional<Problem> ImportCsv(const QString& path, CloneImage& image, int& taken)
@@ -80,9 +76,6 @@ std::optional<Problem> ImportCsv(const QString& path, CloneImage& image, int& ta
     if (auto problem = ReadWholeFile(path, bytes))
         return problem;
     taken = ParseCsv(bytes, image);
-    // A file without a single record changes nothing, and so leaves unsaved what was.
-    if (taken > 0)
-        image.DataChanged = false;
     return std::nullopt;
 }
 

@@ -21,15 +21,13 @@ struct SaveOutcome
 };
 
 /// Saves a clone file: to a temporary file in the same folder, flushed to the disk and renamed over the
-/// old one; then reads its own bytes back through the loader and compares. Clears DataChanged when the
-/// file was written.
-SaveOutcome SaveCloneFile(const QString& path, CloneImage& image);
+/// old one; then reads its own bytes back through the loader and compares.
+SaveOutcome SaveCloneFile(const QString& path, const CloneImage& image);
 
-/// Writes or reads CSV in the same manner. Clears DataChanged on success; a file that gave no record changes
-/// nothing.
-std::optional<Problem> ExportCsv(const QString& path, CloneImage& image);
+/// Writes CSV in the same manner.
+std::optional<Problem> ExportCsv(const QString& path, const CloneImage& image);
 
-/// \param taken  how many records the file gave
+/// \param taken  how many records the file gave; without any nothing has changed
 std::optional<Problem> ImportCsv(const QString& path, CloneImage& image, int& taken);
 
 /// Why a file could not be saved at a path, as far as it shows before the attempt.

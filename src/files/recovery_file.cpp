@@ -100,15 +100,16 @@ QDateTime RecoveryFile::Time() const
     return QFileInfo(path_).lastModified();
 }
 
-std::string RecoveryText(CloneImage image)
+std::string RecoveryText(const CloneImage& image)
 {
     if (NotesThatDoNotSurvive(image).empty())
         return FormatCloneFile(image);
-    for (ChannelTexts& texts : image.VFOText)
-        MendNote(texts[kNote]);
-    for (ChannelTexts& texts : image.MemText)
-        MendNote(texts[kNote]);
-    return FormatCloneFile(image);
+    CloneImage mended = image;
+    for (int row = 0; row < kVfoRows; ++row)
+        MendNote(mended.VFOData(row).note);
+    for (int row = 0; row < kMemoryRows; ++row)
+        MendNote(mended.MemData(row).note);
+    return FormatCloneFile(mended);
 }
 
 }  // namespace rqm5

@@ -51,6 +51,6 @@ class RecoveryFile
 
 /// The text of a clone file that can always be loaded again: in notes that it could not bring back, commas
 /// become semicolons and quotes apostrophes.
-std::string RecoveryText(CloneImage image);
+std::string RecoveryText(const CloneImage& image);
 
 }  // namespace rqm5

@@ -10,10 +10,4 @@ namespace rqm5 {
 /// U+FFFD. Never fails.
 std::string DecodeFileText(std::string_view bytes);
 
-/// True for well-formed UTF-8: no overlong forms, no surrogates, nothing above U+10FFFF.
-bool IsValidUtf8(std::string_view text);
-
-/// How many characters a UTF-8 text has.
-std::size_t CharacterCount(std::string_view text);
-
 }  // namespace rqm5

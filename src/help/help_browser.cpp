@@ -7,9 +7,9 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
-#include "app/form_texts.h"
-#include "app/icons.h"
 #include "help/manual.h"
+#include "ui/form_texts.h"
+#include "ui/icons.h"
 
 namespace rqm5 {
 namespace {

@@ -48,6 +48,7 @@ constexpr Topic kTopics[] = {
     {"cmbLinkTest", "diagnostics.md#link-test"},
     {"tblExchanges", "diagnostics.md#exchange-log"},
     {"dckDiagnostics", "diagnostics.md"},
+    {"dckHistory", "undo.md#the-list-of-steps"},
     {"frmHelp", "index.md#finding-your-way-in-this-window"},
 };
 

@@ -1,11 +1,10 @@
 #include "image/display_text.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdint>
 #include <utility>
 
 #include "image/memory_block.h"
+#include "image/utf8.h"
 
 namespace rqm5 {
 namespace {
@@ -36,47 +35,6 @@ bool IsIn(const CharacterRange (&ranges)[N], char32_t character)
     return std::any_of(std::begin(ranges), std::end(ranges), [character](const CharacterRange& range) {
         return character >= range.first && character <= range.last;
     });
-}
-
-constexpr char32_t kNoCharacter = 0xFFFFFFFF;
-
-struct Character
-{
-    char32_t code;       ///< kNoCharacter for a byte that begins no valid UTF-8 sequence
-    std::size_t length;  ///< bytes, 1 at least
-};
-
-std::size_t SequenceLength(unsigned char lead)
-{
-    if (lead < 0x80)
-        return 1;
-    if (lead >= 0xC2 && lead <= 0xDF)
-        return 2;
-    if (lead >= 0xE0 && lead <= 0xEF)
-        return 3;
-    return lead >= 0xF0 && lead <= 0xF4 ? 4 : 0;
-}
-
-Character FirstCharacter(std::string_view text)
-{
-    constexpr std::array<char32_t, 5> kLowest = {0, 0, 0x80, 0x800, 0x10000};
-    const auto lead = static_cast<unsigned char>(text.front());
-    const std::size_t length = SequenceLength(lead);
-    if (length == 1)
-        return {lead, 1};
-    if (length == 0 || length > text.size())
-        return {kNoCharacter, 1};
-    char32_t code = lead & (0x7FU >> length);
-    for (std::size_t i = 1; i < length; ++i) {
-        const auto byte = static_cast<unsigned char>(text[i]);
-        if ((byte & 0xC0) != 0x80)
-            return {kNoCharacter, 1};
-        code = code << 6 | (byte & 0x3FU);
-    }
-    const bool isSurrogate = code >= 0xD800 && code <= 0xDFFF;
-    if (code < kLowest.at(length) || code > 0x10FFFF || isSurrogate)
-        return {kNoCharacter, 1};
-    return {code, length};
 }
 
 std::string Escaped(char32_t code)

@@ -1,30 +1,32 @@
 #include "image/flag_bits.h"
 
-#include <span>
+#include <algorithm>
 
 namespace rqm5 {
 namespace {
 
 /// Hex digits into flags, four a digit, until either runs out.
-void FlagsFromDigits(std::string_view digits, std::span<bool> flags)
+template <class SetFlag>
+void FlagsFromDigits(std::string_view digits, int count, SetFlag set)
 {
-    std::size_t next = 0;
+    int next = 0;
     for (const char digit : digits)
         for (const char bit : HexDigitToBits(digit)) {
-            if (next == flags.size())
+            if (next == count)
                 return;
-            flags[next++] = bit == '1';
+            set(next++, bit == '1');
         }
 }
 
-/// Flags into hex digits, the first flag the most significant bit; missing flags count as off.
-std::string DigitsFromFlags(std::span<const bool> flags)
+/// Flags first to last into hex digits, the first the most significant bit; missing flags count as off.
+template <class Flag>
+std::string DigitsFromFlags(int first, int last, Flag flag)
 {
     std::string digits;
-    for (std::size_t first = 0; first < flags.size(); first += 4) {
-        std::string bits = "0000";
-        for (std::size_t i = 0; i < 4 && first + i < flags.size(); ++i)
-            bits[i] = flags[first + i] ? '1' : '0';
+    for (; first <= last; first += 4) {
+        std::string bits;
+        for (int i = first; i < first + 4; ++i)
+            bits += i <= last && flag(i) ? '1' : '0';
         digits += BitsToHexDigit(bits);
     }
     return digits;
@@ -32,30 +34,40 @@ std::string DigitsFromFlags(std::span<const bool> flags)
 
 }  // namespace
 
-void DecodeExtraData(CloneImage& image)
+MemoryBlock FlagBlock(const CloneImage& image, int index)
+{
+    constexpr int kFlags = 8 * kBlockBytes;
+    const int last = std::min((index + 1) * kFlags, kMemoryRows) - 1;
+    return MemoryBlock(
+        DigitsFromFlags(index * kFlags, last, [&image](int row) { return image.MemEnable(row); }));
+}
+
+std::array<MemoryBlock, 10> ExtraData(const CloneImage& image)
+{
+    std::array<MemoryBlock, 10> blocks;
+    for (int index = 0; MemoryBlock & block : blocks)
+        block = FlagBlock(image, index++);
+    return blocks;
+}
+
+void DecodeExtraData(CloneImage& image, std::span<const MemoryBlock> blocks)
 {
     std::string digits;
-    for (const MemoryBlock& block : image.ExtraData)
+    for (const MemoryBlock& block : blocks)
         digits += block.Text();
-    FlagsFromDigits(digits, image.MemEnable);
+    FlagsFromDigits(digits, kMemoryRows, [&image](int row, bool on) { image.MemData(row).enabled = on; });
 }
 
-void EncodeExtraData(CloneImage& image)
+MemoryBlock BankFlagData(const CloneImage& image)
 {
-    const std::string digits = DigitsFromFlags(image.MemEnable);
-    for (std::size_t i = 0; i < image.ExtraData.size(); ++i)
-        image.ExtraData[i] = MemoryBlock(std::string_view(digits).substr(i * kBlockChars));
+    const std::string digits =
+        DigitsFromFlags(0, kLinkFlags - 1, [&image](int flag) { return image.BankLink(flag); });
+    return MemoryBlock(digits + std::string(kBlockChars - digits.size(), 'F'));
 }
 
-void DecodeBankFlagData(CloneImage& image)
+void DecodeBankFlagData(CloneImage& image, const MemoryBlock& block)
 {
-    FlagsFromDigits(image.BankFlagData.Text(), image.BankLink);
-}
-
-void EncodeBankFlagData(CloneImage& image)
-{
-    const std::string digits = DigitsFromFlags(image.BankLink);
-    image.BankFlagData = MemoryBlock(digits + std::string(kBlockChars - digits.size(), 'F'));
+    FlagsFromDigits(block.Text(), kLinkFlags, [&image](int flag, bool on) { image.SetBankLink(flag, on); });
 }
 
 }  // namespace rqm5

@@ -1,19 +1,25 @@
 #pragma once
 
+#include <array>
+#include <span>
+
 #include "image/clone_image.h"
+#include "image/memory_block.h"
 
 namespace rqm5 {
 
-/// ExtraData into MemEnable: 1280 bits, most significant bit first, of which 1240 are rows.
-void DecodeExtraData(CloneImage& image);
+/// `ExtraData`, blocks 28 to 37 (hex 1C to 25): a bit for each memory row, most significant bit first, which
+/// is MemEnable; the last 40 bits are 0.
+std::array<MemoryBlock, 10> ExtraData(const CloneImage& image);
 
-/// MemEnable into ExtraData; the last 40 bits are 0.
-void EncodeExtraData(CloneImage& image);
+/// One of these blocks, 0 to 9.
+MemoryBlock FlagBlock(const CloneImage& image, int index);
 
-/// BankFlagData into BankLink: the first 14 hex digits are 56 bits.
-void DecodeBankFlagData(CloneImage& image);
+/// Ten blocks into the flags of the 1240 memory rows.
+void DecodeExtraData(CloneImage& image, std::span<const MemoryBlock> blocks);
 
-/// BankLink into BankFlagData, filled up with "F".
-void EncodeBankFlagData(CloneImage& image);
+/// `BankFlagData`: BankLink as 14 hex digits, filled up with "F".
+MemoryBlock BankFlagData(const CloneImage& image);
+void DecodeBankFlagData(CloneImage& image, const MemoryBlock& block);
 
 }  // namespace rqm5

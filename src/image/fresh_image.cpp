@@ -1,7 +1,5 @@
 #include "image/fresh_image.h"
 
-#include "image/flag_bits.h"
-
 namespace rqm5 {
 namespace {
 
@@ -11,11 +9,10 @@ void ClearRowsAndLinks(CloneImage& image)
 {
     for (int row = 0; row < kMemoryRows; ++row)
         ClearMemoryRow(image, row);
-    for (int bank = 0; bank <= kUnassigned; ++bank)
-        SetBankSize(image, bank, 0);
-    image.BankLink.fill(false);
-    EncodeBankFlagData(image);
-    EncodeExtraData(image);
+    for (int bank = 0; bank < kBankSizes; ++bank)
+        image.SetBankSize(bank, 0);
+    for (int flag = 0; flag < kLinkFlags; ++flag)
+        image.SetBankLink(flag, false);
 }
 
 }  // namespace
@@ -23,14 +20,14 @@ void ClearRowsAndLinks(CloneImage& image)
 void BuildEmptyImage(CloneImage& image)
 {
     ClearRowsAndLinks(image);
-    for (int bank = 0; bank < static_cast<int>(kDefaultBankSize.size()); ++bank)
-        SetBankSize(image, bank, kDefaultBankSize[static_cast<std::size_t>(bank)]);
+    for (int bank = 0; const int size : kDefaultBankSize)
+        image.SetBankSize(bank++, size);
 }
 
 void ClearForNew(CloneImage& image)
 {
     ClearRowsAndLinks(image);
-    SetBankSize(image, kUnassigned, kBankRows);
+    image.SetBankSize(kUnassigned, kBankRows);
 }
 
 }  // namespace rqm5

@@ -37,30 +37,34 @@ MemoryBlock::MemoryBlock(std::string_view text) : MemoryBlock()
     std::copy_n(text.begin(), std::min(text.size(), kBlockChars), text_.begin());
 }
 
-int MemoryBlock::Byte(std::size_t index) const
+int MemoryBlock::Byte(int index) const
 {
-    return HasByte(index) ? HexValue(text_.at(2 * index)) * 16 + HexValue(text_.at(2 * index + 1)) : 0;
+    return HasByte(index) ? HexValue(Digit(2 * index)) * 16 + HexValue(Digit(2 * index + 1)) : 0;
 }
 
-bool MemoryBlock::HasByte(std::size_t index) const
+bool MemoryBlock::HasByte(int index) const
 {
-    return HexValue(text_.at(2 * index)) >= 0 && HexValue(text_.at(2 * index + 1)) >= 0;
+    return HexValue(Digit(2 * index)) >= 0 && HexValue(Digit(2 * index + 1)) >= 0;
 }
 
-bool MemoryBlock::Bit(std::size_t index, int position) const
+bool MemoryBlock::IsHex() const
 {
-    const auto bit = static_cast<std::size_t>(position - 1);
-    return HexDigitToBits(text_.at(2 * index + bit / 4))[bit % 4] == '1';
+    return Text().find_first_not_of(kHexDigits) == std::string_view::npos;
 }
 
-void MemoryBlock::SetByte(std::size_t index, int value)
+bool MemoryBlock::Bit(int index, int position) const
+{
+    const int bit = position - 1;
+    return HexDigitToBits(Digit(2 * index + bit / 4)).at(static_cast<std::size_t>(bit % 4)) == '1';
+}
+
+void MemoryBlock::SetByte(int index, int value)
 {
     const std::string digits = HexByte(value);
-    text_.at(2 * index) = digits[0];
-    text_.at(2 * index + 1) = digits[1];
+    std::copy(digits.begin(), digits.end(), &text_.at(static_cast<std::size_t>(2 * index)));
 }
 
-int MemoryBlock::Word(std::size_t index) const
+int MemoryBlock::Word(int index) const
 {
     const int word = Byte(2 * index) + 256 * Byte(2 * index + 1);
     return word < 0x8000 ? word : word - 0x10000;

@@ -7,7 +7,7 @@
 
 namespace rqm5 {
 
-inline constexpr std::size_t kBlockBytes = 16;
+inline constexpr int kBlockBytes = 16;
 inline constexpr std::size_t kBlockChars = 2 * kBlockBytes;
 
 /// 16 bytes of receiver memory as they travel: 32 upper-case hex characters, byte 0 first.
@@ -27,24 +27,29 @@ class MemoryBlock
     std::string String() const { return std::string(Text()); }
 
     /// Byte 0 to 15 as a number 0 to 255; 0 when its two characters are not both hex digits.
-    int Byte(std::size_t index) const;
+    int Byte(int index) const;
 
     /// True when both characters of byte 0 to 15 are hex digits.
-    bool HasByte(std::size_t index) const;
+    bool HasByte(int index) const;
 
     /// Bit of a byte, position 1 (most significant) to 8. Goes digit by digit through HexDigitToBits, so a
     /// character that is no upper-case hex digit gives four zero bits.
-    bool Bit(std::size_t index, int position) const;
+    bool Bit(int index, int position) const;
 
     /// Replaces byte 0 to 15 with a number 0 to 255, as two upper-case hex digits.
-    void SetByte(std::size_t index, int value);
+    void SetByte(int index, int value);
+
+    /// True when every character is an upper-case hex digit.
+    bool IsHex() const;
 
     /// The 16-bit word at byte 2 * index, low byte first, as the signed number it is.
-    int Word(std::size_t index) const;
+    int Word(int index) const;
 
     friend bool operator==(const MemoryBlock&, const MemoryBlock&) = default;
 
   private:
+    char Digit(int place) const { return text_.at(static_cast<std::size_t>(place)); }
+
     std::array<char, kBlockChars> text_{};
 };
 

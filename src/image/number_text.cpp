@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 
 namespace rqm5 {
@@ -31,20 +32,15 @@ std::string_view NumericPart(std::string_view text)
     return text.substr(0, end);
 }
 
-/// Six decimals with at least minimumWhole digits before the point; a minus sign stands ahead of them.
-std::string FormatFixed(double value, std::size_t minimumWhole)
+constexpr std::size_t kDecimals = 6;
+
+/// The digits of a number of hertz, filled up with zeros to at least so many before the six decimals.
+std::string Digits(std::int64_t hertz, std::size_t wholeDigits)
 {
-    std::array<char, 64> buffer{};
-    const double bounded = std::clamp(value, -kLargest, kLargest);
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(bounded),
-                                   std::chars_format::fixed, 6)
-                         .ptr;
-    std::string text(buffer.data(), end);
-    const std::size_t whole = text.find('.');
-    if (whole < minimumWhole)
-        text.insert(0, minimumWhole - whole, '0');
-    const bool isZero = text.find_first_not_of("0.") == std::string::npos;
-    return bounded < 0 && !isZero ? "-" + text : text;
+    std::string digits = std::to_string(std::abs(hertz));
+    if (digits.size() < wholeDigits + kDecimals)
+        digits.insert(0, wholeDigits + kDecimals - digits.size(), '0');
+    return digits;
 }
 
 }  // namespace
@@ -72,16 +68,43 @@ int ReadInteger(std::string_view text)
     return static_cast<int>(std::clamp(std::trunc(ReadNumber(text)), kLowest, kHighest));
 }
 
-std::string FormatMegahertz(double value)
+std::int64_t Hertz(double megahertz)
 {
-    return FormatFixed(value, 1);
+    constexpr double kMost = 1e9;
+    std::array<char, 32> buffer{};
+    auto* const begin = buffer.data();
+    // Printed and read again: a product with a million would round some halves otherwise than a print does.
+    const auto printed = std::to_chars(begin, begin + buffer.size(), std::clamp(megahertz, -kMost, kMost),
+                                       std::chars_format::fixed, static_cast<int>(kDecimals));
+    auto* const point = std::find(begin, printed.ptr, '.');
+    auto* const end = std::copy(point + 1, printed.ptr, point);
+    std::int64_t hertz = 0;
+    std::from_chars(begin, end, hertz);
+    return hertz;
 }
 
-std::string PackedDigits(double value, int wholeDigits)
+std::int64_t ReadHertz(std::string_view text)
+{
+    return Hertz(ReadNumber(text));
+}
+
+double Megahertz(std::int64_t hertz)
+{
+    return static_cast<double>(hertz) / static_cast<double>(kHertzPerMegahertz);
+}
+
+std::string FormatMegahertz(std::int64_t hertz)
+{
+    std::string text = Digits(hertz, 1);
+    text.insert(text.size() - kDecimals, 1, '.');
+    return hertz < 0 ? "-" + text : text;
+}
+
+std::string PackedDigits(std::int64_t hertz, int wholeDigits)
 {
     const auto whole = static_cast<std::size_t>(wholeDigits);
-    const std::string text = FormatFixed(value, whole);
-    return text.substr(0, whole) + text.substr(text.size() - 6);
+    const std::string digits = Digits(hertz, whole);
+    return digits.substr(0, whole) + digits.substr(digits.size() - kDecimals);
 }
 
 }  // namespace rqm5

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 namespace rqm5 {
 
 /// The set-up settings as the settings controls show them. The initial values are the defaults of a
@@ -31,11 +33,46 @@ struct ReceiverSettings
     bool barAntennaSw = true;
     bool barAntennaAm = true;
 
+    /// The count of Search Pass channels as it came with block 0050. No control shows it; models without a
+    /// fixed value for that byte keep it.
+    int passCount = 0x60;
+
     /// The model region 0 to 3 that tables, limits and defaults follow. The sibling model's options
     /// (4 and 5) behave like region 3.
     int ModelNo() const { return model < 0 ? 0 : model > 3 ? 3 : model; }
 
     friend bool operator==(const ReceiverSettings&, const ReceiverSettings&) = default;
 };
+
+/// A setting, whichever kind it is of: one of the two pointers is null.
+struct SettingField
+{
+    int ReceiverSettings::*value;
+    bool ReceiverSettings::*flag;
+
+    int Get(const ReceiverSettings& settings) const
+    {
+        return flag != nullptr ? (settings.*flag ? 1 : 0) : settings.*value;
+    }
+
+    void Set(ReceiverSettings& settings, int to) const
+    {
+        if (flag != nullptr)
+            settings.*flag = to != 0;
+        else
+            settings.*value = to;
+    }
+
+    friend bool operator==(const SettingField&, const SettingField&) = default;
+};
+
+inline constexpr int kSettings = 21;
+
+/// Every setting, in the order of the settings pages; passCount, which no page shows, is the last.
+extern const std::array<SettingField, kSettings> kSettingFields;
+
+/// Its place among them.
+int SettingIndex(int ReceiverSettings::*value);
+int SettingIndex(bool ReceiverSettings::*flag);
 
 }  // namespace rqm5

@@ -1,5 +1,9 @@
 #include "image/value_tables.h"
 
+#include <algorithm>
+
+#include "image/number_text.h"
+
 namespace rqm5 {
 
 std::string CarrierText(int code)
@@ -12,16 +16,13 @@ std::string ProgramScanLabel(int edge)
     return "P" + std::to_string(edge / 2) + (edge % 2 == 0 ? "A" : "B");
 }
 
-int BandCount(int region)
+bool IsCellular(std::int64_t hertz)
 {
-    return region < 2 ? kVfoRows : 8;
-}
-
-bool IsCellular(double frequency)
-{
+    // Rows of the band table that are no bands in the region whose ranges they hold.
     constexpr int kCellularRegion = 2;
-    return BandLimit[8 * kRegions + kCellularRegion].Contains(frequency) ||
-           BandLimit[9 * kRegions + kCellularRegion].Contains(frequency);
+    constexpr std::size_t kRows[] = {8 * kRegions + kCellularRegion, 9 * kRegions + kCellularRegion};
+    return std::any_of(std::begin(kRows), std::end(kRows),
+                       [hertz](std::size_t row) { return BandLimit[row].Contains(Megahertz(hertz)); });
 }
 
 // Rows: band 0 to 13. Columns: region 0 to 3.

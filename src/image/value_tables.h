@@ -1,16 +1,15 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
+#include "image/receiver_model.h"
+
 namespace rqm5 {
 
-inline constexpr int kRegions = 4;
-inline constexpr int kVfoRows = 14;
-inline constexpr std::size_t kBandCells = 56;  ///< a table of 14 bands with 4 regions each
-static_assert(kBandCells == kVfoRows * kRegions);
+inline constexpr int kBandCells = kVfoRows * kRegions;  ///< a table of 14 bands with 4 regions each
 
 /// Step texts; the index is the step code of a channel. 9 kHz comes first and the MHz steps stand out of
 /// numeric order: that is the receiver's own numbering. Memory rows take codes 0 to 18, VFO rows 0 to 19.
@@ -35,6 +34,7 @@ inline constexpr std::array<std::string_view, 3> ModeName = {"FM", "AM", "WFM"};
 /// Shift texts; the index is the shift direction byte divided by 16.
 inline constexpr std::array<std::string_view, 3> ShiftName = {"OFF", "+Shift", "-Shift"};
 
+inline constexpr int kSecretOption = 1;  ///< the option that needs a secret code
 inline constexpr int kSecretCodes = 17;
 inline constexpr int kCarrierJr = 28;  ///< the carrier (train tone) code that shows as "JR"
 
@@ -59,11 +59,8 @@ extern const std::array<std::string_view, kBandCells> BandRangeText;
 /// of bands 8 and 9 in region 2, which are no bands there, hold the blocked cellular-telephone ranges.
 extern const std::array<FrequencyRange, kBandCells> BandLimit;
 
-/// How many VFO bands a region 0 to 3 has: 14, 14, 8, 8.
-int BandCount(int region);
-
 /// True for the two cellular-telephone ranges that region 2 refuses.
-bool IsCellular(double frequency);
+bool IsCellular(std::int64_t hertz);
 
 inline constexpr FrequencyRange kReceiverRange = {0.1, 1299.995};
 

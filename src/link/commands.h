@@ -12,7 +12,4 @@ std::string ReadCommand(int address);
 /// The command that sends a block: "QT~F" + address + "W" + 32 hex digits + CR.
 std::string WriteCommand(int address, const MemoryBlock& block);
 
-/// The block address in a read or write command.
-int AddressOfCommand(const std::string& command);
-
 }  // namespace rqm5

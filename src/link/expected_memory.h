@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "image/clone_image.h"
+#include "image/memory_block.h"
 #include "link/transfer_scope.h"
 
 namespace rqm5 {
@@ -23,9 +24,5 @@ std::vector<ExpectedBlock> ExpectedAfterWrite(const CloneImage& image, const Tra
 
 /// True when a block read from the receiver is as expected where the mask says so.
 bool Agrees(const ExpectedBlock& expected, const MemoryBlock& read);
-
-/// How a person calls a memory row: "Row 12 (Bank 0, channel 12)", "Row 1105 (Search Pass S5)", "Row 990
-/// (no bank)".
-std::string RowLabel(const CloneImage& image, int row);
 
 }  // namespace rqm5

@@ -17,9 +17,8 @@ class ForwardingObserver : public TransferObserver
     void ProgressMoved(int value, int row) override { next_.ProgressMoved(value, row); }
     void ProgressEnded() override { next_.ProgressEnded(); }
     void BlockDone(int address, bool written) override { next_.BlockDone(address, written); }
-    void BlockFailed(int address, bool written) override { next_.BlockFailed(address, written); }
-    void BlockUnsent(int address, bool written) override { next_.BlockUnsent(address, written); }
-    void Refresh(Changed what) override { next_.Refresh(what); }
+    void GroupChosen(int selector) override { next_.GroupChosen(selector); }
+    void Stored() override { next_.Stored(); }
     void Message(const Problem& problem) override { next_.Message(problem); }
     bool IsCancelled() override { return next_.IsCancelled(); }
 

@@ -46,19 +46,18 @@ QString PresentPorts()
     return Translate("Ports found: %1.").arg(names.join(QStringLiteral(", ")));
 }
 
-QString WhatCameBack(BadReply reply)
+QString WhatCameBack(ReplyOutcome outcome)
 {
-    switch (reply) {
-        case BadReply::Nothing:
+    switch (outcome) {
+        case ReplyOutcome::Nothing:
             return Translate("The receiver sent nothing.");
-        case BadReply::TooShort:
+        case ReplyOutcome::TooShort:
             return Translate("The reply was too short.");
-        case BadReply::Garbled:
+        case ReplyOutcome::Garbled:
             return Translate("The reply was garbled.");
-        case BadReply::NotOk:
-            break;
+        default:
+            return Translate("The receiver did not answer OK.");
     }
-    return Translate("The receiver did not answer OK.");
 }
 
 }  // namespace
@@ -90,7 +89,7 @@ Problem ComPortProblem(const SerialPort& port)
     return {kComPortError, text.toStdString()};
 }
 
-Problem CommunicationProblem(int address, bool written, int attempts, BadReply reply)
+Problem CommunicationProblem(int address, bool written, int attempts, ReplyOutcome outcome)
 {
     const QString what = written ? Translate("Block %1 could not be written in %2. %3 %4")
                                  : Translate("Block %1 could not be read in %2. %3 %4");
@@ -99,7 +98,7 @@ Problem CommunicationProblem(int address, bool written, int attempts, BadReply r
         Translate("Check the cable, that the receiver is switched on and that it is in clone mode.");
     return {kCommunicationError, what.arg(QString::fromStdString(HexAddress(address)))
                                      .arg(tries)
-                                     .arg(WhatCameBack(reply), check)
+                                     .arg(WhatCameBack(outcome), check)
                                      .toStdString()};
 }
 

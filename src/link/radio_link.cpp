@@ -37,8 +37,8 @@ std::string RadioLink::SendReadCommand(const std::string& command)
 
 int RadioLink::SendWriteCommand(const std::string& command)
 {
-    // 46 characters are enough but do not end the wait; only one more does. Deliberate: the receiver's own
-    // program waits so.
+    // 46 characters are enough but do not end the wait; only one more does. An echo of 42 characters and the
+    // answer make 48, so that fewer may still be a part of what is coming.
     return Exchange(command, kAcknowledgementLength + 1) ? WriteReply(accumulator_) : kWritePortFailed;
 }
 

@@ -3,29 +3,17 @@
 #include <algorithm>
 #include <vector>
 
-#include "image/channel_record.h"
+#include "image/channel_block.h"
 #include "link/commands.h"
 
 namespace rqm5 {
-namespace {
-
-RawReply::Result ResultOf(const std::string& reply)
-{
-    if (reply == kReadPortFailed)
-        return RawReply::Result::PortFailed;
-    if (reply == kReadTooShort)
-        return RawReply::Result::TooShort;
-    return reply == kReadNoFrame ? RawReply::Result::NoFrame : RawReply::Result::Frame;
-}
-
-}  // namespace
 
 RawReply ReadRaw(RadioLink& link, int address)
 {
     const std::string reply = link.SendReadCommand(ReadCommand(address));
     RawReply raw;
-    raw.result = ResultOf(reply);
     raw.received = link.LastReceived();
+    raw.outcome = OutcomeOfRead(reply, raw.received, HasGone(link.Port()));
     raw.took = link.LastDuration();
     if (raw.IsFrame())
         raw.block = BlockOfReply(reply);
@@ -42,7 +30,7 @@ LinkTestResult TestLink(RadioLink& link, int address, int count, const std::func
         if (!raw.IsFrame() && !goesOn(result.reads))
             break;
         ++result.reads;
-        result.hasPortFailed = raw.result == RawReply::Result::PortFailed;
+        result.hasPortFailed = IsPortFailure(raw.outcome);
         if (raw.IsFrame())
             times.push_back(raw.took);
         else

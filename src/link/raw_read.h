@@ -6,20 +6,19 @@
 
 #include "image/memory_block.h"
 #include "link/radio_link.h"
+#include "link/reply_outcome.h"
 
 namespace rqm5 {
 
 /// What one read command led to.
 struct RawReply
 {
-    enum class Result { Frame, PortFailed, TooShort, NoFrame };
-
-    Result result = Result::PortFailed;
+    ReplyOutcome outcome = ReplyOutcome::NotOpened;
     std::string received;  ///< everything that came back, echo included
     MemoryBlock block;     ///< of a frame: its 32 characters as they came
     std::chrono::microseconds took{0};
 
-    bool IsFrame() const { return result == Result::Frame; }
+    bool IsFrame() const { return outcome == ReplyOutcome::Good; }
 };
 
 /// Sends one read command, once, and waits for its reply: at most 500 ms.

@@ -21,13 +21,21 @@ class BackupObserver : public AftermathObserver
   public:
     using AftermathObserver::AftermathObserver;
 
-    void Refresh(Changed /*what*/) override {}
+    void GroupChosen(int /*selector*/) override {}
+    void Stored() override {}
 };
+
+bool HasSameBanks(const CloneImage& a, const CloneImage& b)
+{
+    for (int bank = 0; bank < kBankSizes; ++bank)
+        if (a.BankSize(bank) != b.BankSize(bank))
+            return false;
+    return true;
+}
 
 RowRange RowsToBackUp(const CloneImage& image, const CloneImage& backup, int selector)
 {
-    const bool isSameDivision = image.BankSize == backup.BankSize;
-    return TransferRows(image, selector < kBanks && !isSameDivision ? kSelectAll : selector);
+    return TransferRows(image, selector < kBanks && !HasSameBanks(image, backup) ? kSelectAll : selector);
 }
 
 TransferResult ReadGroup(ReceiverReader& reader, const CloneImage& image, const CloneImage& backup,
@@ -50,7 +58,10 @@ TransferResult ReadBack(const std::vector<ExpectedBlock>& expected, RadioLink& l
     for (std::size_t i = 0; i < expected.size() && result == Done; ++i) {
         observer.ProgressMoved(static_cast<int>(i), MemoryRowAt(expected[i].address));
         MemoryBlock read;
-        result = blocks.Read(expected[i].address, read);
+        const BlockResult block = blocks.Read(expected[i].address, read);
+        if (block.problem)
+            observer.Message(*block.problem);
+        result = block.result;
         if (result == Done && !Agrees(expected[i], read))
             differences.push_back({expected[i], read});
     }
@@ -61,7 +72,7 @@ TransferResult ReadBack(const std::vector<ExpectedBlock>& expected, RadioLink& l
 TransferResult ReadBackup(const CloneImage& image, const TransferScope& scope, RadioLink& link,
                           TransferObserver& observer, CloneImage& backup)
 {
-    backup = StartUpImage(std::clamp(image.Settings.model, 0, kRegions - 1));
+    backup = StartUpImage(std::clamp(image.Settings().model, 0, kRegions - 1));
     NewImage(backup);
     BackupObserver quiet(observer, NothingWritten());
     ReceiverReader reader(backup, link, quiet);
@@ -77,11 +88,21 @@ TransferResult ReadBackup(const CloneImage& image, const TransferScope& scope, R
 
 int BlocksToBackUp(const CloneImage& image, const TransferScope& scope)
 {
-    constexpr int kSettingsBlocks = 2 + kVfoRows;
-    constexpr int kBankBlocks = 7 + 1;
-    constexpr int kFlagBlocks = 10;
-    const int rows = scope.memory ? TransferRows(image, scope.selector).count + kFlagBlocks : 0;
-    return (scope.settings ? kSettingsBlocks : 0) + (scope.memory || scope.banks ? kBankBlocks : 0) + rows;
+    int blocks = 0;
+    const auto add = [&blocks](Area area) { blocks += AreaOf(area).blocks; };
+    if (scope.settings) {
+        add(Area::Settings);
+        add(Area::Vfo);
+    }
+    if (scope.memory || scope.banks) {
+        add(Area::BankSizes);
+        add(Area::Links);
+    }
+    if (scope.memory) {
+        add(Area::Flags);
+        blocks += TransferRows(image, scope.selector).count;
+    }
+    return blocks;
 }
 
 std::string NothingWritten()

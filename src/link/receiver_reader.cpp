@@ -1,12 +1,9 @@
 #include "link/receiver_reader.h"
 
 #include <algorithm>
+#include <vector>
 
-#include "image/channel_record.h"
-#include "image/flag_bits.h"
-#include "link/both_parts.h"
-#include "link/memory_map.h"
-#include "settings/settings_codec.h"
+#include "memory/bank_layout.h"
 
 namespace rqm5 {
 namespace {
@@ -20,38 +17,36 @@ int ProgressMaximum(RowRange rows)
 
 }  // namespace
 
-TransferResult ReceiverReader::ReadBank()
+TransferResult ReceiverReader::ReadBlock(const MemoryArea& area, int index, MemoryBlock& block)
 {
-    TransferResult result = Done;
-    for (std::size_t i = 0; i < image_.BankData.size() && result == Done; ++i)
-        result = blocks_.Read(BlockAddress(kBankAddress, static_cast<int>(i)), image_.BankData[i]);
-    return result;
+    const BlockResult read = blocks_.Read(area.AddressOf(index), block);
+    if (read.problem)
+        observer_.Message(*read.problem);
+    return read.result;
+}
+
+void ReceiverReader::Store(const MemoryArea& area, int first, std::span<const MemoryBlock> blocks)
+{
+    area.decode(image_, first, blocks);
+    hasStored_ = true;
+}
+
+TransferResult ReceiverReader::ReadArea(Area id)
+{
+    const MemoryArea& area = AreaOf(id);
+    std::vector<MemoryBlock> blocks(static_cast<std::size_t>(area.blocks));
+    for (int index = 0; MemoryBlock & block : blocks)
+        if (const TransferResult result = ReadBlock(area, index++, block); result != Done)
+            return result;
+    Store(area, 0, blocks);
+    observer_.Stored();
+    return Done;
 }
 
 TransferResult ReceiverReader::ReadBankPage()
 {
-    TransferResult result = ReadBank();
-    if (result != Done)
-        return result;
-    DecodeBankData(image_);
-    observer_.Refresh(Changed::BankLayout);
-    result = blocks_.Read(kLinkAddress, image_.BankFlagData);
-    if (result != Done)
-        return result;
-    DecodeBankFlagData(image_);
-    observer_.Refresh(Changed::BankLinks);
-    return Done;
-}
-
-TransferResult ReceiverReader::ReadFlags()
-{
-    // Decoded only when all have arrived: a flag read that breaks off leaves every flag as it was.
-    TransferResult result = Done;
-    for (std::size_t i = 0; i < image_.ExtraData.size() && result == Done; ++i)
-        result = blocks_.Read(BlockAddress(kFlagAddress, static_cast<int>(i)), image_.ExtraData[i]);
-    if (result == Done)
-        DecodeExtraData(image_);
-    return result;
+    const TransferResult result = ReadArea(Area::BankSizes);
+    return result == Done ? ReadArea(Area::Links) : result;
 }
 
 TransferResult ReceiverReader::ReadMemory(int selector)
@@ -59,68 +54,68 @@ TransferResult ReceiverReader::ReadMemory(int selector)
     // The bank sizes that arrive may change this maximum; it is told again then.
     observer_.ProgressStarted(ProgressMaximum(TransferRows(image_, selector)));
     TransferResult result = ReadFlags();
-    const bool hasNewFlags = result == Done;
     if (result == Done)
         result = ReadBankPage();
     if (result == Done)
         result = ReadChannels(TransferRows(image_, selector));
-    // A cancelled read leaves rows in the image that no file holds, just as a whole one does.
-    if (result == Done || (result == Cancelled && hasNewFlags))
-        image_.DataChanged = true;
-    if (result != Failed)
-        observer_.Refresh(Changed::Memory);
     observer_.ProgressEnded();
     return result;
 }
 
 TransferResult ReceiverReader::ReadChannels(RowRange rows)
 {
+    const MemoryArea& area = AreaOf(Area::Channels);
     observer_.ProgressStarted(ProgressMaximum(rows));
     for (int row = rows.first; row <= rows.Last(); ++row) {
         observer_.ProgressMoved(row - rows.first, row);
         MemoryBlock block;
-        const TransferResult result = blocks_.Read(BlockAddress(kChannelAddress, row), block);
-        if (result != Done)
+        if (const TransferResult result = ReadBlock(area, row, block); result != Done)
             return result;
-        if (!DecodeMemoryBlock(image_, block, row))
-            ClearMemoryRow(image_, row);
+        Store(area, row, {&block, 1});
     }
     return Done;
 }
 
 TransferResult ReceiverReader::ReadSettings()
 {
-    TransferResult result = blocks_.Read(kSettings1Address, image_.SetData1);
-    if (result == Done)
-        result = blocks_.Read(kSettings2Address, image_.SetData2);
-    if (result != Done)
-        return result;
-    DecodeSettings(image_);
-    observer_.Refresh(Changed::Settings);
-    result = ReadVfoRows();
-    if (result != Failed) {
-        image_.DataChanged = true;
-        observer_.Refresh(Changed::Vfo);
-    }
-    return result;
+    const TransferResult result = ReadArea(Area::Settings);
+    return result == Done ? ReadVfoRows() : result;
 }
 
 TransferResult ReceiverReader::ReadVfoRows()
 {
-    for (int row = 0; row < kVfoRows; ++row) {
+    const MemoryArea& area = AreaOf(Area::Vfo);
+    for (int row = 0; row < area.blocks; ++row) {
         MemoryBlock block;
-        const TransferResult result = blocks_.Read(BlockAddress(kVfoAddress, row), block);
-        if (result != Done)
+        if (const TransferResult result = ReadBlock(area, row, block); result != Done)
             return result;
-        DecodeVfoBlock(image_, block, row);
+        Store(area, row, {&block, 1});
     }
+    observer_.Stored();
     return Done;
 }
 
 TransferResult ReceiverReader::ReadAll()
 {
-    return RunBothParts(
-        observer_, [this] { return ReadSettings(); }, [this] { return ReadMemory(kSelectAll); });
+    const TransferResult settings = ReadSettings();
+    if (settings == Cancelled)
+        return settings;
+    observer_.GroupChosen(kSelectAll);
+    const TransferResult memory = ReadMemory(kSelectAll);
+    return memory == Done ? settings : memory;
+}
+
+TransferResult ReceiverReader::Read(const TransferScope& scope)
+{
+    auto result = Done;
+    if (scope.settings)
+        result = ReadSettings();
+    // What is kept of a whole read only gains nothing by going on after a failure.
+    if (scope.memory && result == Done)
+        result = ReadMemory(scope.selector);
+    if (!scope.memory && scope.banks && result == Done)
+        result = ReadBankPage();
+    return result;
 }
 
 }  // namespace rqm5

@@ -2,144 +2,101 @@
 
 #include <algorithm>
 
-#include "image/channel_record.h"
-#include "image/flag_bits.h"
-#include "link/both_parts.h"
-#include "link/memory_map.h"
-#include "memory/search_pass.h"
-#include "settings/settings_codec.h"
-#include "vfo/region_presets.h"
+#include "memory/bank_layout.h"
 
 namespace rqm5 {
 
 using enum TransferResult;
 
-template <std::size_t N>
-TransferResult ReceiverWriter::WriteBlocks(int firstAddress, const std::array<MemoryBlock, N>& blocks)
+ReceiverWriter::ReceiverWriter(const CloneImage& image, const TransferScope& scope, RadioLink& link,
+                               TransferObserver& observer)
+    : image_(image), scope_(scope), observer_(observer), blocks_(link, observer), plan_(image, scope)
+{
+}
+
+TransferResult ReceiverWriter::Write()
 {
     TransferResult result = Done;
-    for (std::size_t i = 0; i < N && result == Done; ++i)
-        result = blocks_.Write(BlockAddress(firstAddress, static_cast<int>(i)), blocks[i]);
-    return result;
-}
-
-TransferResult ReceiverWriter::WriteBankPage()
-{
-    const TransferResult result = WriteBanks();
-    if (result != Done)
-        return result;
-    observer_.Refresh(Changed::BankLayout);
-    observer_.Refresh(Changed::Memory);
-    return WriteLinks();
-}
-
-TransferResult ReceiverWriter::WriteBanks()
-{
-    EncodeBankData(image_);
-    return WriteBlocks(kBankAddress, image_.BankData);
-}
-
-TransferResult ReceiverWriter::WriteLinks()
-{
-    EncodeBankFlagData(image_);
-    return blocks_.Write(kLinkAddress, image_.BankFlagData);
-}
-
-TransferResult ReceiverWriter::WriteMemory(int selector)
-{
-    const RowRange rows = TransferRows(image_, selector);
-    observer_.ProgressStarted(std::max(0, rows.count - 1));
-    const TransferResult result = WriteMemoryBlocks(selector, rows);
-    observer_.ProgressEnded();
-    return result;
-}
-
-TransferResult ReceiverWriter::WriteMemoryBlocks(int selector, RowRange rows)
-{
-    TransferResult result = WriteBanks();
-    if (result == Done) {
-        observer_.Refresh(Changed::BankLayout);
-        result = WriteLinks();
-    }
-    if (result == Done)
-        result = MergeFlags(rows);
-    if (result == Done && (selector == kSelectSearchPass || selector == kSelectAll))
-        result = WriteSearchPass();
-    return result == Done ? WriteChannels(rows) : result;
-}
-
-TransferResult ReceiverWriter::MergeFlags(RowRange rows)
-{
-    const auto flags = image_.MemEnable;
-    const TransferResult result = reader_.ReadFlags();
-    if (result != Done)
-        return result;
-    std::copy_n(flags.begin() + rows.first, rows.count, image_.MemEnable.begin() + rows.first);
-    if (image_.MemEnable != flags)
-        observer_.Refresh(Changed::Memory);
-    EncodeExtraData(image_);
-    return WriteBlocks(kFlagAddress, image_.ExtraData);
-}
-
-TransferResult ReceiverWriter::WriteSearchPass()
-{
-    BuildPassData(image_);
-    TransferResult result = WriteBlocks(kPassAddress, image_.PassData);
-    // The count goes into the block as the receiver holds it, not as the image does.
-    MemoryBlock settings;
-    if (result == Done)
-        result = blocks_.Read(kSettings2Address, settings);
-    if (result != Done)
-        return result;
-    settings.SetByte(kPassCountByte, SearchPassCount(image_));
-    return blocks_.Write(kSettings2Address, settings);
-}
-
-TransferResult ReceiverWriter::WriteChannels(RowRange rows)
-{
-    for (int row = rows.first; row <= rows.Last(); ++row) {
-        observer_.ProgressMoved(row - rows.first, row);
-        const TransferResult result =
-            blocks_.Write(BlockAddress(kChannelAddress, row), EncodeMemoryRow(image_, row));
+    for (WriteSection& section : plan_.Sections()) {
+        BeginPart(section);
+        result = Run(section);
         if (result != Done)
-            return result;
+            break;
     }
+    if (isInMemory_ && scope_.memory)
+        observer_.ProgressEnded();
+    return result;
+}
+
+/// Tells of the memory part before its first block.
+void ReceiverWriter::BeginPart(const WriteSection& section)
+{
+    if (!section.ofMemory || isInMemory_)
+        return;
+    isInMemory_ = true;
+    if (scope_.IsWhole())
+        observer_.GroupChosen(scope_.selector);
+    if (scope_.memory)
+        observer_.ProgressStarted(std::max(0, TransferRows(image_, scope_.selector).count - 1));
+}
+
+TransferResult ReceiverWriter::Run(WriteSection& section)
+{
+    if (section.IsRead())
+        read_.clear();
+    for (std::size_t step = 0; step < section.blocks.size(); ++step)
+        if (const TransferResult result = Step(section, step); result != Done)
+            return result;
+    if (section.IsRead() && section.area->id == Area::Flags)
+        MergeFlags();
     return Done;
 }
 
-TransferResult ReceiverWriter::WriteSettings()
+TransferResult ReceiverWriter::Step(WriteSection& section, std::size_t step)
 {
-    EncodeSettings(image_);
-    TransferResult result = blocks_.Write(kSettings1Address, image_.SetData1);
-    if (result == Done)
-        result = blocks_.Write(kSettings2Address, image_.SetData2);
-    if (result == Done)
-        result = WriteVfoRows();
-    return result == Done ? WritePresets() : result;
+    if (section.area->id == Area::Channels)
+        observer_.ProgressMoved(static_cast<int>(step), section.blocks[step]);
+    const int address = section.AddressOf(step);
+    if (!section.IsRead())
+        return Conclude(blocks_.Write(address, ContentsOf(section, step)), section.states[step]);
+    return Conclude(blocks_.Read(address, read_.emplace_back()), section.states[step]);
 }
 
-TransferResult ReceiverWriter::WriteVfoRows()
+MemoryBlock ReceiverWriter::ContentsOf(const WriteSection& section, std::size_t step) const
 {
-    TransferResult result = Done;
-    for (int row = 0; row < kVfoRows && result == Done; ++row)
-        result = blocks_.Write(BlockAddress(kVfoAddress, row), EncodeVfoRow(image_, row));
-    return result;
+    if (section.kind != WriteSection::Kind::SendCount)
+        return section.area->encode(image_, section.blocks[step]);
+    // The count goes into the block as the receiver holds it, not as the image does.
+    MemoryBlock block = read_[step];
+    block.SetByte(kPassCountByte, SearchPassCount(image_));
+    return block;
 }
 
-TransferResult ReceiverWriter::WritePresets()
+/// Flags outside the group stay the receiver's own.
+void ReceiverWriter::MergeFlags()
 {
-    static const PresetTable PresetCmd = InitPriset();
-    const auto variant = static_cast<std::size_t>(PresetVariant(image_.Settings.model));
-    TransferResult result = Done;
-    for (std::size_t i = 0; i < static_cast<std::size_t>(kPresetCount[variant]) && result == Done; ++i)
-        result = blocks_.WritePrepared(PresetCmd[variant][i]);
-    return result;
+    const RowRange rows = TransferRows(image_, scope_.selector);
+    CloneImage held = image_;
+    AreaOf(Area::Flags).decode(held, 0, read_);
+    for (int row = 0; row < kMemoryRows; ++row)
+        if (!rows.Contains(row))
+            image_.MemData(row).enabled = held.MemEnable(row);
 }
 
-TransferResult ReceiverWriter::WriteAll()
+/// Keeps what became of a step, and tells of a failure with what the receiver holds then.
+TransferResult ReceiverWriter::Conclude(BlockResult result, StepState& state)
 {
-    return RunBothParts(
-        observer_, [this] { return WriteSettings(); }, [this] { return WriteMemory(kSelectAll); });
+    if (result.result == Done)
+        state = StepState::Sent;
+    else if (result.result == Cancelled)
+        state = result.attempts > 0 ? StepState::UnderWay : StepState::NotSent;
+    else
+        state = result.outcome == ReplyOutcome::NotOpened ? StepState::NotSent : StepState::Refused;
+    if (result.problem) {
+        result.problem->aftermath = plan_.Summary();
+        observer_.Message(*result.problem);
+    }
+    return result.result;
 }
 
 }  // namespace rqm5

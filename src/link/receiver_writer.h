@@ -1,54 +1,49 @@
 #pragma once
 
+#include <vector>
+
 #include "image/clone_image.h"
 #include "link/block_link.h"
 #include "link/radio_link.h"
-#include "link/receiver_reader.h"
 #include "link/transfer_observer.h"
+#include "link/write_plan.h"
 
 namespace rqm5 {
 
-/// The write operations: fixed sequences of single-block writes, each acknowledged by the receiver.
-/// A failed block ends the operation; what was acknowledged before it stays written. Nothing is read back.
+/// Writes a scope of an image by its plan, each block acknowledged by the receiver. A failed block ends the
+/// write; what was acknowledged before it stays written. Nothing is read back.
+///
+/// Settings, VFO bands and presets come first, then banks, links, flags (merged with the receiver's outside
+/// the group), for Search Pass and All the Search Pass list and its count, then every channel of the group.
 class ReceiverWriter
 {
   public:
-    ReceiverWriter(CloneImage& image, RadioLink& link, TransferObserver& observer)
-        : image_(image), observer_(observer), blocks_(link, observer), reader_(image, link, observer)
-    {
-    }
+    ReceiverWriter(const CloneImage& image, const TransferScope& scope, RadioLink& link,
+                   TransferObserver& observer);
 
-    /// BankData rebuilt and sent, then the link flags.
-    TransferResult WriteBankPage();
+    /// Runs the plan once.
+    TransferResult Write();
 
-    /// Banks, links, flags (merged with the receiver's outside the group), for Search Pass and All the
-    /// Search Pass blocks and their count, then every channel of a selector entry (see TransferRows).
-    /// Afterwards MemEnable holds the receiver's flags outside the group.
-    TransferResult WriteMemory(int selector);
+    const WritePlan& Plan() const { return plan_; }
 
-    /// Both settings blocks, the 14 VFO bands, and the presets of the model region.
-    TransferResult WriteSettings();
-
-    /// Settings, then all of the memory. The memory write runs even when the settings write failed; the
-    /// result is the worse of the two. Not so after a cancel, which ends both.
-    TransferResult WriteAll();
+    /// The image as it was written: outside the group it holds the receiver's flags once they were read.
+    const CloneImage& Written() const { return image_; }
 
   private:
-    template <std::size_t N>
-    TransferResult WriteBlocks(int firstAddress, const std::array<MemoryBlock, N>& blocks);
-    TransferResult WriteMemoryBlocks(int selector, RowRange rows);
-    TransferResult WriteBanks();
-    TransferResult WriteLinks();
-    TransferResult MergeFlags(RowRange rows);
-    TransferResult WriteSearchPass();
-    TransferResult WriteChannels(RowRange rows);
-    TransferResult WriteVfoRows();
-    TransferResult WritePresets();
+    TransferResult Run(WriteSection& section);
+    TransferResult Step(WriteSection& section, std::size_t step);
+    MemoryBlock ContentsOf(const WriteSection& section, std::size_t step) const;
+    void MergeFlags();
+    void BeginPart(const WriteSection& section);
+    TransferResult Conclude(BlockResult result, StepState& state);
 
-    CloneImage& image_;
+    CloneImage image_;  ///< a copy: the flags that the receiver has outside the group come into it
+    const TransferScope scope_;
     TransferObserver& observer_;
     BlockLink blocks_;
-    ReceiverReader reader_;
+    WritePlan plan_;
+    std::vector<MemoryBlock> read_;  ///< the receiver's blocks of the last section that was read
+    bool isInMemory_ = false;        ///< the memory part has begun
 };
 
 }  // namespace rqm5

@@ -40,4 +40,10 @@ class SerialPort : public QObject
     void Failed();    ///< the port failed or went away
 };
 
+/// True when the port was open and went away.
+inline bool HasGone(const SerialPort& port)
+{
+    return port.Fault() == PortFault::Gone;
+}
+
 }  // namespace rqm5

@@ -4,16 +4,6 @@
 
 namespace rqm5 {
 
-/// What a transfer has changed in the image, so that whoever shows it can show it anew.
-enum class Changed {
-    SelectorToAll,  ///< "all" operations: the bank selector goes to "All" (index 53)
-    Settings,       ///< Settings was decoded
-    Vfo,            ///< VFO rows
-    BankLayout,     ///< bank sizes, so labels and rows of every group
-    BankLinks,      ///< BankLink
-    Memory,         ///< memory rows or their flags
-};
-
 /// What a transfer tells while it runs. Everything is optional.
 class TransferObserver
 {
@@ -30,13 +20,11 @@ class TransferObserver
     /// One block was read or acknowledged.
     virtual void BlockDone(int /*address*/, bool /*written*/) {}
 
-    /// A block was refused for good; called before Message.
-    virtual void BlockFailed(int /*address*/, bool /*written*/) {}
+    /// The memory part of an "all" operation begins: the bank selector goes to this entry.
+    virtual void GroupChosen(int /*selector*/) {}
 
-    /// The port could not be opened, so nothing of this block left the computer; called before Message.
-    virtual void BlockUnsent(int /*address*/, bool /*written*/) {}
-
-    virtual void Refresh(Changed /*what*/) {}
+    /// A part of what was read is in the image now and may be shown.
+    virtual void Stored() {}
 
     /// The operation failed; it ends after this call.
     virtual void Message(const Problem& /*problem*/) {}

@@ -1,107 +1,139 @@
 #include "link/write_plan.h"
 
-#include <QtGlobal>
+#include <QCoreApplication>
+#include <QStringList>
+#include <algorithm>
+#include <numeric>
 
-#include "link/commands.h"
-#include "link/memory_map.h"
 #include "memory/bank_layout.h"
-#include "vfo/region_presets.h"
 
 namespace rqm5 {
 namespace {
 
-#define TEXT(text) QT_TRANSLATE_NOOP("WriteRecord", text)
+constexpr char kCountName[] = "Search Pass count";
 
-/// Addresses and names of blocks that follow each other.
-struct BlockRun
+QString Translate(const char* text)
 {
-    const char* one;
-    const char* many;
-    int firstNumber;
-    int address;
-    int count;
-};
-
-constexpr BlockRun kSettingsRuns[] = {
-    {TEXT("settings block"), TEXT("settings"), 1, kSettings1Address, 2},
-    {TEXT("VFO band"), TEXT("VFO bands"), 0, kVfoAddress, kVfoRows},
-};
-constexpr BlockRun kBankRuns[] = {
-    {TEXT("bank size block"), TEXT("bank sizes"), 1, kBankAddress, 7},
-    {TEXT("bank links"), TEXT("bank links"), 1, kLinkAddress, 1},
-};
-constexpr BlockRun kFlagRuns[] = {
-    {"", nullptr, 1, kFlagAddress, 10},
-    {TEXT("enable flag block"), TEXT("enable flags"), 1, kFlagAddress, 10},
-};
-constexpr BlockRun kSearchPassRuns[] = {
-    {TEXT("Search Pass list block"), TEXT("Search Pass list"), 1, kPassAddress, 7},
-    {"", nullptr, 1, kSettings2Address, 1},
-    {TEXT("Search Pass count"), TEXT("Search Pass count"), 1, kSettings2Address, 1},
-};
-
-WriteSection SectionOf(const BlockRun& run, bool ofMemory)
-{
-    WriteSection section{run.one, run.many, run.firstNumber, ofMemory, false, {}};
-    for (int i = 0; i < run.count; ++i)
-        section.addresses.push_back(BlockAddress(run.address, i));
-    return section;
+    return QCoreApplication::translate("WriteRecord", text);
 }
 
-template <std::size_t N>
-void Add(std::vector<WriteSection>& plan, const BlockRun (&runs)[N], bool ofMemory)
+/// Steps first to last of a section, as a person calls them.
+QString NameOf(const WriteSection& section, std::size_t first, std::size_t last)
 {
-    for (const BlockRun& run : runs)
-        plan.push_back(SectionOf(run, ofMemory));
+    if (section.kind == WriteSection::Kind::SendCount)
+        return Translate(kCountName);
+    const MemoryArea& area = *section.area;
+    const bool isWhole = first == 0 && last + 1 == section.blocks.size();
+    // Rows are always named: a group has only a part of them.
+    if (isWhole && area.id != Area::Channels)
+        return Translate(area.many);
+    // Presets count as they are sent, the gap among them left out.
+    const bool countsSteps = area.id == Area::Presets;
+    const auto numberOf = [&](std::size_t step) {
+        return area.firstNumber + (countsSteps ? static_cast<int>(step) : section.blocks[step]);
+    };
+    if (first == last)
+        return Translate(area.one) + QStringLiteral(" %1").arg(numberOf(first));
+    return Translate("%1 %2 to %3").arg(Translate(area.many)).arg(numberOf(first)).arg(numberOf(last));
 }
 
-WriteSection Presets(int model)
+std::vector<int> Rows(RowRange rows)
 {
-    static const PresetTable table = InitPriset();
-    const auto variant = static_cast<std::size_t>(PresetVariant(model));
-    WriteSection section{TEXT("region preset"), TEXT("region presets"), 1, false, false, {}};
-    for (std::size_t i = 0; i < static_cast<std::size_t>(kPresetCount.at(variant)); ++i)
-        section.addresses.push_back(AddressOfCommand(table.at(variant).at(i)));
-    return section;
+    std::vector<int> blocks(static_cast<std::size_t>(rows.count));
+    std::iota(blocks.begin(), blocks.end(), rows.first);
+    return blocks;
 }
-
-void AddMemory(std::vector<WriteSection>& plan, const CloneImage& image, int selector)
-{
-    const RowRange rows = TransferRows(image, selector);
-    Add(plan, kBankRuns, true);
-    Add(plan, kFlagRuns, true);
-    if (selector == kSelectSearchPass || selector == kSelectAll)
-        Add(plan, kSearchPassRuns, true);
-    plan.push_back(SectionOf(
-        {TEXT("row"), TEXT("rows"), rows.first, BlockAddress(kChannelAddress, rows.first), rows.count},
-        true));
-    plan.back().isPart = true;
-}
-
-#undef TEXT
 
 }  // namespace
 
-std::vector<WriteSection> PlanWrite(const CloneImage& image, const TransferScope& scope)
+WritePlan::WritePlan(const CloneImage& image, const TransferScope& scope)
 {
-    std::vector<WriteSection> plan;
     if (scope.settings) {
-        Add(plan, kSettingsRuns, false);
-        plan.push_back(Presets(image.Settings.model));
+        Add(Kind::Send, Area::Settings, false);
+        Add(Kind::Send, Area::Vfo, false);
+        Add(Kind::Send, Area::Presets, BlocksOf(AreaOf(Area::Presets), image), false);
+    }
+    if (scope.memory || scope.banks) {
+        Add(Kind::Send, Area::BankSizes, true);
+        Add(Kind::Send, Area::Links, true);
     }
     if (scope.memory)
-        AddMemory(plan, image, scope.selector);
-    else if (scope.banks)
-        Add(plan, kBankRuns, true);
-    return plan;
+        AddMemory(image, scope.selector);
 }
 
-int BlocksToWrite(const CloneImage& image, const TransferScope& scope)
+void WritePlan::AddMemory(const CloneImage& image, int selector)
+{
+    Add(Kind::Read, Area::Flags, true);
+    Add(Kind::SendFlags, Area::Flags, true);
+    if (selector == kSelectSearchPass || selector == kSelectAll) {
+        Add(Kind::Send, Area::PassList, true);
+        Add(Kind::Read, Area::Settings, {kSettings2}, true);
+        Add(Kind::SendCount, Area::Settings, {kSettings2}, true);
+    }
+    Add(Kind::Send, Area::Channels, Rows(TransferRows(image, selector)), true);
+}
+
+void WritePlan::Add(Kind kind, Area area, bool ofMemory)
+{
+    Add(kind, area, Rows({0, AreaOf(area).blocks}), ofMemory);
+}
+
+void WritePlan::Add(Kind kind, Area area, std::vector<int> blocks, bool ofMemory)
+{
+    std::vector<StepState> states(blocks.size(), StepState::NotSent);
+    if (!blocks.empty())
+        sections_.push_back({kind, &AreaOf(area), std::move(blocks), ofMemory, std::move(states)});
+}
+
+int WritePlan::BlockCount() const
 {
     std::size_t blocks = 0;
-    for (const WriteSection& section : PlanWrite(image, scope))
-        blocks += section.addresses.size();
+    for (const WriteSection& section : sections_)
+        blocks += section.blocks.size();
     return static_cast<int>(blocks);
+}
+
+bool WritePlan::HasBegun() const
+{
+    return std::ranges::any_of(sections_, [](const WriteSection& section) {
+        return !section.IsRead() && std::ranges::any_of(section.states, [](StepState state) {
+            return state != StepState::NotSent;
+        });
+    });
+}
+
+std::string WritePlan::BlocksThatAre(StepState state) const
+{
+    QStringList names;
+    for (const WriteSection& section : sections_) {
+        const std::size_t count = section.IsRead() ? 0 : section.states.size();
+        for (std::size_t first = 0; first < count; ++first) {
+            std::size_t end = first;
+            while (end < count && section.states[end] == state)
+                ++end;
+            if (end == first)
+                continue;
+            names << NameOf(section, first, end - 1);
+            first = end;
+        }
+    }
+    return names.join(QStringLiteral(", ")).toStdString();
+}
+
+std::string WritePlan::Summary() const
+{
+    const auto names = [this](StepState state) { return QString::fromStdString(BlocksThatAre(state)); };
+    const auto inDoubt = Translate("%1 (may hold its old or its new contents)");
+    const QString sent = names(StepState::Sent);
+    QStringList sentences{Translate("Sent: %1.").arg(sent.isEmpty() ? Translate("nothing") : sent)};
+    if (const QString refused = names(StepState::Refused); !refused.isEmpty())
+        sentences << Translate("Refused: %1.").arg(inDoubt.arg(refused));
+    if (const QString underWay = names(StepState::UnderWay); !underWay.isEmpty())
+        sentences << Translate("Without an answer: %1.").arg(inDoubt.arg(underWay));
+    if (const QString notSent = names(StepState::NotSent); !notSent.isEmpty())
+        sentences << Translate("Not sent: %1.").arg(notSent);
+    sentences << Translate("Repeating the write completes it.");
+    return sentences.join(QLatin1Char(' ')).toStdString();
 }
 
 }  // namespace rqm5

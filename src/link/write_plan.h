@@ -1,30 +1,65 @@
 #pragma once
 
-#include <string_view>
+#include <optional>
+#include <string>
 #include <vector>
 
-#include "image/clone_image.h"
+#include "link/memory_map.h"
 #include "link/transfer_scope.h"
 
 namespace rqm5 {
 
+/// How far a write is with one block.
+enum class StepState { NotSent, Sent, Refused, UnderWay };
+
 /// Blocks of one kind that a write sends, or reads on its way, one after the other.
 struct WriteSection
 {
-    const char* one;   ///< "VFO band"; a kind of a single block is called by this alone
-    const char* many;  ///< "VFO bands"; nullptr where blocks are read to be merged
-    int firstNumber;   ///< of the first block, as a person counts
-    bool ofMemory;     ///< false: of the settings
-    bool isPart;       ///< a part of more blocks of its kind: it is always named with its numbers
-    std::vector<int> addresses;
+    enum class Kind {
+        Send,       ///< what the image makes
+        Read,       ///< the receiver's own, to be merged into the next section
+        SendFlags,  ///< the receiver's flags with those of the scope's rows from the image
+        SendCount,  ///< the receiver's block with the count of Search Pass channels
+    };
 
-    bool IsRead() const { return many == nullptr; }
+    Kind kind;
+    const MemoryArea* area;
+    std::vector<int> blocks;  ///< of the area
+    bool ofMemory;            ///< false: of the settings
+    std::vector<StepState> states;
+
+    bool IsRead() const { return kind == Kind::Read; }
+    int AddressOf(std::size_t step) const { return area->AddressOf(blocks[step]); }
 };
 
-/// What a write of this scope does, in its order.
-std::vector<WriteSection> PlanWrite(const CloneImage& image, const TransferScope& scope);
+/// What a write of a scope does, in its order, and how far it has come.
+class WritePlan
+{
+  public:
+    WritePlan(const CloneImage& image, const TransferScope& scope);
 
-/// How many blocks a write transfers, those included that it reads on its way.
-int BlocksToWrite(const CloneImage& image, const TransferScope& scope);
+    std::vector<WriteSection>& Sections() { return sections_; }
+    const std::vector<WriteSection>& Sections() const { return sections_; }
+
+    /// How many blocks the write transfers, those included that it reads on its way.
+    int BlockCount() const;
+
+    /// True once something may have changed in the receiver.
+    bool HasBegun() const;
+
+    /// Which blocks were sent, which was refused or is in doubt, which were not sent, and that repeating
+    /// the write completes it: sentences on one line.
+    std::string Summary() const;
+
+  private:
+    using Kind = WriteSection::Kind;
+
+    void Add(Kind kind, Area area, bool ofMemory);
+    void Add(Kind kind, Area area, std::vector<int> blocks, bool ofMemory);
+    void AddMemory(const CloneImage& image, int selector);
+    std::string BlocksThatAre(StepState state) const;
+
+    std::vector<WriteSection> sections_;
+};
 
 }  // namespace rqm5

@@ -1,50 +1,20 @@
 #include "memory/bank_layout.h"
 
 #include <algorithm>
-#include <numeric>
 
 #include "image/number_text.h"
 
 namespace rqm5 {
 namespace {
 
-constexpr std::size_t kWordsPerBlock = 8;
+constexpr int kWordsPerBlock = 8;
 /// Block 0120 behind the three sizes: the words 100, 100, 10 and 23, and a zero word.
 constexpr std::string_view kFixedWords = "640064000A0017000000";
 
-struct FixedGroup
-{
-    int selector;
-    std::string_view name;
-    RowRange rows;
-};
-
-constexpr FixedGroup kFixedGroups[] = {
-    {kSelectProgramScan, "Program Scan", {kProgramScanFirst, 100}},
-    {kSelectSearchPass, "Seach Pass", {kSearchPassFirst, 100}},
-    {kSelectPriority, "Priority", {kPriorityFirst, kRadioRows - kPriorityFirst}},
-    {kSelectAll, "All", {0, kRadioRows}},
-};
-
-const FixedGroup* FindFixedGroup(int selector)
-{
-    for (const FixedGroup& group : kFixedGroups)
-        if (group.selector == selector)
-            return &group;
-    return nullptr;
-}
-
-void AppendNumbered(std::vector<std::string>& labels, std::string_view prefix, int first, int count)
+void AppendNumbers(std::vector<std::string>& labels, int count)
 {
     for (int i = 0; i < count; ++i)
-        labels.push_back(std::string(prefix) + std::to_string(first + i));
-}
-
-void AppendScanEdges(std::vector<std::string>& labels)
-{
-    for (int pair = 0; pair < 50; ++pair)
-        for (const char* edge : {"A", "B"})
-            labels.push_back(std::to_string(pair) + edge);
+        labels.push_back(std::to_string(i));
 }
 
 std::string WordDigits(int value)
@@ -52,22 +22,33 @@ std::string WordDigits(int value)
     return HexByte(value & 0xFF) + HexByte((value >> 8) & 0xFF);
 }
 
+int FirstRow(const CloneImage& image, int bank)
+{
+    int first = 0;
+    for (int before = 0; before < bank; ++before)
+        first += image.BankSize(before);
+    return first;
+}
+
 }  // namespace
 
 std::string SelectorText(int selector)
 {
-    const FixedGroup* group = FindFixedGroup(selector);
-    return group != nullptr ? std::string(group->name) : "Bank " + std::to_string(selector);
+    if (selector == kSelectAll)
+        return "All";
+    const RowGroup* group = GroupOfSelector(selector);
+    return group != nullptr ? std::string(group->title) : "Bank " + std::to_string(selector);
 }
 
 RowRange GroupRows(const CloneImage& image, int selector)
 {
-    if (const FixedGroup* group = FindFixedGroup(selector))
+    if (selector == kSelectAll)
+        return {0, kRadioRows};
+    if (const RowGroup* group = GroupOfSelector(selector))
         return group->rows;
     if (selector < 0 || selector >= kBanks)
         return {};
-    const int first = std::accumulate(image.BankSize.begin(), image.BankSize.begin() + selector, 0);
-    return {first, image.BankSize[static_cast<std::size_t>(selector)]};
+    return {FirstRow(image, selector), image.BankSize(selector)};
 }
 
 RowRange TransferRows(const CloneImage& image, int selector)
@@ -81,63 +62,74 @@ int RowOfSelection(const CloneImage& image, int selector, int tableRow)
     return GroupRows(image, selector).first + tableRow - 1;
 }
 
+int SelectorOfRow(const CloneImage& image, int row)
+{
+    if (const RowGroup* group = GroupOfRow(row))
+        return group->selector;
+    RowRange rows;
+    for (int bank = 0; bank < kBanks; ++bank) {
+        rows = {rows.first + rows.count, image.BankSize(bank)};
+        if (rows.Contains(row))
+            return bank;
+    }
+    return kSelectAll;
+}
+
 std::vector<std::string> BuildChannelLabels(const CloneImage& image, int selector)
 {
     std::vector<std::string> labels;
-    if (selector == kSelectProgramScan) {
-        AppendScanEdges(labels);
-    } else if (selector == kSelectSearchPass || selector == kSelectPriority) {
-        AppendNumbered(labels, "", 1, GroupRows(image, selector).count);
-    } else if (selector == kSelectAll) {
-        AppendNumbered(labels, "", 0, kBankRows);
-        AppendScanEdges(labels);
-        AppendNumbered(labels, "S", 0, 100);
-        AppendNumbered(labels, "Pr", 0, 10);
+    if (selector == kSelectAll) {
+        AppendNumbers(labels, kBankRows);
+        for (const RowGroup& group : kRowGroups)
+            for (int i = 0; i < group.rows.count; ++i)
+                labels.push_back(LabelAmongAll(group, i));
+    } else if (const RowGroup* group = GroupOfSelector(selector)) {
+        for (int i = 0; i < group->rows.count; ++i)
+            labels.push_back(GroupLabel(*group, i));
     } else {
-        AppendNumbered(labels, "", 0, GroupRows(image, selector).count);
+        AppendNumbers(labels, GroupRows(image, selector).count);
     }
     return labels;
 }
 
 int TotalBankSize(const CloneImage& image)
 {
-    return std::accumulate(image.BankSize.begin(), image.BankSize.begin() + kBanks, 0);
+    return FirstRow(image, kBanks);
 }
 
-BankEntry EnterBankSize(CloneImage& image, int bank, std::string_view text)
+CheckedBankSize CheckBankSize(const CloneImage& image, int bank, std::string_view text)
 {
     const int size = ReadInteger(text);
     if (size < 0 || size > kBankRows)
-        return BankEntry::OutOfRange;
-    const int others = TotalBankSize(image) - image.BankSize.at(static_cast<std::size_t>(bank));
-    if (others + size > kBankRows)
-        return BankEntry::TotalTooLarge;
-    SetBankSize(image, bank, size);
-    return BankEntry::Accepted;
+        return {BankEntry::OutOfRange, size};
+    const int others = TotalBankSize(image) - image.BankSize(bank);
+    return {others + size > kBankRows ? BankEntry::TotalTooLarge : BankEntry::Accepted, size};
 }
 
-void DecodeBankData(CloneImage& image)
+std::array<MemoryBlock, 7> BankData(const CloneImage& image)
+{
+    std::string digits;
+    for (int bank = 0; bank < kBankSizes; ++bank)
+        digits += WordDigits(image.BankSize(bank));
+    digits += kFixedWords;
+    std::array<MemoryBlock, 7> blocks;
+    for (std::size_t i = 0; i < blocks.size(); ++i)
+        blocks[i] = MemoryBlock(std::string_view(digits).substr(i * kBlockChars));
+    return blocks;
+}
+
+void DecodeBankData(CloneImage& image, std::span<const MemoryBlock> blocks)
 {
     int left = kBankRows;
-    for (int bank = 0; bank <= kUnassigned; ++bank) {
-        const auto index = static_cast<std::size_t>(bank);
-        int size = std::max(0, image.BankData[index / kWordsPerBlock].Word(index % kWordsPerBlock));
+    for (int bank = 0; bank < kBankSizes; ++bank) {
+        const MemoryBlock& block = blocks[static_cast<std::size_t>(bank / kWordsPerBlock)];
+        int size = std::max(0, block.Word(bank % kWordsPerBlock));
         if (bank < kBanks) {
             size = std::min(size, left);
             left -= size;
         }
-        SetBankSize(image, bank, size);
+        image.SetBankSize(bank, size);
     }
-}
-
-void EncodeBankData(CloneImage& image)
-{
-    std::string digits;
-    for (const int size : image.BankSize)
-        digits += WordDigits(size);
-    digits += kFixedWords;
-    for (std::size_t i = 0; i < image.BankData.size(); ++i)
-        image.BankData[i] = MemoryBlock(std::string_view(digits).substr(i * kBlockChars));
 }
 
 }  // namespace rqm5

@@ -1,29 +1,15 @@
 #pragma once
 
+#include <array>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "image/clone_image.h"
+#include "image/memory_block.h"
 
 namespace rqm5 {
-
-/// Indices of the bank selector: 0 to 49 are banks.
-inline constexpr int kSelectProgramScan = 50;
-inline constexpr int kSelectSearchPass = 51;
-inline constexpr int kSelectPriority = 52;
-inline constexpr int kSelectAll = 53;
-inline constexpr int kSelectorEntries = 54;
-
-/// Memory rows first to first + count - 1.
-struct RowRange
-{
-    int first = 0;
-    int count = 0;
-
-    int Last() const { return first + count - 1; }
-    bool Contains(int row) const { return row >= first && row < first + count; }
-};
 
 /// The text of a selector entry: "Bank 0" to "Bank 49", "Program Scan", "Seach Pass" (the receiver's own
 /// spelling), "Priority", "All".
@@ -33,33 +19,43 @@ std::string SelectorText(int selector);
 RowRange GroupRows(const CloneImage& image, int selector);
 
 /// The memory rows that a transfer of a selector entry moves. As GroupRows, but for bank 49, whose
-/// transfer moves channel 0 alone: a deliberate boundary of the receiver's protocol.
+/// transfer moves channel 0 alone: a boundary of the receiver's protocol.
 RowRange TransferRows(const CloneImage& image, int selector);
 
 /// The memory row of a table row; table row 1 is the first data row (row 0 is the title).
 int RowOfSelection(const CloneImage& image, int selector, int tableRow);
 
+/// The smallest group that shows a memory row: its bank, its fixed group, or the view of all rows for a row
+/// in no bank.
+int SelectorOfRow(const CloneImage& image, int row);
+
 /// The labels of the group's data rows, in order. Search Pass and Priority count from 1 in their own
-/// view and from 0 in the view of all rows: a deliberate asymmetry.
+/// view and from 0 in the view of all rows, as the receiver does.
 std::vector<std::string> BuildChannelLabels(const CloneImage& image, int selector);
 
 /// How many channels banks 0 to 49 hold together, 0 to 1000.
 int TotalBankSize(const CloneImage& image);
 
 enum class BankEntry {
-    Accepted,       ///< the size was taken
+    Accepted,       ///< the size may be taken
     OutOfRange,     ///< below 0 or above 1000: refused without a message
     TotalTooLarge,  ///< all fifty together would exceed 1000: refused with the message
 };
 
-/// Takes a typed bank size when it may be taken; a refused one changes nothing.
-BankEntry EnterBankSize(CloneImage& image, int bank, std::string_view text);
+/// What becomes of a typed bank size, and the size that it is.
+struct CheckedBankSize
+{
+    BankEntry entry;
+    int size;
+};
 
-/// BankData into BankSize: words of 16 bits, low byte first. A negative size becomes 0, and sizes are
-/// cut in bank order so that banks 0 to 49 never exceed 1000 together.
-void DecodeBankData(CloneImage& image);
+CheckedBankSize CheckBankSize(const CloneImage& image, int bank, std::string_view text);
 
-/// BankSize into BankData, the receiver's fixed words behind them.
-void EncodeBankData(CloneImage& image);
+/// `BankData`: BankSize as words of 16 bits, low byte first, the receiver's fixed words behind them.
+std::array<MemoryBlock, 7> BankData(const CloneImage& image);
+
+/// A negative size becomes 0, and sizes are cut in bank order so that banks 0 to 49 never exceed 1000
+/// together.
+void DecodeBankData(CloneImage& image, std::span<const MemoryBlock> blocks);
 
 }  // namespace rqm5

@@ -19,15 +19,10 @@ namespace {
 constexpr int kBanksPerColumn = 10;
 constexpr int kDigits = 9;  ///< more than any size, few enough to stay a number
 
-std::size_t At(int index)
-{
-    return static_cast<std::size_t>(index);
-}
-
 }  // namespace
 
-BankPage::BankPage(CloneImage& image, Dialogs& dialogs, QWidget* parent)
-    : QWidget(parent), image_(image), dialogs_(dialogs), lblChannels_(new QLabel(this))
+BankPage::BankPage(Document& document, Dialogs& dialogs, QWidget* parent)
+    : QWidget(parent), document_(document), dialogs_(dialogs), lblChannels_(new QLabel(this))
 {
     auto* boxes = new QWidget;
     auto* grid = new QGridLayout(boxes);
@@ -37,10 +32,10 @@ BankPage::BankPage(CloneImage& image, Dialogs& dialogs, QWidget* parent)
     // The receiver keeps six more link flags than there are banks. They have boxes that nobody sees.
     for (int flag = 0; flag < kLinkFlags; ++flag) {
         if (flag >= kBanks) {
-            chkLink_[At(flag)] = new QCheckBox(this);
-            chkLink_[At(flag)]->hide();
+            chkLink_.at(flag) = new QCheckBox(this);
+            chkLink_.at(flag)->hide();
         }
-        chkLink_[At(flag)]->setObjectName(QStringLiteral("chkLink_%1").arg(flag));
+        chkLink_.at(flag)->setObjectName(QStringLiteral("chkLink_%1").arg(flag));
     }
     auto* page = new QVBoxLayout(this);
     grid->setRowStretch(kBanksPerColumn + 1, 1);
@@ -48,6 +43,16 @@ BankPage::BankPage(CloneImage& image, Dialogs& dialogs, QWidget* parent)
     area->ScrollSidewaysToo();
     page->addWidget(area, 1);
     page->addLayout(BuildBottomRow());
+    connect(&document, &Document::Replaced, this, [this] {
+        ShowBanks();
+        ShowLinks();
+    });
+    connect(&document, &Document::Changed, this, [this](const ImageChange& change) {
+        if (!change.BankSize.empty())
+            ShowBanks();
+        if (!change.BankLink.empty())
+            ShowLinks();
+    });
     ShowBanks();
     ShowLinks();
 }
@@ -68,8 +73,8 @@ void BankPage::BuildBank(QGridLayout& grid, int bank)
     auto* link = new QCheckBox;
     link->setAccessibleName(tr("Link bank %1").arg(bank));
     link->setStatusTip(tr("Scan bank %1 together with the other linked banks").arg(bank));
-    txtBank_[At(bank)] = box;
-    chkLink_[At(bank)] = link;
+    txtBank_.at(bank) = box;
+    chkLink_.at(bank) = link;
 
     new KeyFilter(*box, KeySet::Digits);
     box->installEventFilter(this);
@@ -105,42 +110,37 @@ void BankPage::ShowBanks()
 {
     for (int bank = 0; bank < kBanks; ++bank)
         ShowSize(bank);
-    ShowChannelCount(TotalBankSize(image_));
+    lblChannels_->setText(QString::number(TotalBankSize(document_.Image())));
 }
 
 void BankPage::ShowLinks()
 {
     for (int flag = 0; flag < kLinkFlags; ++flag)
-        chkLink_[At(flag)]->setChecked(image_.BankLink[At(flag)]);
-}
-
-void BankPage::ShowChannelCount(int channels)
-{
-    lblChannels_->setText(QString::number(channels));
+        chkLink_.at(flag)->setChecked(document_.Image().BankLink(flag));
 }
 
 void BankPage::ShowSize(int bank)
 {
-    txtBank_[At(bank)]->setText(QString::fromStdString(image_.BankSizeText[At(bank)]));
+    txtBank_.at(bank)->setText(QString::fromStdString(document_.Image().BankSizeText(bank)));
 }
 
 bool BankPage::CommitPending()
 {
     for (int bank = 0; bank < kBanks; ++bank)
-        if (txtBank_[At(bank)] == window()->focusWidget())
+        if (txtBank_.at(bank) == window()->focusWidget())
             return txtBank_LostFocus(bank);
     return true;
 }
 
-void BankPage::SetTransferRunning(bool running)
+void BankPage::GoToBank(int bank)
 {
-    setEnabled(!running);
+    txtBank_.at(bank)->setFocus(Qt::OtherFocusReason);
 }
 
 bool BankPage::eventFilter(QObject* watched, QEvent* event)
 {
     for (int bank = 0; bank < kBanks; ++bank) {
-        if (watched != txtBank_[At(bank)])
+        if (watched != txtBank_.at(bank))
             continue;
         if (event->type() == QEvent::FocusIn)
             txtBank_GotFocus(bank, static_cast<QFocusEvent*>(event)->reason());
@@ -156,7 +156,7 @@ bool BankPage::eventFilter(QObject* watched, QEvent* event)
 
 void BankPage::txtBank_GotFocus(int bank, Qt::FocusReason reason)
 {
-    QLineEdit* box = txtBank_[At(bank)];
+    QLineEdit* box = txtBank_.at(bank);
     // The click that brings the focus puts the cursor somewhere afterwards and would undo the selection.
     if (reason == Qt::MouseFocusReason)
         QTimer::singleShot(0, box, &QLineEdit::selectAll);
@@ -171,28 +171,22 @@ bool BankPage::txtBank_KeyDown(int bank, int key)
         return false;
     const int next = isNext ? bank + 1 : bank - 1;
     if (next >= 0 && next < kBanks)
-        txtBank_[At(next)]->setFocus(isNext ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        txtBank_.at(next)->setFocus(isNext ? Qt::TabFocusReason : Qt::BacktabFocusReason);
     return true;
 }
 
 bool BankPage::txtBank_LostFocus(int bank)
 {
-    const int before = image_.BankSize[At(bank)];
-    const std::string typed = txtBank_[At(bank)]->text().toStdString();
-    const BankEntry entry = EnterBankSize(image_, bank, typed);
+    const CloneImage& image = document_.Image();
+    const CheckedBankSize typed = CheckBankSize(image, bank, txtBank_.at(bank)->text().toStdString());
+    if (typed.entry == BankEntry::Accepted && typed.size != image.BankSize(bank))
+        document_.Edit(tr("Bank %1 size: %2").arg(bank).arg(typed.size),
+                       [&](CloneImage& changed) { changed.SetBankSize(bank, typed.size); });
     // A refused box is put right before the message comes up, which takes the focus from it once more.
     ShowSize(bank);
-    if (entry == BankEntry::TotalTooLarge)
+    if (typed.entry == BankEntry::TotalTooLarge)
         ShowTotalTooLarge();
-    if (entry != BankEntry::Accepted)
-        return false;
-    if (image_.BankSize[At(bank)] != before) {
-        image_.DataChanged = true;
-        ShowChannelCount(TotalBankSize(image_));
-        emit Edited();
-        emit BanksChanged();
-    }
-    return true;
+    return typed.entry == BankEntry::Accepted;
 }
 
 void BankPage::ShowTotalTooLarge()
@@ -205,9 +199,8 @@ void BankPage::ShowTotalTooLarge()
 
 void BankPage::chkLink_Click(int bank, bool isLinked)
 {
-    image_.BankLink[At(bank)] = isLinked;
-    image_.DataChanged = true;
-    emit Edited();
+    const QString name = isLinked ? tr("Link bank %1") : tr("Unlink bank %1");
+    document_.Edit(name.arg(bank), [=](CloneImage& image) { image.SetBankLink(bank, isLinked); });
 }
 
 }  // namespace rqm5

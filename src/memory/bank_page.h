@@ -3,7 +3,7 @@
 #include <QWidget>
 #include <array>
 
-#include "image/clone_image.h"
+#include "document/document.h"
 #include "ui/dialogs.h"
 
 class QCheckBox;
@@ -19,31 +19,28 @@ class BankPage : public QWidget
     Q_OBJECT
 
   public:
-    BankPage(CloneImage& image, Dialogs& dialogs, QWidget* parent);
-
-    /// Shows the sizes and their total.
-    void ShowBanks();
-    void ShowLinks();
-    void ShowChannelCount(int channels);
+    BankPage(Document& document, Dialogs& dialogs, QWidget* parent);
 
     /// Checks the box that is being typed into as if the user had left it.
     /// \return false when what was typed was refused; the box then holds its last accepted size
     bool CommitPending();
 
-    /// Disables the page while a transfer runs.
-    void SetTransferRunning(bool running);
+    /// Gives the box of a bank's size the focus.
+    void GoToBank(int bank);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   signals:
-    void Edited();
-    void BanksChanged();  ///< a bank size changed, so rows belong to other banks now
     void ReadRequested();
     void WriteRequested();
 
   private:
     void BuildBank(QGridLayout& grid, int bank);
     QLayout* BuildBottomRow();
+
+    /// Shows the sizes and their total.
+    void ShowBanks();
+    void ShowLinks();
 
     bool txtBank_LostFocus(int bank);
     void txtBank_GotFocus(int bank, Qt::FocusReason reason);
@@ -52,7 +49,7 @@ class BankPage : public QWidget
     void ShowSize(int bank);
     void ShowTotalTooLarge();
 
-    CloneImage& image_;
+    Document& document_;
     Dialogs& dialogs_;
     std::array<QLineEdit*, kBanks> txtBank_{};
     std::array<QCheckBox*, kLinkFlags> chkLink_{};

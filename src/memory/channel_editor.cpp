@@ -1,17 +1,15 @@
 #include "memory/channel_editor.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 
 #include "image/number_text.h"
-#include "memory/bank_layout.h"
+#include "image/value_tables.h"
 #include "memory/search_pass.h"
 
 namespace rqm5 {
 namespace {
 
-constexpr int kCellularRegion = 2;
 constexpr int kCellularVfoRow = 6;
 constexpr double kOffsetLimit = 100;
 constexpr int kSkipBit = 8;
@@ -20,134 +18,99 @@ constexpr int kLastStepButton = 13;
 constexpr int kOneKilohertzStep = 19;
 constexpr char kFrequencyOfAnEmptyRow[] = "145.000000";
 
-/// The numbers and texts of one row, of the memory or of the VFO table.
-template <class Numbers, class Texts>
-struct RowOf
-{
-    Numbers& numbers;
-    Texts& texts;
-};
-using ConstRow = RowOf<const ChannelNumbers, const ChannelTexts>;
-using MutableRow = RowOf<ChannelNumbers, ChannelTexts>;
-
-template <class Row, class Image>
-Row RowAt(Image& image, const EditTarget& target)
-{
-    const auto row = static_cast<std::size_t>(target.Row());
-    return target.IsMemory() ? Row{image.MemData.at(row), image.MemText.at(row)}
-                             : Row{image.VFOData.at(row), image.VFOText.at(row)};
-}
-
-bool Exists(const EditTarget& target)
-{
-    return target.ModifyRow >= 1 && target.ModifyRow <= (target.IsMemory() ? kMemoryRows : kVfoRows);
-}
-
 /// A field that is chosen from buttons or a list.
 struct Choice
 {
     Column column;
+    std::uint8_t ChannelContents::*value;
     int ChannelFields::*index;
-    int unit;   ///< the number stored is the index times this
-    int count;  ///< how many values there are
-    std::string (*text)(int index);
-    bool (*isAvailable)(int region);
+    int unit;                   ///< the value stored is the index times this
+    int count;                  ///< how many values there are
+    bool Region::*isAvailable;  ///< null where every region has it
 };
-
-/// Files can bring any number into a row.
-int Whole(double value)
-{
-    return static_cast<int>(std::clamp(value, -1e6, 1e6));
-}
-
-template <const auto& kTable>
-std::string Entry(int index)
-{
-    return std::string(TextAt(kTable, index));
-}
-
-std::string Decimal(int index)
-{
-    return std::to_string(index);
-}
-
-bool Always(int /*region*/)
-{
-    return true;
-}
 
 constexpr Choice kChoices[] = {
-    {kMode, &ChannelFields::mode, 1, 3, Entry<ModeName>, Always},
-    {kStep, &ChannelFields::step, 1, 20, Entry<StepName>, Always},
-    {kOption, &ChannelFields::option, kOptionUnit, 5, Entry<OptionName>, Always},
-    {kSecret, &ChannelFields::secret, 1, kSecretCodes, Decimal, HasSecretCode},
-    {kCarrier, &ChannelFields::carrier, 1, kCarrierJr + 1, CarrierText, HasCarrier},
-    {kTone, &ChannelFields::tone, 1, 39, Entry<ToneName>, Always},
-    {kShift, &ChannelFields::shift, kOptionUnit, 3, Entry<ShiftName>, Always},
+    {kMode, &ChannelContents::mode, &ChannelFields::mode, 1, 3, nullptr},
+    {kStep, &ChannelContents::step, &ChannelFields::step, 1, 20, nullptr},
+    {kOption, &ChannelContents::option, &ChannelFields::option, kOptionUnit, 5, nullptr},
+    {kSecret, &ChannelContents::secret, &ChannelFields::secret, 1, kSecretCodes, &Region::hasSecretCode},
+    {kCarrier, &ChannelContents::carrier, &ChannelFields::carrier, 1, kCarrierJr + 1, &Region::hasCarrier},
+    {kTone, &ChannelContents::tone, &ChannelFields::tone, 1, 39, nullptr},
+    {kShift, &ChannelContents::shift, &ChannelFields::shift, kOptionUnit, 3, nullptr},
 };
 
-const FrequencyRange& LimitOf(const CloneImage& image, const EditTarget& target)
+std::string TextOf(const CloneImage& image, RowId id, Column column)
 {
-    if (target.IsMemory())
+    return CellText(image.At(id), id.kind, kNoRegion, column);
+}
+
+const FrequencyRange& LimitOf(const CloneImage& image, RowId id)
+{
+    if (id.IsMemory())
         return kReceiverRange;
-    const int limit = target.Row() * kRegions + image.ModelNo();
-    return BandLimit.at(static_cast<std::size_t>(limit));
+    return BandLimit.at(static_cast<std::size_t>(id.row * kRegions + image.ModelNo()));
 }
 
-/// The number as its box and its row will hold it, with six decimals.
-double Rounded(double value)
+Verdict JudgeFrequency(const CloneImage& image, RowId id, int selector, double typed)
 {
-    return ReadNumber(FormatMegahertz(value));
-}
-
-Verdict JudgeFrequency(const CloneImage& image, const EditTarget& target, double typed)
-{
-    if (!LimitOf(image, target).Contains(typed))
+    if (!LimitOf(image, id).Contains(typed))
         return Verdict::OutOfRange;
-    const double frequency = Rounded(typed);
-    const bool hasCellular = target.IsMemory() || target.Row() == kCellularVfoRow;
-    if (hasCellular && image.ModelNo() == kCellularRegion && IsCellular(frequency))
+    const std::int64_t frequency = Hertz(typed);
+    const bool hasCellular = id.IsMemory() || id.row == kCellularVfoRow;
+    if (hasCellular && RegionOf(image.ModelNo()).blocksCellular && IsCellular(frequency))
         return Verdict::Cellular;
-    if (target.IsMemory() && target.selector == kSelectSearchPass &&
-        IsSearchPassDuplicate(image, frequency, target.Row()))
+    if (id.IsMemory() && selector == kSelectSearchPass && IsSearchPassDuplicate(image, frequency, id.row))
         return Verdict::Duplicate;
     return Verdict::Accepted;
 }
 
 /// What a refused frequency gives way to.
-std::string RestoredFrequency(const CloneImage& image, const EditTarget& target)
+std::string RestoredFrequency(const CloneImage& image, RowId id)
 {
-    if (target.IsMemory())
-        return HasChannel(image, target.Row()) ? RowAt<ConstRow>(image, target).texts[kFrequency]
-                                               : kFrequencyOfAnEmptyRow;
+    if (id.IsMemory() && !image.At(id).HasChannel())
+        return kFrequencyOfAnEmptyRow;
     // A VFO row without a frequency shows it as a number all the same.
-    return FormatMegahertz(ReadNumber(RowAt<ConstRow>(image, target).texts[kFrequency]));
+    return FormatMegahertz(image.At(id).frequency);
 }
 
-/// A number as short as it can be written without an exponent.
-std::string ShortText(double value)
+/// MHz as short as they can be written without an exponent.
+std::string ShortText(std::int64_t hertz)
 {
-    std::array<char, 512> buffer{};
-    const auto end =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed).ptr;
+    std::array<char, 64> buffer{};
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), Megahertz(hertz),
+                                   std::chars_format::fixed)
+                         .ptr;
     return std::string(buffer.data(), end);
 }
 
-void StoreChoices(const ChannelFields& fields, int region, MutableRow row)
+/// A column that a value comes into is not blank any more.
+void Fill(ChannelContents& row, Column column)
+{
+    row.blank = static_cast<std::uint16_t>(row.blank & ~(1U << column));
+}
+
+void StoreChoices(const ChannelFields& fields, const Region& region, ChannelContents& row)
 {
     for (const Choice& choice : kChoices) {
         const int index = fields.*choice.index;
-        if (index < 0 || index >= choice.count || !choice.isAvailable(region))
+        const bool isAvailable = choice.isAvailable == nullptr || region.*choice.isAvailable;
+        if (index < 0 || index >= choice.count || !isAvailable)
             continue;
-        row.numbers[choice.column] = index * choice.unit;
-        row.texts[choice.column] = choice.text(index);
+        row.*choice.value = static_cast<std::uint8_t>(index * choice.unit);
+        Fill(row, choice.column);
+        if (choice.column == kCarrier)
+            row.isCarrierImported = false;
     }
 }
 
-void StoreFrequency(MutableRow row, Column column, const std::string& typed)
+void StoreMemoryFields(const ChannelFields& fields, Channel& row)
 {
-    row.numbers[column] = ReadNumber(typed);
-    row.texts[column] = FormatMegahertz(row.numbers[column]);
+    const int option = row.option / kOptionUnit * kOptionUnit;
+    row.option = static_cast<std::uint8_t>(option + (fields.skip ? kSkipBit : 0));
+    if (fields.option != ChannelFields::kNothing)
+        row.isSecretEdited = fields.option == kSecretOption;
+    row.note = fields.note;
+    row.enabled = fields.enable;
 }
 
 }  // namespace
@@ -157,81 +120,67 @@ bool HasStepButton(int step)
     return (step >= 0 && step <= kLastStepButton) || step == kOneKilohertzStep;
 }
 
-bool HasSecretCode(int region)
+bool CanModify(const CloneImage& image, RowId id)
 {
-    return region == 1;
+    return id.Exists() && (id.IsMemory() || id.row < RegionOf(image.ModelNo()).vfoBands);
 }
 
-bool HasCarrier(int region)
+std::string FrequencyRangeText(const CloneImage& image, RowId id)
 {
-    return region == 0;
-}
-
-bool CanModify(const CloneImage& image, const EditTarget& target)
-{
-    return Exists(target) && (target.IsMemory() || target.Row() < BandCount(image.ModelNo()));
-}
-
-std::string FrequencyRangeText(const CloneImage& image, const EditTarget& target)
-{
-    if (target.IsMemory())
+    if (id.IsMemory())
         return "(0.1-1299.995MHz)";
-    return std::string(TextAt(BandRangeText, target.Row() * kRegions + image.ModelNo()));
+    return std::string(TextAt(BandRangeText, id.row * kRegions + image.ModelNo()));
 }
 
-ChannelFields LoadFields(const CloneImage& image, const EditTarget& target)
+ChannelFields LoadFields(const CloneImage& image, RowId id)
 {
-    const auto row = RowAt<ConstRow>(image, target);
+    const Channel& row = image.At(id);
     ChannelFields fields;
     for (const Choice& choice : kChoices) {
-        const int index = Whole(row.numbers[choice.column]) / choice.unit;
-        fields.*choice.index = index >= 0 && index < choice.count ? index : ChannelFields::kNothing;
+        const int index = row.*choice.value / choice.unit;
+        fields.*choice.index = index < choice.count ? index : ChannelFields::kNothing;
     }
     if (!HasStepButton(fields.step))
         fields.step = ChannelFields::kNothing;
-    fields.frequency = row.texts[kFrequency];
-    fields.shiftFrequency = row.texts[kShiftFrequency];
-    fields.note = row.texts[kNote];
-    if (target.IsMemory()) {
-        fields.skip = IsSkipped(image, target.Row());
-        fields.enable = image.MemEnable[static_cast<std::size_t>(target.Row())];
+    fields.frequency = TextOf(image, id, kFrequency);
+    fields.shiftFrequency = TextOf(image, id, kShiftFrequency);
+    fields.note = row.note;
+    if (id.IsMemory()) {
+        fields.skip = row.IsSkipped();
+        fields.enable = row.enabled;
     }
     return fields;
 }
 
-CheckedEntry CheckFrequency(const CloneImage& image, const EditTarget& target, const std::string& typed)
+CheckedEntry CheckFrequency(const CloneImage& image, RowId id, int selector, const std::string& typed)
 {
     const double frequency = ReadNumber(typed);
-    const Verdict verdict = JudgeFrequency(image, target, frequency);
+    const Verdict verdict = JudgeFrequency(image, id, selector, frequency);
     return {verdict,
-            verdict == Verdict::Accepted ? FormatMegahertz(frequency) : RestoredFrequency(image, target)};
+            verdict == Verdict::Accepted ? FormatMegahertz(Hertz(frequency)) : RestoredFrequency(image, id)};
 }
 
-CheckedEntry CheckOffset(const CloneImage& image, const EditTarget& target, const std::string& typed)
+CheckedEntry CheckOffset(const CloneImage& image, RowId id, int /*selector*/, const std::string& typed)
 {
     const double offset = ReadNumber(typed);
-    if (offset >= 0 && Rounded(offset) < kOffsetLimit)
-        return {Verdict::Accepted, FormatMegahertz(offset)};
-    const auto row = RowAt<ConstRow>(image, target);
+    if (offset >= 0 && Megahertz(Hertz(offset)) < kOffsetLimit)
+        return {Verdict::Accepted, FormatMegahertz(Hertz(offset))};
     return {Verdict::OutOfRange,
-            target.IsMemory() ? ShortText(row.numbers[kShiftFrequency]) : row.texts[kShiftFrequency]};
+            id.IsMemory() ? ShortText(image.At(id).shiftFrequency) : TextOf(image, id, kShiftFrequency)};
 }
 
-bool StoreFields(CloneImage& image, const EditTarget& target, const ChannelFields& fields)
+bool StoreFields(CloneImage& image, RowId id, const ChannelFields& fields)
 {
-    if (!Exists(target))
+    if (!id.Exists())
         return false;
-    const auto row = RowAt<MutableRow>(image, target);
-    StoreFrequency(row, kFrequency, fields.frequency);
-    StoreFrequency(row, kShiftFrequency, fields.shiftFrequency);
-    StoreChoices(fields, image.ModelNo(), row);
-    if (target.IsMemory()) {
-        const int option = Whole(row.numbers[kOption]) / kOptionUnit * kOptionUnit;
-        row.numbers[kOption] = option + (fields.skip ? kSkipBit : 0);
-        row.texts[kNote] = fields.note;
-        image.MemEnable[static_cast<std::size_t>(target.Row())] = fields.enable;
-    }
-    image.DataChanged = true;
+    Channel& row = image.At(id);
+    row.frequency = ReadHertz(fields.frequency);
+    row.shiftFrequency = static_cast<std::int32_t>(ReadHertz(fields.shiftFrequency));
+    Fill(row, kFrequency);
+    Fill(row, kShiftFrequency);
+    StoreChoices(fields, RegionOf(image.ModelNo()), row);
+    if (id.IsMemory())
+        StoreMemoryFields(fields, row);
     return true;
 }
 

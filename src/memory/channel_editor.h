@@ -6,20 +6,6 @@
 
 namespace rqm5 {
 
-/// The row that the channel editor works on.
-struct EditTarget
-{
-    static constexpr int kVfo = 0;
-    static constexpr int kMemory = 1;
-
-    int ModifyTarget = kMemory;  ///< kMemory or kVfo
-    int ModifyRow = 0;           ///< counted from 1: 1 to 1240 in memory, 1 to 14 in the VFO table
-    int selector = 0;            ///< the bank selector's index, for the rule of the Search Pass list
-
-    bool IsMemory() const { return ModifyTarget == kMemory; }
-    int Row() const { return ModifyRow - 1; }
-};
-
 /// What the editor's controls hold. A choice of kNothing stands for a value that has no control; storing
 /// it keeps what the row has.
 struct ChannelFields
@@ -58,25 +44,22 @@ struct CheckedEntry
 /// Steps that have a button of their own. Rows can hold other steps, which the editor keeps.
 bool HasStepButton(int step);
 
-/// What the selected model region has.
-bool HasSecretCode(int region);
-bool HasCarrier(int region);
-
 /// True when the row exists and the region has it: regions 2 and 3 have VFO bands 1 to 8 only.
-bool CanModify(const CloneImage& image, const EditTarget& target);
+bool CanModify(const CloneImage& image, RowId id);
 
 /// The range shown beside the frequency box.
-std::string FrequencyRangeText(const CloneImage& image, const EditTarget& target);
+std::string FrequencyRangeText(const CloneImage& image, RowId id);
 
 /// The fields of a row that can be modified.
-ChannelFields LoadFields(const CloneImage& image, const EditTarget& target);
+ChannelFields LoadFields(const CloneImage& image, RowId id);
 
-CheckedEntry CheckFrequency(const CloneImage& image, const EditTarget& target, const std::string& typed);
-CheckedEntry CheckOffset(const CloneImage& image, const EditTarget& target, const std::string& typed);
+/// \param selector  the bank selector's index: the Search Pass list has a rule of its own
+CheckedEntry CheckFrequency(const CloneImage& image, RowId id, int selector, const std::string& typed);
+CheckedEntry CheckOffset(const CloneImage& image, RowId id, int selector, const std::string& typed);
 
-/// Writes the fields into the row, numbers and texts, and marks the image as changed. What the region
-/// does not have keeps its value. A VFO row has neither note nor skip nor enabled flag.
+/// Writes the fields into the row. What the region does not have keeps its value. A VFO row has neither note
+/// nor skip nor enabled flag.
 /// \return false when there is no such row; nothing changes then
-bool StoreFields(CloneImage& image, const EditTarget& target, const ChannelFields& fields);
+bool StoreFields(CloneImage& image, RowId id, const ChannelFields& fields);
 
 }  // namespace rqm5

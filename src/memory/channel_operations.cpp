@@ -1,6 +1,6 @@
 #include "memory/channel_operations.h"
 
-#include <algorithm>
+#include <utility>
 
 namespace rqm5 {
 namespace {
@@ -20,8 +20,8 @@ void ClearRows(CloneImage& image, RowRange rows)
 
 bool EnableRow(CloneImage& image, int row)
 {
-    const bool canEnable = HasChannel(image, row);
-    image.MemEnable.at(static_cast<std::size_t>(row)) = canEnable;
+    const bool canEnable = image.MemData(row).HasChannel();
+    image.MemData(row).enabled = canEnable;
     return canEnable;
 }
 
@@ -34,20 +34,15 @@ void EnableRows(CloneImage& image, RowRange rows)
 void DisableRows(CloneImage& image, RowRange rows)
 {
     for (int row = rows.first; row <= rows.Last(); ++row)
-        image.MemEnable.at(static_cast<std::size_t>(row)) = false;
+        image.MemData(row).enabled = false;
 }
 
 bool DeleteTableRow(CloneImage& image, int tableRow)
 {
     if (!IsShiftable(tableRow))
         return false;
-    const int row = tableRow - 1;
-    std::move(image.MemData.begin() + row + 1, image.MemData.begin() + kShiftedRows,
-              image.MemData.begin() + row);
-    std::move(image.MemText.begin() + row + 1, image.MemText.begin() + kShiftedRows,
-              image.MemText.begin() + row);
-    std::move(image.MemEnable.begin() + row + 1, image.MemEnable.begin() + kShiftedRows,
-              image.MemEnable.begin() + row);
+    for (int row = tableRow - 1; row < kShiftedRows - 1; ++row)
+        image.MemData(row) = std::move(image.MemData(row + 1));
     ClearMemoryRow(image, kShiftedRows - 1);
     return true;
 }
@@ -56,14 +51,9 @@ bool InsertTableRow(CloneImage& image, int tableRow)
 {
     if (!IsShiftable(tableRow))
         return false;
-    const int row = tableRow - 1;
-    std::move_backward(image.MemData.begin() + row, image.MemData.begin() + kShiftedRows - 1,
-                       image.MemData.begin() + kShiftedRows);
-    std::move_backward(image.MemText.begin() + row, image.MemText.begin() + kShiftedRows - 1,
-                       image.MemText.begin() + kShiftedRows);
-    std::move_backward(image.MemEnable.begin() + row, image.MemEnable.begin() + kShiftedRows - 1,
-                       image.MemEnable.begin() + kShiftedRows);
-    ClearMemoryRow(image, row);
+    for (int row = kShiftedRows - 1; row >= tableRow; --row)
+        image.MemData(row) = std::move(image.MemData(row - 1));
+    ClearMemoryRow(image, tableRow - 1);
     return true;
 }
 

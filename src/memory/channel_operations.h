@@ -1,15 +1,12 @@
 #pragma once
 
 #include "image/clone_image.h"
-#include "memory/bank_layout.h"
 
 namespace rqm5 {
 
 /// Delete and insert work on memory rows 0 to 199 by the number of the table row alone, whatever group is
-/// shown. The fixed range is deliberate.
+/// shown: owners know these two so, and rows that lie elsewhere stay where they are.
 inline constexpr int kShiftedRows = 200;
-
-// None of these marks the image as changed; the command that calls them does.
 
 void ClearRows(CloneImage& image, RowRange rows);
 

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "memory/channel_operations.h"
 #include "memory/memory_table.h"
@@ -23,12 +24,12 @@ struct MemoryPage::Operation
     void (MemoryPage::*run)();
 };
 
-MemoryPage::MemoryPage(CloneImage& image, Dialogs& dialogs, QWidget* parent)
+MemoryPage::MemoryPage(Document& document, Dialogs& dialogs, QWidget* parent)
     : QWidget(parent),
-      image_(image),
+      document_(document),
       dialogs_(dialogs),
       cbbBank_(new QComboBox(this)),
-      table_(new MemoryTable(image, this))
+      table_(new MemoryTable(document.Image(), this))
 {
     auto* middle = new QHBoxLayout;
     middle->addWidget(table_, 1);
@@ -42,11 +43,24 @@ MemoryPage::MemoryPage(CloneImage& image, Dialogs& dialogs, QWidget* parent)
     setTabOrder(cbbBank_, table_);
 
     connect(table_, &MemoryTable::RowChosen, this,
-            [this](int tableRow) { emit ModifyRequested(RowOfSelection(image_, Selector(), tableRow)); });
+            [this](int tableRow) { emit ModifyRequested(RowOfSelection(Image(), Selector(), tableRow)); });
     connect(table_, &MemoryTable::InsertPressed, this, &MemoryPage::cmbInsert_Click);
     connect(table_, &MemoryTable::DeletePressed, this, &MemoryPage::cmbDelete_Click);
-    UpDateMemData();
+    connect(&document, &Document::Replaced, this, &MemoryPage::ShowReplaced);
+    connect(&document, &Document::Changed, this, &MemoryPage::ShowChange);
+    ShowReplaced();
+}
+
+void MemoryPage::ShowReplaced()
+{
     GoToFirstRow();
+    UpDateMemData();
+}
+
+void MemoryPage::ShowChange(const ImageChange& change)
+{
+    if (change.HasMemoryRows() || !change.BankSize.empty() || change.HasSetting(&ReceiverSettings::model))
+        UpDateMemData();
 }
 
 QLayout* MemoryPage::BuildSelectorRow()
@@ -57,7 +71,7 @@ QLayout* MemoryPage::BuildSelectorRow()
         cbbBank_->addItem(QString::fromStdString(SelectorText(selector)));
     cbbBank_->setMaxVisibleItems(20);
     cbbBank_->installEventFilter(this);
-    connect(cbbBank_, &QComboBox::currentIndexChanged, this, &MemoryPage::cbbBank_Click);
+    connect(cbbBank_, &QComboBox::currentIndexChanged, this, &MemoryPage::UpDateMemData);
 
     auto* label = new QLabel(tr("Ban&k:"));
     label->setBuddy(cbbBank_);
@@ -135,12 +149,6 @@ void MemoryPage::UpDateMemData()
     table_->UpDateMemData(Selector());
 }
 
-void MemoryPage::BuildChannelLabels()
-{
-    // The model takes labels and rows of a group together, so that they never disagree.
-    table_->UpDateMemData(Selector());
-}
-
 void MemoryPage::SelectGroup(int selector)
 {
     cbbBank_->setCurrentIndex(selector);
@@ -161,9 +169,19 @@ void MemoryPage::GoToFirstRow()
     table_->SelectTableRow(1);
 }
 
-void MemoryPage::SetTransferRunning(bool running)
+void MemoryPage::GoToRows(const std::vector<int>& rows)
 {
-    setEnabled(!running);
+    const auto holdsAll = [&](int selector) {
+        const RowRange group = GroupRows(Image(), selector);
+        return std::ranges::all_of(rows, [group](int row) { return group.Contains(row); });
+    };
+    if (rows.empty())
+        return;
+    if (!holdsAll(Selector())) {
+        const int smallest = SelectorOfRow(Image(), rows.front());
+        SelectGroup(holdsAll(smallest) ? smallest : kSelectAll);
+    }
+    table_->SelectTableRow(rows.front() - Group().first + 1);
 }
 
 void MemoryPage::FocusSelector()
@@ -179,15 +197,8 @@ bool MemoryPage::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
-void MemoryPage::cbbBank_Click()
-{
-    UpDateMemData();
-    emit SelectorChanged();
-}
-
 void MemoryPage::cbbBank_LostFocus()
 {
-    BuildChannelLabels();
     ChangeFont(*table_);
     UpDateMemData();
 }
@@ -195,7 +206,7 @@ void MemoryPage::cbbBank_LostFocus()
 RowRange MemoryPage::SelectedRow() const
 {
     const int tableRow = CurrentTableRow();
-    return tableRow == 0 ? RowRange{} : RowRange{RowOfSelection(image_, Selector(), tableRow), 1};
+    return tableRow == 0 ? RowRange{} : RowRange{RowOfSelection(Image(), Selector(), tableRow), 1};
 }
 
 bool MemoryPage::IsShiftable() const
@@ -203,43 +214,76 @@ bool MemoryPage::IsShiftable() const
     return CurrentTableRow() >= 1 && CurrentTableRow() <= kShiftedRows;
 }
 
-bool MemoryPage::Confirm(const QString& title, const QString& text, const QString& details)
+/// \param what  what will be hit, as a sentence
+bool MemoryPage::Confirm(const QString& title, const QString& text, const QString& what)
 {
     return dialogs_.Ask(this, {.title = title,
                                .text = text,
-                               .details = details,
+                               .details = what + QLatin1Char(' ') + tr("Edit > Undo brings it back."),
                                .icon = QMessageBox::Warning,
                                .buttons = QMessageBox::Ok | QMessageBox::Cancel,
                                .defaultButton = QMessageBox::Cancel}) == QMessageBox::Ok;
 }
 
-void MemoryPage::FinishOperation(bool refresh)
+void MemoryPage::Edit(const QString& name, const Document::ChangeFunction& change)
 {
-    image_.DataChanged = true;
-    if (refresh)
-        UpDateMemData();
+    document_.Edit(name, change);
     table_->setFocus(Qt::OtherFocusReason);
-    emit Edited();
+}
+
+void MemoryPage::EditRow(const QString& operation, void (*change)(CloneImage&, RowRange))
+{
+    const RowRange row = SelectedRow();
+    if (row.count > 0)
+        Edit(tr("%1 (%2)").arg(operation, NameOfRow(row.first)),
+             [=](CloneImage& image) { change(image, row); });
+}
+
+void MemoryPage::EditGroup(const QString& operation, void (*change)(CloneImage&, RowRange))
+{
+    const RowRange rows = Group();
+    if (rows.count > 0)
+        Edit(tr("%1 (%2)").arg(operation, NameOfGroup()), [=](CloneImage& image) { change(image, rows); });
+}
+
+/// "Bank 2, channel 12"; a row in no bank goes by its number.
+QString MemoryPage::NameOfRow(int row) const
+{
+    const std::string place = PlaceOfRow(Image(), row);
+    return place.empty() ? tr("row %1").arg(row) : QString::fromStdString(place);
+}
+
+/// "Bank 2, 100 channels"
+QString MemoryPage::NameOfGroup() const
+{
+    return tr("%1, %2 channels").arg(QString::fromStdString(SelectorText(Selector()))).arg(Group().count);
+}
+
+/// "145.500000 MHz"
+QString MemoryPage::ContentsOf(int row) const
+{
+    const Channel& channel = Image().MemData(row);
+    return channel.HasChannel()
+               ? QString::fromStdString(Image().MemText(row, kFrequency)) + QStringLiteral(" MHz")
+               : tr("which is empty");
 }
 
 void MemoryPage::cmbClear_Click()
 {
     const RowRange row = SelectedRow();
-    if (row.count == 0 || !Confirm(tr("CLEAR OK"), tr("Clear cannot be undone.\n"
-                                                      "Are you sure that you want to do the clear?")))
-        return;
-    ClearRows(image_, row);
-    FinishOperation();
+    if (row.count > 0 &&
+        Confirm(tr("CLEAR OK"), tr("Clear cannot be undone.\nAre you sure that you want to do the clear?"),
+                tr("This clears %1, %2.").arg(NameOfRow(row.first), ContentsOf(row.first))))
+        EditRow(tr("Clear"), ClearRows);
 }
 
 void MemoryPage::cmbClAll_Click()
 {
-    const RowRange rows = Group();
-    if (rows.count == 0 || !Confirm(tr("CLEAR OK"), tr("Clear cannot be undone.\n"
-                                                       "Are you sure that you want to clear all memory?")))
-        return;
-    ClearRows(image_, rows);
-    FinishOperation();
+    if (Group().count > 0 &&
+        Confirm(tr("CLEAR OK"),
+                tr("Clear cannot be undone.\nAre you sure that you want to clear all memory?"),
+                tr("This clears %1.").arg(NameOfGroup())))
+        EditGroup(tr("Clear All"), ClearRows);
 }
 
 void MemoryPage::cmbDelete_Click()
@@ -248,57 +292,39 @@ void MemoryPage::cmbDelete_Click()
         return;
     // The row goes by its number in the table, whatever group is shown, so the question names it.
     const int row = CurrentTableRow() - 1;
-    const auto& frequency = image_.MemText[static_cast<std::size_t>(row)][kFrequency];
-    const QString details =
-        tr("This deletes %1, %2.")
-            .arg(QString::fromStdString(RowName(image_, row)),
-                 frequency.empty() ? tr("which is empty") : QString::fromStdString(frequency + " MHz"));
-    if (!Confirm(tr("DELETE OK"),
-                 tr("Delete cannot be undone.\nAre you sure that you want to do the delete?"), details))
-        return;
-    DeleteTableRow(image_, row + 1);
-    FinishOperation();
+    const QString name = QString::fromStdString(RowName(Image(), row));
+    if (Confirm(tr("DELETE OK"), tr("Delete cannot be undone.\nAre you sure that you want to do the delete?"),
+                tr("This deletes %1, %2.").arg(name, ContentsOf(row))))
+        Edit(tr("Delete (%1)").arg(name), [row](CloneImage& image) { DeleteTableRow(image, row + 1); });
 }
 
 void MemoryPage::cmbInsert_Click()
 {
     if (!IsShiftable())
         return;
-    InsertTableRow(image_, CurrentTableRow());
-    FinishOperation();
+    const int tableRow = CurrentTableRow();
+    const QString name = QString::fromStdString(RowName(Image(), tableRow - 1));
+    Edit(tr("Insert (%1)").arg(name), [tableRow](CloneImage& image) { InsertTableRow(image, tableRow); });
 }
 
 void MemoryPage::cmbEnable_Click()
 {
-    const RowRange row = SelectedRow();
-    if (row.count == 0)
-        return;
-    const bool isEnabled = EnableRow(image_, row.first);
-    FinishOperation(isEnabled);
+    EditRow(tr("Enable"), EnableRows);
 }
 
 void MemoryPage::cmbDisable_Click()
 {
-    if (SelectedRow().count == 0)
-        return;
-    DisableRows(image_, SelectedRow());
-    FinishOperation();
+    EditRow(tr("Disable"), DisableRows);
 }
 
 void MemoryPage::cmbEnAll_Click()
 {
-    if (Group().count == 0)
-        return;
-    EnableRows(image_, Group());
-    FinishOperation();
+    EditGroup(tr("Enable All"), EnableRows);
 }
 
 void MemoryPage::cmbDisAll_Click()
 {
-    if (Group().count == 0)
-        return;
-    DisableRows(image_, Group());
-    FinishOperation();
+    EditGroup(tr("Disable All"), DisableRows);
 }
 
 }  // namespace rqm5

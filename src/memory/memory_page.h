@@ -2,8 +2,9 @@
 
 #include <QWidget>
 #include <span>
+#include <vector>
 
-#include "image/clone_image.h"
+#include "document/document.h"
 #include "memory/bank_layout.h"
 #include "ui/dialogs.h"
 
@@ -20,13 +21,11 @@ class MemoryPage : public QWidget
     Q_OBJECT
 
   public:
-    MemoryPage(CloneImage& image, Dialogs& dialogs, QWidget* parent);
+    MemoryPage(Document& document, Dialogs& dialogs, QWidget* parent);
 
-    /// Shows the selected group's rows anew; the current row stays where it was and is selected whole.
+    /// Shows the selected group's rows and labels anew; the current row stays where it was and is selected
+    /// whole. Changes of the document are shown without it.
     void UpDateMemData();
-
-    /// Sets number and labels of the table's rows for the selected group.
-    void BuildChannelLabels();
 
     void SelectGroup(int selector);
     int Selector() const;
@@ -35,28 +34,29 @@ class MemoryPage : public QWidget
     int CurrentTableRow() const;
     void GoToFirstRow();
 
-    /// Disables the page while a transfer runs.
-    void SetTransferRunning(bool running);
+    /// Selects a memory row: in the group shown when that holds all of these rows, else in the smallest group
+    /// that does.
+    void GoToRows(const std::vector<int>& rows);
+
     void FocusSelector();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   signals:
-    void Edited();
     void ReadRequested();
     void WriteRequested();
     void ModifyRequested(int memoryRow);  ///< memory row from 0
-    void SelectorChanged();
 
   private:
     struct Operation;
 
+    void ShowReplaced();
+    void ShowChange(const ImageChange& change);
     QLayout* BuildSelectorRow();
     QWidget* BuildOperations();
     QLayout* BuildTransferRow();
     void AddButtons(QBoxLayout& layout, std::span<const Operation> operations);
 
-    void cbbBank_Click();
     void cbbBank_LostFocus();
     void cmbClear_Click();
     void cmbClAll_Click();
@@ -67,13 +67,19 @@ class MemoryPage : public QWidget
     void cmbEnAll_Click();
     void cmbDisAll_Click();
 
-    RowRange Group() const { return GroupRows(image_, Selector()); }
+    const CloneImage& Image() const { return document_.Image(); }
+    RowRange Group() const { return GroupRows(Image(), Selector()); }
     RowRange SelectedRow() const;
     bool IsShiftable() const;
-    bool Confirm(const QString& title, const QString& text, const QString& details = {});
-    void FinishOperation(bool refresh = true);
+    QString NameOfRow(int row) const;
+    QString NameOfGroup() const;
+    QString ContentsOf(int row) const;
+    bool Confirm(const QString& title, const QString& text, const QString& what);
+    void Edit(const QString& name, const Document::ChangeFunction& change);
+    void EditRow(const QString& operation, void (*change)(CloneImage&, RowRange));
+    void EditGroup(const QString& operation, void (*change)(CloneImage&, RowRange));
 
-    CloneImage& image_;
+    Document& document_;
     Dialogs& dialogs_;
     QComboBox* cbbBank_;
     MemoryTable* table_;

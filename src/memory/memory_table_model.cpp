@@ -4,7 +4,7 @@
 #include <QGuiApplication>
 #include <QPalette>
 
-#include "memory/memory_cells.h"
+#include "memory/table_titles.h"
 
 namespace rqm5 {
 
@@ -30,13 +30,12 @@ QVariant MemoryTableModel::data(const QModelIndex& index, int role) const
 
 bool MemoryTableModel::IsEnabled(int row) const
 {
-    const int memoryRow = rows_.first + row;
-    return image_.MemEnable.at(static_cast<std::size_t>(memoryRow));
+    return image_.MemEnable(rows_.first + row);
 }
 
-std::string MemoryTableModel::Cell(int row, std::size_t column) const
+std::string MemoryTableModel::Cell(int row, Column column) const
 {
-    return MemoryCell(image_, rows_.first + row, column);
+    return CellText(image_.MemData(rows_.first + row), RowKind::Memory, image_.ModelNo(), column);
 }
 
 }  // namespace rqm5

@@ -22,7 +22,7 @@ class MemoryTableModel : public ChannelTableModel
     bool IsEnabled(int row) const;
 
   protected:
-    std::string Cell(int row, std::size_t column) const override;
+    std::string Cell(int row, Column column) const override;
 
   private:
     const CloneImage& image_;

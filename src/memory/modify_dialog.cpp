@@ -15,13 +15,13 @@
 
 namespace rqm5 {
 
-dlgModify::dlgModify(CloneImage& image, Dialogs& dialogs, QWidget* parent)
+dlgModify::dlgModify(Document& document, Dialogs& dialogs, QWidget* parent)
     : QDialog(parent),
-      image_(image),
+      document_(document),
       dialogs_(dialogs),
       form_(new ModifyForm(this)),
-      frequency_{form_->txtFreq, CheckFrequency, {}},
-      shift_{form_->txtShift, CheckOffset, {}}
+      frequency_{form_->txtFreq(), CheckFrequency, {}},
+      shift_{form_->txtShift(), CheckOffset, {}}
 {
     setObjectName(QStringLiteral("dlgModify"));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
@@ -39,41 +39,42 @@ dlgModify::dlgModify(CloneImage& image, Dialogs& dialogs, QWidget* parent)
     connect(new LeaveWatch(*frequency_.box), &LeaveWatch::Left, this, &dlgModify::txtFreq_LostFocus);
     connect(new LeaveWatch(*shift_.box), &LeaveWatch::Left, this, &dlgModify::txtShift_LostFocus);
 
-    form_->lastRow->addWidget(buttons);
     auto* layout = new QVBoxLayout(this);
-    auto* area = new TallArea(form_, this);
-    layout->addWidget(area);
-    layout->addLayout(form_->lastRow);  // stays in sight when the form has to scroll
+    layout->addWidget(new TallArea(form_, this));
+    // The check boxes and buttons stay in sight when the form has to scroll.
+    QBoxLayout* lastRow = form_->TakeLastRow();
+    lastRow->addWidget(buttons);
+    layout->addLayout(lastRow);
 }
 
 bool dlgModify::OpenMemory(int row, int selector)
 {
     setWindowTitle(tr("Modify Memory"));
-    return Open({.ModifyTarget = EditTarget::kMemory, .ModifyRow = row + 1, .selector = selector}, Grid1Data);
+    return Open({RowKind::Memory, row}, selector, Grid1Data_);
 }
 
 bool dlgModify::OpenVfo(int row)
 {
     setWindowTitle(tr("Modify VFO"));
-    return Open({.ModifyTarget = EditTarget::kVfo, .ModifyRow = row + 1}, Grid2Data);
+    return Open({RowKind::Vfo, row}, kSelectAll, Grid2Data_);
 }
 
-bool dlgModify::Open(const EditTarget& target, ChannelFields& stored)
+bool dlgModify::Open(RowId row, int selector, ChannelFields& stored)
 {
-    if (!CanModify(image_, target))
+    const CloneImage& image = document_.Image();
+    if (!CanModify(image, row))
         return false;
-    target_ = target;
-    stored = LoadFields(image_, target);
+    row_ = row;
+    selector_ = selector;
+    stored = LoadFields(image, row);
     frequency_.checked = QString::fromStdString(stored.frequency);
     shift_.checked = QString::fromStdString(stored.shiftFrequency);
 
-    const bool isHeld = target.IsMemory() && form_->chkHold->isChecked() && confirmed_.has_value() &&
-                        !HasChannel(image_, target.Row());
-    form_->SetAvailable(target.IsMemory(), image_.ModelNo());
-    form_->lblMode->setText(target.IsMemory() ? tr("Memory") : tr("VFO"));
-    form_->lblCH->setText(RowName());
-    form_->lblMHz->setText(QString::fromStdString(FrequencyRangeText(image_, target)));
-    form_->txtFreq->setAccessibleDescription(form_->lblMHz->text());
+    const bool isHeld =
+        row.IsMemory() && form_->IsHeld() && confirmed_.has_value() && !image.At(row).HasChannel();
+    form_->SetAvailable(row.IsMemory(), RegionOf(image.ModelNo()));
+    form_->ShowRow(row.IsMemory() ? tr("Memory") : tr("VFO"), RowName(),
+                   QString::fromStdString(FrequencyRangeText(image, row)));
     form_->ShowFields(isHeld ? *confirmed_ : stored);
     // The two kinds of row show different controls; the form has to notice before the dialog takes its size.
     form_->layout()->activate();
@@ -83,15 +84,16 @@ bool dlgModify::Open(const EditTarget& target, ChannelFields& stored)
 
 QString dlgModify::RowName() const
 {
-    if (!target_.IsMemory())
-        return tr("Band %1").arg(target_.Row());
-    const auto labels = BuildChannelLabels(image_, target_.selector);
-    const auto place = static_cast<std::size_t>(target_.Row() - GroupRows(image_, target_.selector).first);
+    if (!row_.IsMemory())
+        return tr("Band %1").arg(row_.row);
+    const CloneImage& image = document_.Image();
+    const auto labels = BuildChannelLabels(image, selector_);
+    const auto place = static_cast<std::size_t>(row_.row - GroupRows(image, selector_).first);
     const QString label =
-        place < labels.size() ? QString::fromStdString(labels[place]) : QString::number(target_.Row());
-    if (target_.selector == kSelectAll)
+        place < labels.size() ? QString::fromStdString(labels[place]) : QString::number(row_.row);
+    if (selector_ == kSelectAll)
         return tr("CH %1").arg(label);
-    return tr("%1  CH %2").arg(QString::fromStdString(SelectorText(target_.selector)), label);
+    return tr("%1  CH %2").arg(QString::fromStdString(SelectorText(selector_)), label);
 }
 
 void dlgModify::showEvent(QShowEvent* event)
@@ -99,8 +101,8 @@ void dlgModify::showEvent(QShowEvent* event)
     QDialog::showEvent(event);
     if (event->spontaneous())
         return;
-    form_->txtFreq->setFocus(Qt::OtherFocusReason);
-    form_->txtFreq->selectAll();
+    form_->txtFreq()->setFocus(Qt::OtherFocusReason);
+    form_->txtFreq()->selectAll();
 }
 
 void dlgModify::txtFreq_LostFocus()
@@ -117,7 +119,8 @@ bool dlgModify::LeaveBox(Entry& entry)
 {
     if (!isVisible())
         return true;
-    const CheckedEntry result = entry.check(image_, target_, entry.box->text().toStdString());
+    const CheckedEntry result =
+        entry.check(document_.Image(), row_, selector_, entry.box->text().toStdString());
     entry.checked = QString::fromStdString(result.text);
     entry.box->setText(entry.checked);
     ShowRefusal(result.verdict);
@@ -156,8 +159,9 @@ void dlgModify::OKButton_Click()
     if (!LeaveIfPending(frequency_) || !LeaveIfPending(shift_))
         return;
     const ChannelFields fields = form_->Fields();
-    StoreFields(image_, target_, fields);
-    if (target_.IsMemory())
+    document_.Edit(tr("Modify (%1)").arg(RowName().simplified()),
+                   [&](CloneImage& image) { StoreFields(image, row_, fields); });
+    if (row_.IsMemory())
         confirmed_ = fields;
     accept();
 }

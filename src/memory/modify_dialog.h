@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <optional>
 
+#include "document/document.h"
 #include "memory/channel_editor.h"
 #include "ui/dialogs.h"
 
@@ -18,7 +19,7 @@ class dlgModify : public QDialog
     Q_OBJECT
 
   public:
-    dlgModify(CloneImage& image, Dialogs& dialogs, QWidget* parent);
+    dlgModify(Document& document, Dialogs& dialogs, QWidget* parent);
 
     /// Lets the user edit a memory row (from 0).
     /// \param selector  the bank selector's index: names the row, and the Search Pass list has a rule of
@@ -30,8 +31,8 @@ class dlgModify : public QDialog
     /// \return true when the row was stored
     bool OpenVfo(int row);
 
-    ChannelFields Grid1Data;  ///< the memory row as it was when it was opened
-    ChannelFields Grid2Data;  ///< the VFO row as it was when it was opened
+    const ChannelFields& Grid1Data() const { return Grid1Data_; }  ///< the memory row as it was opened
+    const ChannelFields& Grid2Data() const { return Grid2Data_; }  ///< the VFO row as it was opened
 
   protected:
     void showEvent(QShowEvent* event) override;
@@ -41,11 +42,11 @@ class dlgModify : public QDialog
     struct Entry
     {
         QLineEdit* box;
-        CheckedEntry (*check)(const CloneImage&, const EditTarget&, const std::string&);
+        CheckedEntry (*check)(const CloneImage&, RowId, int selector, const std::string&);
         QString checked;
     };
 
-    bool Open(const EditTarget& target, ChannelFields& stored);
+    bool Open(RowId row, int selector, ChannelFields& stored);
     bool LeaveBox(Entry& entry);
     bool LeaveIfPending(Entry& entry);
     void ShowRefusal(Verdict verdict);
@@ -54,10 +55,13 @@ class dlgModify : public QDialog
     void txtShift_LostFocus();
     void OKButton_Click();
 
-    CloneImage& image_;
+    Document& document_;
     Dialogs& dialogs_;
     ModifyForm* form_;
-    EditTarget target_;
+    RowId row_;
+    int selector_ = 0;
+    ChannelFields Grid1Data_;
+    ChannelFields Grid2Data_;
     Entry frequency_;
     Entry shift_;
     std::optional<ChannelFields> confirmed_;  ///< what the last OK on a memory row stored

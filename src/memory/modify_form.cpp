@@ -8,6 +8,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "image/value_tables.h"
 #include "ui/key_filter.h"
 
 namespace rqm5 {
@@ -61,13 +62,13 @@ QLineEdit* MegahertzBox(const char* name)
 
 ModifyForm::ModifyForm(QWidget* parent)
     : QWidget(parent),
-      lblMode(PlainLabel("lblMode")),
-      lblCH(PlainLabel("lblCH")),
-      lblMHz(PlainLabel("lblMHz")),
-      txtFreq(MegahertzBox("txtFreq")),
-      txtShift(MegahertzBox("txtShift")),
-      chkHold(Named(new QCheckBox(tr("&Hold")), "chkHold")),
-      lastRow(new QHBoxLayout),
+      lblMode_(PlainLabel("lblMode")),
+      lblCH_(PlainLabel("lblCH")),
+      lblMHz_(PlainLabel("lblMHz")),
+      txtFreq_(MegahertzBox("txtFreq")),
+      txtShift_(MegahertzBox("txtShift")),
+      chkHold_(Named(new QCheckBox(tr("&Hold")), "chkHold")),
+      lastRow_(new QHBoxLayout),
       opbWave_(
           new OptionGroup(kContext, "opbWave", QT_TRANSLATE_NOOP("Modify", "Modulation Mode"), kWaves, 3)),
       opbStep_(new OptionGroup(kContext, "opbStep", QT_TRANSLATE_NOOP("Modify", "Tuning Step"), kSteps, 5)),
@@ -99,11 +100,11 @@ QLayout* ModifyForm::BuildTitle()
 {
     QFont bold = font();
     bold.setBold(true);
-    lblMode->setFont(bold);
-    lblCH->setFont(bold);
+    lblMode_->setFont(bold);
+    lblCH_->setFont(bold);
     auto* row = new QHBoxLayout;
-    row->addWidget(lblMode);
-    row->addWidget(lblCH);
+    row->addWidget(lblMode_);
+    row->addWidget(lblCH_);
     row->addStretch();
     return row;
 }
@@ -111,11 +112,11 @@ QLayout* ModifyForm::BuildTitle()
 QLayout* ModifyForm::BuildFrequency()
 {
     auto* label = new QLabel(tr("&Frequency"));
-    label->setBuddy(txtFreq);
+    label->setBuddy(txtFreq_);
     auto* row = new QHBoxLayout;
     row->addWidget(label);
-    row->addWidget(txtFreq, 1);
-    row->addWidget(lblMHz);
+    row->addWidget(txtFreq_, 1);
+    row->addWidget(lblMHz_);
     return row;
 }
 
@@ -146,9 +147,9 @@ QWidget* ModifyForm::BuildCodes()
 QLayout* ModifyForm::BuildShift()
 {
     auto* offset = new QGroupBox(tr("&Offset Frequency"));
-    txtShift->setAccessibleName(tr("Offset Frequency"));
+    txtShift_->setAccessibleName(tr("Offset Frequency"));
     auto* box = new QHBoxLayout(offset);
-    box->addWidget(txtShift, 1);
+    box->addWidget(txtShift_, 1);
     box->addWidget(new QLabel(tr("MHz")));
     auto* row = new QHBoxLayout;
     row->addWidget(opbSift_);
@@ -175,11 +176,11 @@ void ModifyForm::BuildChecks()
 {
     chkSkip_->setToolTip(tr("Scanning skips this channel"));
     chkEnable_->setToolTip(tr("The channel is in use"));
-    chkHold->setToolTip(tr("The next empty channel starts with the values confirmed here"));
-    lastRow->addWidget(chkSkip_);
-    lastRow->addWidget(chkEnable_);
-    lastRow->addWidget(chkHold);
-    lastRow->addStretch();
+    chkHold_->setToolTip(tr("The next empty channel starts with the values confirmed here"));
+    lastRow_->addWidget(chkSkip_);
+    lastRow_->addWidget(chkEnable_);
+    lastRow_->addWidget(chkHold_);
+    lastRow_->addStretch();
 }
 
 void ModifyForm::txtNote_Change()
@@ -190,7 +191,7 @@ void ModifyForm::txtNote_Change()
 
 void ModifyForm::ShowFields(const ChannelFields& fields)
 {
-    txtFreq->setText(QString::fromStdString(fields.frequency));
+    txtFreq_->setText(QString::fromStdString(fields.frequency));
     opbWave_->Select(fields.mode);
     opbStep_->Select(fields.step);
     opbTone_->Select(fields.option);
@@ -198,7 +199,7 @@ void ModifyForm::ShowFields(const ChannelFields& fields)
     cbbAir_->setCurrentIndex(fields.carrier);
     cbbTxTone_->setCurrentIndex(fields.tone);
     opbSift_->Select(fields.shift);
-    txtShift->setText(QString::fromStdString(fields.shiftFrequency));
+    txtShift_->setText(QString::fromStdString(fields.shiftFrequency));
     // A note from a file may be longer than what may be typed; it must not lose its end here.
     const QString note = QString::fromStdString(fields.note);
     txtNote_->setMaxLength(std::max(kNoteLength, static_cast<int>(note.size())));
@@ -209,7 +210,7 @@ void ModifyForm::ShowFields(const ChannelFields& fields)
 
 ChannelFields ModifyForm::Fields() const
 {
-    return {.frequency = txtFreq->text().toStdString(),
+    return {.frequency = txtFreq_->text().toStdString(),
             .mode = opbWave_->Selected(),
             .step = opbStep_->Selected(),
             .option = opbTone_->Selected(),
@@ -217,25 +218,38 @@ ChannelFields ModifyForm::Fields() const
             .carrier = cbbAir_->currentIndex(),
             .tone = cbbTxTone_->currentIndex(),
             .shift = opbSift_->Selected(),
-            .shiftFrequency = txtShift->text().toStdString(),
+            .shiftFrequency = txtShift_->text().toStdString(),
             .note = txtNote_->text().toStdString(),
             .skip = chkSkip_->isChecked(),
             .enable = chkEnable_->isChecked()};
 }
 
-void ModifyForm::SetAvailable(bool isMemory, int region)
+void ModifyForm::ShowRow(const QString& kind, const QString& name, const QString& range)
+{
+    lblMode_->setText(kind);
+    lblCH_->setText(name);
+    lblMHz_->setText(range);
+    txtFreq_->setAccessibleDescription(range);
+}
+
+bool ModifyForm::IsHeld() const
+{
+    return chkHold_->isChecked();
+}
+
+void ModifyForm::SetAvailable(bool isMemory, const Region& region)
 {
     for (QWidget* control :
-         std::initializer_list<QWidget*>{lblNote_, txtNote_, chkSkip_, chkEnable_, chkHold})
+         std::initializer_list<QWidget*>{lblNote_, txtNote_, chkSkip_, chkEnable_, chkHold_})
         control->setVisible(isMemory);
     // The hint comes and goes while somebody types; its place must be in sight then.
     QSizePolicy place = lblNoteHint_->sizePolicy();
     place.setRetainSizeWhenHidden(isMemory);
     lblNoteHint_->setSizePolicy(place);
-    cbbSec_->setEnabled(HasSecretCode(region));
-    cbbAir_->setEnabled(HasCarrier(region));
-    opbTone_->Button(1)->setEnabled(HasSecretCode(region));
-    opbTone_->Button(2)->setEnabled(HasCarrier(region));
+    cbbSec_->setEnabled(region.hasSecretCode);
+    cbbAir_->setEnabled(region.hasCarrier);
+    opbTone_->Button(1)->setEnabled(region.hasSecretCode);
+    opbTone_->Button(2)->setEnabled(region.hasCarrier);
 }
 
 }  // namespace rqm5

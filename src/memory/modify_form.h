@@ -25,15 +25,19 @@ class ModifyForm : public QWidget
     ChannelFields Fields() const;
 
     /// Shows what a kind of row has, and disables what the model region does not have.
-    void SetAvailable(bool isMemory, int region);
+    void SetAvailable(bool isMemory, const Region& region);
 
-    QLabel* lblMode;
-    QLabel* lblCH;
-    QLabel* lblMHz;
-    QLineEdit* txtFreq;
-    QLineEdit* txtShift;
-    QCheckBox* chkHold;
-    QBoxLayout* lastRow;  ///< the check boxes, for the dialog to put below the form, before its buttons
+    /// The kind of row, its name and the frequencies that it takes.
+    void ShowRow(const QString& kind, const QString& name, const QString& range);
+
+    /// The next empty channel starts with the values confirmed here.
+    bool IsHeld() const;
+
+    QLineEdit* txtFreq() const { return txtFreq_; }
+    QLineEdit* txtShift() const { return txtShift_; }
+
+    /// The row of check boxes, for the dialog to put below the form.
+    QBoxLayout* TakeLastRow() const { return lastRow_; }
 
   private:
     QLayout* BuildTitle();
@@ -45,6 +49,13 @@ class ModifyForm : public QWidget
     void BuildChecks();
     void txtNote_Change();
 
+    QLabel* lblMode_;
+    QLabel* lblCH_;
+    QLabel* lblMHz_;
+    QLineEdit* txtFreq_;
+    QLineEdit* txtShift_;
+    QCheckBox* chkHold_;
+    QBoxLayout* lastRow_;
     OptionGroup* opbWave_;
     OptionGroup* opbStep_;
     OptionGroup* opbTone_;

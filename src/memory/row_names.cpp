@@ -1,43 +1,40 @@
 #include "memory/row_names.h"
 
+#include "memory/bank_layout.h"
+
 namespace rqm5 {
-namespace {
 
-std::string PlaceInBanks(const CloneImage& image, int row)
+std::string PlaceOfRow(const CloneImage& image, int row)
 {
-    int first = 0;
-    for (int bank = 0; bank < kBanks; ++bank) {
-        const int size = image.BankSize[static_cast<std::size_t>(bank)];
-        if (row < first + size)
-            return "Bank " + std::to_string(bank) + ", channel " + std::to_string(row - first);
-        first += size;
-    }
-    return "in no bank";
+    if (const RowGroup* group = GroupOfRow(row))
+        return std::string(group->spoken) + " " + LabelAmongAll(*group, row - group->rows.first);
+    const int bank = SelectorOfRow(image, row);
+    if (bank == kSelectAll)
+        return {};
+    return SelectorText(bank) + ", channel " + std::to_string(row - GroupRows(image, bank).first);
 }
-
-std::string Place(const CloneImage& image, int row)
-{
-    if (row < kProgramScanFirst)
-        return PlaceInBanks(image, row);
-    if (row < kSearchPassFirst)
-        return "Program Scan " + ProgramScanLabel(row - kProgramScanFirst).substr(1);
-    if (row < kPriorityFirst)
-        return "Search Pass S" + std::to_string(row - kSearchPassFirst);
-    if (row < kRadioRows)
-        return "Priority Pr" + std::to_string(row - kPriorityFirst);
-    return "not in the receiver";
-}
-
-}  // namespace
 
 std::string RowName(const CloneImage& image, int row)
 {
-    return "memory row " + std::to_string(row) + " (" + Place(image, row) + ")";
+    const std::string place = PlaceOfRow(image, row);
+    const char* nowhere = row < kRadioRows ? "in no bank" : "not in the receiver";
+    return "memory row " + std::to_string(row) + " (" + (place.empty() ? nowhere : place) + ")";
+}
+
+std::string RowLabel(const CloneImage& image, int row)
+{
+    const std::string place = PlaceOfRow(image, row);
+    return "Row " + std::to_string(row) + " (" + (place.empty() ? "no bank" : place) + ")";
 }
 
 std::string VfoRowName(int row)
 {
     return "VFO row " + std::to_string(row);
+}
+
+std::string RowName(const CloneImage& image, RowId id)
+{
+    return id.IsMemory() ? RowName(image, id.row) : VfoRowName(id.row);
 }
 
 }  // namespace rqm5

@@ -2,24 +2,24 @@
 
 namespace rqm5 {
 
-void BuildPassData(CloneImage& image)
+std::array<MemoryBlock, 7> PassData(const CloneImage& image)
 {
-    image.PassData.fill(MemoryBlock(std::string(kBlockChars, 'F')));
-    std::size_t next = 0;
-    for (int row = kSearchPassFirst; row < kPriorityFirst; ++row)
-        if (image.MemEnable[static_cast<std::size_t>(row)]) {
-            image.PassData[next / kBlockBytes].SetByte(next % kBlockBytes, row - kSearchPassFirst);
+    std::array<MemoryBlock, 7> blocks;
+    blocks.fill(MemoryBlock(std::string(kBlockChars, 'F')));
+    int next = 0;
+    for (int number = 0; number < kSearchPass.rows.count; ++number)
+        if (image.MemEnable(kSearchPass.rows.first + number)) {
+            blocks.at(static_cast<std::size_t>(next / kBlockBytes)).SetByte(next % kBlockBytes, number);
             ++next;
         }
+    return blocks;
 }
 
-bool IsSearchPassDuplicate(const CloneImage& image, double frequency, int row)
+bool IsSearchPassDuplicate(const CloneImage& image, std::int64_t hertz, int row)
 {
-    for (int i = kSearchPassFirst; i < kPriorityFirst; ++i) {
-        const auto index = static_cast<std::size_t>(i);
-        if (i != row && image.MemEnable[index] && image.MemData[index][kFrequency] == frequency)
+    for (int i = kSearchPass.rows.first; i <= kSearchPass.rows.Last(); ++i)
+        if (i != row && image.MemEnable(i) && image.MemData(i).frequency == hertz)
             return true;
-    }
     return false;
 }
 

@@ -1,7 +1,6 @@
 #include "memory/start_image.h"
 
 #include "image/fresh_image.h"
-#include "memory/bank_layout.h"
 #include "settings/settings_codec.h"
 #include "vfo/vfo_defaults.h"
 
@@ -10,11 +9,10 @@ namespace rqm5 {
 CloneImage StartUpImage(int model)
 {
     CloneImage image;
-    image.Settings.model = model;
+    image.Settings().model = model;
     BuildEmptyImage(image);
     ResetSettings(image);
     BuildVfoDefaults(image);
-    EncodeBankData(image);
     return image;
 }
 
@@ -23,8 +21,6 @@ void NewImage(CloneImage& image)
     ResetSettings(image);
     BuildVfoDefaults(image);
     ClearForNew(image);
-    EncodeBankData(image);
-    image.DataChanged = false;
 }
 
 }  // namespace rqm5

@@ -3,7 +3,8 @@
 #include <algorithm>
 
 #include "image/display_text.h"
-#include "memory/memory_cells.h"
+#include "memory/bank_layout.h"
+#include "memory/table_titles.h"
 #include "printing/text_columns.h"
 #include "settings/setting_texts.h"
 #include "vfo/vfo_cells.h"
@@ -27,11 +28,13 @@ ListingSection SettingsSection(const CloneImage& image)
 {
     ListingSection section{"Settings", "", {}};
     TextColumns columns("|");
-    const std::vector<SettingText> texts = SettingTexts(image.Settings);
-    for (const SettingText& text : texts)
-        columns.Fit({text.caption + ":", text.value});
-    for (const SettingText& text : texts)
-        std::ranges::copy(columns.Lines({text.caption + ":", text.value}), std::back_inserter(section.rows));
+    std::vector<Cells> table;
+    for (int setting = 0; setting < kSettingsInWords; ++setting) {
+        table.push_back({std::string(SettingCaption(setting)) + ":", SettingText(image.Settings(), setting)});
+        columns.Fit(table.back());
+    }
+    for (const Cells& cells : table)
+        std::ranges::copy(columns.Lines(cells), std::back_inserter(section.rows));
     return section;
 }
 
@@ -51,7 +54,7 @@ ListingSection VfoSection(const CloneImage& image)
     std::vector<Cells> table;
     for (int row = 0; row < kVfoRows; ++row) {
         Cells cells = {std::to_string(row)};
-        for (std::size_t column = 0; column < kTextColumns; ++column)
+        for (const Column column : kColumns)
             cells.push_back(VfoCell(image, row, column));
         columns.Fit(cells);
         table.push_back(std::move(cells));
@@ -62,8 +65,8 @@ ListingSection VfoSection(const CloneImage& image)
 std::string GroupTitle(const CloneImage& image, int group, const std::vector<MemoryEntry>& entries)
 {
     const auto used = std::ranges::count_if(
-        entries, [&image](const MemoryEntry& entry) { return HasChannel(image, entry.row); });
-    const bool isLinked = group < kBanks && image.BankLink.at(static_cast<std::size_t>(group));
+        entries, [&image](const MemoryEntry& entry) { return image.MemData(entry.row).HasChannel(); });
+    const bool isLinked = group < kBanks && image.BankLink(group);
     return SelectorText(group) + " (" + std::to_string(used) + " of " + std::to_string(entries.size()) +
            " rows used" + (isLinked ? ", linked)" : ")");
 }
@@ -85,7 +88,7 @@ MemoryGroup InNoBank(const CloneImage& image, bool skipEmpty)
 {
     MemoryGroup group{"In no bank", {}};
     for (int row = TotalBankSize(image); row < kBankRows; ++row)
-        if (!skipEmpty || HasChannel(image, row))
+        if (!skipEmpty || image.MemData(row).HasChannel())
             group.entries.push_back({row, std::to_string(row)});
     return group;
 }
@@ -96,12 +99,12 @@ std::vector<MemoryGroup> ChosenGroups(const CloneImage& image, const ListingChoi
         return {GroupOf(image, choice.group)};
     std::vector<MemoryGroup> groups;
     for (int bank = 0; bank < kBanks; ++bank)
-        if (image.BankSize.at(static_cast<std::size_t>(bank)) > 0)
+        if (image.BankSize(bank) > 0)
             groups.push_back(GroupOf(image, bank));
     if (MemoryGroup unreachable = InNoBank(image, choice.skipEmpty); !unreachable.entries.empty())
         groups.push_back(std::move(unreachable));
-    for (const int group : {kSelectProgramScan, kSelectSearchPass, kSelectPriority})
-        groups.push_back(GroupOf(image, group));
+    for (const RowGroup& group : kRowGroups)
+        groups.push_back(GroupOf(image, group.selector));
     return groups;
 }
 
@@ -109,11 +112,11 @@ std::vector<MemoryGroup> ChosenGroups(const CloneImage& image, const ListingChoi
 /// hardly ever enabled; marking it would only be noise.
 Cells MemoryCells(const CloneImage& image, const MemoryEntry& entry)
 {
-    const bool isOff =
-        HasChannel(image, entry.row) && !image.MemEnable.at(static_cast<std::size_t>(entry.row));
+    const Channel& row = image.MemData(entry.row);
+    const bool isOff = row.HasChannel() && !row.enabled;
     Cells cells = {entry.label, isOff ? "x" : ""};
-    for (std::size_t column = 0; column < kTextColumns; ++column)
-        cells.push_back(MemoryCell(image, entry.row, column));
+    for (const Column column : kColumns)
+        cells.push_back(CellText(row, RowKind::Memory, image.ModelNo(), column));
     return cells;
 }
 
@@ -125,7 +128,7 @@ void AddMemorySections(const CloneImage& image, const ListingChoice& choice, Lis
     for (const MemoryGroup& group : ChosenGroups(image, choice)) {
         std::vector<Cells>& table = tables.emplace_back(group.title, std::vector<Cells>()).second;
         for (const MemoryEntry& entry : group.entries) {
-            if (choice.skipEmpty && !HasChannel(image, entry.row))
+            if (choice.skipEmpty && !image.MemData(entry.row).HasChannel())
                 continue;
             table.push_back(MemoryCells(image, entry));
             columns.Fit(table.back());

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "image/clone_image.h"
-#include "memory/bank_layout.h"
 
 namespace rqm5 {
 

@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "printing/fixed_pitch_font.h"
+#include "fonts/fixed_pitch_font.h"
 #include "printing/grid_text.h"
 
 namespace rqm5 {

@@ -4,6 +4,7 @@
 #include <QPdfWriter>
 
 #include "files/file_store.h"
+#include "image/value_tables.h"
 
 namespace rqm5 {
 

@@ -7,6 +7,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "memory/bank_layout.h"
 #include "printing/listing_printer.h"
 
 namespace rqm5 {

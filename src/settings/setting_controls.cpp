@@ -2,16 +2,24 @@
 
 #include <QCheckBox>
 #include <QCoreApplication>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QRadioButton>
 #include <QSlider>
 
+#include "settings/setting_texts.h"
+
 namespace rqm5 {
 
-SettingControls::SettingControls(const char* context, CloneImage& image, QObject* parent)
-    : QObject(parent), context_(context), image_(image)
+SettingControls::SettingControls(const char* context, Document& document)
+    : context_(context), document_(document)
 {
+    connect(&document, &Document::Replaced, this, &SettingControls::Show);
+    connect(&document, &Document::Changed, this, [this](const ImageChange& change) {
+        if (!change.Settings.empty())
+            Show();
+    });
 }
 
 QString SettingControls::Text(const char* text) const
@@ -20,14 +28,17 @@ QString SettingControls::Text(const char* text) const
 }
 
 template <class T>
-void SettingControls::Store(T ReceiverSettings::*setting, T value)
+void SettingControls::Store(T ReceiverSettings::*setting, T value, int run)
 {
     // Showing a setting makes its control report the value that is there already.
-    if (image_.Settings.*setting == value)
+    if (document_.Image().Settings().*setting == value)
         return;
-    image_.Settings.*setting = value;
-    image_.DataChanged = true;
-    emit Edited();
+    const int index = SettingIndex(setting);
+    const std::string_view caption = SettingCaption(index);
+    const QString name = tr("%1: %2").arg(QString::fromUtf8(caption.data(), qsizetype(caption.size())),
+                                          QString::fromStdString(SettingValueText(index, value)));
+    document_.Edit(
+        name, [&](CloneImage& image) { image.Settings().*setting = value; }, run);
 }
 
 OptionGroup* SettingControls::Add(const OptionSetting& setting)
@@ -36,7 +47,8 @@ OptionGroup* SettingControls::Add(const OptionSetting& setting)
     for (const Option& option : setting.options)
         group->Button(option.value)->setStatusTip(Text(setting.tip));
     connect(group, &OptionGroup::Chosen, this, [this, setting](int value) { Store(setting.value, value); });
-    show_.emplace_back([this, group, setting] { group->Select(image_.Settings.*setting.value); });
+    show_.emplace_back(
+        [this, group, setting] { group->Select(document_.Image().Settings().*setting.value); });
     return group;
 }
 
@@ -46,7 +58,8 @@ QCheckBox* SettingControls::Add(const CheckSetting& setting)
     box->setObjectName(QLatin1String(setting.name));
     box->setStatusTip(Text(setting.tip));
     connect(box, &QCheckBox::toggled, this, [this, setting](bool on) { Store(setting.value, on); });
-    show_.emplace_back([this, box, setting] { box->setChecked(image_.Settings.*setting.value); });
+    show_.emplace_back(
+        [this, box, setting] { box->setChecked(document_.Image().Settings().*setting.value); });
     return box;
 }
 
@@ -63,18 +76,30 @@ void SettingControls::Add(const SliderSetting& setting, QGridLayout& grid)
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     label->setMinimumWidth(label->fontMetrics().horizontalAdvance(QStringLiteral("000")));
-    connect(slider, &QSlider::valueChanged, this, [this, label, setting](int value) {
+    EndRun(slider);
+    slider->installEventFilter(this);
+    connect(slider, &QSlider::sliderPressed, this, [this, slider] { EndRun(slider); });
+    connect(slider, &QSlider::sliderReleased, this, [this, slider] { EndRun(slider); });
+    connect(slider, &QSlider::valueChanged, this, [this, slider, label, setting](int value) {
         label->setText(QString::number(value));
-        Store(setting.value, value);
+        Store(setting.value, value, runs_[slider]);
     });
     show_.emplace_back([this, slider, label, setting] {
-        slider->setValue(image_.Settings.*setting.value);
+        slider->setValue(document_.Image().Settings().*setting.value);
         label->setText(QString::number(slider->value()));
     });
     const int row = grid.rowCount();
     grid.addWidget(caption, row, 0);
     grid.addWidget(slider, row, 1);
     grid.addWidget(label, row, 2);
+}
+
+/// Key presses at a slider are one run until the user leaves it.
+bool SettingControls::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FocusOut)
+        EndRun(watched);
+    return QObject::eventFilter(watched, event);
 }
 
 void SettingControls::Show()

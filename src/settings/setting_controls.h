@@ -2,9 +2,10 @@
 
 #include <QObject>
 #include <functional>
+#include <map>
 #include <vector>
 
-#include "image/clone_image.h"
+#include "document/document.h"
 #include "ui/option_group.h"
 
 class QBoxLayout;
@@ -43,15 +44,15 @@ struct SliderSetting
     const char* tip = "";
 };
 
-/// Builds settings controls from tables and keeps them and the settings equal: what the user changes goes
-/// into the settings at once, Show brings the settings into the controls.
+/// Builds settings controls from tables and keeps them and the settings equal: what the user changes is an
+/// edit of the document at once, and every change of a setting is shown.
 class SettingControls : public QObject
 {
     Q_OBJECT
 
   public:
     /// \param context  translation context of the texts in the tables
-    SettingControls(const char* context, CloneImage& image, QObject* parent);
+    SettingControls(const char* context, Document& document);
 
     OptionGroup* Add(const OptionSetting& setting);
     QCheckBox* Add(const CheckSetting& setting);
@@ -60,17 +61,17 @@ class SettingControls : public QObject
     /// Shows every setting. Nothing counts as an edit.
     void Show();
 
-  signals:
-    /// The user gave a setting another value.
-    void Edited();
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     template <class T>
-    void Store(T ReceiverSettings::*setting, T value);
+    void Store(T ReceiverSettings::*setting, T value, int run = 0);
+    void EndRun(const QObject* slider) { runs_[slider] = document_.NewRun(); }
     QString Text(const char* text) const;
 
     const char* context_;
-    CloneImage& image_;
+    Document& document_;
+    std::map<const QObject*, int> runs_;  ///< of each slider: the edits that are one step
     std::vector<std::function<void()>> show_;
 };
 

@@ -3,6 +3,7 @@
 #include <array>
 #include <string_view>
 
+#include "image/receiver_model.h"
 #include "image/value_tables.h"
 
 namespace rqm5 {
@@ -10,8 +11,6 @@ namespace {
 
 using Choices = std::array<std::string_view, 6>;
 
-constexpr Choices kNumber = {};
-constexpr Choices kModels = {"RQ-M5 J", "RQ-M5 E", "RQ-M5 T", "RQ-M5 K", "Sibling 1", "Sibling 2"};
 constexpr Choices kLamp = {"OFF", "5sec", "ON"};
 constexpr Choices kAutoPowerOff = {"Off", "30", "60", "90"};
 constexpr Choices kBugLevel = {"1", "2", "3", "4", "5"};
@@ -19,47 +18,35 @@ constexpr Choices kScanMode = {"Busy Scan", "Timer Scan"};
 constexpr Choices kKeyFunction = {"Push", "Hold"};
 constexpr Choices kMoniKey = {"Monitor", "Mute"};
 
-struct Row
+struct Words
 {
     std::string_view caption;
-    bool ReceiverSettings::*flag;
-    int ReceiverSettings::*value;
-    const Choices* choices;
+    const Choices* choices = nullptr;  ///< null for a number and for a check box
 };
 
-constexpr Row Switch(std::string_view caption, bool ReceiverSettings::*flag)
-{
-    return {caption, flag, nullptr, nullptr};
-}
-
-constexpr Row Value(std::string_view caption, int ReceiverSettings::*value, const Choices& choices = kNumber)
-{
-    return {caption, nullptr, value, &choices};
-}
-
-using S = ReceiverSettings;
-constexpr Row kRows[] = {
-    Value("Model", &S::model, kModels),
-    Value("Operating Mode", &S::operatingMode),
-    Value("Volume", &S::volume),
-    Value("Squelch", &S::squelch),
-    Value("Scan Mode", &S::scanMode, kScanMode),
-    Value("Lamp", &S::lamp, kLamp),
-    Value("Auto Power Off (minutes)", &S::autoPowerOff, kAutoPowerOff),
-    Value("Bug Sensitive Level", &S::bugLevel, kBugLevel),
-    Value("MONI Key Function", &S::keyFunction, kKeyFunction),
-    Value("MONI Key", &S::moniKey, kMoniKey),
-    Switch("Battery Save", &S::batterySave),
-    Switch("Keylock", &S::keyLock),
-    Switch("Write Protect", &S::writeProtect),
-    Switch("Beep", &S::beep),
-    Switch("Bell", &S::bell),
-    Switch("Attenuator", &S::attenuator),
-    Switch("Auto Step", &S::autoStep),
-    Switch("Earphone Antenna", &S::earphoneAntenna),
-    Switch("SW bar antenna", &S::barAntennaSw),
-    Switch("AM bar antenna", &S::barAntennaAm),
-};
+/// In the order of kSettingFields.
+constexpr std::array<Words, kSettingsInWords> kWords = {{
+    {"Model"},
+    {"Operating Mode"},
+    {"Volume"},
+    {"Squelch"},
+    {"Scan Mode", &kScanMode},
+    {"Lamp", &kLamp},
+    {"Auto Power Off (minutes)", &kAutoPowerOff},
+    {"Bug Sensitive Level", &kBugLevel},
+    {"MONI Key Function", &kKeyFunction},
+    {"MONI Key", &kMoniKey},
+    {"Battery Save"},
+    {"Keylock"},
+    {"Write Protect"},
+    {"Beep"},
+    {"Bell"},
+    {"Attenuator"},
+    {"Auto Step"},
+    {"Earphone Antenna"},
+    {"SW bar antenna"},
+    {"AM bar antenna"},
+}};
 
 /// The numbers of the operating modes have gaps, and a receiver may be in none of them.
 std::string OperatingModeText(int mode)
@@ -76,25 +63,37 @@ std::string OperatingModeText(int mode)
     }
 }
 
-std::string ValueText(const Row& row, const ReceiverSettings& settings)
+std::string_view ModelText(int model)
 {
-    if (row.flag)
-        return settings.*row.flag ? "on" : "off";
-    const int value = settings.*row.value;
-    if (row.value == &S::operatingMode)
-        return OperatingModeText(value);
-    const std::string_view name = TextAt(*row.choices, value);
-    return name.empty() ? std::to_string(value) : std::string(name);
+    const auto names = ModelNames();
+    const bool hasName = model >= 0 && model < static_cast<int>(names.size());
+    return hasName ? names[static_cast<std::size_t>(model)] : std::string_view();
 }
 
 }  // namespace
 
-std::vector<SettingText> SettingTexts(const ReceiverSettings& settings)
+std::string_view SettingCaption(int setting)
 {
-    std::vector<SettingText> texts;
-    for (const Row& row : kRows)
-        texts.push_back({std::string(row.caption), ValueText(row, settings)});
-    return texts;
+    return kWords.at(static_cast<std::size_t>(setting)).caption;
+}
+
+std::string SettingValueText(int setting, int value)
+{
+    const SettingField& field = kSettingFields.at(static_cast<std::size_t>(setting));
+    if (field.flag != nullptr)
+        return value != 0 ? "on" : "off";
+    if (field.value == &ReceiverSettings::operatingMode)
+        return OperatingModeText(value);
+    const Choices* choices = kWords.at(static_cast<std::size_t>(setting)).choices;
+    const std::string_view name = field.value == &ReceiverSettings::model ? ModelText(value)
+                                  : choices != nullptr                    ? TextAt(*choices, value)
+                                                                          : std::string_view();
+    return name.empty() ? std::to_string(value) : std::string(name);
+}
+
+std::string SettingText(const ReceiverSettings& settings, int setting)
+{
+    return SettingValueText(setting, kSettingFields.at(static_cast<std::size_t>(setting)).Get(settings));
 }
 
 }  // namespace rqm5

@@ -1,21 +1,22 @@
 #pragma once
 
 #include <string>
-#include <vector>
+#include <string_view>
 
 #include "image/receiver_settings.h"
 
 namespace rqm5 {
 
-/// A setting in words: its caption and what its value is called, e.g. "Lamp", "5sec". Check boxes are
-/// "on" or "off".
-struct SettingText
-{
-    std::string caption;
-    std::string value;
-};
+/// How many settings have words: all but the count that no page shows.
+inline constexpr int kSettingsInWords = kSettings - 1;
 
-/// Every setting, in the order of the settings pages.
-std::vector<SettingText> SettingTexts(const ReceiverSettings& settings);
+/// What a setting is called, by its place in kSettingFields: "Lamp".
+std::string_view SettingCaption(int setting);
+
+/// What a value of it is called: "5sec". Check boxes are "on" or "off".
+std::string SettingValueText(int setting, int value);
+
+/// What the value that it has is called.
+std::string SettingText(const ReceiverSettings& settings, int setting);
 
 }  // namespace rqm5

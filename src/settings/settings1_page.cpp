@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QRadioButton>
+#include <vector>
 
 #include "ui/transfer_buttons.h"
 #include "vfo/vfo_table.h"
@@ -10,11 +11,6 @@
 namespace rqm5 {
 namespace {
 
-constexpr Option kModels[] = {
-    {0, QT_TRANSLATE_NOOP("Settings", "RQ-M5 J")},   {1, QT_TRANSLATE_NOOP("Settings", "RQ-M5 E")},
-    {2, QT_TRANSLATE_NOOP("Settings", "RQ-M5 T")},   {3, QT_TRANSLATE_NOOP("Settings", "RQ-M5 K")},
-    {4, QT_TRANSLATE_NOOP("Settings", "Sibling 1")}, {5, QT_TRANSLATE_NOOP("Settings", "Sibling 2")},
-};
 constexpr int kFirstSibling = 4;
 constexpr int kLastSibling = 5;
 
@@ -29,13 +25,23 @@ constexpr Option kScanModes[] = {
     {1, QT_TRANSLATE_NOOP("Settings", "Timer Scan")},
 };
 
-constexpr OptionSetting kModel = {
-    "opbModel",
-    QT_TRANSLATE_NOOP("Settings", "Model"),
-    &ReceiverSettings::model,
-    kModels,
-    2,
-    QT_TRANSLATE_NOOP("Settings", "The receiver's model region: its bands, limits and presets")};
+/// The model names are the same in every language.
+OptionSetting ModelSetting()
+{
+    static const std::vector<Option> models = [] {
+        std::vector<Option> options;
+        for (const std::string_view name : ModelNames())
+            options.push_back({static_cast<int>(options.size()), name.data()});
+        return options;
+    }();
+    return {"opbModel",
+            QT_TRANSLATE_NOOP("Settings", "Model"),
+            &ReceiverSettings::model,
+            models,
+            2,
+            QT_TRANSLATE_NOOP("Settings", "The receiver's model region: its bands, limits and presets")};
+}
+
 constexpr OptionSetting kOperatingMode = {"opbOpMode",
                                           QT_TRANSLATE_NOOP("Settings", "Operating Mode"),
                                           &ReceiverSettings::operatingMode,
@@ -59,31 +65,29 @@ constexpr SliderSetting kSliders[] = {
 
 }  // namespace
 
-Settings1Page::Settings1Page(CloneImage& image, Dialogs& /*dialogs*/, QWidget* parent)
-    : QWidget(parent), controls_("Settings", image, nullptr), table_(nullptr)
+Settings1Page::Settings1Page(Document& document, QWidget* parent)
+    : QWidget(parent), controls_("Settings", document), table_(nullptr)
 {
     auto* page = new QVBoxLayout(this);
     page->addLayout(BuildOptions());
-    table_ = new VfoTable(image, this);
+    table_ = new VfoTable(document, this);
     auto* caption = new QLabel(tr("VFO &bands:"));
     caption->setBuddy(table_);
     page->addWidget(caption);
     page->addWidget(table_, 1);
     page->addLayout(BuildTransferRow());
 
-    connect(&controls_, &SettingControls::Edited, this, &Settings1Page::Edited);
     connect(table_, &VfoTable::RowChosen, this, [this](int tableRow) { emit ModifyRequested(tableRow - 1); });
-    ShowSettings();
+    controls_.Show();
 }
 
 QLayout* Settings1Page::BuildOptions()
 {
-    OptionGroup* model = controls_.Add(kModel);
+    OptionGroup* model = controls_.Add(ModelSetting());
     for (int sibling = kFirstSibling; sibling <= kLastSibling; ++sibling) {
         model->Button(sibling)->setEnabled(false);
         model->Button(sibling)->setToolTip(tr("A sibling model; kept when a file or receiver has it"));
     }
-    connect(model, &OptionGroup::Chosen, this, &Settings1Page::opbModel_Click);
 
     auto* sound = new QGroupBox(tr("Sound"));
     auto* sliders = new QGridLayout(sound);
@@ -109,14 +113,9 @@ QLayout* Settings1Page::BuildTransferRow()
     return buttons.row;
 }
 
-void Settings1Page::ShowSettings()
+void Settings1Page::GoToVfoRow(int row)
 {
-    controls_.Show();
-}
-
-void Settings1Page::UpdateVFOData()
-{
-    table_->UpdateVFOData();
+    table_->SelectTableRow(row + 1);
 }
 
 int Settings1Page::SelectedVfoRow() const
@@ -124,15 +123,13 @@ int Settings1Page::SelectedVfoRow() const
     return table_->CurrentTableRow();
 }
 
-void Settings1Page::SetTransferRunning(bool running)
+bool Settings1Page::Shows(int setting)
 {
-    setEnabled(!running);
-}
-
-void Settings1Page::opbModel_Click()
-{
-    UpdateVFOData();
-    emit RegionChanged();
+    using S = ReceiverSettings;
+    for (const auto shown : {&S::model, &S::operatingMode, &S::scanMode, &S::volume, &S::squelch})
+        if (setting == SettingIndex(shown))
+            return true;
+    return false;
 }
 
 }  // namespace rqm5

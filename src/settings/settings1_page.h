@@ -3,7 +3,6 @@
 #include <QWidget>
 
 #include "settings/setting_controls.h"
-#include "ui/dialogs.h"
 
 namespace rqm5 {
 
@@ -15,23 +14,18 @@ class Settings1Page : public QWidget
     Q_OBJECT
 
   public:
-    Settings1Page(CloneImage& image, Dialogs& dialogs, QWidget* parent);
+    Settings1Page(Document& document, QWidget* parent);
 
-    /// Shows the settings of the image.
-    void ShowSettings();
+    /// Makes a VFO row 0 to 13 the current one.
+    void GoToVfoRow(int row);
 
-    /// Shows the VFO rows of the image anew.
-    void UpdateVFOData();
+    /// True for the place in kSettingFields of a setting on this page.
+    static bool Shows(int setting);
 
     /// The current row of the VFO table, counted from 1.
     int SelectedVfoRow() const;
 
-    /// Disables the page while a transfer runs.
-    void SetTransferRunning(bool running);
-
   signals:
-    void Edited();
-    void RegionChanged();
     void ReadRequested();
     void WriteRequested();
     void ModifyRequested(int vfoRow);  ///< VFO row 0 to 13
@@ -39,7 +33,6 @@ class Settings1Page : public QWidget
   private:
     QLayout* BuildOptions();
     QLayout* BuildTransferRow();
-    void opbModel_Click();
 
     SettingControls controls_;
     VfoTable* table_;

@@ -80,19 +80,18 @@ constexpr CheckGroup kCheckGroups[] = {
         QT_TRANSLATE_NOOP("Settings", "Use the built-in bar antenna on medium wave")}}}},
 };
 
-constexpr int kColumns = 3;
+constexpr int kBoxColumns = 3;
 
 }  // namespace
 
-Settings2Page::Settings2Page(CloneImage& image, Dialogs& /*dialogs*/, QWidget* parent)
-    : QWidget(parent), controls_("Settings", image, nullptr)
+Settings2Page::Settings2Page(Document& document, QWidget* parent)
+    : QWidget(parent), controls_("Settings", document)
 {
     auto* page = new QVBoxLayout(this);
     auto* area = new TallArea(BuildSettings(), this);
     page->addWidget(area, 1);
     page->addLayout(BuildTransferRow());
-    connect(&controls_, &SettingControls::Edited, this, &Settings2Page::Edited);
-    ShowSettings();
+    controls_.Show();
 }
 
 QWidget* Settings2Page::BuildSettings()
@@ -102,7 +101,7 @@ QWidget* Settings2Page::BuildSettings()
     grid->setContentsMargins(0, 0, 0, 0);
     int place = 0;
     const auto add = [grid, &place](QWidget* box) {
-        grid->addWidget(box, place / kColumns, place % kColumns);
+        grid->addWidget(box, place / kBoxColumns, place % kBoxColumns);
         ++place;
     };
     for (const OptionSetting& setting : kOptionSettings)
@@ -116,7 +115,7 @@ QWidget* Settings2Page::BuildSettings()
         column->addStretch();
         add(box);
     }
-    for (int column = 0; column < kColumns; ++column)
+    for (int column = 0; column < kBoxColumns; ++column)
         grid->setColumnStretch(column, 1);
     grid->setRowStretch(grid->rowCount(), 1);
     return boxes;
@@ -130,16 +129,6 @@ QLayout* Settings2Page::BuildTransferRow()
     connect(buttons.read, &QPushButton::clicked, this, &Settings2Page::ReadRequested);
     connect(buttons.write, &QPushButton::clicked, this, &Settings2Page::WriteRequested);
     return buttons.row;
-}
-
-void Settings2Page::ShowSettings()
-{
-    controls_.Show();
-}
-
-void Settings2Page::SetTransferRunning(bool running)
-{
-    setEnabled(!running);
 }
 
 }  // namespace rqm5

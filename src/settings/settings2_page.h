@@ -3,7 +3,6 @@
 #include <QWidget>
 
 #include "settings/setting_controls.h"
-#include "ui/dialogs.h"
 
 namespace rqm5 {
 
@@ -13,16 +12,9 @@ class Settings2Page : public QWidget
     Q_OBJECT
 
   public:
-    Settings2Page(CloneImage& image, Dialogs& dialogs, QWidget* parent);
-
-    /// Shows the settings of the image.
-    void ShowSettings();
-
-    /// Disables the page while a transfer runs.
-    void SetTransferRunning(bool running);
+    Settings2Page(Document& document, QWidget* parent);
 
   signals:
-    void Edited();
     void ReadRequested();
     void WriteRequested();
 

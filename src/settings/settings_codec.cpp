@@ -6,14 +6,16 @@ namespace rqm5 {
 namespace {
 
 constexpr int kBlockMarker = 0xA5;
-constexpr std::size_t kModeByte = 4;
-constexpr std::size_t kCountByte = 2;
+constexpr int kModeByte = 4;
+constexpr int kCountByte = 2;
+constexpr int kBatteryByte = 3;
+constexpr int kFixedCount = 0x60;
 
 /// A setting that is the value of one byte.
 struct ByteField
 {
     int block;
-    std::size_t byte;
+    int byte;
     int highest;
     int repair;  ///< replaces a byte above the highest
     int ReceiverSettings::*value;
@@ -28,7 +30,7 @@ constexpr ByteField kByteFields[] = {
 /// A setting that is one bit of SetData2; bit position 1 is the most significant.
 struct BitField
 {
-    std::size_t byte;
+    int byte;
     int position;
     bool ReceiverSettings::*flag;
     int ReceiverSettings::*option;
@@ -46,7 +48,7 @@ constexpr BitField kBitFields[] = {
 };
 
 /// Operating modes by what the decoder accepts. A decoded Preset is written back as 11 hex while the
-/// encoder writes 0B; deliberate, for every file and receiver in use has it so.
+/// encoder writes 0B, because files and receivers in use hold both.
 struct OperatingMode
 {
     int option;
@@ -61,17 +63,17 @@ constexpr OperatingMode kOperatingModes[] = {
     {11, 0x11, 0x0B, {11, 12, 14, 16, 11, 11, 11, 11}},
 };
 
-void DecodeOperatingMode(CloneImage& image)
+/// \return the option that the byte means; the byte is normalised
+int DecodeOperatingMode(MemoryBlock& block)
 {
-    const int byte = image.SetData1.Byte(kModeByte);
+    const int byte = block.Byte(kModeByte);
     for (const OperatingMode& mode : kOperatingModes)
         if (std::find(mode.bytes.begin(), mode.bytes.end(), byte) != mode.bytes.end()) {
-            image.Settings.operatingMode = mode.option;
-            image.SetData1.SetByte(kModeByte, mode.decoded);
-            return;
+            block.SetByte(kModeByte, mode.decoded);
+            return mode.option;
         }
-    image.Settings.operatingMode = ReceiverSettings::kNoOption;
-    image.SetData1.SetByte(kModeByte, 0);
+    block.SetByte(kModeByte, 0);
+    return ReceiverSettings::kNoOption;
 }
 
 int EncodedOperatingMode(int option)
@@ -82,27 +84,39 @@ int EncodedOperatingMode(int option)
     return 0;
 }
 
-int RepairedByte(MemoryBlock& block, std::size_t byte, int highest, int repair)
+int RepairedByte(MemoryBlock& block, int byte, int highest, int repair)
 {
     if (block.Byte(byte) > highest)
         block.SetByte(byte, repair);
     return block.Byte(byte);
 }
 
-MemoryBlock EncodedSetData2(const ReceiverSettings& settings, const MemoryBlock& held)
+/// The settings that are whole bytes of a block, the first or the second.
+void EncodeBytes(const ReceiverSettings& settings, int number, MemoryBlock& block)
 {
-    MemoryBlock block("0000600000000000000000FFFFFFFFFF");
-    // The count byte belongs to the memory write. Only the first two models have a fixed value for it;
-    // the others keep what the block holds.
-    if (settings.model > 1 && held.HasByte(kCountByte))
-        block.SetByte(kCountByte, held.Byte(kCountByte));
-    block.SetByte(3, settings.batterySave ? 1 : 0);
+    for (const ByteField& field : kByteFields)
+        if (field.block == number)
+            block.SetByte(field.byte, settings.*field.value);
+}
+
+void EncodeBits(const ReceiverSettings& settings, MemoryBlock& block)
+{
     for (const BitField& field : kBitFields) {
         const bool isSet = field.flag != nullptr ? settings.*field.flag : settings.*field.option != 0;
         if (isSet)
             block.SetByte(field.byte, block.Byte(field.byte) | field.Mask());
     }
-    return block;
+}
+
+void DecodeBits(const MemoryBlock& block, ReceiverSettings& settings)
+{
+    for (const BitField& field : kBitFields) {
+        const bool isSet = block.Bit(field.byte, field.position);
+        if (field.flag != nullptr)
+            settings.*field.flag = isSet;
+        else
+            settings.*field.option = isSet ? 1 : 0;
+    }
 }
 
 }  // namespace
@@ -119,40 +133,47 @@ MemoryBlock DefaultSetData2()
     return MemoryBlock("0000600101000200482300FFFFFFFFFF");
 }
 
-void DecodeSettings(CloneImage& image)
+SettingsBlocks DecodeSettings(CloneImage& image, SettingsBlocks blocks)
 {
-    if (image.SetData1.Text().substr(0, 2) != HexByte(kBlockMarker))
-        image.SetData1 = DefaultSetData1(image.Settings.model);
+    ReceiverSettings& settings = image.Settings();
+    if (blocks.SetData1.Text().substr(0, 2) != HexByte(kBlockMarker))
+        blocks.SetData1 = DefaultSetData1(settings.model);
     for (const ByteField& field : kByteFields) {
-        MemoryBlock& block = field.block == 1 ? image.SetData1 : image.SetData2;
-        image.Settings.*field.value = RepairedByte(block, field.byte, field.highest, field.repair);
+        MemoryBlock& block = field.block == 1 ? blocks.SetData1 : blocks.SetData2;
+        settings.*field.value = RepairedByte(block, field.byte, field.highest, field.repair);
     }
-    DecodeOperatingMode(image);
-    image.Settings.batterySave = RepairedByte(image.SetData2, 3, 1, 0x01) != 0;
-    for (const BitField& field : kBitFields) {
-        const bool isSet = image.SetData2.Bit(field.byte, field.position);
-        if (field.flag != nullptr)
-            image.Settings.*field.flag = isSet;
-        else
-            image.Settings.*field.option = isSet ? 1 : 0;
-    }
+    settings.operatingMode = DecodeOperatingMode(blocks.SetData1);
+    settings.batterySave = RepairedByte(blocks.SetData2, kBatteryByte, 1, 0x01) != 0;
+    settings.passCount = blocks.SetData2.HasByte(kCountByte) ? blocks.SetData2.Byte(kCountByte) : kFixedCount;
+    DecodeBits(blocks.SetData2, settings);
+    return blocks;
 }
 
-void EncodeSettings(CloneImage& image)
+MemoryBlock SetData1(const CloneImage& image)
 {
-    const ReceiverSettings& settings = image.Settings;
-    image.SetData1 = DefaultSetData1(settings.model);
-    image.SetData2 = EncodedSetData2(settings, image.SetData2);
-    image.SetData1.SetByte(kModeByte, EncodedOperatingMode(settings.operatingMode));
-    for (const ByteField& field : kByteFields)
-        (field.block == 1 ? image.SetData1 : image.SetData2).SetByte(field.byte, settings.*field.value);
+    const ReceiverSettings& settings = image.Settings();
+    MemoryBlock block = DefaultSetData1(settings.model);
+    block.SetByte(kModeByte, EncodedOperatingMode(settings.operatingMode));
+    EncodeBytes(settings, 1, block);
+    return block;
+}
+
+MemoryBlock SetData2(const CloneImage& image)
+{
+    const ReceiverSettings& settings = image.Settings();
+    MemoryBlock block("0000600000000000000000FFFFFFFFFF");
+    // The count byte belongs to the memory write. Only the first two models have a fixed value for it;
+    // the others keep what came with the block.
+    block.SetByte(kCountByte, settings.model > 1 ? settings.passCount : kFixedCount);
+    block.SetByte(kBatteryByte, settings.batterySave ? 1 : 0);
+    EncodeBytes(settings, 2, block);
+    EncodeBits(settings, block);
+    return block;
 }
 
 void ResetSettings(CloneImage& image)
 {
-    image.SetData1 = DefaultSetData1(image.Settings.model);
-    image.SetData2 = DefaultSetData2();
-    DecodeSettings(image);
+    DecodeSettings(image, {DefaultSetData1(image.Settings().model), DefaultSetData2()});
 }
 
 }  // namespace rqm5

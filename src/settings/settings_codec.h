@@ -1,24 +1,36 @@
 #pragma once
 
 #include "image/clone_image.h"
+#include "image/memory_block.h"
 
 namespace rqm5 {
 
-/// Checks and repairs SetData1 and SetData2 and takes every setting from them into Settings.
-///
-/// Never refuses: a wrong block marker replaces the first block by the default of the selected model, an
-/// invalid byte is replaced in the block by its repair value.
-void DecodeSettings(CloneImage& image);
+/// The two settings blocks, 0040 and 0050.
+struct SettingsBlocks
+{
+    MemoryBlock SetData1;
+    MemoryBlock SetData2;
 
-/// Rebuilds SetData1 and SetData2 from Settings.
-void EncodeSettings(CloneImage& image);
+    friend bool operator==(const SettingsBlocks&, const SettingsBlocks&) = default;
+};
+
+/// Takes every setting from the blocks.
+///
+/// Never refuses: a wrong block marker replaces the first block by the default of the model selected so far,
+/// an invalid byte is replaced in the block by its repair value.
+/// \return the blocks with what was repaired
+SettingsBlocks DecodeSettings(CloneImage& image, SettingsBlocks blocks);
+
+/// The blocks that the settings make.
+MemoryBlock SetData1(const CloneImage& image);
+MemoryBlock SetData2(const CloneImage& image);
 
 /// The default first block for a model option: region byte 0, 1 or 2 for these options, 3 for any other.
 MemoryBlock DefaultSetData1(int model);
 
 MemoryBlock DefaultSetData2();
 
-/// Both blocks to their defaults for the selected model, and decoded.
+/// The settings to their defaults for the selected model.
 void ResetSettings(CloneImage& image);
 
 }  // namespace rqm5

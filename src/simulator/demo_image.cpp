@@ -1,15 +1,15 @@
 #include "simulator/demo_image.h"
 
-#include "image/channel_record.h"
+#include "image/channel_block.h"
+#include "image/number_text.h"
 #include "memory/start_image.h"
-#include "settings/settings_codec.h"
 
 namespace rqm5 {
 namespace {
 
-enum Mode { FM, AM, WFM };
-enum Option { Off = 0, Secret = 16, Carrier = 32, Tone = 48, Reverse = 64 };
-enum Shift { None = 0, Plus = 16, Minus = 32 };
+enum Mode : std::uint8_t { FM, AM, WFM };
+enum Option : std::uint8_t { Off = 0, Secret = 16, Carrier = 32, Tone = 48, Reverse = 64 };
+enum Shift : std::uint8_t { None = 0, Plus = 16, Minus = 32 };
 
 /// Channels one beside the other: `count` rows from `row` on, `spacing` MHz apart.
 struct Run
@@ -17,9 +17,9 @@ struct Run
     int row, count;
     double frequency, spacing;  ///< MHz
     Mode mode;
-    int step;  ///< step code
+    std::uint8_t step;  ///< step code
     Option option;
-    int tone;  ///< tone code
+    std::uint8_t tone;  ///< tone code
     Shift shift;
     double offset;  ///< MHz
 };
@@ -72,12 +72,18 @@ void AddRun(CloneImage& image, const Run& run)
     for (int i = 0; i < run.count; ++i) {
         const int row = run.row + i;
         const bool isBankRow = row < kBankRows;
-        const int option = run.option + (isBankRow && i % 5 == 3 ? kSkip : 0);
-        const MemoryBlock block = EncodeNumbers({run.frequency + i * run.spacing, double(run.mode),
-                                                 double(run.step), double(option), kSecretCode, kCarrierCode,
-                                                 double(run.tone + i % 3), double(run.shift), run.offset});
-        DecodeMemoryBlock(image, block, row);
-        image.MemEnable[static_cast<std::size_t>(row)] = !isBankRow || i % 6 != 4;
+        ChannelContents channel;
+        channel.frequency = Hertz(run.frequency + i * run.spacing);
+        channel.shiftFrequency = static_cast<std::int32_t>(Hertz(run.offset));
+        channel.mode = run.mode;
+        channel.step = run.step;
+        channel.option = static_cast<std::uint8_t>(run.option + (isBankRow && i % 5 == 3 ? kSkip : 0));
+        channel.secret = kSecretCode;
+        channel.carrier = kCarrierCode;
+        channel.tone = static_cast<std::uint8_t>(run.tone + i % 3);
+        channel.shift = run.shift;
+        DecodeMemoryBlock(image, EncodeChannel(channel), row);
+        image.MemData(row).enabled = !isBankRow || i % 6 != 4;
     }
 }
 
@@ -86,14 +92,14 @@ void AddBanks(CloneImage& image)
     int bank = 0;
     int left = kBankRows;
     for (const int size : kBankSizes) {
-        SetBankSize(image, bank++, size);
+        image.SetBankSize(bank++, size);
         left -= size;
     }
     for (; bank < kBanks; ++bank)
-        SetBankSize(image, bank, 0);
-    SetBankSize(image, kUnassigned, left);
-    for (const std::size_t linked : {0, 1, 4})
-        image.BankLink[linked] = true;
+        image.SetBankSize(bank, 0);
+    image.SetBankSize(kUnassigned, left);
+    for (const int linked : {0, 1, 4})
+        image.SetBankLink(linked, true);
 }
 
 }  // namespace
@@ -101,18 +107,17 @@ void AddBanks(CloneImage& image)
 CloneImage DemoImage(int region)
 {
     CloneImage image = StartUpImage(region);
-    image.Settings.volume = 22;
-    image.Settings.squelch = 2;
-    image.Settings.lamp = 2;
-    image.Settings.autoPowerOff = 2;
-    image.Settings.attenuator = true;
-    EncodeSettings(image);
+    image.Settings().volume = 22;
+    image.Settings().squelch = 2;
+    image.Settings().lamp = 2;
+    image.Settings().autoPowerOff = 2;
+    image.Settings().attenuator = true;
     AddBanks(image);
     for (const Run& run : kRuns)
         AddRun(image, run);
     for (const Run& run : kBroadcast[image.ModelNo()])
         AddRun(image, run);
-    image.VFOData[6][kFrequency] = 145.625;
+    image.VFOData(6).frequency = Hertz(145.625);
     DecodeVfoBlock(image, EncodeVfoRow(image, 6), 6);
     return image;
 }

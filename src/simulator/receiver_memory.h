@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "image/clone_image.h"
+#include "image/memory_block.h"
 
 namespace rqm5 {
 

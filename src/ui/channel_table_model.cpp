@@ -29,7 +29,7 @@ QVariant ChannelTableModel::data(const QModelIndex& index, int role) const
         return {};
     // Notes come from files: what they hold is shown, never obeyed, and no cell is wider than this.
     constexpr int kWidest = 400;
-    const std::string text = Cell(index.row(), static_cast<std::size_t>(index.column()));
+    const std::string text = Cell(index.row(), static_cast<Column>(index.column()));
     return QString::fromStdString(VisibleText(CutToWidth(text, kWidest)));
 }
 

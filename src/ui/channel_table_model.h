@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "image/channel.h"
+
 namespace rqm5 {
 
 /// A table of channel rows: ten text columns under their titles, a label before each row. Holds no
@@ -29,7 +31,7 @@ class ChannelTableModel : public QAbstractTableModel
     void ShowRows(std::vector<std::string> labels);
 
     /// The text of a cell, row from 0.
-    virtual std::string Cell(int row, std::size_t column) const = 0;
+    virtual std::string Cell(int row, Column column) const = 0;
 
   private:
     QStringList titles_;

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "printing/fixed_pitch_font.h"
+#include "fonts/fixed_pitch_font.h"
 
 namespace rqm5 {
 

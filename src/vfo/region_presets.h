@@ -1,22 +1,24 @@
 #pragma once
 
-#include <array>
-#include <string>
+#include <vector>
+
+#include "image/memory_block.h"
 
 namespace rqm5 {
 
 inline constexpr int kPresetVariants = 3;
-inline constexpr int kPresetEntries = 81;
 
-/// Complete write commands without their carriage return; unused entries are empty texts.
-using PresetTable = std::array<std::array<std::string, kPresetEntries>, kPresetVariants>;
+/// A block that the receiver keeps for its model region.
+struct PresetBlock
+{
+    int place;  ///< blocks behind the first one
+    MemoryBlock contents;
+};
 
-/// How many commands each variant has, from entry 0 on.
-inline constexpr std::array<int, kPresetVariants> kPresetCount = {68, 65, 74};
-
-/// Builds `PresetCmd`: the broadcast bands and the television sound carriers that the receiver keeps for
-/// its region from block 0560 on. The user never edits them and they are never read back.
-PresetTable InitPriset();
+/// `InitPriset`: the broadcast bands and the television sound carriers of a variant 0 to 2, in the order in
+/// which they are sent: 68, 65 or 74 blocks. The user never edits them and they are
+/// never read back.
+const std::vector<PresetBlock>& InitPriset(int variant);
 
 /// The variant that belongs to a model option: 0 for option 0, 1 for option 1, 2 for every other.
 int PresetVariant(int model);

@@ -1,26 +1,13 @@
 #include "vfo/vfo_cells.h"
 
 namespace rqm5 {
-namespace {
 
-bool IsShown(int region, int row, std::size_t column)
+std::string VfoCell(const CloneImage& image, int row, Column column)
 {
-    if (row >= BandCount(region))
-        return false;
-    if (column == kSecret)
-        return region == 1;
-    if (column == kCarrier)
-        return region == 0;
-    return true;
-}
-
-}  // namespace
-
-std::string VfoCell(const CloneImage& image, int row, std::size_t column)
-{
-    if (!IsShown(image.ModelNo(), row, column))
+    const int region = image.ModelNo();
+    if (row >= RegionOf(region).vfoBands)
         return "-";
-    return image.VFOText.at(static_cast<std::size_t>(row)).at(column);
+    return CellText(image.VFOData(row), RowKind::Vfo, region, column);
 }
 
 }  // namespace rqm5

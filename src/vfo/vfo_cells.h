@@ -10,9 +10,8 @@ namespace rqm5 {
 inline constexpr std::string_view kVfoTitles =
     "|Frequency|Mode|Step|Option|Scrt|Carrier|Tone|Shift|ShiftFreq.|Note";
 
-/// What the VFO table shows for VFO row 0 to 13 in text column 0 to 9: the stored text, or "-" for what
-/// the model region does not have (region 0 no secret code, the others no carrier, regions 2 and 3
-/// neither and only 8 bands).
-std::string VfoCell(const CloneImage& image, int row, std::size_t column);
+/// What the VFO table shows for VFO row 0 to 13: the text, or "-" for what the model region does not have
+/// and in the rows of bands that it lacks.
+std::string VfoCell(const CloneImage& image, int row, Column column);
 
 }  // namespace rqm5

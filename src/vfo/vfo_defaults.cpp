@@ -1,20 +1,21 @@
 #include "vfo/vfo_defaults.h"
 
-#include <string>
+#include <array>
 
 #include "image/number_text.h"
+#include "image/value_tables.h"
 
 namespace rqm5 {
 namespace {
 
-enum Mode { FM, AM, WFM };
+enum Mode : std::uint8_t { FM, AM, WFM };
 
 struct DefaultRow
 {
     double frequency;  ///< MHz
     Mode mode;
-    std::array<int, 2> step;  ///< step codes, in region 0 and elsewhere
-    double shift;             ///< MHz
+    std::array<std::uint8_t, 2> step;  ///< step codes, in region 0 and elsewhere
+    double shift;                      ///< MHz
 };
 
 // clang-format off
@@ -40,10 +41,11 @@ constexpr std::array<DefaultRow, 6> kLastRows = {{
 constexpr int kSecretCode = 8;
 constexpr int kToneCode = 8;
 
-const DefaultRow& RowFor(std::size_t row, int region)
+const DefaultRow& RowFor(int row, int bandPlan)
 {
-    const auto& first = region < 2 ? kFirstRowsJE : kFirstRowsTK;
-    return row < first.size() ? first[row] : kLastRows[row - first.size()];
+    const auto& first = bandPlan == 0 ? kFirstRowsJE : kFirstRowsTK;
+    const auto index = static_cast<std::size_t>(row);
+    return index < first.size() ? first[index] : kLastRows[index - first.size()];
 }
 
 }  // namespace
@@ -51,22 +53,18 @@ const DefaultRow& RowFor(std::size_t row, int region)
 void BuildVfoDefaults(CloneImage& image)
 {
     const int region = image.ModelNo();
-    for (std::size_t row = 0; row < image.VFOData.size(); ++row) {
-        const DefaultRow& from = RowFor(row, region);
-        const int step = from.step[region == 0 ? 0 : 1];
-        image.VFOData[row] = {from.frequency, double(from.mode), double(step), 0,
-                              kSecretCode,    kCarrierJr,        kToneCode,    0,
-                              from.shift};
-        image.VFOText[row] = {FormatMegahertz(from.frequency),
-                              std::string(TextAt(ModeName, from.mode)),
-                              std::string(TextAt(StepName, step)),
-                              std::string(OptionName[0]),
-                              std::to_string(kSecretCode),
-                              CarrierText(kCarrierJr),
-                              std::string(TextAt(ToneName, kToneCode)),
-                              std::string(ShiftName[0]),
-                              FormatMegahertz(from.shift),
-                              ""};
+    for (int row = 0; row < kVfoRows; ++row) {
+        const DefaultRow& from = RowFor(row, RegionOf(region).bandPlan);
+        Channel channel;
+        channel.blank = 0;
+        channel.frequency = Hertz(from.frequency);
+        channel.shiftFrequency = static_cast<std::int32_t>(Hertz(from.shift));
+        channel.mode = from.mode;
+        channel.step = from.step[region == 0 ? 0 : 1];
+        channel.secret = kSecretCode;
+        channel.carrier = kCarrierJr;
+        channel.tone = kToneCode;
+        image.VFOData(row) = channel;
     }
 }
 

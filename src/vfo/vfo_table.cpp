@@ -4,8 +4,9 @@
 
 namespace rqm5 {
 
-VfoTable::VfoTable(const CloneImage& image, QWidget* parent)
-    : ChannelTable({300, 1035, 480, 705, 555, 390, 675, 705, 540, 870, 2055}, parent), model_(image, nullptr)
+VfoTable::VfoTable(const Document& document, QWidget* parent)
+    : ChannelTable({300, 1035, 480, 705, 555, 390, 675, 705, 540, 870, 2055}, parent),
+      model_(document.Image(), nullptr)
 {
     setObjectName(QStringLiteral("MSFlexGrid2"));
     setAccessibleName(tr("VFO bands"));
@@ -13,6 +14,11 @@ VfoTable::VfoTable(const CloneImage& image, QWidget* parent)
     setModel(&model_);
     ChangeFont(*this);
     SelectTableRow(1);
+    connect(&document, &Document::Replaced, this, &VfoTable::UpdateVFOData);
+    connect(&document, &Document::Changed, this, [this](const ImageChange& change) {
+        if (change.HasVfoRows() || change.HasSetting(&ReceiverSettings::model))
+            UpdateVFOData();
+    });
 }
 
 void VfoTable::UpdateVFOData()

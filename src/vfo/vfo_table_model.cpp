@@ -19,7 +19,7 @@ void VfoTableModel::UpdateVFOData()
     ShowRows(std::move(labels));
 }
 
-std::string VfoTableModel::Cell(int row, std::size_t column) const
+std::string VfoTableModel::Cell(int row, Column column) const
 {
     return VfoCell(image_, row, column);
 }

@@ -16,7 +16,7 @@ class VfoTableModel : public ChannelTableModel
     void UpdateVFOData();
 
   protected:
-    std::string Cell(int row, std::size_t column) const override;
+    std::string Cell(int row, Column column) const override;
 
   private:
     const CloneImage& image_;

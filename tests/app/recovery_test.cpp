@@ -59,11 +59,10 @@ class RecoveryTest : public WindowTest
 TEST_F(RecoveryTest, EditsSurviveAKilledProgram)
 {
     const QString file = Path("radio.RQ5");
-    CloneImage image = StartUpImage(1);
-    ASSERT_FALSE(SaveCloneFile(file, image).problem);
+    ASSERT_FALSE(SaveCloneFile(file, StartUpImage(1)).problem);
     Crash(file);
     ASSERT_EQ(Kept().size(), 1);
-    image = StartUpImage(0);
+    CloneImage image;
     ASSERT_FALSE(LoadCloneFile(QDir(options_.stateFolder).filePath(Kept().constFirst()), image));
 
     options_.commandFile = file;
@@ -124,15 +123,15 @@ TEST_F(RecoveryTest, ProgramsAtWorkLeaveEachOtherAlone)
 TEST_F(RecoveryTest, WhatIsKeptCanAlwaysBeLoaded)
 {
     CloneImage image = StartUpImage(0);
-    image.MemText[3][kNote] = "a,b";
-    image.VFOText[2][kNote] = "\"x\"";
-    image.MemText[9][kNote] = "5\" rod";
+    image.MemData(3).note = "a,b";
+    image.VFOData(2).note = "\"x\"";
+    image.MemData(9).note = "5\" rod";
     CloneImage loaded;
     EXPECT_TRUE(ParseCloneFile(FormatCloneFile(image), loaded)) << "the reason why notes are mended";
     ASSERT_FALSE(ParseCloneFile(RecoveryText(image), loaded));
-    EXPECT_EQ(loaded.MemText[3][kNote], "a;b");
-    EXPECT_EQ(loaded.VFOText[2][kNote], "'x'");
-    EXPECT_EQ(loaded.MemText[9][kNote], "5\" rod");
+    EXPECT_EQ(loaded.MemData(3).note, "a;b");
+    EXPECT_EQ(loaded.VFOData(2).note, "'x'");
+    EXPECT_EQ(loaded.MemData(9).note, "5\" rod");
 }
 
 TEST_F(RecoveryTest, AFolderThatCannotBeWrittenIsToldAndTriedAgain)
@@ -183,7 +182,7 @@ class DoomedProgram : public WindowTest
         CloneImage image;
         for (const QString& name : ClonesIn(options_.stateFolder))
             if (!others_.contains(name) && !LoadCloneFile(QDir(options_.stateFolder).filePath(name), image))
-                return image.BankSize[0];
+                return image.BankSize(0);
         return -1;
     }
 

@@ -18,8 +18,7 @@ class SaveQuestion : public WindowTest
         place_ = place;
         dialogs_ = {};
         QFile::remove(Path("mine.RQ5"));
-        CloneImage other = StartUpImage(2);
-        ASSERT_FALSE(SaveCloneFile(Path("other.RQ5"), other).problem);
+        ASSERT_FALSE(SaveCloneFile(Path("other.RQ5"), StartUpImage(2)).problem);
         Start();
         EditSomething();
     }
@@ -76,6 +75,7 @@ TEST_F(SaveQuestion, EveryAnswerInEveryPlace)
             EXPECT_EQ(question.title, QStringLiteral("Save Changes"));
             EXPECT_EQ(question.text, QStringLiteral("Save changes to settings?"));
             EXPECT_EQ(question.buttons, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+            EXPECT_EQ(question.defaultButton, QMessageBox::Yes);
             EXPECT_EQ(HasHappened(), row.happens);
             EXPECT_EQ(QFile::exists(save), row.saves);
             EXPECT_TRUE(row.happens || StatusText("lblFileState") == QStringLiteral("Changed"));
@@ -112,7 +112,7 @@ TEST_F(WindowTest, AFileNamedFromAFolderIsThatFileFromEveryFolder)
     EditSomething();
     Item("mnuFileSave").trigger();
     EXPECT_FALSE(LoadCloneFile(Path("here.RQ5"), image));
-    EXPECT_EQ(image.Settings.scanMode, 1);
+    EXPECT_EQ(image.Settings().scanMode, 1);
 }
 
 TEST_F(WindowTest, SaveGoesToTheCurrentFileWhicheverItIs)
@@ -129,7 +129,7 @@ TEST_F(WindowTest, SaveGoesToTheCurrentFileWhicheverItIs)
     Item("mnuFileSave").trigger();
     CloneImage image;
     EXPECT_FALSE(LoadCloneFile(Path("b.csv"), image));
-    EXPECT_EQ(image.Settings.scanMode, 1);
+    EXPECT_EQ(image.Settings().scanMode, 1);
     EXPECT_EQ(dialogs_.choices.size(), 2U);
 }
 

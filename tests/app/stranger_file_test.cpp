@@ -15,9 +15,9 @@ constexpr char kShownNote[] = "=<b>x</b>\\x1B[2J\\u202E";
 TEST_F(WindowTest, AFileFromAStrangerIsShownAndNotObeyed)
 {
     CloneImage image = StartUpImage(0);
-    image.MemText[0][kNote] = kHostileNote;
-    image.MemText[1][kNote] = std::string(100000, 'x');
-    image.VFOText[0][kNote] = kHostileNote;
+    image.MemData(0).note = kHostileNote;
+    image.MemData(1).note = std::string(100000, 'x');
+    image.VFOData(0).note = kHostileNote;
     options_.commandFile = Path("<b>a\n[*].RQ5");
     ASSERT_FALSE(SaveCloneFile(options_.commandFile, image).problem);
     QFile port(options_.portFile);

@@ -1,18 +1,18 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTableView>
+#include <algorithm>
 
 #include "app/receiver_window_fixture.h"
 
 namespace rqm5 {
 namespace {
 
-/// Everything that starts a transfer, edits the image or replaces it.
-constexpr const char* kOffDuringTransfer[] = {
-    "mnuFileNew",  "mnuFileOpen",   "mnuFileSave", "mnuFileSaveAs", "mnuFileImport", "mnuReAll",
-    "mnuReMemory", "mnuReSettings", "mnuWrAll",    "mnuWrMemory",   "mnuWrSettings", "mnuToolsOptions",
-};
+/// Menu items that neither start a transfer nor edit or replace the image.
+constexpr const char* kOnDuringTransfer[] = {"mnuFileExit",    "mnuViewToolbar",     "mnuStatusBar",
+                                             "mnuViewHistory", "mnuViewDiagnostics", "mnuHelpContents"};
 constexpr const char* kControlsOff[] = {
     "opbModel_0", "Slider1",   "MSFlexGrid2", "cmbRxData1",   "cmbTxData1", "cmbTxData2",
     "cmbRxData2", "cbbBank",   "MSFlexGrid1", "cmbInsert",    "cmbRxData",  "cmbTxData",
@@ -27,21 +27,32 @@ class TransferTest : public ReceiverWindowTest
         dialogs_.onAsk = [this] { ExpectEverythingOff(); };
     }
 
+    /// Calls for every menu item with a name of its own.
+    void EachItem(const std::function<void(const QAction& item, const std::string& name)>& look)
+    {
+        for (const QAction* item : window_->findChildren<QAction*>())
+            if (item->objectName().startsWith(QStringLiteral("mnu")))
+                look(*item, item->objectName().toStdString());
+    }
+
     void ExpectEverythingOff()
     {
-        for (const char* name : kOffDuringTransfer)
-            EXPECT_FALSE(Item(name).isEnabled()) << name;
+        EachItem([](const QAction& item, const std::string& name) {
+            EXPECT_EQ(item.isEnabled(), std::ranges::count(kOnDuringTransfer, name) == 1) << name;
+        });
         for (const char* name : kControlsOff)
             EXPECT_FALSE(Find<QWidget>(name).isEnabled()) << name;
-        EXPECT_FALSE(Item("mnuEditUndo").isEnabled());
-        EXPECT_TRUE(Item("mnuFileExit").isEnabled());
+        EXPECT_FALSE(Find<QWidget>("lstHistory").isEnabled());
         EXPECT_TRUE(Find<QPushButton>("cmbCancel").isVisible());
     }
 
     void ExpectEverythingOn()
     {
-        for (const char* name : kOffDuringTransfer)
-            EXPECT_TRUE(Item(name).isEnabled()) << name;
+        EachItem([](const QAction& item, const std::string& name) {
+            const bool depends = name.starts_with("mnuHistory") || name == "mnuEditUndo";
+            EXPECT_TRUE(item.isEnabled() || depends) << name;
+        });
+        EXPECT_TRUE(Find<QWidget>("lstHistory").isEnabled());
         for (const char* name : kControlsOff) {
             const auto& control = Find<QWidget>(name);
             // The page of another tab is disabled as a whole; what is in it must be ready.
@@ -75,7 +86,7 @@ TEST_F(TransferTest, ReadAllShowsWhatTheReceiverHolds)
     EXPECT_TRUE(dialogs_.asked.empty());
     EXPECT_EQ(Find<QComboBox>("cbbBank").currentText(), QStringLiteral("All"));
     EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("Changed"));
-    EXPECT_EQ(MemoryText(1209, 0).toStdString(), demo_.MemText[1209][kFrequency]);
+    EXPECT_EQ(MemoryText(1209, 0).toStdString(), demo_.MemText(1209, kFrequency));
 }
 
 TEST_F(TransferTest, EveryMenuAndButtonMovesItsPartAndShowsItsPage)
@@ -114,9 +125,10 @@ TEST_F(TransferTest, WriteAllLeavesInTheReceiverWhatTheWindowShows)
     Item("mnuWrAll").trigger();
     EXPECT_TRUE(dialogs_.asked.empty());
     const CloneImage now = ImageFromMemory(receiver_.Memory(), CloneImage{});
-    EXPECT_EQ(now.Settings.scanMode, 1);
-    EXPECT_EQ(now.BankSize[49], size);
-    EXPECT_EQ(now.MemData, demo_.MemData);
+    EXPECT_EQ(now.Settings().scanMode, 1);
+    EXPECT_EQ(now.BankSize(49), size);
+    for (int row = 0; row < kRadioRows; ++row)
+        EXPECT_TRUE(now.MemData(row) == demo_.MemData(row)) << row;
 }
 
 TEST_F(TransferTest, CancelEndsItWithoutAMessageAndKeepsWhatCame)
@@ -130,12 +142,51 @@ TEST_F(TransferTest, CancelEndsItWithoutAMessageAndKeepsWhatCame)
         dialogs_.answers = {QMessageBox::No};
         Item("mnuFileNew").trigger();
         dialogs_.asked.clear();
-        At(20, way);
+        QSignalSpy drawn(Find<QTableView>("MSFlexGrid1").model(), &QAbstractItemModel::dataChanged);
+        At(20, [&] {
+            drawn.clear();
+            way();
+        });
         Item("mnuReMemory").trigger();
-        EXPECT_EQ(MemoryText(19, 0).toStdString(), demo_.MemText[19][kFrequency]);
+        EXPECT_FALSE(drawn.empty()) << "shown as well as kept";
+        EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("Changed"));
+        EXPECT_EQ(MemoryText(19, 0).toStdString(), demo_.MemText(19, kFrequency));
         EXPECT_EQ(MemoryText(30, 0), QString());
         EXPECT_TRUE(dialogs_.asked.empty());
         ExpectEverythingOn();
+    }
+}
+
+TEST_F(TransferTest, WhatHasArrivedIsAnUnsavedChangeAlsoWhenItIsNothingNew)
+{
+    struct
+    {
+        const char* control;
+        int failsAfter;  ///< so many commands; -1: it does not fail
+        const char* state;
+    } const cases[] = {
+        {"mnuReAll", -1, "Changed"},    {"mnuReMemory", -1, "Changed"}, {"mnuReSettings", -1, "Changed"},
+        {"cmbReadBank", -1, "Changed"}, {"mnuReSettings", 1, "Saved"},  {"mnuReSettings", 2, "Changed"},
+        {"cmbReadBank", 6, "Saved"},    {"cmbReadBank", 7, "Changed"},  {"mnuReMemory", 5, "Saved"},
+        {"mnuWrAll", -1, "Saved"},      {"mnuWrMemory", -1, "Saved"},   {"mnuWrSettings", 5, "Saved"},
+        {"cmbWriteBank", -1, "Saved"},
+    };
+    Item("mnuReAll").trigger();
+    dialogs_.onAsk = nullptr;
+    for (const auto& row : cases) {
+        SCOPED_TRACE(testing::Message() << row.control << " " << row.failsAfter);
+        dialogs_.files = {Path("kept.RQ5")};
+        Item("mnuFileSaveAs").trigger();
+        const QString step = Item("mnuHistoryUndo").text();
+        GoTo(Tab::Bank);
+        dialogs_.asked.clear();
+        if (row.failsAfter >= 0)
+            receiver_.SetFaults({{.kind = FaultKind::Garble, .count = 10, .after = row.failsAfter}});
+        Trigger(row.control);
+        receiver_.SetFaults({});
+        EXPECT_EQ(StatusText("lblFileState").toStdString(), row.state);
+        EXPECT_EQ(dialogs_.asked.size(), row.failsAfter >= 0 ? 1U : 0U);
+        EXPECT_EQ(Item("mnuHistoryUndo").text(), step) << "nothing has changed, so there is no step";
     }
 }
 

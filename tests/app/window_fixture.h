@@ -54,8 +54,12 @@ class WindowTest : public testing::Test
     QTabWidget& Tabs() { return Find<QTabWidget>("TabStrip1"); }
     QString StatusText(const char* label) { return Find<QLabel>(label).text(); }
 
-    /// Clicks a button of the page in front.
-    void Click(const char* name) { QTest::mouseClick(&Find<QAbstractButton>(name), Qt::LeftButton); }
+    /// Clicks a button of the page in front where one of any width reacts: at its left end.
+    void Click(const char* name)
+    {
+        auto& button = Find<QAbstractButton>(name);
+        QTest::mouseClick(&button, Qt::LeftButton, {}, {8, button.height() / 2});
+    }
 
     void GoTo(Tab tab)
     {
@@ -73,11 +77,18 @@ class WindowTest : public testing::Test
         QTest::keyClicks(&box, QLatin1String(size));
     }
 
+    /// Presses a key where the focus is.
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+    {
+        QWidget* focused = window_->focusWidget();
+        QTest::keyClick(focused != nullptr ? focused : window_.get(), key, modifiers);
+    }
+
     /// Makes an edit that needs no dialog: the scan mode.
     void EditSomething()
     {
         GoTo(Tab::Settings1);
-        QTest::mouseClick(&Find<QAbstractButton>("opbScanMode_1"), Qt::LeftButton);
+        Click("opbScanMode_1");
         ASSERT_EQ(StatusText("lblFileState"), QStringLiteral("Changed"));
     }
 

@@ -3,7 +3,7 @@
 
 #include "cli/command_run.h"
 #include "files/clone_file.h"
-#include "image/channel_record.h"
+#include "image/channel_block.h"
 #include "memory/start_image.h"
 #include "simulator/demo_image.h"
 
@@ -12,8 +12,7 @@ namespace {
 
 std::string DemoFile()
 {
-    CloneImage image = DemoImage(0);
-    return FormatCloneFile(image);
+    return FormatCloneFile(DemoImage(0));
 }
 
 void ExpectFailure(const Words& words, const char* begin, const std::string& part)
@@ -34,8 +33,7 @@ class FileCommands : public testing::Test
 TEST_F(FileCommands, NewWritesTheImageOfARegionAndReplacesOnlyWhenForced)
 {
     EXPECT_EQ(RunProgramFile({"new", "--region", "2", file}).status, 0);
-    CloneImage started = StartUpImage(2);
-    EXPECT_EQ(Bytes(file), FormatCloneFile(started));
+    EXPECT_EQ(Bytes(file), FormatCloneFile(StartUpImage(2)));
 
     const std::string before = Bytes(file);
     ExpectFailure({"new", file, "--empty"}, "File Open Error: ", "--force");
@@ -44,6 +42,9 @@ TEST_F(FileCommands, NewWritesTheImageOfARegionAndReplacesOnlyWhenForced)
     CloneImage emptied = StartUpImage(0);
     NewImage(emptied);
     EXPECT_EQ(Bytes(file), FormatCloneFile(emptied));
+    const std::string link = folder / "leads nowhere";
+    ASSERT_EQ(symlink("none", link.c_str()), 0);
+    ExpectFailure({"new", link}, "File Open Error: ", "--force");
 }
 
 TEST_F(FileCommands, RefuseWhatIsNoCloneFileAndSayWhy)
@@ -56,8 +57,11 @@ TEST_F(FileCommands, RefuseWhatIsNoCloneFileAndSayWhy)
         ExpectFailure({command, folder / "none.RQ5"}, "File Open Error: ", "none.RQ5");
     }
     ExpectFailure({"export", bad, folder / "out.csv"}, "Data Error: ", "4");
+    ExpectFailure({"diff", file, bad}, "Data Error: ", "4");
+    ExpectFailure({"check", "--", "--none"}, "File Open Error: ", "--none");
     EXPECT_EQ(access((folder / "out.csv").c_str(), F_OK), -1);
     ExpectFailure({"export", file, folder / "./a b\n\".RQ5"}, "File Open Error: ", "the same file");
+    ExpectFailure({"print", file, "--pdf", folder / "./a b\n\".RQ5"}, "File Open Error: ", "the same file");
     EXPECT_EQ(Bytes(file), DemoFile());
     ExpectFailure({"new", folder / "no/x.RQ5"}, "File Open Error: ", "x.RQ5");
     // Found out before anything is read from the port, which is not there.
@@ -99,9 +103,9 @@ TEST_F(FileCommands, ShowPrintsTheTableOfAGroupInColumns)
     CloneImage image = StartUpImage(1);
     for (const int row : {1200, 1201}) {
         DecodeMemoryBlock(image, MemoryBlock("01455000000000080000001000600000"), row);
-        image.MemText[static_cast<std::size_t>(row)][kNote] = row == 1200 ? "東京" : "x\x1b[2J";
+        image.MemData(row).note = row == 1200 ? "東京" : "x\x1b[2J";
     }
-    image.MemEnable[1200] = true;
+    image.MemData(1200).enabled = true;
     PutBytes(file, FormatCloneFile(image));
     const std::string out = RunProgramFile({"show", "--bank", "priority", file}).out;
     EXPECT_TRUE(
@@ -117,8 +121,9 @@ TEST_F(FileCommands, CheckSaysWhatAFileHoldsAndWarns)
 {
     CloneImage image = StartUpImage(3);
     DecodeMemoryBlock(image, MemoryBlock("01455000000000080000001000600000"), 205);
-    image.MemText[205][kNote] = "=1+1";
-    image.MemEnable[205] = image.BankLink[4] = true;
+    image.MemData(205).note = "=1+1";
+    image.MemData(205).enabled = true;
+    image.SetBankLink(4, true);
     std::string bytes = FormatCloneFile(image);
     PutBytes(file, bytes);
     const RunResult run = RunProgramFile({"check", file});
@@ -127,6 +132,7 @@ TEST_F(FileCommands, CheckSaysWhatAFileHoldsAndWarns)
                              "\nBank 1        150   1         1   1        1\n"})
         EXPECT_TRUE(Has(run.out, part)) << run.out;
     EXPECT_TRUE(Has(run.err, "formulas:\n  memory row 205") && !Has(run.err, "LF")) << run.err;
+    EXPECT_TRUE(Has(RunProgramFile({"export", file, folder / "out.csv"}).err, "formulas:\n  memory row 205"));
 
     std::erase(bytes, '\r');
     bytes.replace(bytes.find('\n') + 3, 1, "x");  // in the first block

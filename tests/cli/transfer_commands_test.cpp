@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <csignal>
 #include <future>
@@ -40,15 +41,17 @@ void ExpectOneLine(const RunResult& run, const std::string& message)
     EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
 }
 
-TEST_F(Transfers, APortThatCannotBeUsedIsNamedOncePerPart)
+TEST_F(Transfers, APortThatCannotBeUsedIsNamedOnce)
 {
     EXPECT_EQ(RunProgramFile({"new", file}).status, 0);
-    ExpectOneLine(RunProgramFile({"read", "--port", "/dev/no such", file}),
-                  "COM Port Error: /dev/no such: no such device. ");
-    const RunResult write = RunProgramFile({"write", "--port", "/dev/null", file});
-    EXPECT_EQ(write.status, 1);
-    EXPECT_TRUE(write.err.starts_with("COM Port Error: /dev/null: not a serial port")) << write.err;
-    EXPECT_TRUE(Has(write.err, "The memory is written next.\nCOM Port Error: ")) << write.err;
+    ExpectOneLine(RunProgramFile({"read", "--port", "/dev/no\x1bsuch", file}),
+                  "COM Port Error: /dev/no\\x1Bsuch: no such device. ");
+    const std::string pipe = folder / "pipe";
+    ASSERT_EQ(mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
+    const RunResult write = RunProgramFile({"write", "--port", pipe, file});
+    ExpectOneLine(write, "COM Port Error: " + pipe + ": not a serial port");
+    EXPECT_TRUE(Has(write.err, "Sent: nothing. Not sent: settings, VFO bands, region presets, bank sizes, "))
+        << write.err;
     EXPECT_FALSE(Has(write.err, "Refused")) << "nothing left the computer";
 }
 
@@ -78,7 +81,7 @@ TEST_F(Transfers, ReadChangeWriteAndVerifyTheWholeMemory)
 
 TEST_F(Transfers, MoveOnlyWhatIsAskedFor)
 {
-    CloneImage image = StartUpImage(0);
+    const CloneImage image = StartUpImage(0);
     PutBytes(file, FormatCloneFile(image));
     SimSession receiver(Demo());
     const ReceiverMemory before = receiver.Memory();
@@ -132,14 +135,27 @@ TEST_F(Write, WithoutABackupThatWasAskedForNothingIsWritten)
     }
 }
 
+TEST_F(Write, ThatFailedIsNotVerified)
+{
+    EXPECT_EQ(RunProgramFile({"new", file}).status, 0);
+    const SimSession receiver(Demo({{FaultKind::Ng, 10, 0, 7}}));
+    const RunResult run = Transfer("write", receiver, file, {"--only=settings", "--verify"});
+    ExpectOneLine(run, "Communication Error: Block 0C50");
+    EXPECT_EQ(receiver.CommandLog().size(), 17U);
+}
+
 TEST_F(Transfers, ComNumbersStandForDevices)
 {
     const SimSession receiver(Demo());
+    const std::string pipe = folder / "pipe";
+    ASSERT_EQ(mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
+    qputenv("RQM5_COM13", pipe.c_str());
     qputenv("RQM5_COM14", receiver.Device().toLocal8Bit());
     const std::string ports = RunProgramFile({"ports"}).out;
     EXPECT_TRUE(Has(ports, "COM 14  " + receiver.Device().toStdString())) << ports;
-    EXPECT_TRUE(Has(ports, "can be opened")) << ports;
+    EXPECT_TRUE(Has(ports, "can be opened") && Has(ports, pipe + "  not a serial port")) << ports;
     EXPECT_EQ(RunProgramFile({"raw", "--port", "14", "1000"}).status, 0);
+    qunsetenv("RQM5_COM13");
     qunsetenv("RQM5_COM14");
     EXPECT_EQ(receiver.CommandLog(), Words{"QT~F1000R"});
 }

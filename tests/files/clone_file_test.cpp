@@ -5,6 +5,7 @@
 #include <tuple>
 
 #include "files/clone_lines.h"
+#include "image/channel_block.h"
 #include "memory/start_image.h"
 #include "simulator/demo_image.h"
 
@@ -30,7 +31,7 @@ std::string Joined(const std::vector<std::string>& lines, const std::string& lin
 }
 
 /// The lines of an image's file, one of them replaced.
-std::string FileWith(CloneImage image, std::size_t line, const std::string& content)
+std::string FileWith(const CloneImage& image, std::size_t line, const std::string& content)
 {
     std::vector<std::string> lines = LinesOf(FormatCloneFile(image));
     lines[line] = content;
@@ -41,11 +42,11 @@ TEST(CloneFile, SavingWhatWasLoadedGivesTheSameBytes)
 {
     for (int region = 0; region < kRegions; ++region) {
         CloneImage image = DemoImage(region);
-        image.MemText[0][kNote] = "  led by blanks; it's 50 % \\ #\t\xE6\x9D\xB1";
+        image.MemData(0).note = "  led by blanks; it's 50 % \\ #\t\xE6\x9D\xB1";
         const std::string text = FormatCloneFile(image);
         CloneImage loaded;
         ASSERT_FALSE(ParseCloneFile(text, loaded)) << region;
-        EXPECT_TRUE(SameContents(image, loaded)) << region;
+        EXPECT_TRUE(image == loaded) << region;
         EXPECT_EQ(FormatCloneFile(loaded), text) << region;
     }
 }
@@ -53,10 +54,12 @@ TEST(CloneFile, SavingWhatWasLoadedGivesTheSameBytes)
 TEST(CloneFile, EveryLineHasItsPlace)
 {
     CloneImage image = StartUpImage(0);
-    image.MemEnable[0] = image.MemEnable[1239] = image.BankLink[55] = true;
-    image.VFOText[13][kNote] = "last band";
-    image.MemText[1239][kNote] = "last row";
-    image.MemData[1239] = {145, 0, 0, 0, 0, 0, 0, 16, 5};
+    image.MemData(0).enabled = true;
+    image.SetBankLink(55, true);
+    image.VFOData(13).note = "last band";
+    DecodeMemoryBlock(image, MemoryBlock("01450000000000000000001005000000"), 1239);
+    image.MemData(1239).note = "last row";
+    image.MemData(1239).enabled = true;
     const std::string file = FormatCloneFile(image);
     const std::vector<std::string> lines = LinesOf(file);
     ASSERT_EQ(lines.size(), 2530U);
@@ -94,30 +97,29 @@ TEST(CloneFile, RefusedFileLeavesTheImageUntouched)
     const CloneImage source = DemoImage(1), before = DemoImage(2);
     for (const auto& [line, content, blamed, reason] : refusals) {
         CloneImage image = before;
-        image.DataChanged = true;
         const auto error = ParseCloneFile(FileWith(source, line, content), image);
         ASSERT_TRUE(error) << content;
         EXPECT_EQ(error->line, blamed) << content;
         EXPECT_NE(error->reason.find(reason), std::string::npos) << error->reason;
-        EXPECT_TRUE(SameContents(image, before) && image.DataChanged) << content;
+        EXPECT_TRUE(image == before) << content;
     }
 }
 
 TEST(CloneFile, FileCutAnywhereIsRefused)
 {
-    CloneImage source = DemoImage(3);
+    const CloneImage source = DemoImage(3);
     const std::string text = FormatCloneFile(source);
     const CloneImage before = DemoImage(0);
     CloneImage image = before;
     for (std::size_t size = 0; size + 2 < text.size(); size += size < 100 ? 1 : 97)
         ASSERT_TRUE(ParseCloneFile(text.substr(0, size), image)) << size;
-    EXPECT_TRUE(SameContents(image, before));
+    EXPECT_TRUE(image == before);
     EXPECT_FALSE(ParseCloneFile(text.substr(0, text.size() - 2), image)) << "the last line may end the file";
 }
 
 TEST(CloneFile, ReadsOtherLineEndsAByteOrderMarkAndWhatFollowsTheEnd)
 {
-    CloneImage source = DemoImage(1);
+    const CloneImage source = DemoImage(1);
     const std::string text = FormatCloneFile(source);
     const std::string variants[] = {Joined(LinesOf(text), "\n"), Joined(LinesOf(text), "\r"),
                                     "\xEF\xBB\xBF" + text, text + "more,\"and more\"\r\n"};
@@ -142,8 +144,8 @@ TEST(CloneFile, NotesAreReadAsFields)
     for (const auto& [line, note] : cases) {
         CloneImage image;
         ASSERT_FALSE(ParseCloneFile(FileWith(StartUpImage(0), 1281, line), image)) << line;
-        EXPECT_EQ(image.MemText[0][kNote], note);
-        EXPECT_EQ(image.MemText[1][kNote], "");
+        EXPECT_EQ(image.MemText(0, kNote), note);
+        EXPECT_EQ(image.MemText(1, kNote), "");
     }
 }
 
@@ -152,37 +154,35 @@ TEST(CloneFile, BlocksKeepTheirPlacesBehindCharactersThatNoBlockHolds)
     const std::string block = std::string("0145\xE6\x9D\xB1") + "000000100000000000000000000";
     CloneImage image;
     ASSERT_FALSE(ParseCloneFile(FileWith(StartUpImage(0), 17, block), image));
-    EXPECT_EQ(image.MemText[0][kFrequency], "145.000000");
-    EXPECT_EQ(image.MemText[0][kMode], "AM");
+    EXPECT_EQ(image.MemText(0, kFrequency), "145.000000");
+    EXPECT_EQ(image.MemText(0, kMode), "AM");
 }
 
-TEST(CloneFile, LoadingKeepsWhatNoFileHolds)
+TEST(CloneFile, ASettingsBlockWithoutMarkerGivesTheSelectedModelsDefaults)
 {
     CloneImage image = StartUpImage(2);
-    image.PassData[0] = MemoryBlock("0102");
     const std::string noMarker = "0000FF8100060000FFFFFFFF00011E03";
     ASSERT_FALSE(ParseCloneFile(FileWith(StartUpImage(0), 1, noMarker), image));
-    EXPECT_EQ(image.SetData1.Text(), "A502FF8100060000FFFFFFFF00011E03") << "the selected model's default";
-    EXPECT_EQ(image.PassData[0], MemoryBlock("0102"));
+    EXPECT_EQ(LinesOf(FormatCloneFile(image))[1], "A502FF8100060000FFFFFFFF00011E03");
 }
 
 TEST(CloneFile, NamesTheNotesThatDoNotSurvive)
 {
     CloneImage image = StartUpImage(0);
-    image.VFOText[3][kNote] = "a,b";
-    image.MemText[12][kNote] = "\"quoted\"";
-    image.MemText[1105][kNote] = "two\nlines";
-    image.MemText[1000][kNote] = "\"a,b\"";
+    image.VFOData(3).note = "a,b";
+    image.MemData(12).note = "\"quoted\"";
+    image.MemData(1105).note = "two\r\nlines";
+    image.MemData(1000).note = "\"a,b\"";
     const std::vector<std::string> expected = {"VFO row 3", "memory row 12 (Bank 0, channel 12)",
                                                "memory row 1000 (Program Scan 0A)",
                                                "memory row 1105 (Search Pass S5)"};
     EXPECT_EQ(NotesThatDoNotSurvive(image), expected);
 
-    image.VFOText[3][kNote].clear();
+    image.VFOData(3).note.clear();
     CloneImage loaded;
     ASSERT_FALSE(ParseCloneFile(FormatCloneFile(image), loaded)) << "a line break must not break the file";
-    EXPECT_EQ(loaded.MemText[1105][kNote], "two lines");
-    EXPECT_EQ(loaded.MemText[1000][kNote], "a,b");
+    EXPECT_EQ(loaded.MemText(1105, kNote), "two  lines");
+    EXPECT_EQ(loaded.MemText(1000, kNote), "a,b");
 }
 
 }  // namespace

@@ -4,18 +4,21 @@
 
 #include <tuple>
 
-#include "image/channel_record.h"
+#include "image/channel_block.h"
+#include "image/row_texts.h"
 #include "memory/start_image.h"
 #include "simulator/demo_image.h"
 
 namespace rqm5 {
 namespace {
 
+using Texts = std::vector<std::string>;
+
 /// A record with one of its ten texts replaced.
-std::string Record(const std::string& keys, std::size_t column, const std::string& text,
+std::string Record(const std::string& keys, Column column, const std::string& text,
                    const std::string& skip = "#FALSE#")
 {
-    ChannelTexts texts = {"145.5", "FM", "5KHz", "OFF", "0", "300Hz", "67.0Hz", "OFF", "0.6", "note"};
+    Texts texts = {"145.5", "FM", "5KHz", "OFF", "0", "300Hz", "67.0Hz", "OFF", "0.6", "note"};
     texts[column] = text;
     std::string record = keys;
     for (const std::string& field : texts)
@@ -35,8 +38,8 @@ TEST(Csv, ExportWritesTheStoredTexts)
 {
     CloneImage image = StartUpImage(2);
     DecodeMemoryBlock(image, MemoryBlock("01455000000001180400001000600000"), 0);
-    image.MemEnable[0] = true;
-    image.MemText[0][kNote] = "a, \"b\"";
+    image.MemData(0).enabled = true;
+    image.MemData(0).note = "a, \"b\"";
     const std::string empty = R"(,"","","","","","","","","","","#FALSE#",#FALSE#)";
     const std::pair<int, std::string> expected[] = {
         {0, R"("MODEL","BANK","CHANNEL","FREQUENCY","MODE","STEP","OPTION","SECRET","TRAIN","TONE","SHIFT",)"
@@ -60,9 +63,10 @@ TEST(Csv, AnExportImportsAgain)
     const CloneImage image = DemoImage(1);
     CloneImage imported;
     EXPECT_EQ(ParseCsv(FormatCsv(image), imported), 1224);
-    EXPECT_EQ(imported.MemEnable, image.MemEnable);
-    for (std::size_t row = 0; row < kRadioRows; ++row)
-        EXPECT_EQ(imported.MemText[row][kFrequency], image.MemText[row][kFrequency]) << row;
+    for (int row = 0; row < kRadioRows; ++row) {
+        EXPECT_EQ(imported.MemEnable(row), image.MemEnable(row)) << row;
+        EXPECT_EQ(imported.MemText(row, kFrequency), image.MemText(row, kFrequency)) << row;
+    }
 }
 
 TEST(Csv, ImportFindsTheRowOfARecord)
@@ -85,7 +89,7 @@ TEST(Csv, ImportFindsTheRowOfARecord)
         EXPECT_EQ(ParseCsv(Record(keys, kNote, ""), image), row == kPassedOver ? 0 : 1) << keys;
         if (row != kPassedOver)
             ClearMemoryRow(image, row);
-        EXPECT_TRUE(SameContents(image, CloneImage())) << keys;
+        EXPECT_TRUE(image == CloneImage()) << keys;
     }
 }
 
@@ -108,10 +112,10 @@ TEST(Csv, ImportTurnsTextsBackOrKeepsWhatTheRowHad)
     };
     for (const auto& [column, text, number, shown] : cases) {
         CloneImage image;
-        image.MemData[3] = {433.25, 2, 18, 56, 5, 7, 9, 32, 7.6};
+        DecodeMemoryBlock(image, MemoryBlock("04332500000212380507092007600000"), 3);
         ASSERT_EQ(ParseCsv(Record("RQ-M5,MEMORY,3,", column, text), image), 1);
-        EXPECT_EQ(image.MemData[3][column], number) << text;
-        EXPECT_EQ(image.MemText[3][column], shown) << text;
+        EXPECT_EQ(NumberOf(image.MemData(3), column), number) << text;
+        EXPECT_EQ(image.MemText(3, column), shown) << text;
     }
 }
 
@@ -121,24 +125,24 @@ TEST(Csv, ImportKnowsSeveralFormsOfTrue)
         const bool isTrue = std::string_view(skip).find_first_of("tT") != std::string_view::npos;
         CloneImage image;
         ParseCsv(Record("RQ-M5,MEMORY,3,", kOption, "Tone", skip), image);
-        EXPECT_EQ(image.MemData[3][kOption], isTrue ? 56 : 48) << skip;
-        EXPECT_TRUE(image.MemEnable[3]);
+        EXPECT_EQ(image.MemData(3).option, isTrue ? 56 : 48) << skip;
+        EXPECT_TRUE(image.MemEnable(3));
     }
 }
 
 TEST(Csv, VfoRowsHaveTheirOwnOptionTextAndRowsWithoutFrequencyAreEmptied)
 {
     CloneImage image = DemoImage(1);
-    image.MemEnable[13] = false;
+    image.MemData(13).enabled = false;
     EXPECT_EQ(ParseCsv(Record("RQ-M5,VFO,13,", kOption, "Scrt"), image), 1);
-    EXPECT_EQ(image.VFOText[13][kOption] + image.VFOText[13][kNote], "SCRTnote");
-    EXPECT_EQ(image.VFOData[13][kOption], 16);
-    EXPECT_FALSE(image.MemEnable[13]);
+    EXPECT_EQ(image.VFOText(13, kOption) + image.VFOText(13, kNote), "SCRTnote");
+    EXPECT_EQ(image.VFOData(13).option, 16);
+    EXPECT_FALSE(image.MemEnable(13) || image.VFOData(13).enabled);
 
     EXPECT_EQ(ParseCsv(Record("RQ-M5,MEMORY,7,", kFrequency, ""), image), 1);
-    EXPECT_EQ(image.MemData[7], ChannelNumbers{});
-    EXPECT_EQ(image.MemText[7], (ChannelTexts{"", "", "", "", "", "", "", "", "", "note"}));
-    EXPECT_TRUE(image.MemEnable[7]);
+    EXPECT_EQ(EncodeMemoryRow(image, 7).Text(), std::string(32, '0'));
+    EXPECT_EQ(TextsOf(image.MemData(7)), (Texts{"", "", "", "", "", "", "", "", "", "note"}));
+    EXPECT_TRUE(image.MemEnable(7));
 }
 
 TEST(Csv, NotesComeInAsOneLine)
@@ -152,7 +156,7 @@ TEST(Csv, NotesComeInAsOneLine)
     for (const auto& [field, note] : cases) {
         CloneImage image;
         ASSERT_EQ(ParseCsv(Record("RQ-M5,MEMORY,0,", kNote, field), image), 1) << field;
-        EXPECT_EQ(image.MemText[0][kNote], note);
+        EXPECT_EQ(image.MemText(0, kNote), note);
     }
 }
 
@@ -166,8 +170,20 @@ TEST(Csv, WhatIsNoRecordChangesNothing)
     for (const std::string& text : texts) {
         CloneImage image = before;
         EXPECT_EQ(ParseCsv(text, image), 0) << text;
-        EXPECT_TRUE(SameContents(image, before)) << text;
+        EXPECT_TRUE(image == before) << text;
     }
+}
+
+TEST(Csv, NamesTheNotesThatASpreadsheetWouldRun)
+{
+    CloneImage image = StartUpImage(0);
+    image.VFOData(13).note = "=1+1";
+    for (int row = 0; const char* note : {"+1", "-1", "@x", "\tx", "＝1", "＋1", "－1", "＠x", " =1", "1=1"})
+        image.MemData(row++).note = note;
+    image.MemData(1209).note = image.MemData(1210).note = "=";  // no CSV holds the second
+    const Texts names = NotesThatLookLikeFormulas(image);
+    ASSERT_EQ(names.size(), 10U);
+    EXPECT_EQ(names.front() + ", " + names.back(), "VFO row 13, memory row 1209 (Priority Pr9)");
 }
 
 }  // namespace

@@ -18,9 +18,10 @@ TEST(MemoryBlock, TakesAnyTextWithoutReadingPastIt)
 TEST(MemoryBlock, ByteThatIsNotTwoHexDigitsReadsAsZero)
 {
     const MemoryBlock block("1Fa0G11G- 0x");
-    const int expected[] = {0x1F, 0xA0, 0, 0, 0, 0};
-    for (std::size_t i = 0; i < std::size(expected); ++i)
-        EXPECT_EQ(block.Byte(i), expected[i]) << "byte " << i;
+    for (int i = 0; const int expected : {0x1F, 0xA0, 0, 0, 0, 0}) {
+        EXPECT_EQ(block.Byte(i), expected) << "byte " << i;
+        ++i;
+    }
     EXPECT_THROW(static_cast<void>(block.Byte(16)), std::out_of_range);
 }
 
@@ -34,11 +35,13 @@ TEST(MemoryBlock, BitsOfABlockDoNotTakeLowerCase)
 TEST(FlagBits, DigitsThatAreNoneAreFourFlagsOff)
 {
     CloneImage image;
-    image.MemEnable.fill(true);
-    image.ExtraData[0] = MemoryBlock("fF?1");
-    DecodeExtraData(image);
-    for (std::size_t i = 0; i < 16; ++i)
-        EXPECT_EQ(image.MemEnable[i], (i >= 4 && i < 8) || i == 15) << i;
+    for (int row = 0; row < kMemoryRows; ++row)
+        image.MemData(row).enabled = true;
+    DecodeExtraData(image, std::vector<MemoryBlock>(10, MemoryBlock("fF?1")));
+    for (int row = 0; row < kMemoryRows; ++row) {
+        const int bit = row % 128;
+        EXPECT_EQ(image.MemEnable(row), (bit >= 4 && bit < 8) || bit == 15) << row;
+    }
 }
 
 }  // namespace

@@ -79,6 +79,19 @@ TEST(RadioLink, TakesTheLastThirtySixCharactersAsTheReply)
     };
     for (const auto& [what, pieces, reply] : kCases)
         EXPECT_EQ(Link(pieces).link.SendReadCommand(kRead), reply) << what;
+
+    Link babbling({std::string(100000, 'x'), kFrame});
+    EXPECT_EQ(babbling.link.SendReadCommand(kRead), kFrame);
+    EXPECT_LT(babbling.link.LastReceived().size(), 100000U);
+    Link prompt({});
+    bool hasWaited = false;
+    prompt.answers = [&](std::size_t) {
+        QTimer::singleShot(0, &prompt, [&] { hasWaited = true; });
+        prompt.pending = kFrame;
+        return Pieces{};
+    };
+    EXPECT_EQ(prompt.link.SendReadCommand(kRead), kFrame);
+    EXPECT_FALSE(hasWaited);
 }
 
 TEST(RadioLink, JudgesAnAcknowledgementByLengthAndEnd)
@@ -122,9 +135,9 @@ TEST(RetryRule, TriesABlockTenTimesUnlessItIsCancelled)
             return Pieces{attempt % goodAttempt == 0 ? kFrame : "bad"};
         };
         RecordingObserver observer;
-        const bool isGood = ReceiverReader(image, port.link, observer).ReadBank() == TransferResult::Done;
+        const bool isGood = ReceiverReader(image, port.link, observer).ReadBankPage() == TransferResult::Done;
         EXPECT_EQ(isGood, goodAttempt <= 10);
-        EXPECT_EQ(port.sent.size(), isGood ? 7 * goodAttempt : 10);
+        EXPECT_EQ(port.sent.size(), isGood ? 8 * goodAttempt : 10);
         EXPECT_EQ(observer.problems.size(), isGood ? 0U : 1U);
     }
     Link port({}, 60s);
@@ -133,8 +146,17 @@ TEST(RetryRule, TriesABlockTenTimesUnlessItIsCancelled)
         observer.cancelled = true;
         port.link.Cancel();
     });
-    EXPECT_EQ(ReceiverReader(image, port.link, observer).ReadBank(), TransferResult::Cancelled);
+    EXPECT_EQ(ReceiverReader(image, port.link, observer).ReadBankPage(), TransferResult::Cancelled);
     EXPECT_TRUE(port.sent.size() == 1 && observer.problems.empty());
+
+    Link silent({}, 2ms);
+    RecordingObserver impatient;
+    silent.answers = [&](std::size_t attempt) {
+        impatient.cancelled = attempt == 10;
+        return Pieces{};
+    };
+    EXPECT_EQ(ReceiverReader(image, silent.link, impatient).ReadBankPage(), TransferResult::Cancelled);
+    EXPECT_TRUE(silent.sent.size() == 10 && impatient.problems.empty());
 }
 
 }  // namespace

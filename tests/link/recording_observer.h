@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <functional>
 #include <set>
 #include <utility>
@@ -22,22 +21,17 @@ struct RecordingObserver : TransferObserver
         if (++done == changeAfter)
             afterBlock();
     }
-    void BlockFailed(int address, bool) override { failed.push_back(address); }
-    void Refresh(Changed what) override { refreshed.push_back(what); }
+    void GroupChosen(int selector) override { groups.push_back(selector); }
+    void Stored() override { ++stores; }
     void Message(const Problem& problem) override { problems.push_back(problem); }
     bool IsCancelled() override { return cancelled || done == cancelAfter; }
 
-    bool Refreshed(Changed what) const
-    {
-        return std::find(refreshed.begin(), refreshed.end(), what) != refreshed.end();
-    }
-
-    std::vector<int> maxima, failed;
+    std::vector<int> maxima, groups;
     std::set<int> read, written;  ///< addresses of blocks that were done
     std::vector<std::pair<int, int>> moves;
-    std::vector<Changed> refreshed;
     std::vector<Problem> problems;
     int ends = 0;
+    int stores = 0;        ///< parts of what was read that could be shown
     int done = 0;          ///< blocks
     int cancelAfter = -1;  ///< blocks
     int changeAfter = -1;  ///< blocks, after which the next is called

@@ -12,6 +12,16 @@
 
 namespace rqm5 {
 
+/// Scopes of a transfer.
+inline constexpr TransferScope kEverything{};
+inline constexpr TransferScope kSettingsOnly{.memory = false};
+inline constexpr TransferScope kBanksOnly{.settings = false, .memory = false, .banks = true};
+
+constexpr TransferScope MemoryOf(int selector)
+{
+    return {.settings = false, .selector = selector};
+}
+
 /// A simulated receiver, an image, and everything between them.
 struct SimulatedLine
 {
@@ -41,13 +51,17 @@ struct SimulatedLine
         observer.afterBlock = [this] { Spoil("silent:10", std::chrono::milliseconds(5)); };
     }
 
+    TransferResult Write(const TransferScope& scope)
+    {
+        return ReceiverWriter(image, scope, link, observer).Write();
+    }
+
     SimSession receiver;
     QtSerialPort port;
     RadioLink link{port};
     CloneImage image;
     RecordingObserver observer;
     ReceiverReader reader{image, link, observer};
-    ReceiverWriter writer{image, link, observer};
 };
 
 }  // namespace rqm5

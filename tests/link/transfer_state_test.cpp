@@ -11,7 +11,16 @@ using namespace std::chrono_literals;
 constexpr int kTables = 18;          ///< blocks that a memory read transfers before its channels
 constexpr int kSettingsBlocks = 16;  ///< blocks that a whole settings read transfers
 
-TEST(MemoryRead, KeepsWhatCameBeforeAFailureOrACancelAndShowsItOnlyAfterACancel)
+/// Switches the flags of these rows.
+void EnableRows(CloneImage& image, RowRange rows, bool isEnabled)
+{
+    for (int row = rows.first; row <= rows.Last(); ++row)
+        image.MemData(row).enabled = isEnabled;
+}
+
+constexpr RowRange kAllRows{0, kMemoryRows};
+
+TEST(MemoryRead, KeepsWhatCameBeforeAFailureOrACancel)
 {
     for (const bool fails : {true, false}) {
         SimulatedLine line(DemoImage(0));
@@ -19,14 +28,12 @@ TEST(MemoryRead, KeepsWhatCameBeforeAFailureOrACancelAndShowsItOnlyAfterACancel)
             line.SilenceAfter(kTables + 2);
         else
             line.observer.cancelAfter = kTables + 2;
-        line.image.MemText[1002][kFrequency] = "as it was";
+        line.image.MemData(1002).frequency = 1;
         EXPECT_EQ(line.reader.ReadMemory(50), fails ? TransferResult::Failed : TransferResult::Cancelled);
-        EXPECT_EQ(line.image.MemText[1001][kFrequency], "136.000000");
-        EXPECT_EQ(line.image.MemText[1002][kFrequency], "as it was");
-        EXPECT_EQ(line.image.DataChanged, !fails);
-        EXPECT_EQ(line.observer.Refreshed(Changed::Memory), !fails);
+        EXPECT_EQ(line.image.MemText(1001, kFrequency), "136.000000");
+        EXPECT_EQ(line.image.MemData(1002).frequency, 1);
+        EXPECT_TRUE(line.reader.HasStored());
         EXPECT_EQ(line.observer.ends, 1);
-        EXPECT_EQ(line.observer.failed, fails ? std::vector<int>{0x4EA0} : std::vector<int>());
         ASSERT_EQ(line.observer.problems.size(), fails ? 1U : 0U);
         for (const Problem& problem : line.observer.problems)
             for (const char* part : {"4EA0", "10 attempts", "sent nothing", "clone mode"})
@@ -37,21 +44,22 @@ TEST(MemoryRead, KeepsWhatCameBeforeAFailureOrACancelAndShowsItOnlyAfterACancel)
 TEST(MemoryRead, FlagsChangeOnlyWhenAllTenBlocksHaveArrivedAndAnEmptyRowLosesItsNoteAndFlag)
 {
     CloneImage held = DemoImage(0);
-    ASSERT_TRUE(HasChannel(held, 1200) && !HasChannel(held, 1203));
-    held.MemEnable[1203] = true;  // enabled without a channel
-    held.MemEnable[1150] = true;  // the same, but outside of what is read
+    ASSERT_TRUE(held.MemData(1200).HasChannel() && !held.MemData(1203).HasChannel());
+    held.MemData(1203).enabled = true;  // enabled without a channel
+    held.MemData(1150).enabled = true;  // the same, but outside of what is read
     SimulatedLine line(held);
-    line.image.MemText[1200][kNote] = line.image.MemText[1203][kNote] = "note";
-    const auto flags = line.image.MemEnable;
+    line.image.MemData(1200).note = line.image.MemData(1203).note = "note";
+    const CloneImage before = line.image;
     line.SilenceAfter(9);
     EXPECT_EQ(line.reader.ReadMemory(52), TransferResult::Failed);
-    EXPECT_EQ(line.image.MemEnable, flags);
+    EXPECT_TRUE(line.image == before);
+    EXPECT_FALSE(line.reader.HasStored());
 
     line.link.SetTimeOut(RadioLink::kTimeOut);
     EXPECT_EQ(line.reader.ReadMemory(52), TransferResult::Done);
-    EXPECT_EQ(line.image.MemText[1200][kNote], "note");
-    EXPECT_EQ(line.image.MemText[1203], ChannelTexts());
-    EXPECT_TRUE(!line.image.MemEnable[1203] && line.image.MemEnable[1150]);
+    EXPECT_EQ(line.image.MemData(1200).note, "note");
+    EXPECT_TRUE(line.image.MemData(1203) == Channel());
+    EXPECT_TRUE(line.image.MemEnable(1200) && line.image.MemEnable(1150));
 }
 
 TEST(MemoryRead, TheBarFollowsTheSizesThatTheReceiverHas)
@@ -61,37 +69,47 @@ TEST(MemoryRead, TheBarFollowsTheSizesThatTheReceiverHas)
     EXPECT_EQ(line.reader.ReadMemory(6), TransferResult::Done);
     EXPECT_EQ(line.observer.maxima, (std::vector{79, 29}));
     EXPECT_EQ(line.observer.moves.back(), std::pair(29, 409));
-    EXPECT_EQ(line.observer.refreshed,
-              (std::vector{Changed::BankLayout, Changed::BankLinks, Changed::Memory}));
+    EXPECT_EQ(line.observer.stores, 3);  // flags, sizes, links
 }
 
-TEST(SettingsRead, DecodesTheBlocksAndTellsWhatChanged)
+TEST(SettingsRead, DecodesTheBlocksAndTellsWhenTheyMayBeShown)
 {
-    SimulatedLine line(DemoImage(2));
+    // As it comes back: with the count of Search Pass channels.
+    const CloneImage held = ImageFromMemory(MemoryFromImage(DemoImage(2)), {});
+    SimulatedLine line(held);
     line.image = StartUpImage(0);
+    line.observer.cancelAfter = 1;
+    EXPECT_EQ(line.reader.ReadSettings(), TransferResult::Cancelled);
+    EXPECT_FALSE(line.reader.HasStored());
+    line.observer = {};
     line.SilenceAfter(5);
     EXPECT_EQ(line.reader.ReadSettings(), TransferResult::Failed);
-    EXPECT_EQ(line.observer.refreshed, std::vector{Changed::Settings});
-    EXPECT_EQ(line.image.Settings, DemoImage(2).Settings);
-    EXPECT_FALSE(line.image.DataChanged);
+    EXPECT_EQ(line.observer.stores, 1);
+    EXPECT_TRUE(line.image.Settings() == held.Settings());
+    EXPECT_TRUE(line.reader.HasStored());
     line.link.SetTimeOut(RadioLink::kTimeOut);
     EXPECT_EQ(line.reader.ReadSettings(), TransferResult::Done);
-    EXPECT_EQ(line.image.VFOText, DemoImage(2).VFOText);
-    EXPECT_TRUE(line.image.DataChanged && line.observer.Refreshed(Changed::Vfo));
+    for (int row = 0; row < kVfoRows; ++row)
+        EXPECT_TRUE(line.image.VFOData(row) == held.VFOData(row)) << row;
+    EXPECT_EQ(line.observer.stores, 3);
 }
 
 TEST(MemoryWrite, KeepsTheReceiversFlagsOutsideTheGroup)
 {
     CloneImage held = DemoImage(0);
-    held.MemEnable.fill(false);
-    held.MemEnable[99] = held.MemEnable[150] = held.MemEnable[1239] = true;
+    EnableRows(held, kAllRows, false);
+    for (const int row : {99, 150, 1239})
+        held.MemData(row).enabled = true;
     SimulatedLine line(held);
     line.image = DemoImage(0);
-    line.image.MemEnable.fill(true);
-    EXPECT_EQ(line.writer.WriteMemory(2), TransferResult::Done);
-    std::fill_n(held.MemEnable.begin() + 100, 100, true);
-    EXPECT_EQ(line.image.MemEnable, held.MemEnable);
-    EXPECT_EQ(ImageFromMemory(line.receiver.Memory(), {}).MemEnable, held.MemEnable);
+    EnableRows(line.image, kAllRows, true);
+    ReceiverWriter writer(line.image, MemoryOf(2), line.link, line.observer);
+    EXPECT_EQ(writer.Write(), TransferResult::Done);
+    EnableRows(held, {100, 100}, true);
+    EXPECT_TRUE(writer.Written() == held);
+    const CloneImage after = ImageFromMemory(line.receiver.Memory(), {});
+    for (int row = 0; row < kMemoryRows; ++row)
+        EXPECT_EQ(after.MemEnable(row), held.MemEnable(row)) << row;
 }
 
 TEST(MemoryWrite, ListsTheSearchPassRowsAndPatchesTheirCountIntoTheBlockOfTheReceiver)
@@ -101,34 +119,42 @@ TEST(MemoryWrite, ListsTheSearchPassRowsAndPatchesTheirCountIntoTheBlockOfTheRec
     memory.At(0x0050) = MemoryBlock("0102030405060708090A0B0C0D0E0F10");
     line.receiver.SetMemory(memory);
     line.image = DemoImage(0);
-    EXPECT_EQ(line.writer.WriteMemory(52), TransferResult::Done);
+    EXPECT_EQ(line.Write(MemoryOf(52)), TransferResult::Done);
     EXPECT_EQ(line.receiver.Memory().At(0x0050), memory.At(0x0050));
-    line.image.MemEnable[1100] = false;
-    EXPECT_EQ(line.writer.WriteMemory(51), TransferResult::Done);
+    line.image.MemData(1100).enabled = false;
+    EXPECT_EQ(line.Write(MemoryOf(51)), TransferResult::Done);
     EXPECT_EQ(line.receiver.Memory().At(0x0050).String(), "0102080405060708090A0B0C0D0E0F10");
     EXPECT_EQ(line.receiver.Memory().At(0x0280).String(), "0102030405061415FFFFFFFFFFFFFFFF");
-    std::fill_n(line.image.MemEnable.begin() + 1100, 100, true);
-    EXPECT_EQ(line.writer.WriteMemory(51), TransferResult::Done);
+    EnableRows(line.image, kSearchPass.rows, true);
+    EXPECT_EQ(line.Write(MemoryOf(51)), TransferResult::Done);
     EXPECT_EQ(line.receiver.Memory().At(0x0050).Byte(2), 100);
     EXPECT_EQ(line.receiver.Memory().At(0x02E0).String(), "60616263FFFFFFFFFFFFFFFFFFFFFFFF");
 }
 
-TEST(AllOperations, TheSecondPartRunsAfterAFailureButNotAfterACancel)
+TEST(AllOperations, AReadGoesOnAfterFailedSettingsAWriteDoesNotAndACancelEndsBoth)
 {
     for (const bool writes : {false, true}) {
         SimulatedLine line(DemoImage(0));
         line.image = DemoImage(0);
-        const auto all = [&] { return writes ? line.writer.WriteAll() : line.reader.ReadAll(); };
+        const auto all = [&] { return writes ? line.Write(kEverything) : line.reader.ReadAll(); };
         line.observer.cancelAfter = kSettingsBlocks - 1;
         EXPECT_EQ(all(), TransferResult::Cancelled);
         EXPECT_EQ(line.receiver.CommandLog().size(), 15U);
-        EXPECT_FALSE(line.observer.Refreshed(Changed::SelectorToAll));
+        EXPECT_TRUE(line.observer.groups.empty());
         line.observer = {};
         line.Spoil("silent:10", 50ms);
         EXPECT_EQ(all(), TransferResult::Failed);
         EXPECT_EQ(line.observer.problems.size(), 1U);
+        EXPECT_EQ(line.observer.moves.size(), writes ? 0U : 1210U);
+        EXPECT_EQ(line.observer.groups, writes ? std::vector<int>() : std::vector{kSelectAll});
+        EXPECT_EQ(line.observer.written.size(), 0U);
+
+        line.observer = {};
+        EXPECT_EQ(all(), TransferResult::Done);
+        EXPECT_EQ(line.observer.groups, std::vector{kSelectAll});
+        EXPECT_EQ(line.observer.maxima.back(), 1209);
         EXPECT_EQ(line.observer.moves.back(), std::pair(1209, 1209));
-        EXPECT_EQ(line.observer.refreshed.front(), Changed::SelectorToAll);
+        EXPECT_EQ(line.observer.ends, 1);
     }
 }
 

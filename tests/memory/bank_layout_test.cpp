@@ -17,9 +17,10 @@ TEST(BankLayout, SelectionMapsToRows)
         {50, 1000, 100}, {51, 1100, 100}, {52, 1200, 10}, {53, 0, 1210},
     };
     for (const auto& [selector, first, count] : cases) {
-        EXPECT_EQ(GroupRows(image, selector).first, first) << selector;
-        EXPECT_EQ(GroupRows(image, selector).count, count) << selector;
+        EXPECT_EQ(GroupRows(image, selector), (RowRange{first, count})) << selector;
         EXPECT_EQ(RowOfSelection(image, selector, 1), first) << selector;
+        EXPECT_EQ(TransferRows(image, selector),
+                  selector == 49 ? (RowRange{0, 1}) : (RowRange{first, count}));
     }
 }
 
@@ -52,26 +53,27 @@ TEST(BankLayout, EntryObeysTheThousand)
         // clang-format on
     };
     for (const auto& [bank, text, outcome, size] : entries) {
-        EXPECT_EQ(EnterBankSize(image, bank, text), outcome) << text;
-        EXPECT_EQ(image.BankSize[static_cast<std::size_t>(bank)], size) << text;
-        EXPECT_EQ(image.BankSizeText[static_cast<std::size_t>(bank)], std::to_string(size));
+        const CheckedBankSize checked = CheckBankSize(image, bank, text);
+        EXPECT_EQ(checked.entry, outcome) << text;
+        if (checked.entry == Accepted)
+            image.SetBankSize(bank, checked.size);
+        EXPECT_EQ(image.BankSizeText(bank), std::to_string(size)) << text;
     }
 }
 
 TEST(BankLayout, SizesFromOutsideAreMadeSafe)
 {
     CloneImage image = StartUpImage(0);
-    image.BankData.fill({});
-    image.BankData[0] = MemoryBlock("5802FFFF5802FF7F0100");
-    image.BankData[6] = MemoryBlock("00000000E803640064000A0017000000");
-    DecodeBankData(image);
-    const int expected[] = {600, 0, 400, 0, 0};
-    for (std::size_t bank = 0; bank < std::size(expected); ++bank) {
-        EXPECT_EQ(image.BankSize[bank], expected[bank]) << bank;
-        EXPECT_EQ(image.BankSizeText[bank], std::to_string(expected[bank]));
-    }
-    EXPECT_EQ(image.BankSize[kUnassigned], 1000);
+    std::array<MemoryBlock, 7> blocks;
+    blocks[0] = MemoryBlock("5802FFFF5802FF7F0100");
+    blocks[6] = MemoryBlock("00000000E803640064000A0017000000");
+    DecodeBankData(image, blocks);
+    for (int bank = 0; const int expected : {600, 0, 400, 0, 0})
+        EXPECT_EQ(image.BankSize(bank++), expected) << bank;
+    EXPECT_EQ(image.BankSize(kUnassigned), 1000);
     EXPECT_EQ(TotalBankSize(image), 1000);
+    blocks[0] = MemoryBlock("58020000900100000000");
+    EXPECT_EQ(BankData(image), blocks);
 }
 
 }  // namespace

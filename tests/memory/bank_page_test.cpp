@@ -29,7 +29,7 @@ class BankPageTest : public PageTest
         QTest::keyClick(&Box(bank), Qt::Key_Tab);
     }
 
-    BankPage page_{image_, dialogs_, nullptr};
+    BankPage page_{document_, dialogs_, nullptr};
 };
 
 TEST_F(BankPageTest, EnterAndArrowsMoveBetweenTheBoxesAndSelectTheText)
@@ -63,7 +63,6 @@ TEST_F(BankPageTest, OnlyDigitsArriveTypedOrPasted)
 
 TEST_F(BankPageTest, SizesAreTakenRefusedSilentlyOrRefusedWithTheMessage)
 {
-    QSignalSpy edited(&page_, &BankPage::Edited);
     for (const auto& [text, questions] : {std::pair("1001", 0U), std::pair("201", 1U)}) {
         Enter(0, text);
         EXPECT_EQ(Box(0).text(), QStringLiteral("200"));
@@ -74,23 +73,42 @@ TEST_F(BankPageTest, SizesAreTakenRefusedSilentlyOrRefusedWithTheMessage)
               QStringLiteral("The total of the number of channels exceeds 1000.\n"
                              "Please set for the total of the channel to become 1000 or less."));
     EXPECT_EQ(dialogs_.asked[0].icon, QMessageBox::Critical);
-    EXPECT_TRUE(edited.empty() && !image_.DataChanged);
+    EXPECT_TRUE(Steps() == 0 && !document_.DataChanged());
 
     Enter(1, "007");
     EXPECT_EQ(Box(1).text(), QStringLiteral("7"));
-    EXPECT_EQ(image_.BankSize[1], 7);
+    EXPECT_EQ(image_.BankSize(1), 7);
     EXPECT_EQ(Find<QLabel>(page_, QStringLiteral("lblChannels")).text(), QStringLiteral("857"));
-    EXPECT_TRUE(edited.count() == 1 && image_.DataChanged);
+    Enter(1, "7");
+    EXPECT_TRUE(Steps() == 1 && document_.DataChanged()) << "what stands there already is no edit";
 }
 
 TEST_F(BankPageTest, LinksGoIntoTheImageAndTheLastSixStayHidden)
 {
+    QSignalSpy told(&document_, &Document::StateChanged);
     Click(page_, "chkLink_49");
-    EXPECT_TRUE(image_.BankLink[49] && image_.DataChanged);
-    image_.BankLink[55] = true;
-    page_.ShowLinks();
+    EXPECT_TRUE(image_.BankLink(49) && document_.DataChanged());
+    EXPECT_EQ(told.count(), 1);
+    document_.Absorb([](CloneImage& image) { image.SetBankLink(55, true); });
     const auto& hidden = Find<QCheckBox>(page_, QStringLiteral("chkLink_55"));
     EXPECT_TRUE(hidden.isChecked() && !hidden.isVisible());
+}
+
+TEST_F(BankPageTest, ShowsWhatChangesElsewhere)
+{
+    auto& total = Find<QLabel>(page_, QStringLiteral("lblChannels"));
+    const auto& link = Find<QCheckBox>(page_, QStringLiteral("chkLink_3"));
+    document_.Edit({}, [](CloneImage& image) {
+        image.SetBankSize(0, 100);
+        image.SetBankSize(49, 12);
+        image.SetBankLink(3, true);
+    });
+    EXPECT_EQ(Box(49).text(), QStringLiteral("12"));
+    EXPECT_EQ(total.text(), QStringLiteral("912"));
+    EXPECT_TRUE(link.isChecked());
+    document_.Replace(CloneImage{}, {});
+    EXPECT_TRUE(Box(49).text() == QStringLiteral("0") && total.text() == QStringLiteral("0"));
+    EXPECT_FALSE(link.isChecked());
 }
 
 }  // namespace

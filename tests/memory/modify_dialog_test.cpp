@@ -5,7 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include "memory/bank_layout.h"
+#include "image/row_texts.h"
 #include "ui/page_test.h"
 
 namespace rqm5 {
@@ -17,9 +17,8 @@ class ModifyDialogTest : public PageTest
     ModifyDialogTest()
     {
         Show(mainWindow_);
-        PutChannel(0, 100);
-        PutChannel(1100, 100);
-        PutChannel(1101, 101);
+        PutChannels({0, 1}, 100);
+        PutChannels({1100, 2}, 100);
     }
 
     template <class Control>
@@ -56,7 +55,7 @@ class ModifyDialogTest : public PageTest
     }
 
     QWidget mainWindow_;
-    dlgModify dialog_{image_, dialogs_, &mainWindow_};
+    dlgModify dialog_{document_, dialogs_, &mainWindow_};
 };
 
 TEST_F(ModifyDialogTest, ShowsWhatItEditsAndSelectsTheFrequency)
@@ -68,14 +67,15 @@ TEST_F(ModifyDialogTest, ShowsWhatItEditsAndSelectsTheFrequency)
     };
     Act(look).OpenMemory(0, 0);
     Vfo(13, [this] { ExpectLabels("Modify VFO", "Band 13", "(960.000-1299.995MHz)"); });
-    image_.Settings.model = 2;
+    SetModel(2);
     EXPECT_FALSE(dialog_.OpenVfo(8));
     EXPECT_EQ(dialogs_.runs, 2);
 }
 
 TEST_F(ModifyDialogTest, TabReachesAGroupWhoseChoiceTheRegionLacks)
 {
-    image_.MemData[0][kOption] = 16;  // a secret code, which the first region does not have
+    // A secret code, which the first region does not have.
+    document_.Absorb([](CloneImage& image) { image.MemData(0).option = 16; });
     Memory(0, [this] {
         bool isReached = false;
         for (int i = 0; i < 12 && !isReached; ++i) {
@@ -84,6 +84,12 @@ TEST_F(ModifyDialogTest, TabReachesAGroupWhoseChoiceTheRegionLacks)
         }
         EXPECT_TRUE(isReached);
     });
+}
+
+TEST_F(ModifyDialogTest, AnOkThatChangesNothingIsAnUnsavedChangeButNoStep)
+{
+    EXPECT_TRUE(Memory(0, [this] { PressEnter(); }));
+    EXPECT_TRUE(Steps() == 0 && document_.DataChanged());
 }
 
 TEST_F(ModifyDialogTest, NumberBoxesTakeDigitsAndOnePoint)
@@ -100,7 +106,7 @@ TEST_F(ModifyDialogTest, NumberBoxesTakeDigitsAndOnePoint)
 
 TEST_F(ModifyDialogTest, CellularAndDuplicateFrequenciesBringTheirMessages)
 {
-    image_.Settings.model = 2;
+    SetModel(2);
     for (const char* text : {"824", "100"}) {
         const auto enter = [this, text] {
             Type(Frequency(), text);
@@ -130,18 +136,18 @@ TEST_F(ModifyDialogTest, OkChecksTheBoxBeingTypedIntoFirst)
         Click(dialog_, "OKButton");
         EXPECT_FALSE(dialog_.isVisible());
     }));
-    EXPECT_EQ(image_.MemText[0][kFrequency], "88.800000");
+    EXPECT_EQ(image_.MemText(0, kFrequency), "88.800000");
 }
 
 TEST_F(ModifyDialogTest, CancelChangesNothingAndAsksNothing)
 {
-    image_.Settings.model = 2;
+    SetModel(2);
     const CloneImage before = image_;
     EXPECT_FALSE(Memory(0, [this] {
         Type(Frequency(), "830");
         Click(dialog_, "CancelButton");
     }));
-    EXPECT_TRUE(SameContents(image_, before) && !image_.DataChanged && dialogs_.asked.empty());
+    EXPECT_TRUE(image_ == before && !document_.DataChanged() && dialogs_.asked.empty());
 }
 
 TEST_F(ModifyDialogTest, OkStoresWhatTheControlsHold)
@@ -155,22 +161,24 @@ TEST_F(ModifyDialogTest, OkStoresWhatTheControlsHold)
         EXPECT_TRUE(Get<QLabel>("lblNoteHint").isVisible());
         Click(dialog_, "OKButton");
     }));
-    EXPECT_EQ(image_.MemData[0], (ChannelNumbers{100, 2, 19, 40, 0, 28, 0, 16, 0.6}));
-    EXPECT_EQ(image_.MemText[0], (ChannelTexts{"100.000000", "WFM", "1KHz", "Carrier", "0", "JR", "67.0Hz",
-                                               "+Shift", "0.600000", "a,b"}));
-    EXPECT_TRUE(image_.DataChanged);
+    const Channel& row = image_.MemData(0);
+    EXPECT_EQ(TextsOf(row), (std::vector<std::string>{"100.000000", "WFM", "1KHz", "Carrier", "0", "JR",
+                                                      "67.0Hz", "+Shift", "0.600000", "a,b"}));
+    EXPECT_TRUE(row.carrier == 28 && row.IsSkipped() && row.enabled);
+    EXPECT_EQ(document_.History().undoText(), QStringLiteral("Modify (CH 0)"));
+    EXPECT_TRUE(document_.DataChanged());
 }
 
 TEST_F(ModifyDialogTest, ARowOutsideItsBandCanBeEditedAsLongAsItsFrequencyStays)
 {
-    image_.Settings.model = 2;  // the stored rows are those of region 0: band 2 starts at 29 MHz here
+    SetModel(2);  // the stored rows are those of region 0: band 2 starts at 29 MHz here
     EXPECT_TRUE(Vfo(2, [this] {
         Click(dialog_, "opbWave_2");
         Frequency().setFocus();
         PressEnter();
     }));
-    EXPECT_EQ(image_.VFOText[2][kFrequency], "1.625000");
-    EXPECT_EQ(image_.VFOText[2][kMode], "WFM");
+    EXPECT_EQ(image_.VFOText(2, kFrequency), "1.625000");
+    EXPECT_EQ(image_.VFOText(2, kMode), "WFM");
 }
 
 TEST_F(ModifyDialogTest, HoldStartsEmptyRowsWithTheLastConfirmedValues)
@@ -186,7 +194,7 @@ TEST_F(ModifyDialogTest, HoldStartsEmptyRowsWithTheLastConfirmedValues)
     }));
     Memory(0, [this] { EXPECT_EQ(Get<QLineEdit>("txtNote").text(), QString()); });
     EXPECT_TRUE(Memory(501, [this] { PressEnter(); }));
-    EXPECT_TRUE(image_.MemText[501] == image_.MemText[500] && image_.MemEnable[501]);
+    EXPECT_TRUE(image_.MemData(501) == image_.MemData(500) && image_.MemEnable(501));
 }
 
 }  // namespace

@@ -2,27 +2,26 @@
 
 #include <gtest/gtest.h>
 
-#include "memory/bank_layout.h"
-
 namespace rqm5 {
 namespace {
 
 TEST(StartImage, NewEmptiesEverythingAndKeepsTheModel)
 {
     CloneImage image = StartUpImage(2);
-    image.MemData[5][kFrequency] = 100;
-    image.MemText[5][kNote] = "a note";
-    image.VFOText[3][kNote] = "another";
-    image.MemEnable[5] = image.BankLink[7] = image.BankLink[55] = true;
-    image.DataChanged = true;
+    image.MemData(5).frequency = 100'000'000;
+    image.MemData(5).note = "a note";
+    image.MemData(5).enabled = true;
+    image.VFOData(3).note = "another";
+    image.SetBankLink(7, true);
+    image.SetBankLink(55, true);
+    image.Settings().volume = 7;
     NewImage(image);
 
     CloneImage empty = StartUpImage(2);
     for (int bank = 0; bank < kBanks; ++bank)
-        SetBankSize(empty, bank, 0);
-    SetBankSize(empty, kUnassigned, 1000);
-    EXPECT_TRUE(SameContents(image, empty));
-    EXPECT_FALSE(image.DataChanged);
+        empty.SetBankSize(bank, 0);
+    empty.SetBankSize(kUnassigned, 1000);
+    EXPECT_TRUE(image == empty);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include "image/value_tables.h"
 #include "memory/start_image.h"
 #include "printing/pdf_text.h"
 
@@ -22,14 +23,21 @@ bool GoOn(int /*page*/, int /*pages*/)
 CloneImage FullImage()
 {
     CloneImage image = StartUpImage(0);
-    for (std::size_t row = 0; row < kRadioRows; ++row) {
-        const std::string note = row % 2 ? std::string(39, 'W') + "E" : "東京タワーの放送局を聞くためのメモ";
-        // clang-format off
-        image.MemText[row] = {"1299.995000", "WFM", "12.5KHz", "Carrier", "*", "2400Hz", "250.3Hz", "+Shift",
-                              "20.000000", note};
-        // clang-format on
-        image.MemData[row][kFrequency] = 1299.995;
-        image.MemEnable[row] = true;
+    for (int row = 0; row < kRadioRows; ++row) {
+        Channel& channel = image.MemData(row);
+        static_cast<ChannelContents&>(channel) = {
+            .frequency = 1'299'995'000,
+            .shiftFrequency = 20'000'000,
+            .mode = 2,
+            .step = static_cast<std::uint8_t>(IndexOf(StepName, "12.5KHz")),
+            .option = 32,
+            .secret = 16,
+            .carrier = 21,
+            .tone = 38,
+            .shift = 16,
+            .blank = 0};
+        channel.note = row % 2 ? std::string(39, 'W') + "E" : "東京タワーの放送局を聞くためのメモ";
+        channel.enabled = true;
     }
     return image;
 }

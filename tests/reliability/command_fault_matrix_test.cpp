@@ -36,7 +36,7 @@ class CommandRun
   public:
     explicit CommandRun(const Operation& operation) : operation_(operation)
     {
-        CloneImage image = DemoImage(1);
+        const CloneImage image = DemoImage(1);
         before_ = FormatCloneFile(image);
         PutBytes(file_, before_);
         held_ = MemoryFromImage(image);
@@ -56,7 +56,7 @@ class CommandRun
 
     void ExpectEnd(const FaultCase& fault)
     {
-        SCOPED_TRACE(testing::PrintToString(operation_.words) + ", " + fault.text);
+        SCOPED_TRACE(testing::PrintToString(operation_.words));
         const RunResult run = FinishProgram(process_);
         const char* message = operation_.writes ? fault.writeMessage : fault.readMessage;
         EXPECT_EQ(run.status, message == nullptr ? 0 : 1);
@@ -86,22 +86,28 @@ class CommandRun
     QProcess process_;
 };
 
-TEST(CommandFaults, EveryFaultInTheMiddleOfEveryOperation)
+class CommandFaults : public testing::TestWithParam<FaultCase>
 {
+};
+
+TEST_P(CommandFaults, InTheMiddleOfEveryOperation)
+{
+    const FaultCase& fault = GetParam();
     std::vector<std::unique_ptr<CommandRun>> runs;
-    for (const Operation& operation : kOperations)
+    for (const Operation& operation : kOperations) {
         runs.push_back(std::make_unique<CommandRun>(operation));
-    for (const FaultCase& fault : kFaults) {
-        for (const auto& run : runs)
-            run->Start(fault.Faults(run->IsRaw() ? 0 : 4));
-        for (const auto& run : runs)
-            run->ExpectEnd(fault);
-        for (const auto& run : runs)
-            run->Start({});
-        for (const auto& run : runs)
-            run->ExpectEnd(kFaults[0]);  // the fault is gone
+        runs.back()->Start(fault.Faults(runs.back()->IsRaw() ? 0 : 4));
     }
+    for (const auto& run : runs)
+        run->ExpectEnd(fault);
+    for (const auto& run : runs)
+        run->Start({});
+    for (const auto& run : runs)
+        run->ExpectEnd(kFaults[0]);  // the fault is gone
 }
+
+INSTANTIATE_TEST_SUITE_P(, CommandFaults, testing::ValuesIn(kFaults),
+                         [](const auto& test) { return test.param.Name(); });
 
 }  // namespace
 }  // namespace rqm5

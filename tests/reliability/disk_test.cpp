@@ -25,8 +25,8 @@ constexpr int kSaves = 1000;
 CloneImage NumberedImage(int number)
 {
     CloneImage image = StartUpImage(0);
-    for (ChannelTexts& texts : image.MemText)
-        texts[kNote] = "save " + std::to_string(number);
+    for (int row = 0; row < kMemoryRows; ++row)
+        image.MemData(row).note = "save " + std::to_string(number);
     return image;
 }
 
@@ -36,10 +36,9 @@ int SaveNumber(const QString& path)
     CloneImage image;
     if (LoadCloneFile(path, image))
         return -1;
-    const std::string& note = image.MemText.front()[kNote];
+    const std::string& note = image.MemData(0).note;
     const int number = note.starts_with("save ") ? std::stoi(note.substr(5)) : -1;
-    CloneImage expected = NumberedImage(number);
-    return SameContents(image, expected) ? number : -1;
+    return image == NumberedImage(number) ? number : -1;
 }
 
 QStringList FilesIn(const QTemporaryDir& folder)
@@ -73,8 +72,7 @@ int SavesUntilKilled(const QString& path, int first, std::minstd_rand& dice)
         return 0;
     const pid_t child = Fork([&] {
         for (int number = first;; ++number) {
-            CloneImage image = NumberedImage(number);
-            if (SaveCloneFile(path, image).problem || write(told[1], "x", 1) != 1)
+            if (SaveCloneFile(path, NumberedImage(number)).problem || write(told[1], "x", 1) != 1)
                 return 1;
         }
     });
@@ -119,8 +117,7 @@ TEST(Disk, ASaveTakesAwayWhatAKilledOneLeft)
     make(".rq5-save-AbCdEf", 3600);
     make(".rq5-save-others", 1);  // may be in use
     make("a.RQ5.backup", 3600);   // the user's own
-    CloneImage image = StartUpImage(0);
-    EXPECT_FALSE(SaveCloneFile(folder.filePath(QStringLiteral("a.RQ5")), image).problem);
+    EXPECT_FALSE(SaveCloneFile(folder.filePath(QStringLiteral("a.RQ5")), StartUpImage(0)).problem);
     const QStringList expected = {QStringLiteral(".rq5-save-others"), QStringLiteral("a.RQ5"),
                                   QStringLiteral("a.RQ5.backup")};
     EXPECT_EQ(FilesIn(folder), expected);
@@ -164,17 +161,15 @@ TEST(Disk, PermissionsCount)
     EXPECT_EQ(FilesIn(folder).size(), 1);
 }
 
-TEST(Disk, WhatHappensToTheFolderMeanwhileIsToldAndTheImageKept)
+TEST(Disk, WhatHappensToTheFolderMeanwhileIsTold)
 {
     const QTemporaryDir parent;
     const QDir dir(parent.path());
     const QString path = dir.filePath(QStringLiteral("folder/a.RQ5"));
-    CloneImage image = NumberedImage(1);
-    image.DataChanged = true;
+    const CloneImage image = NumberedImage(1);
     for (const char* reason : {"does not exist", "this is a folder"}) {
         const std::optional<Problem> problem = SaveCloneFile(path, image).problem;
         EXPECT_TRUE(problem && problem->details.find(reason) != std::string::npos);
-        EXPECT_TRUE(image.DataChanged);
         ASSERT_TRUE(dir.mkpath(path));
     }
     ASSERT_TRUE(dir.rmdir(path));

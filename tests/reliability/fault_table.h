@@ -1,9 +1,10 @@
 #pragma once
 
+#include <cctype>
 #include <string>
 #include <vector>
 
-#include "link/raw_read.h"
+#include "link/reply_outcome.h"
 #include "simulator/fault_plan.h"
 
 namespace rqm5 {
@@ -14,10 +15,21 @@ struct FaultCase
     const char* text;
     const char* readMessage;  ///< a part of the details; nullptr: the operation succeeds
     const char* writeMessage;
-    bool isObeyed;         ///< the receiver keeps the block whose write failed
-    RawReply::Result raw;  ///< of a single read
+    bool isObeyed;     ///< the receiver keeps the block whose write failed
+    ReplyOutcome raw;  ///< of a single read
+    bool isHeard;      ///< what comes back to a read differs from what came without the fault
 
-    bool TakesTheLine() const { return raw == RawReply::Result::PortFailed; }
+    bool TakesTheLine() const { return raw == ReplyOutcome::PortFailed; }
+    bool TimesOut() const { return raw == ReplyOutcome::TooShort || raw == ReplyOutcome::Nothing; }
+
+    /// As a part of the name of a test.
+    std::string Name() const
+    {
+        std::string name = *text != '\0' ? text : "none";
+        std::erase(name, '-');
+        name.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(name.front())));
+        return name;
+    }
 
     /// After so many commands it strikes ten times in a row, or once when it takes the line away.
     std::vector<Fault> Faults(int after) const
@@ -31,16 +43,16 @@ struct FaultCase
 
 /// Every fault whose end is certain; how a late reply ends depends on moments.
 inline constexpr FaultCase kFaults[] = {
-    {"", nullptr, nullptr, true, RawReply::Result::Frame},  // no fault
-    {"no-echo", nullptr, "too short", true, RawReply::Result::Frame},
-    {"drop", "too short", "too short", true, RawReply::Result::TooShort},
-    {"cut", "too short", "too short", true, RawReply::Result::TooShort},
-    {"garble", "garbled", "garbled", true, RawReply::Result::NoFrame},
-    {"ng", "too short", "did not answer OK", false, RawReply::Result::TooShort},
-    {"pieces", nullptr, nullptr, true, RawReply::Result::Frame},
-    {"noise", nullptr, nullptr, true, RawReply::Result::Frame},
-    {"hang-up", "device", "device", false, RawReply::Result::PortFailed},
-    {"silent", "sent nothing", "sent nothing", false, RawReply::Result::TooShort},
+    {"", nullptr, nullptr, true, ReplyOutcome::Good, false},  // no fault
+    {"no-echo", nullptr, "too short", true, ReplyOutcome::Good, true},
+    {"drop", "too short", "too short", true, ReplyOutcome::TooShort, true},
+    {"cut", "too short", "too short", true, ReplyOutcome::TooShort, true},
+    {"garble", "garbled", "garbled", true, ReplyOutcome::Garbled, true},
+    {"ng", "too short", "did not answer OK", false, ReplyOutcome::TooShort, true},
+    {"pieces", nullptr, nullptr, true, ReplyOutcome::Good, false},
+    {"noise", nullptr, nullptr, true, ReplyOutcome::Good, true},
+    {"hang-up", "device", "device", false, ReplyOutcome::PortFailed, true},
+    {"silent", "sent nothing", "sent nothing", false, ReplyOutcome::Nothing, true},
 };
 
 }  // namespace rqm5

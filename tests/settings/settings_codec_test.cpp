@@ -9,48 +9,44 @@
 namespace rqm5 {
 namespace {
 
-CloneImage Decoded(const MemoryBlock& first, const MemoryBlock& second)
-{
-    CloneImage image;
-    image.SetData1 = first;
-    image.SetData2 = second;
-    DecodeSettings(image);
-    return image;
-}
-
 TEST(Settings, DefaultsOfEachRegionDecodeAndEncodeToThemselves)
 {
     for (int model = 0; model < 4; ++model) {
-        CloneImage image = StartUpImage(model);
+        const CloneImage image = StartUpImage(model);
         ReceiverSettings expected;
         expected.model = model;
-        EXPECT_EQ(image.Settings, expected);
-        EncodeSettings(image);
-        EXPECT_EQ(image.SetData1.Text(), "A50" + std::to_string(model) + "FF8100060000FFFFFFFF00011E03");
-        EXPECT_EQ(image.SetData2.Text(), "0000600101000200482300FFFFFFFFFF");
+        EXPECT_EQ(image.Settings(), expected);
+        EXPECT_EQ(SetData1(image).Text(), "A50" + std::to_string(model) + "FF8100060000FFFFFFFF00011E03");
+        EXPECT_EQ(SetData2(image).Text(), "0000600101000200482300FFFFFFFFFF");
     }
 }
 
 TEST(Settings, InvalidBytesAreRepairedInTheBlock)
 {
-    using Value = int ReceiverSettings::*;
-    const std::tuple<int, std::size_t, int, int, Value> cases[] = {
-        {1, 1, 4, 0x00, &ReceiverSettings::model},        {1, 14, 50, 0x1E, &ReceiverSettings::volume},
-        {1, 15, 9, 0x03, &ReceiverSettings::squelch},     {2, 4, 2, 0x01, &ReceiverSettings::lamp},
-        {2, 5, 3, 0x00, &ReceiverSettings::autoPowerOff}, {2, 6, 4, 0x02, &ReceiverSettings::bugLevel},
+    constexpr char kFirst[] = "A500FF8100060000FFFFFFFF00011E03";
+    constexpr char kSecond[] = "0000600101000200482300FFFFFFFFFF";
+    const ReceiverSettings highest = {
+        .model = 4, .volume = 50, .squelch = 9, .lamp = 2, .autoPowerOff = 3, .bugLevel = 4};
+    // The blocks and what becomes of them: every byte as high as it may be, then one higher, then at its
+    // highest, then a block without its marker.
+    const std::tuple<const char*, const char*, const char*, const char*, ReceiverSettings> cases[] = {
+        {"A504FF8100060000FFFFFFFF00013209", "0000600102030400482300FFFFFFFFFF",
+         "A504FF8100060000FFFFFFFF00013209", "0000600102030400482300FFFFFFFFFF", highest},
+        {"A505FF8100060000FFFFFFFF0001330A", "0000600203040500482300FFFFFFFFFF", kFirst, kSecond, {}},
+        {"A5FFFF8100060000FFFFFFFF0001FFFF", "000060FFFFFFFF00482300FFFFFFFFFF", kFirst, kSecond, {}},
+        {"5A04FF8100060000FFFFFFFF00013209",
+         kSecond,
+         "A502FF8100060000FFFFFFFF00011E03",
+         kSecond,
+         {.model = 2}},
     };
-    for (const auto& [block, byte, highest, repair, setting] : cases)
-        for (const int value : {highest, highest + 1, 255}) {
-            MemoryBlock blocks[] = {DefaultSetData1(0), DefaultSetData2()};
-            blocks[block - 1].SetByte(byte, value);
-            const CloneImage image = Decoded(blocks[0], blocks[1]);
-            const int expected = value > highest ? repair : value;
-            EXPECT_EQ(image.Settings.*setting, expected) << "byte " << byte;
-            EXPECT_EQ((block == 1 ? image.SetData1 : image.SetData2).Byte(byte), expected);
-        }
-    MemoryBlock batterySave = DefaultSetData2();
-    batterySave.SetByte(3, 2);
-    EXPECT_TRUE(Decoded(DefaultSetData1(0), batterySave).Settings.batterySave);
+    for (const auto& [first, second, repairedFirst, repairedSecond, settings] : cases) {
+        CloneImage image = StartUpImage(2);
+        const SettingsBlocks repaired = DecodeSettings(image, {MemoryBlock(first), MemoryBlock(second)});
+        EXPECT_EQ(repaired.SetData1.Text(), repairedFirst);
+        EXPECT_EQ(repaired.SetData2.Text(), repairedSecond);
+        EXPECT_EQ(image.Settings(), settings) << first;
+    }
 }
 
 TEST(Settings, OperatingModesNormaliseOneWayAndEncodeAnother)
@@ -58,7 +54,8 @@ TEST(Settings, OperatingModesNormaliseOneWayAndEncodeAnother)
     for (int byte = 0; byte < 256; ++byte) {
         MemoryBlock first = DefaultSetData1(0);
         first.SetByte(4, byte);
-        CloneImage image = Decoded(first, DefaultSetData2());
+        CloneImage image;
+        const SettingsBlocks normalised = DecodeSettings(image, {first, DefaultSetData2()});
         int option = ReceiverSettings::kNoOption, decoded = 0, encoded = 0;
         if (byte <= 8 && byte % 2 == 0)
             option = 0;
@@ -66,18 +63,17 @@ TEST(Settings, OperatingModesNormaliseOneWayAndEncodeAnother)
             option = decoded = encoded = 1;
         else if (byte == 11 || byte == 12 || byte == 14 || byte == 16)
             option = 11, decoded = 0x11, encoded = 0x0B;
-        EXPECT_EQ(image.Settings.operatingMode, option) << byte;
-        EXPECT_EQ(image.SetData1.Byte(4), decoded) << byte;
-        EncodeSettings(image);
-        EXPECT_EQ(image.SetData1.Byte(4), encoded) << byte;
+        EXPECT_EQ(image.Settings().operatingMode, option) << byte;
+        EXPECT_EQ(normalised.SetData1.Byte(4), decoded) << byte;
+        EXPECT_EQ(SetData1(image).Byte(4), encoded) << byte;
     }
 }
 
 TEST(Settings, UnusedSwitchBitsAreDropped)
 {
-    CloneImage image = Decoded(DefaultSetData1(0), MemoryBlock("00006000000000002490CFFFFFFFFFFF"));
-    EncodeSettings(image);
-    EXPECT_EQ(image.SetData2.Text(), "0000600000000000000000FFFFFFFFFF");
+    CloneImage image;
+    DecodeSettings(image, {DefaultSetData1(0), MemoryBlock("0000600000000000249CCFFFFFFFFFFF")});
+    EXPECT_EQ(SetData2(image).Text(), "0000600000000000000000FFFFFFFFFF");
 }
 
 TEST(Settings, CountByteIsKeptFromTheThirdModelOn)
@@ -86,11 +82,10 @@ TEST(Settings, CountByteIsKeptFromTheThirdModelOn)
         MemoryBlock first = DefaultSetData1(0), second = DefaultSetData2();
         first.SetByte(1, model);
         second.SetByte(2, 0x17);
-        CloneImage image = Decoded(first, second);
-        EXPECT_EQ(image.SetData2.Byte(2), 0x17);
-        EncodeSettings(image);
-        EXPECT_EQ(image.SetData2.Byte(2), model < 2 ? 0x60 : 0x17);
-        EXPECT_EQ(image.SetData1.Byte(1), model);
+        CloneImage image;
+        EXPECT_EQ(DecodeSettings(image, {first, second}).SetData2.Byte(2), 0x17);
+        EXPECT_EQ(SetData2(image).Byte(2), model < 2 ? 0x60 : 0x17);
+        EXPECT_EQ(SetData1(image).Byte(1), model);
         EXPECT_EQ(image.ModelNo(), model > 3 ? 3 : model);
     }
 }

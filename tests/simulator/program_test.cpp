@@ -6,6 +6,7 @@
 
 #include "files/file_store.h"
 #include "link/simulated_line.h"
+#include "memory/change_words.h"
 
 namespace rqm5 {
 namespace {
@@ -26,7 +27,7 @@ TEST(Program, KeepsWhatWasWrittenAndTheNotesOfItsFile)
     const QString saved = folder.filePath(QStringLiteral("saved.RQ5"));
     const QString log = folder.filePath(QStringLiteral("log"));
     CloneImage image = DemoImage(1);
-    image.MemText[0][kNote] = "Tower";
+    image.MemData(0).note = "Tower";
     ASSERT_FALSE(SaveCloneFile(memory, image).problem);
 
     Program program(QStringLiteral("--memory %1 --save %2 --log %3 --baud 0").arg(memory, saved, log));
@@ -34,15 +35,15 @@ TEST(Program, KeepsWhatWasWrittenAndTheNotesOfItsFile)
     QtSerialPort port(QString::fromLocal8Bit(program.readLine()).trimmed());
     RadioLink link(port);
     RecordingObserver observer;
-    image.BankLink[7] = true;
-    EXPECT_EQ(ReceiverWriter(image, link, observer).WriteBankPage(), TransferResult::Done);
+    image.SetBankLink(7, true);
+    EXPECT_EQ(ReceiverWriter(image, kBanksOnly, link, observer).Write(), TransferResult::Done);
     program.terminate();
     EXPECT_TRUE(program.waitForFinished() && program.exitStatus() == QProcess::NormalExit);
     EXPECT_EQ(program.exitCode(), 0);
 
     CloneImage kept;
     EXPECT_FALSE(LoadCloneFile(saved, kept));
-    EXPECT_TRUE(SameContents(kept, image));
+    EXPECT_TRUE(kept == image) << testing::PrintToString(DescribeChange(image, Difference(image, kept)));
     QFile commands(log);
     EXPECT_TRUE(commands.open(QIODevice::ReadOnly));
     EXPECT_EQ(commands.readAll().count('\n'), 8);

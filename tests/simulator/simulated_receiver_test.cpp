@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "simulator/line_pacer.h"
+
 namespace rqm5 {
 namespace {
 
@@ -67,6 +69,19 @@ TEST(FaultPlan, StrikesByCountByProbabilityAndAfterGoodCommands)
     for (const char* text : {"", "dropp", "drop:", "drop:x", "drop:-1", "drop:1.5", "drop:101%", "drop:3x",
                              "drop:after=", "drop:after=-2", "drop:1:"})
         EXPECT_FALSE(ParseFault(text)) << text;
+}
+
+TEST(LinePacer, ACharacterTakesTenBits)
+{
+    using std::chrono::microseconds;
+    LinePacer pacer(9600);
+    const LinePacer::Clock::time_point start{};
+    const Answer answer{{}, 16, std::string(16, 'e'), {{std::chrono::milliseconds(5), "rrrrrrrr"}}};
+    pacer.Add(answer, start);
+    EXPECT_EQ(pacer.TakeDue(start + microseconds(16666)), "");
+    EXPECT_EQ(pacer.TakeDue(start + microseconds(16667)), answer.echo);
+    EXPECT_EQ(pacer.TakeDue(start + microseconds(29999)), "");
+    EXPECT_EQ(pacer.TakeDue(start + microseconds(30000)), "rrrrrrrr");
 }
 
 }  // namespace

@@ -6,13 +6,14 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "image/channel_record.h"
+#include "document/document.h"
+#include "image/channel_block.h"
 #include "memory/start_image.h"
 #include "ui/scripted_dialogs.h"
 
 namespace rqm5 {
 
-/// A page or dialog on its own, over an image as the program starts with it.
+/// A page or dialog on its own, over a document as the program starts with it.
 class PageTest : public testing::Test
 {
   protected:
@@ -40,15 +41,27 @@ class PageTest : public testing::Test
         QTest::mouseClick(&control, Qt::LeftButton, {}, {8, control.height() / 2});
     }
 
-    /// An enabled channel of 100 to 999 MHz.
-    void PutChannel(int row, int megahertz)
+    /// Enabled channels of 100 to 999 MHz, each 1 MHz above the one before.
+    void PutChannels(RowRange rows, int megahertz)
     {
-        const std::string block = "0" + std::to_string(megahertz) + std::string(28, '0');
-        DecodeMemoryBlock(image_, MemoryBlock(block), row);
-        image_.MemEnable[static_cast<std::size_t>(row)] = true;
+        document_.Absorb([=](CloneImage& image) {
+            for (int i = 0; i < rows.count; ++i) {
+                const std::string block = "0" + std::to_string(megahertz + i) + std::string(28, '0');
+                DecodeMemoryBlock(image, MemoryBlock(block), rows.first + i);
+                image.MemData(rows.first + i).enabled = true;
+            }
+        });
     }
 
-    CloneImage image_ = StartUpImage(0);
+    void SetModel(int model)
+    {
+        document_.Absorb([model](CloneImage& image) { image.Settings().model = model; });
+    }
+
+    int Steps() { return document_.History().count(); }
+
+    Document document_{StartUpImage(0)};
+    const CloneImage& image_ = document_.Image();
     ScriptedDialogs dialogs_;
 };
 

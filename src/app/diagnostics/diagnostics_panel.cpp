@@ -171,8 +171,8 @@ void DiagnosticsPanel::cmbLinkTest_Click()
 {
     lblLinkTest_->clear();
     transfers_.RunOther([this] {
-        emit transfers_.ProgressBegan(kLinkTestReads - 1);
-        const LinkTestResult result = TestLink(link_, kSettings1Address, kLinkTestReads,
+        transfers_.ShowProgress(kLinkTestReads - 1);
+        const LinkTestResult result = TestLink(link_, AreaOf(Area::Settings).address, kLinkTestReads,
                                                [this](int reads) { return GoesOnAfter(reads); });
         lblLinkTest_->setText(LinkTestText(result, link_.Port()));
     });
@@ -180,7 +180,7 @@ void DiagnosticsPanel::cmbLinkTest_Click()
 
 bool DiagnosticsPanel::GoesOnAfter(int reads)
 {
-    emit transfers_.ProgressAdvanced(reads, reads);
+    transfers_.MoveProgress(reads);
     return !transfers_.IsStopped();
 }
 

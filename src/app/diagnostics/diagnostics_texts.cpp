@@ -4,9 +4,9 @@
 #include <QStringList>
 
 #include "image/display_text.h"
-#include "link/block_meaning.h"
 #include "link/commands.h"
 #include "link/link_problems.h"
+#include "link/memory_map.h"
 
 namespace rqm5 {
 namespace {
@@ -58,7 +58,7 @@ QString WhyNoFrame(int address, const RawReply& reply)
         return Translate("Nothing came back. Check the cable, the port, and that the receiver is on.");
     if (IsOnlyEcho(address, reply.received))
         return Translate("The receiver did not answer: only the echo of the command came back.");
-    return reply.result == RawReply::Result::TooShort
+    return reply.outcome == ReplyOutcome::TooShort
                ? Translate("The reply is too short: a whole one ends with 36 characters.")
                : Translate("The reply is garbled: it does not end with a line of 32 characters.");
 }
@@ -78,7 +78,7 @@ QStringList MeaningLines(int address, const RawReply& reply)
 QString RawReplyText(const CloneImage& image, int address, const RawReply& reply, const SerialPort& port)
 {
     QStringList lines = {Title(image, address)};
-    if (reply.result == RawReply::Result::PortFailed)
+    if (IsPortFailure(reply.outcome))
         return (lines << PortFailureText(port)).join(QLatin1Char('\n'));
     lines << ReceivedLine(address, reply);
     lines << (reply.IsFrame() ? MeaningLines(address, reply) : QStringList{WhyNoFrame(address, reply)});

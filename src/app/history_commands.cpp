@@ -1,0 +1,55 @@
+#include "app/history_commands.h"
+
+#include "ui/history_key.h"
+
+namespace rqm5 {
+
+HistoryCommands::HistoryCommands(Document& document, Menus& menus, QMainWindow& window)
+    : QObject(&window), history_(document.History()), menus_(menus)
+{
+    new HistoryKey(window);
+    MakeView(window);
+    connect(&menus.Item("mnuHistoryUndo"), &QAction::triggered, &history_, &QUndoStack::undo);
+    connect(&menus.Item("mnuHistoryRedo"), &QAction::triggered, &history_, &QUndoStack::redo);
+    connect(&history_, &QUndoStack::indexChanged, this, &HistoryCommands::ShowItems);
+    // A run that goes on changes the name of the step and nothing else.
+    connect(&document, &Document::StateChanged, this, &HistoryCommands::ShowItems);
+    ShowItems();
+}
+
+void HistoryCommands::MakeView(QMainWindow& window)
+{
+    dckHistory_ = new QDockWidget(tr("History"), &window);
+    dckHistory_->setObjectName(QStringLiteral("dckHistory"));
+    auto* view = new QUndoView(&history_, dckHistory_);
+    view->setObjectName(QStringLiteral("lstHistory"));
+    view->setAccessibleName(tr("Changes, the latest at the end"));
+    view->setStatusTip(tr("A click takes back or makes again every change down to there"));
+    view->setEmptyLabel(tr("As it was opened"));
+    dckHistory_->setWidget(view);
+    window.addDockWidget(Qt::RightDockWidgetArea, dckHistory_);
+    dckHistory_->hide();
+    QAction& item = menus_.Item("mnuViewHistory");
+    connect(&item, &QAction::triggered, dckHistory_, &QDockWidget::setVisible);
+    // The dock has a close button of its own.
+    connect(dckHistory_->toggleViewAction(), &QAction::toggled, &item, &QAction::setChecked);
+}
+
+void HistoryCommands::ShowItems()
+{
+    const auto show = [this](ItemName name, const QString& plain, const QString& named, const QString& step,
+                             bool isPossible) {
+        QAction& item = menus_.Item(name);
+        item.setText(step.isEmpty() ? plain : named.arg(QString(step).replace(u'&', QStringLiteral("&&"))));
+        menus_.SetPossible(name, isPossible);
+    };
+    show("mnuHistoryUndo", tr("&Undo"), tr("&Undo %1"), history_.undoText(), history_.canUndo());
+    show("mnuHistoryRedo", tr("&Redo"), tr("&Redo %1"), history_.redoText(), history_.canRedo());
+}
+
+void HistoryCommands::SetTransferRunning(bool isRunning)
+{
+    dckHistory_->setEnabled(!isRunning);
+}
+
+}  // namespace rqm5

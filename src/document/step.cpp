@@ -1,0 +1,51 @@
+#include "document/step.h"
+
+#include <utility>
+
+namespace rqm5 {
+namespace {
+
+constexpr int kNeverMerged = -1;
+
+}  // namespace
+
+Step::Step(Document& document, const QString& name, ImageChange change, int run)
+    : QUndoCommand(name),
+      document_(document),
+      change_(std::move(change)),
+      run_(run != 0 ? run : kNeverMerged),
+      serial_(++document.lastSerial_)
+{
+}
+
+void Step::undo()
+{
+    SwapFile();
+    document_.TakeStep(change_, true);
+}
+
+void Step::redo()
+{
+    if (std::exchange(isMade_, false))
+        return;
+    SwapFile();
+    document_.TakeStep(change_, false);
+}
+
+void Step::SwapFile()
+{
+    if (otherFile_)
+        std::swap(*otherFile_, document_.file_);
+}
+
+bool Step::mergeWith(const QUndoCommand* next)
+{
+    const auto* step = static_cast<const Step*>(next);
+    change_.Join(step->change_);
+    serial_ = step->serial_;
+    setText(step->text());
+    setObsolete(change_.IsEmpty());
+    return true;
+}
+
+}  // namespace rqm5

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QUndoCommand>
+#include <optional>
+
+#include "document/document.h"
+
+namespace rqm5 {
+
+/// A step of a document's history. The change has been made already when the step is pushed.
+class Step : public QUndoCommand
+{
+  public:
+    Step(Document& document, const QString& name, ImageChange change, int run);
+
+    /// Makes the step change the current file, too: to the document's of now from the one that was before.
+    void TakeFile(const Document::File& before) { otherFile_ = before; }
+
+    /// The number of the state that the step leads to.
+    int Serial() const { return serial_; }
+
+    void undo() override;
+    void redo() override;
+    int id() const override { return run_; }
+    bool mergeWith(const QUndoCommand* next) override;
+
+  private:
+    void SwapFile();
+
+    Document& document_;
+    ImageChange change_;
+    std::optional<Document::File> otherFile_;  ///< the file of the side that the document is not on
+    int run_;
+    int serial_;
+    bool isMade_ = true;  ///< redo has nothing to do the first time
+};
+
+}  // namespace rqm5

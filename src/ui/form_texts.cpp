@@ -1,0 +1,100 @@
+#include "ui/form_texts.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QCoreApplication>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenu>
+#include <QTabBar>
+#include <QVariant>
+#include <optional>
+
+namespace rqm5 {
+
+namespace {
+
+/// The translation of a text in the context of an object's class or of a class that holds it.
+std::optional<QString> Lookup(const QObject* object, const QString& text)
+{
+    const QByteArray source = text.toUtf8();
+    for (; object != nullptr; object = object->parent()) {
+        for (const QMetaObject* type = object->metaObject(); type != nullptr; type = type->superClass()) {
+            const QString found = QCoreApplication::translate(type->className(), source.constData());
+            if (found != text)
+                return found;
+        }
+    }
+    return std::nullopt;
+}
+
+/// What a text is to become. The tag keeps the designed text for as long as a translation stands in for it.
+QString NewText(QObject& object, const QByteArray& tag, const QString& current)
+{
+    const QVariant designed = object.property(tag.constData());
+    const QString source = designed.isValid() ? designed.toString() : current;
+    if (source.isEmpty())
+        return current;
+    if (const std::optional<QString> found = Lookup(&object, source)) {
+        object.setProperty(tag.constData(), source);
+        return *found;
+    }
+    object.setProperty(tag.constData(), QVariant());
+    return source;
+}
+
+template <typename Control>
+void SetText(Control& control, const char* tag, QString (Control::*text)() const,
+             void (Control::*setText)(const QString&))
+{
+    const QString current = (control.*text)();
+    const QString wanted = NewText(control, tag, current);
+    if (wanted != current)
+        (control.*setText)(wanted);
+}
+
+void SetTabTexts(QTabBar& tabs)
+{
+    for (int i = 0; i < tabs.count(); ++i) {
+        tabs.setTabText(i, NewText(tabs, "tagTab" + QByteArray::number(i), tabs.tabText(i)));
+        tabs.setTabToolTip(i, NewText(tabs, "tagTabTip" + QByteArray::number(i), tabs.tabToolTip(i)));
+    }
+}
+
+void SetActionTexts(QAction& action)
+{
+    SetText<QAction>(action, "tag", &QAction::text, &QAction::setText);
+    SetText<QAction>(action, "tagStatusTip", &QAction::statusTip, &QAction::setStatusTip);
+    // An action without a tooltip of its own answers with its text.
+    if (action.property("hasToolTip").toBool())
+        SetText<QAction>(action, "tagToolTip", &QAction::toolTip, &QAction::setToolTip);
+}
+
+void SetWidgetTexts(QWidget& widget)
+{
+    SetText<QWidget>(widget, "tagToolTip", &QWidget::toolTip, &QWidget::setToolTip);
+    SetText<QWidget>(widget, "tagStatusTip", &QWidget::statusTip, &QWidget::setStatusTip);
+    SetText<QWidget>(widget, "tagName", &QWidget::accessibleName, &QWidget::setAccessibleName);
+    if (auto* label = qobject_cast<QLabel*>(&widget))
+        SetText<QLabel>(*label, "tag", &QLabel::text, &QLabel::setText);
+    else if (auto* button = qobject_cast<QAbstractButton*>(&widget))
+        SetText<QAbstractButton>(*button, "tag", &QAbstractButton::text, &QAbstractButton::setText);
+    else if (auto* group = qobject_cast<QGroupBox*>(&widget))
+        SetText<QGroupBox>(*group, "tag", &QGroupBox::title, &QGroupBox::setTitle);
+    else if (auto* tabs = qobject_cast<QTabBar*>(&widget))
+        SetTabTexts(*tabs);
+}
+
+}  // namespace
+
+void SetFormTexts(QWidget& form)
+{
+    SetText<QWidget>(form, "tag", &QWidget::windowTitle, &QWidget::setWindowTitle);
+    // Menus are titled by an action of their own, which is among the children too.
+    for (QAction* action : form.findChildren<QAction*>())
+        SetActionTexts(*action);
+    for (QWidget* widget : form.findChildren<QWidget*>())
+        SetWidgetTexts(*widget);
+}
+
+}  // namespace rqm5
