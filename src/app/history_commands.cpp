@@ -9,8 +9,6 @@ HistoryCommands::HistoryCommands(Document& document, Menus& menus, QMainWindow& 
 {
     new HistoryKey(window);
     MakeView(window);
-    connect(&menus.Item("mnuHistoryUndo"), &QAction::triggered, &history_, &QUndoStack::undo);
-    connect(&menus.Item("mnuHistoryRedo"), &QAction::triggered, &history_, &QUndoStack::redo);
     connect(&history_, &QUndoStack::indexChanged, this, &HistoryCommands::ShowItems);
     // A run that goes on changes the name of the step and nothing else.
     connect(&document, &Document::StateChanged, this, &HistoryCommands::ShowItems);

@@ -114,6 +114,8 @@ void frmMain::ConnectTransferMenus()
 
 void frmMain::ConnectOtherMenus()
 {
+    ConnectMenu("mnuHistoryUndo", [this] { document_.History().undo(); });
+    ConnectMenu("mnuHistoryRedo", [this] { document_.History().redo(); });
     ConnectMenu("mnuEditUndo", [this] { edits_->mnuEditUndo_Click(); });
     ConnectMenu("mnuViewToolbar",
                 [this] { tbToolBar_->setVisible(menus_->Item("mnuViewToolbar").isChecked()); });
@@ -239,6 +241,7 @@ void frmMain::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange) {
         SetFormTexts(*this);
+        history_->ShowItems();
         ShowState();
     }
     QMainWindow::changeEvent(event);

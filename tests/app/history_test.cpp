@@ -333,7 +333,14 @@ TEST_F(HistoryTest, TypingThatIsNotFinishedYetIsTheLastStep)
     const std::pair<const char*, std::function<void()>> cases[] = {
         {"toolbar", [this] { PressOnToolbar("mnuHistoryUndo"); }},
         {"menu", [this] { ChooseFromMenu("mnuHistoryUndo"); }},
+        {"list",
+         [this] {
+             auto& list = Find<QListView>("lstHistory");
+             QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
+                               list.visualRect(list.model()->index(1, 0)).center());
+         }},
     };
+    Item("mnuViewHistory").trigger();
     const std::string before = Shown();
     for (const auto& [way, undo] : cases) {
         SCOPED_TRACE(way);
@@ -385,6 +392,7 @@ TEST_F(HistoryTest, ADragOfASliderAndARunOfKeysAreOneStepEach)
             Find<QSlider>("Slider1").setFocus();
             Press(Qt::Key_PageUp);
         },
+        [=] { drag(-40); },
     };
     for (const auto& run : runs) {
         run();

@@ -188,10 +188,32 @@ TEST_F(WindowTest, FollowsTheLanguageWhileItRuns)
     QApplication::installTranslator(&brackets);
     QCoreApplication::processEvents();
     EXPECT_EQ(texts(), QStringLiteral("[&New][Read(&R)][Memory][The memory channels][New]"));
+    EditSomething();
     QApplication::removeTranslator(&brackets);
     QCoreApplication::processEvents();
     EXPECT_EQ(texts(), designed);
+    EXPECT_EQ(Item("mnuHistoryUndo").text(), QStringLiteral("&Undo Scan Mode: Timer Scan"));
     EXPECT_EQ(window_->windowTitle(), kTitle);
+}
+
+TEST_F(WindowTest, TheStatusBarSaysWhatMattersMost)
+{
+    Start();
+    auto& bar = Find<StatusBar>("sbStatusBar");
+    Find<QWidget>("Slider1").setFocus();
+    const std::pair<std::function<void()>, const char*> cases[] = {
+        {[] {}, "Volume, 0 to 50"},
+        {[&] { bar.ShowWarning(QStringLiteral("a warning")); }, "a warning"},
+        {[&] { bar.ShowNote(QStringLiteral("a note")); }, "a note"},
+        {[&] { bar.ShowPointerHint(QStringLiteral("a hint")); }, "a hint"},
+        {[&] { bar.ShowNote(QStringLiteral("news")); }, "news"},
+        {[&] { bar.ShowNote({}); }, "a warning"},
+        {[&] { bar.ShowWarning({}); }, "Volume, 0 to 50"},
+    };
+    for (const auto& [happens, shown] : cases) {
+        happens();
+        EXPECT_EQ(StatusText("lblHint").toStdString(), shown);
+    }
 }
 
 TEST_F(WindowTest, PrintsWhatTheWindowShows)

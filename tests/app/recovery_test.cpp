@@ -68,7 +68,11 @@ TEST_F(RecoveryTest, EditsSurviveAKilledProgram)
     options_.commandFile = file;
     StartWithAnswer(QMessageBox::Cancel);
     ASSERT_EQ(dialogs_.asked.size(), 1U);
-    EXPECT_TRUE(dialogs_.asked[0].details.contains(QStringLiteral("radio.RQ5")));
+    const Prompt& question = dialogs_.asked[0];
+    EXPECT_TRUE(question.details.contains(QStringLiteral("radio.RQ5")));
+    EXPECT_EQ(question.buttons, QMessageBox::Yes | QMessageBox::Discard | QMessageBox::Cancel);
+    EXPECT_EQ(question.defaultButton, QMessageBox::Yes);
+    EXPECT_EQ(question.captions.size(), 3U) << "Yes and Cancel would answer nothing";
     EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("Saved")) << "the file of the command line is open";
     EXPECT_TRUE(window_->windowTitle().startsWith(QStringLiteral("radio.RQ5")));
     window_->close();

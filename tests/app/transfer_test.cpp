@@ -77,10 +77,17 @@ TEST_F(TransferTest, ReadAllShowsWhatTheReceiverHolds)
     QString counter;
     At(1200, [&] {
         EXPECT_EQ(Bar().maximum(), 1209);
+        EXPECT_EQ(StatusText("lblRegion"), QStringLiteral("RQ-M5 E")) << "what has arrived is shown";
         counter = Find<QLineEdit>("Text3").text();
         ExpectEverythingOff();
+        EXPECT_TRUE(Find<QPushButton>("cmbCancel").hasFocus());
+        const std::size_t sent = receiver_.CommandLog().size();
+        Find<TransferCommands>("").Run(Transfer::ReadBankPage, kSelectAll);
+        EXPECT_EQ(receiver_.CommandLog().size(), sent) << "one at a time";
     });
+    Find<QWidget>("Slider1").setFocus();
     Item("mnuReAll").trigger();
+    EXPECT_TRUE(Find<QWidget>("Slider1").hasFocus());
     EXPECT_EQ(counter, QStringLiteral("1200"));
     ExpectEverythingOn();
     EXPECT_TRUE(dialogs_.asked.empty());
@@ -155,6 +162,21 @@ TEST_F(TransferTest, CancelEndsItWithoutAMessageAndKeepsWhatCame)
         EXPECT_TRUE(dialogs_.asked.empty());
         ExpectEverythingOn();
     }
+}
+
+TEST_F(TransferTest, FlagsThatAWriteTakesOverAreShownButNeitherAStepNorUnsaved)
+{
+    Item("mnuReAll").trigger();
+    dialogs_.files = {Path("kept.RQ5")};
+    Item("mnuFileSaveAs").trigger();
+    const int enabled = StatusText("lblEnabled").section(u' ', -1).toInt();
+    demo_.MemData(200).enabled = !demo_.MemEnable(200);  // in bank 3
+    receiver_.SetMemory(MemoryFromImage(demo_));
+    Find<QComboBox>("cbbBank").setCurrentIndex(0);
+    Item("mnuWrMemory").trigger();
+    EXPECT_EQ(StatusText("lblEnabled").section(u' ', -1).toInt(), enabled + (demo_.MemEnable(200) ? 1 : -1));
+    EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("Saved"));
+    EXPECT_EQ(Item("mnuHistoryUndo").text(), QStringLiteral("&Undo Read ALL"));
 }
 
 TEST_F(TransferTest, WhatHasArrivedIsAnUnsavedChangeAlsoWhenItIsNothingNew)

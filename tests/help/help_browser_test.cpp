@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QDesktopServices>
 #include <QScrollBar>
+#include <QTextBrowser>
 
 #include "app/window_fixture.h"
 
@@ -107,11 +109,19 @@ TEST_F(HelpBrowserTest, AsksBeforeItLeavesTheManual)
 {
     OpenHelp();
     const std::string before = Source();
-    dialogs_.answers = {QMessageBox::No};
-    FollowLink("https://example.org/<b>");
-    ASSERT_EQ(dialogs_.asked.size(), 1U);
+    QTextBrowser browser;  // in the place of the desktop's
+    QDesktopServices::setUrlHandler(QStringLiteral("https"), &browser, "setSource");
+    for (const auto& [answer, isOpened] :
+         {std::pair(QMessageBox::No, false), std::pair(QMessageBox::Yes, true)}) {
+        dialogs_.answers = {answer};
+        FollowLink("https://example.org/<b>");
+        EXPECT_EQ(browser.source().host() == QLatin1String("example.org"), isOpened);
+        EXPECT_EQ(Source(), before);
+    }
+    QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
+    ASSERT_EQ(dialogs_.asked.size(), 2U);
     EXPECT_TRUE(dialogs_.asked[0].details.contains(QLatin1String("example.org")));
-    EXPECT_EQ(Source(), before);
+    EXPECT_EQ(dialogs_.asked[0].defaultButton, QMessageBox::No);
 }
 
 }  // namespace

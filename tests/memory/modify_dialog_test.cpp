@@ -63,13 +63,25 @@ TEST_F(ModifyDialogTest, ShowsWhatItEditsAndSelectsTheFrequency)
     const auto look = [this] {
         ExpectLabels("Modify Memory", "Bank 0  CH 0", "(0.1-1299.995MHz)");
         EXPECT_EQ(Frequency().selectedText(), QStringLiteral("100.000000"));
-        EXPECT_TRUE(Get<QComboBox>("cbbAir").isEnabled() && !Get<QComboBox>("cbbSec").isEnabled());
     };
     Act(look).OpenMemory(0, 0);
     Vfo(13, [this] { ExpectLabels("Modify VFO", "Band 13", "(960.000-1299.995MHz)"); });
     SetModel(2);
     EXPECT_FALSE(dialog_.OpenVfo(8));
     EXPECT_EQ(dialogs_.runs, 2);
+}
+
+TEST_F(ModifyDialogTest, OffersWhatTheRegionHas)
+{
+    for (int region = 0; region < kRegions; ++region) {
+        SetModel(region);
+        Memory(0, [this, region] {
+            for (const char* secret : {"cbbSec", "opbTone_1"})
+                EXPECT_EQ(Get<QWidget>(secret).isEnabled(), region == 1) << region << secret;
+            for (const char* carrier : {"cbbAir", "opbTone_2"})
+                EXPECT_EQ(Get<QWidget>(carrier).isEnabled(), region == 0) << region << carrier;
+        });
+    }
 }
 
 TEST_F(ModifyDialogTest, TabReachesAGroupWhoseChoiceTheRegionLacks)
