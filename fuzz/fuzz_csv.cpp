@@ -57,7 +57,7 @@ void RequireStableExport(CloneImage image)
 void CheckCsv(std::string_view text)
 {
     static CloneImage image = FreshImage();
-    const int taken = ParseCsv(text, image);
+    const int taken = ParseCsv(text, image).rows;
     const ImageChange change = Difference(FreshImage(), image);
     Require(taken > 0 || change.IsEmpty(), "a text without records changes nothing");
     if (change.IsEmpty())

@@ -1,12 +1,15 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QLocale>
+#include <QSessionManager>
 #include <QTranslator>
 
 #include "app/command_file.h"
+#include "app/ending.h"
 #include "app/recovery.h"
 #include "app/start_up.h"
 #include "files/file_store.h"
+#include "files/plain_settings.h"
 #include "link/port_file.h"
 #include "link/qt_serial_port.h"
 #include "ui/icons.h"
@@ -33,6 +36,7 @@ QStringList FileArguments(const QApplication& application)
 int main(int argc, char** argv)
 {
     rqm5::TurnFileSizeLimitIntoError();
+    rqm5::PassOverSettingsThatAreNoFiles();
     QApplication application(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("Tervan"));
     QApplication::setApplicationName(QStringLiteral("Tervan RQ-M5 Clone Utility"));
@@ -53,6 +57,21 @@ int main(int argc, char** argv)
     options.portFile = rqm5::PortFilePath(folder);
     options.stateFolder = rqm5::StateFolder();
     options.useDevice = [&port](const QString& device) { port.SetDevice(device); };
-    const auto window = rqm5::StartUp(port, dialogs, options);
-    return QApplication::exec();
+    std::unique_ptr<rqm5::frmMain> window;
+    rqm5::EndSignals endSignals;
+    QObject::connect(&endSignals, &rqm5::EndSignals::Came, [&] {
+        if (window)
+            window->KeepWork();
+        QApplication::exit(endSignals.Status());
+    });
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, [&](QSessionManager&) {
+        if (window)
+            window->EndSession();
+    });
+    window = rqm5::StartUp(port, dialogs, options);
+    const int status = endSignals.Status() != 0 ? endSignals.Status() : QApplication::exec();
+    // What a transfer stored until it had ended.
+    if (endSignals.Status() != 0)
+        window->KeepWork();
+    return status;
 }

@@ -10,6 +10,7 @@
 #include <QStatusTipEvent>
 #include <QVBoxLayout>
 
+#include "app/file_news.h"
 #include "app/placement.h"
 #include "memory/start_image.h"
 #include "ui/form_texts.h"
@@ -54,11 +55,16 @@ void frmMain::Compose()
     auto* column = new QVBoxLayout(middle);
     pages_ = new Pages(document_, dialogs_, middle);
     transferBar_ = new TransferBar(middle);
+    messageBar_ = new MessageBar(middle);
+    column->addWidget(messageBar_);
     column->addWidget(&pages_->Tabs(), 1);
     column->addWidget(transferBar_);
     setCentralWidget(middle);
 
-    files_ = new FileCommands(document_, dialogs_, *this);
+    warnings_ = new StandingWarnings(*sbStatusBar_, *messageBar_);
+    currentFile_ = new CurrentFile(document_, this);
+    files_ = new FileCommands(document_, *currentFile_, dialogs_, *this);
+    new FileNews(document_, *currentFile_, *files_, *messageBar_);
     edits_ = new EditCommands(document_, dialogs_, *pages_, *this);
     history_ = new HistoryCommands(document_, *menus_, *this);
     ports_ = new PortCommands(link_.Port(), dialogs_, options_, *this);
@@ -67,6 +73,7 @@ void frmMain::Compose()
     shell_ = new TransferShell(*transfers_, *menus_, *pages_, *history_, *transferBar_, *sbStatusBar_, *this);
     sides_ = new SideWindows(document_, link_, *transfers_, dialogs_, *ports_, options_, *this);
     recovery_ = new Recovery(document_, options_.stateFolder, options_.recoveryDelay, this);
+    recovery_->SetMark([this] { return currentFile_->KnownMark(); });
 }
 
 void frmMain::ConnectMenu(ItemName name, std::function<void()> command)
@@ -86,9 +93,13 @@ void frmMain::ConnectFileMenus()
     ConnectMenu("mnuFileSaveAs", [this] { files_->mnuFileSaveAs_Click(); });
     ConnectMenu("mnuFileImport", [this] { files_->mnuFileImport_Click(); });
     ConnectMenu("mnuFileExport", [this] { files_->mnuFileExport_Click(); });
+    ConnectMenu("mnuFileRepair", [this] { files_->mnuFileRepair_Click(); });
     ConnectMenu("mnuFilePrint", [this] { sides_->mnuFilePrint_Click(); });
     ConnectMenu("mnuFileExit", [this] { close(); });
     connect(files_, &FileCommands::Asking, this, &frmMain::Asking);
+    connect(files_, &FileCommands::Noted, sbStatusBar_, &StatusBar::ShowNote);
+    connect(files_, &FileCommands::NotesLost, this,
+            [this](const QString& text) { warnings_->Set(StandingWarnings::Kind::Notes, text); });
     connect(files_, &FileCommands::NewDone, this, [this] { pages_->Memory().SelectGroup(kSelectAll); });
     connect(files_, &FileCommands::NothingImported, this, [this] {
         sbStatusBar_->ShowNote(tr("Nothing was imported: the file holds no record of this receiver."));
@@ -106,7 +117,9 @@ void frmMain::ConnectTransferMenus()
     ConnectMenu("mnuWrBackup", [this] { writeOptions_->Keep(); });
     ConnectMenu("mnuWrVerify", [this] { writeOptions_->Keep(); });
     ConnectMenu("mnuWrBackupFolder", [this] { writeOptions_->mnuWrBackupFolder_Click(); });
+    connect(transfers_, &TransferCommands::Started, messageBar_, [this] { messageBar_->setEnabled(false); });
     connect(transfers_, &TransferCommands::Ended, this, [this] {
+        messageBar_->setEnabled(true);
         if (std::exchange(isClosePending_, false))
             QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
     });
@@ -119,8 +132,10 @@ void frmMain::ConnectOtherMenus()
     ConnectMenu("mnuEditUndo", [this] { edits_->mnuEditUndo_Click(); });
     ConnectMenu("mnuViewToolbar",
                 [this] { tbToolBar_->setVisible(menus_->Item("mnuViewToolbar").isChecked()); });
-    ConnectMenu("mnuStatusBar",
-                [this] { sbStatusBar_->setVisible(menus_->Item("mnuStatusBar").isChecked()); });
+    ConnectMenu("mnuStatusBar", [this] {
+        sbStatusBar_->setVisible(menus_->Item("mnuStatusBar").isChecked());
+        warnings_->Show();
+    });
     ConnectMenu("mnuToolsOptions", [this] { ports_->mnuToolsOptions_Click(); });
     ConnectMenu("mnuHelpContents", [this] { sides_->mnuHelpContents_Click(); });
     ConnectMenu("mnuHelpAbout", [this] { sides_->mnuHelpAbout_Click(); });
@@ -135,8 +150,9 @@ void frmMain::ConnectDocument()
     connect(&document_, &Document::Changed, this, [this] { sbStatusBar_->ShowDocument(document_); });
     connect(&document_, &Document::Stepped, pages_, &Pages::GoTo);
     connect(recovery_, &Recovery::Asking, this, &frmMain::Asking);
-    connect(recovery_, &Recovery::Kept, sbStatusBar_, [this](const QString& reason) {
-        sbStatusBar_->ShowWarning(
+    connect(recovery_, &Recovery::Kept, warnings_, [this](const QString& reason) {
+        warnings_->Set(
+            StandingWarnings::Kind::NotKept,
             reason.isEmpty() ? QString() : tr("Unsaved changes cannot be kept for recovery: %1").arg(reason));
     });
 }
@@ -160,9 +176,8 @@ void frmMain::Form_Load()
 
 bool frmMain::RecoverWork()
 {
-    return recovery_->Offer(dialogs_, this, [this](const QString& path, const QString& origin) {
-        return files_->Recover(path, origin);
-    });
+    return recovery_->Offer(dialogs_, this,
+                            [this](const RecoveryFile& file) { return files_->Recover(file); });
 }
 
 void frmMain::WaitForSplash()
@@ -180,7 +195,7 @@ void frmMain::ShowState()
     // A note is about what has just happened, and this came later.
     sbStatusBar_->ShowNote({});
     if (!document_.DataChanged())
-        sbStatusBar_->ShowWarning({});
+        warnings_->Set(StandingWarnings::Kind::NotKept, {});
     sbStatusBar_->ShowDocument(document_);
 }
 
@@ -201,12 +216,42 @@ void frmMain::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
+    if (isSessionEnding_) {
+        KeepWork();
+        event->accept();
+        return;
+    }
     if (!Form_QueryUnload()) {
         event->ignore();
         return;
     }
     Form_Unload();
     event->accept();
+}
+
+void frmMain::KeepWork()
+{
+    recovery_->KeepNow();
+    ports_->Save();
+    transfers_->Cancel();
+}
+
+void frmMain::EndSession()
+{
+    KeepWork();
+    isSessionEnding_ = true;
+    qApp->installEventFilter(this);
+}
+
+/// Whoever presses a key or a button goes on working.
+bool frmMain::eventFilter(QObject* /*watched*/, QEvent* event)
+{
+    const bool isInput = event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress;
+    if (isInput && event->spontaneous()) {
+        isSessionEnding_ = false;
+        qApp->removeEventFilter(this);
+    }
+    return false;
 }
 
 bool frmMain::Form_QueryUnload()

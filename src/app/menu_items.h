@@ -44,6 +44,8 @@ inline constexpr MenuItem kMenuItems[] = {
      During::Off},
     {"mnuFile", "mnuFileExport", TEXT("&Export..."), "", TEXT("Write VFO bands and channels to a CSV file"),
      During::Off},
+    {"mnuFile", "mnuFileRepair", TEXT("&Repair..."), "",
+     TEXT("Open a clone file that is refused because of its notes"), During::Off},
     {"mnuFile", "", "", "", "", During::Stays},
     {"mnuFile", "mnuFilePrint", TEXT("&Print..."), "Ctrl+P", TEXT("Print settings, VFO bands and channels"),
      During::Off},

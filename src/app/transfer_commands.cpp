@@ -4,6 +4,7 @@
 
 #include "app/write_options.h"
 #include "files/file_store.h"
+#include "files/rescue.h"
 #include "link/forwarding_observer.h"
 #include "link/receiver_checks.h"
 #include "link/receiver_writer.h"
@@ -102,22 +103,26 @@ TransferResult TransferCommands::Write(const TransferScope& scope)
 
 TransferResult TransferCommands::KeepBackup(const TransferScope& scope, const QString& folder)
 {
+    QDir().mkpath(folder);  // where it cannot be made, what follows says why
+    const QString path = NewBackupPath(folder, scope, QDateTime::currentDateTime());
+    if (const auto problem = ReadingObstacle(path)) {
+        Message({problem->text, problem->details, NothingWritten()});
+        return TransferResult::Failed;
+    }
     CloneImage backup;
     const TransferResult result = ReadBackup(document_.Image(), scope, link_, *this, backup);
     if (result == TransferResult::Cancelled)
         emit Noted(QString::fromStdString(NothingWritten()));
     if (result != TransferResult::Done)
         return result;
-    return SaveBackup(scope, folder, backup) ? TransferResult::Done : TransferResult::Failed;
+    return SaveBackup(path, backup) ? TransferResult::Done : TransferResult::Failed;
 }
 
-bool TransferCommands::SaveBackup(const TransferScope& scope, const QString& folder, const CloneImage& backup)
+bool TransferCommands::SaveBackup(const QString& path, const CloneImage& backup)
 {
-    QDir().mkpath(folder);  // where it cannot be made, saving says why
-    const auto problem =
-        SaveCloneFile(NewBackupPath(folder, scope, QDateTime::currentDateTime()), backup).problem;
+    const auto problem = SaveCloneFile(path, backup).problem;
     if (problem)
-        Message({problem->text, problem->details, NothingWritten()});
+        Message({problem->text, problem->details, Rescue(backup, path) + ' ' + NothingWritten()});
     return !problem;
 }
 

@@ -73,7 +73,7 @@ class TransferCommands : public QObject, private TransferObserver
     TransferResult WriteBlocks(const TransferScope& scope);
     TransferResult Verify(const TransferScope& scope);
     void Warn(Prompt warning);
-    bool SaveBackup(const TransferScope& scope, const QString& folder, const CloneImage& backup);
+    bool SaveBackup(const QString& path, const CloneImage& backup);
 
     void ProgressStarted(int maximum) override { emit ProgressBegan(maximum); }
     void ProgressMoved(int value, int row) override { emit ProgressAdvanced(value, row); }

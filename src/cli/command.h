@@ -48,6 +48,7 @@ Status RunImport(const Arguments& arguments, Console& console);
 Status RunPrint(const Arguments& arguments, Console& console);
 Status RunShow(const Arguments& arguments, Console& console);
 Status RunCheck(const Arguments& arguments, Console& console);
+Status RunRepair(const Arguments& arguments, Console& console);
 Status RunDiff(const Arguments& arguments, Console& console);
 Status RunPorts(const Arguments& arguments, Console& console);
 Status RunRaw(const Arguments& arguments, Console& console);

@@ -38,6 +38,16 @@ constexpr Option kPrintOptions[] = {
     {"--empty", "", "print empty rows, too"},
     {"--paper", "a4|letter", "size of the PDF's pages; without it that of the country", PaperFault},
     {"--landscape", "", "turn the PDF's pages"},
+    {"--force", "", "replace OUT.pdf whatever it holds"},
+};
+constexpr Option kExportOptions[] = {{"--force", "", "replace OUT.csv whatever it holds"}};
+constexpr Option kImportOptions[] = {
+    {"--safe-notes", "", "store notes without commas and quotes, which a clone file cannot hold"},
+    {"--force", "", "write FILE even if its notes keep it from being opened again"},
+};
+constexpr Option kRepairOptions[] = {
+    {"--to", "NEW", "write the repaired file under this name, which no file has yet", FileNameFault},
+    {"--in-place", "", "write it in the place of FILE, which is kept as FILE~"},
 };
 constexpr Option kRawOptions[] = {kPort};
 
@@ -50,6 +60,13 @@ constexpr Operand kAddress[] = {{"ADDRESS", BlockAddressFault}};
 std::string SameFileConflict(const Arguments& arguments)
 {
     return arguments[0] == arguments[1] ? "both names are the same file, which would be replaced" : "";
+}
+
+std::string RepairConflict(const Arguments& arguments)
+{
+    return arguments.Has("--to") && arguments.Has("--in-place")
+               ? "--to writes another file than --in-place; choose one"
+               : "";
 }
 
 constexpr Command kCommands[] = {
@@ -67,20 +84,14 @@ constexpr Command kCommands[] = {
      "Compares with what write of the same parts leaves behind. Says nothing and ends with status 0 when "
      "they agree, else lists each block that differs.",
      kFile, kTransferOptions, RunVerify, ScopeConflict},
-    {"export",
-     "write FILE as CSV",
-     "The file holds the channels and VFO bands, for a spreadsheet.",
-     kExportFiles,
-     {},
-     RunExport,
-     SameFileConflict},
-    {"import",
-     "take the rows of a CSV file into FILE",
-     "Rows that IN.csv does not name stay as they are. FILE is made when it does not exist.",
-     kImportFiles,
-     {},
-     RunImport,
-     SameFileConflict},
+    {"export", "write FILE as CSV",
+     "The file holds the channels and VFO bands, for a spreadsheet. OUT.csv may be missing, empty or an "
+     "older export.",
+     kExportFiles, kExportOptions, RunExport, SameFileConflict},
+    {"import", "take the rows of a CSV file into FILE",
+     "Rows that IN.csv does not name stay as they are. FILE is made when it does not exist. Notes with which "
+     "FILE could not be opened again keep it from being written. Carrier codes move one up.",
+     kImportFiles, kImportOptions, RunImport, SameFileConflict},
     {"show", "print the channels of FILE in columns", "A \"-\" in front of a label marks a row that is off.",
      kFile, kShowOptions, RunShow},
     {"print", "print FILE as text or PDF",
@@ -89,10 +100,15 @@ constexpr Command kCommands[] = {
      kFile, kPrintOptions, RunPrint, PrintConflict},
     {"check",
      "say whether FILE is whole and what it holds",
-     "Names the line that is wrong and why. Warns of notes that a save loses or a spreadsheet would run.",
+     "Names the line that is wrong and why. Warns of notes that a save loses or a spreadsheet would run, and "
+     "of values that are read otherwise than the file says them.",
      kFile,
      {},
      RunCheck},
+    {"repair", "open a file again that its notes spoil",
+     "Commas in notes become semicolons, quotes apostrophes; each such note is shown. Without --to and "
+     "--in-place nothing is written.",
+     kFile, kRepairOptions, RunRepair, RepairConflict},
     {"diff",
      "list what differs between two files",
      "Rows, settings, banks and notes are named. Status 1 when there is a difference.",

@@ -20,7 +20,7 @@ std::optional<Problem> BackupObstacle(const std::string& path)
         return Problem{kFileOpenError, path +
                                            ": there is a file already, and a backup replaces none; "
                                            "choose another name"};
-    return path.empty() ? std::nullopt : SaveObstacle(PathOf(path));
+    return path.empty() ? std::nullopt : ReadingObstacle(PathOf(path));
 }
 
 Status KeepBackup(const CloneImage& image, const TransferScope& scope, const std::string& path,
@@ -34,10 +34,7 @@ Status KeepBackup(const CloneImage& image, const TransferScope& scope, const std
         console.err << NothingWritten() << '\n';
     if (status != Status::Done)
         return status;
-    const SaveOutcome outcome = SaveCloneFile(PathOf(path), backup);
-    if (!outcome.problem)
-        return Status::Done;
-    return Fail(console, {outcome.problem->text, outcome.problem->details, NothingWritten()});
+    return SaveRead(path, backup, console, NothingWritten());
 }
 
 Status Write(const CloneImage& image, const TransferScope& scope, ReceiverSession& session, Console& console)
@@ -58,7 +55,7 @@ Status RunRead(const Arguments& arguments, Console& console)
     CloneImage image;
     auto problem = LoadOrStart(arguments[0], image);
     if (!problem)
-        problem = SaveObstacle(PathOf(arguments[0]));
+        problem = ReadingObstacle(PathOf(arguments[0]));
     if (problem)
         return Fail(console, *problem);
     const TransferScope scope = ScopeOf(arguments);
@@ -66,7 +63,7 @@ Status RunRead(const Arguments& arguments, Console& console)
     session.Observer().Begin(BlocksToBackUp(image, scope));
     ReceiverReader reader(image, session.Link(), session.Observer());
     const Status status = session.Finish(reader.Read(scope));
-    return status == Status::Done ? Save(arguments[0], image, console) : status;
+    return status == Status::Done ? SaveRead(arguments[0], image, console) : status;
 }
 
 Status RunWrite(const Arguments& arguments, Console& console)

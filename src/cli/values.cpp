@@ -103,7 +103,7 @@ std::string PrintConflict(const Arguments& arguments)
     for (const char* option : {"--bank", "--empty"})
         if (arguments.Has(option) && !hasMemory)
             return std::string(option) + " is about channels, which are not printed; add --memory";
-    for (const char* option : {"--paper", "--landscape"})
+    for (const char* option : {"--paper", "--landscape", "--force"})
         if (arguments.Has(option) && !arguments.Has("--pdf"))
             return std::string(option) + " is about the pages of a PDF; add --pdf";
     return arguments.Has("--pdf") && arguments.Value("--pdf") == arguments[0]

@@ -13,6 +13,8 @@ class QLineEdit;
 
 namespace rqm5 {
 
+class NoteLine;
+
 /// The controls of the channel editor. What they hold goes in and out as ChannelFields.
 class ModifyForm : public QWidget
 {
@@ -47,7 +49,6 @@ class ModifyForm : public QWidget
     QLayout* BuildShift();
     QLayout* BuildNote();
     void BuildChecks();
-    void txtNote_Change();
 
     QLabel* lblMode_;
     QLabel* lblCH_;
@@ -65,7 +66,7 @@ class ModifyForm : public QWidget
     QComboBox* cbbTxTone_;
     QLabel* lblNote_;
     QLineEdit* txtNote_;
-    QLabel* lblNoteHint_;
+    NoteLine* noteLine_;
     QCheckBox* chkSkip_;
     QCheckBox* chkEnable_;
 };

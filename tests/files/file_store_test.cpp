@@ -64,14 +64,14 @@ TEST_F(FileStore, WhatIsSavedIsLoadedAndWhatIsExportedImported)
     EXPECT_FALSE(LoadCloneFile(Path("a.RQ5"), loaded));
     EXPECT_TRUE(loaded == image);
 
-    int taken = 0;
+    CsvTaken taken;
     EXPECT_FALSE(ExportCsv(Path("a.csv"), image));
     EXPECT_EQ(Read(Path("a.csv")), FormatCsv(image));
-    EXPECT_TRUE(!ImportCsv(Path("a.csv"), imported, taken) && taken == 1224);
+    EXPECT_TRUE(!ImportCsv(Path("a.csv"), imported, taken) && taken.rows == 1224);
     ParseCsv(FormatCsv(image), expected);
     EXPECT_TRUE(imported == expected);
     ExpectProblem(ImportCsv(Path("no.csv"), imported, taken), "File Open Error", "no such file");
-    EXPECT_TRUE(taken == 0 && imported == expected);
+    EXPECT_TRUE(taken.rows == 0 && imported == expected);
     EXPECT_EQ(FileCount(), 2);
 }
 
