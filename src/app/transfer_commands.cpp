@@ -163,7 +163,7 @@ TransferResult TransferCommands::WriteBlocks(const TransferScope& scope)
     if (writer.Plan().MayHaveSent(AreaOf(Area::Settings).address))
         receiver_.Written(writer.Written().Settings().model, link_.Port().Device());
     if (const int flags = writer.OtherFlags(); flags > 0)
-        notes_ << tr("The enable flags of %n other row(s) were replaced by the receiver's.", nullptr, flags);
+        notes_ << tr("Enable flags of other rows replaced by the receiver's: %1.").arg(flags);
     if (result == TransferResult::Cancelled && writer.Plan().HasBegun())
         Warn({.title = tr("Write"),
               .text = tr("The write was cancelled."),

@@ -22,14 +22,25 @@ std::string Joined(const std::vector<std::string>& names)
     return text.empty() ? kFixed : text;
 }
 
-/// The flags of these bits, the first of the byte having this number.
-std::string Flags(const std::string& one, int first, int end, int bits)
+/// "row 7", "rows 0 to 3, 5": the flags of these bits, the first of the byte having this number.
+std::string Flags(const std::string& noun, int first, int end, int bits)
 {
-    std::vector<std::string> names;
-    for (int bit = 0; bit < kBitsOfAByte; ++bit)
-        if ((bits & (0x80 >> bit)) != 0 && first + bit < end)
-            names.push_back(one + std::to_string(first + bit));
-    return Joined(names);
+    std::vector<std::string> runs;
+    int count = 0;
+    for (int bit = 0; bit < kBitsOfAByte; ++bit) {
+        const auto isSet = [&](int place) {
+            return place < kBitsOfAByte && (bits & (0x80 >> place)) != 0 && first + place < end;
+        };
+        if (!isSet(bit))
+            continue;
+        const int begin = bit;
+        while (isSet(bit + 1))
+            ++bit;
+        count += bit - begin + 1;
+        runs.push_back(std::to_string(first + begin) +
+                       (bit > begin ? " to " + std::to_string(first + bit) : std::string()));
+    }
+    return runs.empty() ? kFixed : noun + (count > 1 ? "s " : " ") + Joined(runs);
 }
 
 std::string SettingsByte(int index, int byte, int bits)
@@ -84,9 +95,9 @@ std::string ByteName(const BlockPlace& place, int byte, int bits)
         case Area::BankSizes:
             return BankSizesByte(index, byte);
         case Area::Flags:
-            return Flags("row ", (index * kBlockBytes + byte) * kBitsOfAByte, kMemoryRows, bits);
+            return Flags("row", (index * kBlockBytes + byte) * kBitsOfAByte, kMemoryRows, bits);
         case Area::Links:
-            return byte < kFlagBytes ? Flags("bank ", byte * kBitsOfAByte, kLinkFlags, bits) : kFixed;
+            return byte < kFlagBytes ? Flags("bank", byte * kBitsOfAByte, kLinkFlags, bits) : kFixed;
         case Area::PassList:
             return PassListByte(index, byte);
         case Area::Vfo:
