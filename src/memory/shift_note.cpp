@@ -22,13 +22,16 @@ QString Moved(int first, int last, const char* one, const char* several)
     return first == last ? Translate(one).arg(first) : Translate(several).arg(first).arg(last);
 }
 
-/// What was in the row that is no more.
+/// What was in the row that is no more. The bar is short, so what matters most comes first.
 QString Lost(const CloneImage& before, int row)
 {
-    const QString name = QString::fromStdString(RowName(before, row));
     if (!before.MemData(row).HasChannel())
-        return Translate("no channel was lost (%1 was empty)").arg(name);
-    return Translate("lost: %1, %2 MHz").arg(name, QString::fromStdString(before.MemText(row, kFrequency)));
+        return Translate("row %1 was empty, so nothing is lost").arg(row);
+    const QString place = QString::fromStdString(PlaceOfRow(before, row));
+    return Translate("lost: %1 MHz in row %2 (%3)")
+        .arg(QString::fromStdString(before.MemText(row, kFrequency)))
+        .arg(row)
+        .arg(place.isEmpty() ? Translate("in no bank") : place);
 }
 
 QString Note(const QString& moved, const QString& lost)
@@ -47,8 +50,8 @@ QString InsertNote(const CloneImage& before, RowRange shown, int tableRow)
 {
     if (IsShown(shown))
         return {};
-    return Note(Moved(tableRow - 1, kLastRow - 1, QT_TRANSLATE_NOOP("ShiftNote", "Memory row %1 moved down"),
-                      QT_TRANSLATE_NOOP("ShiftNote", "Memory rows %1 to %2 moved down")),
+    return Note(Moved(tableRow - 1, kLastRow - 1, QT_TRANSLATE_NOOP("ShiftNote", "Row %1 moved down"),
+                      QT_TRANSLATE_NOOP("ShiftNote", "Rows %1 to %2 moved down")),
                 Lost(before, kLastRow));
 }
 
@@ -56,8 +59,8 @@ QString DeleteNote(const CloneImage& before, RowRange shown, int tableRow)
 {
     if (IsShown(shown))
         return {};
-    return Note(Moved(tableRow, kLastRow, QT_TRANSLATE_NOOP("ShiftNote", "Memory row %1 moved up"),
-                      QT_TRANSLATE_NOOP("ShiftNote", "Memory rows %1 to %2 moved up")),
+    return Note(Moved(tableRow, kLastRow, QT_TRANSLATE_NOOP("ShiftNote", "Row %1 moved up"),
+                      QT_TRANSLATE_NOOP("ShiftNote", "Rows %1 to %2 moved up")),
                 Lost(before, tableRow - 1));
 }
 

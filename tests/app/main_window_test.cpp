@@ -58,13 +58,10 @@ TEST_F(WindowTest, InsertAndDeleteOutOfSightAreToldInTheStatusBar)
         const char* note;
     } cases[] = {
         {kSelectPriority, 6, "cmbInsert",
-         "Memory rows 6 to 198 moved down; lost: memory row 199 (Bank 0, channel 199), 299.000000 MHz."},
-        {1, 7, "cmbDelete",
-         "Memory rows 8 to 199 moved up; lost: memory row 7 (Bank 0, channel 7), 106.000000 MHz."},
-        {1, 3, "cmbDelete",
-         "Memory rows 4 to 199 moved up; no channel was lost (memory row 3 (Bank 0, channel 3) was empty)."},
-        {kSelectAll, 198, "cmbInsert",
-         "Memory row 198 moved down; no channel was lost (memory row 199 (Bank 0, channel 199) was empty)."},
+         "Rows 6 to 198 moved down; lost: 299.000000 MHz in row 199 (Bank 0, channel 199)."},
+        {1, 7, "cmbDelete", "Rows 8 to 199 moved up; lost: 106.000000 MHz in row 7 (Bank 0, channel 7)."},
+        {1, 3, "cmbDelete", "Rows 4 to 199 moved up; row 3 was empty, so nothing is lost."},
+        {kSelectAll, 198, "cmbInsert", "Row 198 moved down; row 199 was empty, so nothing is lost."},
     };
     for (const auto& test : cases) {
         Find<QComboBox>("cbbBank").setCurrentIndex(test.group);
