@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QMenuBar>
@@ -78,10 +79,13 @@ void frmMain::Compose()
 
 void frmMain::ConnectMenu(ItemName name, std::function<void()> command)
 {
-    // What was typed into a bank box counts as left once a menu is chosen.
-    connect(&menus_->Item(name), &QAction::triggered, this, [this, command = std::move(command)] {
-        pages_->Banks().CommitPending();
-        command();
+    // What was typed into a bank box counts as left once a menu is chosen. A size that is refused stops the
+    // command, unless its check mark has changed already.
+    QAction& item = menus_->Item(name);
+    connect(&item, &QAction::triggered, this, [this, &item, command = std::move(command)] {
+        sbStatusBar_->ShowNote({});
+        if (pages_->Banks().CommitPending() || item.isCheckable())
+            command();
     });
 }
 
@@ -149,6 +153,7 @@ void frmMain::ConnectDocument()
     connect(&document_, &Document::StateChanged, this, &frmMain::ShowState);
     connect(&document_, &Document::Changed, this, [this] { sbStatusBar_->ShowDocument(document_); });
     connect(&document_, &Document::Stepped, pages_, &Pages::GoTo);
+    connect(&pages_->Memory(), &MemoryPage::Noted, sbStatusBar_, &StatusBar::ShowNote);
     connect(recovery_, &Recovery::Asking, this, &frmMain::Asking);
     connect(recovery_, &Recovery::Kept, warnings_, [this](const QString& reason) {
         warnings_->Set(
@@ -184,8 +189,15 @@ void frmMain::WaitForSplash()
 {
     QEventLoop wait;
     connect(&Timer1_, &QTimer::timeout, &wait, &QEventLoop::quit);
-    Timer1_.start(options_.splashTime);
-    wait.exec();
+    QElapsedTimer clock;
+    clock.start();
+    // A timer may end a little before its time; the window never comes early.
+    auto left = options_.splashTime;
+    do {
+        Timer1_.start(left);
+        wait.exec();
+        left = options_.splashTime - std::chrono::milliseconds(clock.elapsed());
+    } while (left > left.zero());
 }
 
 /// After an edit, or when another file has become the current one.
@@ -256,8 +268,7 @@ bool frmMain::eventFilter(QObject* /*watched*/, QEvent* event)
 
 bool frmMain::Form_QueryUnload()
 {
-    pages_->Banks().CommitPending();
-    return files_->MayLoseChanges();
+    return pages_->Banks().CommitPending() && files_->MayLoseChanges();
 }
 
 void frmMain::Form_Unload()

@@ -6,6 +6,7 @@
 #include "files/file_store.h"
 #include "files/rescue.h"
 #include "link/forwarding_observer.h"
+#include "link/memory_map.h"
 #include "link/receiver_checks.h"
 #include "link/receiver_writer.h"
 #include "memory/bank_layout.h"
@@ -30,10 +31,13 @@ void TransferCommands::Occupy(const std::function<TransferResult()>& work)
         return;
     isRunning_ = true;
     isCancelled_ = false;
+    notes_.clear();
     emit Started();
     const TransferResult result = work();
     isRunning_ = false;
     emit Ended(result);
+    if (!notes_.isEmpty())
+        emit Noted(notes_.join(QLatin1Char(' ')));
 }
 
 void TransferCommands::RunOther(const std::function<void()>& work)
@@ -94,6 +98,8 @@ TransferResult TransferCommands::Write(const TransferScope& scope)
     auto result = TransferResult::Done;
     if (options.keepsBackup)
         result = KeepBackup(scope, options.backupFolder);
+    if (result == TransferResult::Done && !MayWriteToThisModel())
+        result = TransferResult::Cancelled;
     if (result == TransferResult::Done)
         result = WriteBlocks(scope);
     if (result == TransferResult::Done && options.verifies)
@@ -112,7 +118,7 @@ TransferResult TransferCommands::KeepBackup(const TransferScope& scope, const QS
     CloneImage backup;
     const TransferResult result = ReadBackup(document_.Image(), scope, link_, *this, backup);
     if (result == TransferResult::Cancelled)
-        emit Noted(QString::fromStdString(NothingWritten()));
+        notes_ << QString::fromStdString(NothingWritten());
     if (result != TransferResult::Done)
         return result;
     return SaveBackup(path, backup) ? TransferResult::Done : TransferResult::Failed;
@@ -126,11 +132,43 @@ bool TransferCommands::SaveBackup(const QString& path, const CloneImage& backup)
     return !problem;
 }
 
+void TransferCommands::BlockRead(int address, const MemoryBlock& block)
+{
+    if (address == AreaOf(Area::Settings).address)
+        receiver_.Read(block, link_.Port().Device());
+}
+
+/// Asks before the first write to a receiver that has told to be another model.
+bool TransferCommands::MayWriteToThisModel()
+{
+    const int wanted = document_.Image().Settings().model;
+    const int known = receiver_.Model(link_.Port().Device()).value_or(wanted);
+    const std::pair models(known, wanted);
+    if (known == wanted || models == agreed_)
+        return true;
+    const bool isMeant =
+        dialogs_.Ask(&window_, {.title = tr("Write"),
+                                .text = tr("The receiver is another model. Write to it all the same?"),
+                                .details = QString::fromStdString(OtherModelText(known, wanted)),
+                                .icon = QMessageBox::Warning,
+                                .buttons = QMessageBox::Yes | QMessageBox::No,
+                                .defaultButton = QMessageBox::No}) == QMessageBox::Yes;
+    if (isMeant)
+        agreed_ = models;
+    else
+        notes_ << tr("Nothing was written.");
+    return isMeant;
+}
+
 TransferResult TransferCommands::WriteBlocks(const TransferScope& scope)
 {
     ReceiverWriter writer(document_.Image(), scope, link_, *this);
     const TransferResult result = writer.Write();
     document_.Absorb([&writer](CloneImage& image) { image = writer.Written(); });
+    if (writer.Plan().MayHaveSent(AreaOf(Area::Settings).address))
+        receiver_.Written(writer.Written().Settings().model, link_.Port().Device());
+    if (const int flags = writer.OtherFlags(); flags > 0)
+        notes_ << tr("Enable flags of other rows replaced by the receiver's: %1.").arg(flags);
     if (result == TransferResult::Cancelled && writer.Plan().HasBegun())
         Warn({.title = tr("Write"),
               .text = tr("The write was cancelled."),
@@ -146,7 +184,7 @@ TransferResult TransferCommands::Verify(const TransferScope& scope)
     const TransferResult result =
         ReadBack(ExpectedAfterWrite(document_.Image(), scope), link_, observer, differences);
     if (result == TransferResult::Cancelled)
-        emit Noted(QString::fromStdString(NotVerified()));
+        notes_ << QString::fromStdString(NotVerified());
     if (!differences.empty()) {
         std::vector<std::string> rows;
         rows.reserve(differences.size());
@@ -157,7 +195,7 @@ TransferResult TransferCommands::Verify(const TransferScope& scope)
               .details = RowList(rows, kNamedBlocks),
               .more = rows.size() > kNamedBlocks ? RowList(rows, rows.size()) : QString()});
     } else if (result == TransferResult::Done) {
-        emit Noted(tr("Written and verified: the receiver holds what was written."));
+        notes_.prepend(tr("Written and verified: the receiver holds what was written."));
     }
     return result;
 }

@@ -1,11 +1,14 @@
 #pragma once
 
 #include <QObject>
+#include <QStringList>
 #include <QWidget>
 #include <functional>
+#include <utility>
 
 #include "document/document.h"
 #include "link/radio_link.h"
+#include "link/receiver_identity.h"
 #include "link/receiver_reader.h"
 #include "link/transfer_observer.h"
 #include "link/transfer_scope.h"
@@ -60,8 +63,8 @@ class TransferCommands : public QObject, private TransferObserver
     void ProgressAdvanced(int value, int row);
     void GroupWanted(int selector);  ///< an "all" operation moves the bank selector
 
-    /// What there is to say about a transfer without a message: that nothing was written, that the receiver
-    /// was read back and agrees.
+    /// What there is to say about a transfer without a message, once it has ended: that nothing was written,
+    /// that the receiver was read back and agrees.
     void Noted(const QString& text);
 
   private:
@@ -70,6 +73,7 @@ class TransferCommands : public QObject, private TransferObserver
     TransferResult Read(const QString& name, const std::function<TransferResult(ReceiverReader&)>& read);
     TransferResult Write(const TransferScope& scope);
     TransferResult KeepBackup(const TransferScope& scope, const QString& folder);
+    bool MayWriteToThisModel();
     TransferResult WriteBlocks(const TransferScope& scope);
     TransferResult Verify(const TransferScope& scope);
     void Warn(Prompt warning);
@@ -79,6 +83,7 @@ class TransferCommands : public QObject, private TransferObserver
     void ProgressMoved(int value, int row) override { emit ProgressAdvanced(value, row); }
     void GroupChosen(int selector) override { emit GroupWanted(selector); }
     void Stored() override;
+    void BlockRead(int address, const MemoryBlock& block) override;
     void Message(const Problem& problem) override;
     bool IsCancelled() override { return isCancelled_; }
 
@@ -87,6 +92,9 @@ class TransferCommands : public QObject, private TransferObserver
     Dialogs& dialogs_;
     QWidget& window_;
     Transaction* reading_ = nullptr;  ///< of the read that runs
+    QStringList notes_;               ///< sentences for the end of the transfer
+    ReceiverIdentity receiver_;
+    std::pair<int, int> agreed_;  ///< models of receiver and image that the user has said yes to
     bool isRunning_ = false;
     bool isCancelled_ = false;
 };

@@ -8,25 +8,33 @@
 namespace rqm5 {
 namespace {
 
-constexpr Option kPort = {"--port", "P",
-                          "COM number 1 to 14 or a device path; without it the number in RQ-M5.ini",
-                          PortNumberFault};
+constexpr Option kPort = {
+    "--port", "P",
+    "COM number 1 to 14, also as COM5, or a device or a link to one; without it the number in RQ-M5.ini",
+    PortNumberFault};
 constexpr Option kOnly = {"--only", "settings|memory", "leave the other part out", ScopeFault};
 constexpr Option kBank = {
     "--bank", "SEL", "bank 0 to 49, program-scan, search-pass, priority or all (default)", SelectorFault};
+
+constexpr Option kTransferBank = {
+    "--bank", "SEL",
+    "the memory only: bank 0 to 49, program-scan, search-pass, priority or all; "
+    "without it settings and all of the memory",
+    SelectorFault};
 
 constexpr Option kNewOptions[] = {
     {"--region", "0..3", "model region (default 0)", RegionFault},
     {"--empty", "", "no banks: all 1000 channels unassigned"},
     {"--force", "", "replace FILE when it exists"},
 };
-constexpr Option kTransferOptions[] = {kPort, kOnly, kBank};
+constexpr Option kTransferOptions[] = {kPort, kOnly, kTransferBank};
 constexpr Option kWriteOptions[] = {
     kPort,
     kOnly,
-    kBank,
+    kTransferBank,
     {"--backup", "COPY", "first read what will be replaced and save it as COPY, a new file", FileNameFault},
     {"--verify", "", "read back afterwards and list each block that differs"},
+    {"--force", "", "write although the backup shows that the receiver is another model"},
 };
 constexpr Option kShowOptions[] = {kBank};
 constexpr Option kPrintOptions[] = {
@@ -82,7 +90,7 @@ constexpr Command kCommands[] = {
      kFile, kWriteOptions, RunWrite, ScopeConflict},
     {"verify", "compare the receiver with FILE",
      "Compares with what write of the same parts leaves behind. Says nothing and ends with status 0 when "
-     "they agree, else lists each block that differs.",
+     "they agree, else lists each block that differs, with the bytes in words.",
      kFile, kTransferOptions, RunVerify, ScopeConflict},
     {"export", "write FILE as CSV",
      "The file holds the channels and VFO bands, for a spreadsheet. OUT.csv may be missing, empty or an "

@@ -25,6 +25,13 @@ class ProgressBar : public TransferObserver
     /// Another transfer begins: so many blocks, more or less.
     void Begin(int expectedBlocks);
 
+    /// Names the port in every message from now on: "COM 5", and the device behind it.
+    void NamePort(const std::string& name, const std::string& device)
+    {
+        portName_ = name;
+        portDevice_ = device;
+    }
+
     void Cancel() { isCancelled_ = true; }
 
     /// Takes the line off the terminal.
@@ -43,6 +50,8 @@ class ProgressBar : public TransferObserver
     void Draw();
 
     Console& console_;
+    std::string portName_;  ///< empty when messages need not name it
+    std::string portDevice_;
     int total_ = 0;
     int done_ = 0;
     int maximum_ = 0;

@@ -41,6 +41,9 @@ class ReceiverSession
     RadioLink& Link() { return link_; }
     ProgressBar& Observer() { return progress_; }
 
+    /// Says which port was chosen when the command line names none, now and in every message of a transfer.
+    void TellPort();
+
     /// What the command ends with after a transfer. Says so when it was cancelled; failures were
     /// reported when they happened.
     Status Finish(TransferResult result);
@@ -48,6 +51,8 @@ class ReceiverSession
   private:
     EventLoopHost host_;
     Console& console_;
+    const int number_;  ///< the COM number from RQ-M5.ini; 0 when --port says the port
+    bool isCtrlC_ = false;
     ProgressBar progress_;
     QtSerialPort port_;
     RadioLink link_;

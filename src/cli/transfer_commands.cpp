@@ -5,9 +5,13 @@
 #include "cli/receiver_session.h"
 #include "cli/values.h"
 #include "files/file_store.h"
+#include "link/forwarding_observer.h"
+#include "link/memory_map.h"
 #include "link/receiver_checks.h"
+#include "link/receiver_identity.h"
 #include "link/receiver_reader.h"
 #include "link/receiver_writer.h"
+#include "settings/settings_codec.h"
 
 namespace rqm5 {
 namespace {
@@ -23,12 +27,33 @@ std::optional<Problem> BackupObstacle(const std::string& path)
     return path.empty() ? std::nullopt : ReadingObstacle(PathOf(path));
 }
 
+/// Listens for the model of the receiver.
+class ModelListener : public ForwardingObserver
+{
+  public:
+    using ForwardingObserver::ForwardingObserver;
+
+    void BlockRead(int address, const MemoryBlock& block) override
+    {
+        if (address == AreaOf(Area::Settings).address)
+            model_ = ModelOf(block);
+    }
+
+    const std::optional<int>& Model() const { return model_; }
+
+  private:
+    std::optional<int> model_;
+};
+
+/// \param model  takes the model of the receiver, as far as the backup tells it
 Status KeepBackup(const CloneImage& image, const TransferScope& scope, const std::string& path,
-                  ReceiverSession& session, Console& console)
+                  ReceiverSession& session, Console& console, std::optional<int>& model)
 {
     CloneImage backup;
     session.Observer().Begin(BlocksToBackUp(image, scope));
-    const TransferResult result = ReadBackup(image, scope, session.Link(), session.Observer(), backup);
+    ModelListener listener(session.Observer());
+    const TransferResult result = ReadBackup(image, scope, session.Link(), listener, backup);
+    model = listener.Model();
     const Status status = session.Finish(result);
     if (result == TransferResult::Cancelled)
         console.err << NothingWritten() << '\n';
@@ -45,6 +70,9 @@ Status Write(const CloneImage& image, const TransferScope& scope, ReceiverSessio
     const Status status = session.Finish(result);
     if (result == TransferResult::Cancelled)
         console.err << writer.Plan().Summary() << '\n';
+    if (const int flags = writer.OtherFlags(); flags > 0)
+        console.err << "Enable flags of other rows that differ from FILE: " << flags
+                    << "; the receiver keeps its own.\n";
     return status;
 }
 
@@ -60,6 +88,7 @@ Status RunRead(const Arguments& arguments, Console& console)
         return Fail(console, *problem);
     const TransferScope scope = ScopeOf(arguments);
     ReceiverSession session(arguments, console);
+    session.TellPort();
     session.Observer().Begin(BlocksToBackUp(image, scope));
     ReceiverReader reader(image, session.Link(), session.Observer());
     const Status status = session.Finish(reader.Read(scope));
@@ -76,13 +105,21 @@ Status RunWrite(const Arguments& arguments, Console& console)
         return Fail(console, {problem->text, problem->details, NothingWritten()});
     const TransferScope scope = ScopeOf(arguments);
     ReceiverSession session(arguments, console);
+    session.TellPort();
     Status status = Status::Done;
+    std::optional<int> model;
     if (!backup.empty())
-        status = KeepBackup(image, scope, backup, session, console);
+        status = KeepBackup(image, scope, backup, session, console, model);
+    const int wanted = image.Settings().model;
+    if (status == Status::Done && model.value_or(wanted) != wanted && !arguments.Has("--force"))
+        status = Fail(console, {kDataError,
+                                OtherModelText(*model, wanted) +
+                                    " If that is meant, repeat with --force. The backup is in " + backup,
+                                "Nothing was written."});
     if (status == Status::Done)
         status = Write(image, scope, session, console);
     if (status == Status::Done && arguments.Has("--verify"))
-        status = CompareWithReceiver(image, scope, session, console, NotVerified());
+        status = CompareWithReceiver(ExpectedAfterWrite(image, scope), session, console, NotVerified());
     return status;
 }
 

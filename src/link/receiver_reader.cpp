@@ -22,6 +22,8 @@ TransferResult ReceiverReader::ReadBlock(const MemoryArea& area, int index, Memo
     const BlockResult read = blocks_.Read(area.AddressOf(index), block);
     if (read.problem)
         observer_.Message(*read.problem);
+    if (read.result == Done)
+        observer_.BlockRead(area.AddressOf(index), block);
     return read.result;
 }
 

@@ -79,8 +79,11 @@ void ReceiverWriter::MergeFlags()
     CloneImage held = image_;
     AreaOf(Area::Flags).decode(held, 0, read_);
     for (int row = 0; row < kMemoryRows; ++row)
-        if (!rows.Contains(row))
+        if (!rows.Contains(row)) {
+            // Rows behind those of the receiver have flags, too, which nobody can see.
+            otherFlags_ += row < kRadioRows && image_.MemEnable(row) != held.MemEnable(row) ? 1 : 0;
             image_.MemData(row).enabled = held.MemEnable(row);
+        }
 }
 
 /// Keeps what became of a step, and tells of a failure with what the receiver holds then.

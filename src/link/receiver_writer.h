@@ -29,6 +29,9 @@ class ReceiverWriter
     /// The image as it was written: outside the group it holds the receiver's flags once they were read.
     const CloneImage& Written() const { return image_; }
 
+    /// How many rows outside the group had another flag in the image than in the receiver.
+    int OtherFlags() const { return otherFlags_; }
+
   private:
     TransferResult Run(WriteSection& section);
     TransferResult Step(WriteSection& section, std::size_t step);
@@ -44,6 +47,7 @@ class ReceiverWriter
     WritePlan plan_;
     std::vector<MemoryBlock> read_;  ///< the receiver's blocks of the last section that was read
     bool isInMemory_ = false;        ///< the memory part has begun
+    int otherFlags_ = 0;
 };
 
 }  // namespace rqm5

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "image/memory_block.h"
 #include "image/problem.h"
 
 namespace rqm5 {
@@ -16,6 +17,9 @@ class TransferObserver
     /// Memory row `row` is about to be transferred; value is 0 to maximum.
     virtual void ProgressMoved(int /*value*/, int /*row*/) {}
     virtual void ProgressEnded() {}
+
+    /// A block of the image was read from the receiver. Not told of what is read to check a write.
+    virtual void BlockRead(int /*address*/, const MemoryBlock& /*block*/) {}
 
     /// One block was read or acknowledged.
     virtual void BlockDone(int /*address*/, bool /*written*/) {}

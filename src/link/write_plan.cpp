@@ -93,6 +93,16 @@ int WritePlan::BlockCount() const
     return static_cast<int>(blocks);
 }
 
+bool WritePlan::MayHaveSent(int address) const
+{
+    for (const WriteSection& section : sections_)
+        for (std::size_t step = 0; step < section.blocks.size(); ++step)
+            if (!section.IsRead() && section.AddressOf(step) == address &&
+                section.states[step] != StepState::NotSent)
+                return true;
+    return false;
+}
+
 bool WritePlan::HasBegun() const
 {
     return std::ranges::any_of(sections_, [](const WriteSection& section) {

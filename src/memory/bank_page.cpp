@@ -127,8 +127,11 @@ void BankPage::ShowSize(int bank)
 bool BankPage::CommitPending()
 {
     for (int bank = 0; bank < kBanks; ++bank)
-        if (txtBank_.at(bank) == window()->focusWidget())
-            return txtBank_LostFocus(bank);
+        if (txtBank_.at(bank) == window()->focusWidget() && !txtBank_LostFocus(bank)) {
+            txtBank_.at(bank)->setFocus(Qt::OtherFocusReason);
+            txtBank_.at(bank)->selectAll();
+            return false;
+        }
     return true;
 }
 
@@ -186,7 +189,7 @@ bool BankPage::txtBank_LostFocus(int bank)
     ShowSize(bank);
     if (typed.entry == BankEntry::TotalTooLarge)
         ShowTotalTooLarge();
-    return typed.entry == BankEntry::Accepted;
+    return typed.entry != BankEntry::TotalTooLarge;
 }
 
 void BankPage::ShowTotalTooLarge()

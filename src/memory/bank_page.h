@@ -22,7 +22,9 @@ class BankPage : public QWidget
     BankPage(Document& document, Dialogs& dialogs, QWidget* parent);
 
     /// Checks the box that is being typed into as if the user had left it.
-    /// \return false when what was typed was refused; the box then holds its last accepted size
+    /// \return false when what was typed was refused with a message: what made the user leave the box shall
+    /// not
+    ///         go on then, and the box, which holds its last accepted size again, has the focus
     bool CommitPending();
 
     /// Gives the box of a bank's size the focus.
@@ -42,6 +44,7 @@ class BankPage : public QWidget
     void ShowBanks();
     void ShowLinks();
 
+    /// \return false when the size was refused with a message
     bool txtBank_LostFocus(int bank);
     void txtBank_GotFocus(int bank, Qt::FocusReason reason);
     bool txtBank_KeyDown(int bank, int key);

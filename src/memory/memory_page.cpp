@@ -11,6 +11,7 @@
 #include "memory/channel_operations.h"
 #include "memory/memory_table.h"
 #include "memory/row_names.h"
+#include "memory/shift_note.h"
 #include "ui/table_font.h"
 #include "ui/tall_area.h"
 
@@ -294,8 +295,11 @@ void MemoryPage::cmbDelete_Click()
     const int row = CurrentTableRow() - 1;
     const QString name = QString::fromStdString(RowName(Image(), row));
     if (Confirm(tr("DELETE OK"), tr("Delete cannot be undone.\nAre you sure that you want to do the delete?"),
-                tr("This deletes %1, %2.").arg(name, ContentsOf(row))))
+                tr("This deletes %1, %2.").arg(name, ContentsOf(row)))) {
+        const QString note = DeleteNote(Image(), Group(), row + 1);
         Edit(tr("Delete (%1)").arg(name), [row](CloneImage& image) { DeleteTableRow(image, row + 1); });
+        emit Noted(note);
+    }
 }
 
 void MemoryPage::cmbInsert_Click()
@@ -304,7 +308,9 @@ void MemoryPage::cmbInsert_Click()
         return;
     const int tableRow = CurrentTableRow();
     const QString name = QString::fromStdString(RowName(Image(), tableRow - 1));
+    const QString note = InsertNote(Image(), Group(), tableRow);
     Edit(tr("Insert (%1)").arg(name), [tableRow](CloneImage& image) { InsertTableRow(image, tableRow); });
+    emit Noted(note);
 }
 
 void MemoryPage::cmbEnable_Click()

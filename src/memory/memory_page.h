@@ -46,6 +46,7 @@ class MemoryPage : public QWidget
     void ReadRequested();
     void WriteRequested();
     void ModifyRequested(int memoryRow);  ///< memory row from 0
+    void Noted(const QString& text);      ///< what an operation has done out of sight; empty for nothing
 
   private:
     struct Operation;

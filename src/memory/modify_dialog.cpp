@@ -24,6 +24,22 @@ dlgModify::dlgModify(Document& document, Dialogs& dialogs, QWidget* parent)
       shift_{form_->txtShift(), CheckOffset, {}}
 {
     setObjectName(QStringLiteral("dlgModify"));
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(new TallArea(form_, this));
+    // The check boxes and buttons stay in sight when the form has to scroll.
+    QBoxLayout* lastRow = form_->TakeLastRow();
+    layout->addLayout(lastRow);
+    // After the check boxes, which Tab reaches first then.
+    lastRow->addWidget(BuildButtons());
+
+    connect(new LeaveWatch(*frequency_.box), &LeaveWatch::Left, this, &dlgModify::txtFreq_LostFocus);
+    connect(new LeaveWatch(*shift_.box), &LeaveWatch::Left, this, &dlgModify::txtShift_LostFocus);
+    connect(frequency_.box, &QLineEdit::textEdited, this, &dlgModify::txtFreq_Change);
+    connect(form_->chkEnable(), &QCheckBox::clicked, this, [this] { mayTickEnable_ = false; });
+}
+
+QWidget* dlgModify::BuildButtons()
+{
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     QPushButton* ok = buttons->button(QDialogButtonBox::Ok);
     ok->setObjectName(QStringLiteral("OKButton"));
@@ -36,15 +52,7 @@ dlgModify::dlgModify(Document& document, Dialogs& dialogs, QWidget* parent)
     cancel->setFocusPolicy(Qt::TabFocus);
     connect(ok, &QPushButton::clicked, this, &dlgModify::OKButton_Click);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(new LeaveWatch(*frequency_.box), &LeaveWatch::Left, this, &dlgModify::txtFreq_LostFocus);
-    connect(new LeaveWatch(*shift_.box), &LeaveWatch::Left, this, &dlgModify::txtShift_LostFocus);
-
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(new TallArea(form_, this));
-    // The check boxes and buttons stay in sight when the form has to scroll.
-    QBoxLayout* lastRow = form_->TakeLastRow();
-    lastRow->addWidget(buttons);
-    layout->addLayout(lastRow);
+    return buttons;
 }
 
 bool dlgModify::OpenMemory(int row, int selector)
@@ -75,7 +83,11 @@ bool dlgModify::Open(RowId row, int selector, ChannelFields& stored)
     form_->SetAvailable(row.IsMemory(), RegionOf(image.ModelNo()));
     form_->ShowRow(row.IsMemory() ? tr("Memory") : tr("VFO"), RowName(),
                    QString::fromStdString(FrequencyRangeText(image, row)));
-    form_->ShowFields(isHeld ? *confirmed_ : stored);
+    ChannelFields shown = isHeld ? *confirmed_ : stored;
+    shown.note = stored.note;  // what is noted of one channel is seldom true of another
+    form_->ShowFields(shown);
+    // Held values were confirmed with their flag.
+    mayTickEnable_ = row.IsMemory() && !isHeld && !image.At(row).HasChannel();
     // The two kinds of row show different controls; the form has to notice before the dialog takes its size.
     form_->layout()->activate();
     TallArea::FitToScreen(*this);
@@ -113,6 +125,12 @@ void dlgModify::txtFreq_LostFocus()
 void dlgModify::txtShift_LostFocus()
 {
     LeaveBox(shift_);
+}
+
+void dlgModify::txtFreq_Change(const QString& typed)
+{
+    if (mayTickEnable_)
+        form_->chkEnable()->setChecked(!typed.isEmpty());
 }
 
 bool dlgModify::LeaveBox(Entry& entry)

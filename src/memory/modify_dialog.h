@@ -51,6 +51,8 @@ class dlgModify : public QDialog
     bool LeaveIfPending(Entry& entry);
     void ShowRefusal(Verdict verdict);
     QString RowName() const;
+    QWidget* BuildButtons();
+    void txtFreq_Change(const QString& typed);
     void txtFreq_LostFocus();
     void txtShift_LostFocus();
     void OKButton_Click();
@@ -65,6 +67,7 @@ class dlgModify : public QDialog
     Entry frequency_;
     Entry shift_;
     std::optional<ChannelFields> confirmed_;  ///< what the last OK on a memory row stored
+    bool mayTickEnable_ = false;              ///< a frequency that is typed enables the row, which is empty
 };
 
 }  // namespace rqm5

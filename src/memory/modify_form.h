@@ -37,6 +37,7 @@ class ModifyForm : public QWidget
 
     QLineEdit* txtFreq() const { return txtFreq_; }
     QLineEdit* txtShift() const { return txtShift_; }
+    QCheckBox* chkEnable() const { return chkEnable_; }
 
     /// The row of check boxes, for the dialog to put below the form.
     QBoxLayout* TakeLastRow() const { return lastRow_; }

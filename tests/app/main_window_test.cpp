@@ -1,6 +1,8 @@
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMenu>
+#include <QTableView>
 #include <QTranslator>
 
 #include "files/file_store.h"
@@ -24,6 +26,56 @@ TEST_F(WindowTest, StartsWithAnUnchangedImageOnTheFirstTab)
     EXPECT_EQ(Find<QComboBox>("cbbBank").count(), 54);
     for (const QWidget* other : QApplication::topLevelWidgets())
         EXPECT_FALSE(other->isVisible() && other != window_.get()) << "the splash window must be gone";
+}
+
+TEST_F(WindowTest, NeverComesBeforeTheSplashTime)
+{
+    for (const int time : {151, 223, 290, 310}) {
+        options_.splashTime = std::chrono::milliseconds(time);
+        QElapsedTimer clock;
+        clock.start();
+        window_ = StartUp(port_, dialogs_, options_);
+        EXPECT_GE(clock.nsecsElapsed(), qint64{time} * 1'000'000) << "early, however fast the machine is";
+    }
+}
+
+TEST_F(WindowTest, InsertAndDeleteOutOfSightAreToldInTheStatusBar)
+{
+    CloneImage image = StartUpImage(0);
+    for (const int row : {0, 6, 199, 205}) {
+        image.MemData(row).frequency = (100 + row) * 1'000'000;
+        image.MemData(row).enabled = true;
+    }
+    ASSERT_FALSE(SaveCloneFile(Path("radio.RQ5"), image).problem);
+    options_.commandFile = Path("radio.RQ5");
+    Start();
+    GoTo(Tab::Memory);
+    const struct
+    {
+        int group;
+        int row;
+        const char* button;
+        const char* note;
+    } cases[] = {
+        {kSelectPriority, 6, "cmbInsert",
+         "Rows 6 to 198 moved down; lost: 299.000000 MHz in row 199 (Bank 0, channel 199)."},
+        {1, 7, "cmbDelete", "Rows 8 to 199 moved up; lost: 106.000000 MHz in row 7 (Bank 0, channel 7)."},
+        {1, 3, "cmbDelete", "Rows 4 to 199 moved up; row 3 was empty, so nothing is lost."},
+        {kSelectAll, 198, "cmbInsert", "Row 198 moved down; row 199 was empty, so nothing is lost."},
+    };
+    for (const auto& test : cases) {
+        Find<QComboBox>("cbbBank").setCurrentIndex(test.group);
+        Find<QTableView>("MSFlexGrid1")
+            .setCurrentIndex(Find<QTableView>("MSFlexGrid1").model()->index(test.row, 0));
+        dialogs_.answers = {QMessageBox::Ok};
+        Click(test.button);
+        dialogs_.answers.clear();
+        EXPECT_EQ(StatusText("lblHint").toStdString(), test.note);
+    }
+    Find<QComboBox>("cbbBank").setCurrentIndex(0);
+    Click("cmbInsert");
+    EXPECT_FALSE(StatusText("lblHint").contains(QStringLiteral("moved")))
+        << "the table shows just these rows";
 }
 
 TEST_F(WindowTest, TakesThePortFromItsFileAndWritesItAtTheEnd)

@@ -212,6 +212,35 @@ TEST_F(TransferTest, WhatHasArrivedIsAnUnsavedChangeAlsoWhenItIsNothingNew)
     }
 }
 
+TEST_F(TransferTest, ARefusedBankSizeStopsTheCommandThatLeavesItsBox)
+{
+    dialogs_.onAsk = nullptr;
+    const auto expectStopped = [this](const std::string& command, const std::function<void()>& act) {
+        TypeBankSize(49, "1000");
+        auto& box = Find<QLineEdit>("txtBank_49");
+        dialogs_.asked.clear();
+        receiver_.ClearCommandLog();
+        act();
+        ASSERT_EQ(dialogs_.asked.size(), 1U) << command;
+        EXPECT_TRUE(dialogs_.asked[0].text.startsWith(QStringLiteral("The total of the number"))) << command;
+        EXPECT_TRUE(receiver_.CommandLog().empty() && dialogs_.choices.empty() && dialogs_.runs == 0)
+            << command;
+        EXPECT_TRUE(window_->isVisible() && box.hasFocus() && box.selectedText() == QStringLiteral("0"))
+            << command;
+    };
+    EachItem([&](const QAction& item, const std::string& name) {
+        if (item.isEnabled() && !item.isCheckable() && !name.starts_with("mnuHistory"))
+            expectStopped(name, [&] { Item(name.c_str()).trigger(); });
+    });
+    expectStopped("close", [this] { window_->close(); });
+    expectStopped("Alt+B", [this] { Find<QAbstractButton>("cmbWriteBank").click(); });
+
+    TypeBankSize(49, "1001");  // goes back without a message, and nothing is stopped
+    dialogs_.asked.clear();
+    Trigger("mnuWrMemory");
+    EXPECT_TRUE(dialogs_.asked.empty() && !receiver_.CommandLog().empty());
+}
+
 TEST_F(TransferTest, ClosingDuringATransferCancelsItAndThenAsks)
 {
     dialogs_.onAsk = [this] { EXPECT_FALSE(Find<QPushButton>("cmbCancel").isVisible()); };

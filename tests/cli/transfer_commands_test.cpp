@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
+
 #include <sys/stat.h>
+#include <QDir>
+#include <QFile>
 
 #include <csignal>
 #include <future>
@@ -68,8 +71,14 @@ TEST_F(Transfers, ReadChangeWriteAndVerifyTheWholeMemory)
     EXPECT_EQ(RunProgramFile({"import", csv, file}).status, 0);
     const RunResult differs = Transfer("verify", receiver, file);
     EXPECT_EQ(differs.status, 1);
-    EXPECT_TRUE(Has("\n" + differs.out, "\n5530  ") && Has(differs.out, "expected 0145625000"))
+    EXPECT_TRUE(Has("\n" + differs.out, "\n5530  ") && Has(differs.out, "expected 0145625000") &&
+                Has(differs.out, "Enable flags of rows 1024 to 1151"))
         << differs.out;
+    EXPECT_TRUE(Has(differs.out, "byte 10 (row 1107)\n") &&
+                Has(differs.out, "byte 2 (Search Pass count)\n") &&
+                Has(differs.out, "  bytes 0 to 3 (Frequency), byte 5 (Mode), "))
+        << differs.out;
+    EXPECT_EQ(Transfer("verify", receiver, file, {"--only=settings"}).out, "") << "the count is the memory's";
 
     EXPECT_EQ(Transfer("write", receiver, file).status, 0);
     EXPECT_EQ(receiver.Memory().At(0x5530).Text().substr(0, 10), "0145625000");
@@ -85,8 +94,14 @@ TEST_F(Transfers, MoveOnlyWhatIsAskedFor)
     PutBytes(file, FormatCloneFile(image));
     SimSession receiver(Demo());
     const ReceiverMemory before = receiver.Memory();
-    const Words priority = {"--only", "memory", "--bank", "priority"};
-    EXPECT_EQ(Transfer("write", receiver, file, priority).status, 0);
+    const Words priority = {"--bank", "priority"};
+    const RunResult write = Transfer("write", receiver, file, priority);
+    EXPECT_EQ(write.status, 0);
+    int others = 0;
+    for (int row = 0; row < kRadioRows - 10; ++row)
+        others += DemoImage(0).MemEnable(row) ? 1 : 0;
+    EXPECT_EQ(write.err, "Enable flags of other rows that differ from FILE: " + std::to_string(others) +
+                             "; the receiver keeps its own.\n");
     const ReceiverMemory after = receiver.Memory();
     EXPECT_TRUE(after.At(0x0040) == before.At(0x0040) && after.At(0x1000) == before.At(0x1000));
     EXPECT_EQ(after.At(0x5B00), MemoryFromImage(image).At(0x5B00));
@@ -94,6 +109,12 @@ TEST_F(Transfers, MoveOnlyWhatIsAskedFor)
     receiver.ClearCommandLog();
     EXPECT_EQ(Transfer("read", receiver, file, {"--only=settings"}).status, 0);
     EXPECT_EQ(receiver.CommandLog().size(), 16U);
+    for (const char* command : {"read", "write", "verify"}) {
+        receiver.ClearCommandLog();
+        EXPECT_EQ(Transfer(command, receiver, file, {"--bank=all"}).status, 0);
+        for (const std::string& sent : receiver.CommandLog())
+            EXPECT_FALSE(sent.starts_with("QT~F0040") || sent.starts_with("QT~F0C")) << command << sent;
+    }
 }
 
 using Write = Transfers;
@@ -104,7 +125,14 @@ TEST_F(Write, KeepsABackupAndReadsBackWhenItIsAskedTo)
     EXPECT_EQ(RunProgramFile({"new", "--region", "1", file}).status, 0);
     SimSession receiver(Demo());
     const ReceiverMemory before = receiver.Memory();
-    const RunResult run = Transfer("write", receiver, file, {"--backup", copy, "--verify"});
+    const RunResult other = Transfer("write", receiver, file, {"--backup", folder / "first.RQ5"});
+    ExpectOneLine(other,
+                  "Data Error: The receiver is an RQ-M5 J, and what is to be written is for an RQ-M5 E.");
+    EXPECT_EQ(receiver.Memory(), before) << "another model";
+    EXPECT_EQ(Transfer("write", receiver, file, {"--bank=3", "--backup", folder / "bank.RQ5"}).status, 0)
+        << "the model was not read";
+    receiver.SetMemory(before);
+    const RunResult run = Transfer("write", receiver, file, {"--backup", copy, "--verify", "--force"});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.out + run.err, "");
     EXPECT_NE(receiver.Memory(), before);
@@ -154,10 +182,43 @@ TEST_F(Transfers, ComNumbersStandForDevices)
     const std::string ports = RunProgramFile({"ports"}).out;
     EXPECT_TRUE(Has(ports, "COM 14  " + receiver.Device().toStdString())) << ports;
     EXPECT_TRUE(Has(ports, "can be opened") && Has(ports, pipe + "  not a serial port")) << ports;
-    EXPECT_EQ(RunProgramFile({"raw", "--port", "14", "1000"}).status, 0);
+    for (const char* number : {"14", "COM14", "COM 14", "com14"})
+        EXPECT_EQ(RunProgramFile({"raw", "--port", number, "1000"}).status, 0) << number;
     qunsetenv("RQM5_COM13");
     qunsetenv("RQM5_COM14");
-    EXPECT_EQ(receiver.CommandLog(), Words{"QT~F1000R"});
+    EXPECT_EQ(receiver.CommandLog(), Words(4, "QT~F1000R"));
+}
+
+TEST_F(Transfers, ADeviceOrLinkOfTheCurrentFolderGoesByItsName)
+{
+    const SimSession receiver(Demo());
+    ASSERT_TRUE(QDir().mkpath(QString::fromStdString(folder / "deep")));
+    for (const char* name : {"rx", "deep/rx"}) {
+        ASSERT_TRUE(QFile::link(receiver.Device(), QString::fromStdString(folder / name)));
+        QProcess process;
+        process.setWorkingDirectory(QString::fromStdString(folder / "."));
+        StartProgram(process, {"raw", "--port", name, "0040"});
+        EXPECT_EQ(FinishProgram(process).status, 0) << name;
+    }
+}
+
+TEST_F(Transfers, NameThePortThatTheyChoseThemselves)
+{
+    EXPECT_EQ(RunProgramFile({"new", file}).status, 0);
+    for (int number = 1; number <= 14; ++number)
+        qputenv(qPrintable(QStringLiteral("RQM5_COM%1").arg(number)), "/no/such");
+    for (const char* command : {"read", "write", "verify"}) {
+        const RunResult run = RunProgramFile({command, file});
+        EXPECT_EQ(run.status, 1);
+        EXPECT_TRUE(run.err.starts_with("Port: COM 1, /no/such (")) << run.err;
+        EXPECT_TRUE(Has(run.err, "\nCOM Port Error: COM 1, /no/such: no such device. ")) << run.err;
+    }
+    SimSession receiver(Demo({{FaultKind::Garble, 10, 0, 0}}));
+    qputenv("RQM5_COM1", receiver.Device().toLocal8Bit());
+    EXPECT_TRUE(Has(RunProgramFile({"read", file}).err,
+                    "\nCommunication Error: COM 1, " + receiver.Device().toStdString() + ": Block 0040"));
+    for (int number = 1; number <= 14; ++number)
+        qunsetenv(qPrintable(QStringLiteral("RQM5_COM%1").arg(number)));
 }
 
 TEST(RawCommand, ShowsTheReplyAndWhatItMeans)
@@ -195,7 +256,7 @@ TEST_F(Transfers, CtrlCEndsThemCleanly)
             isBusy.get_future().wait();
             kill(static_cast<pid_t>(process.processId()), signal);
             const RunResult run = FinishProgram(process);
-            EXPECT_EQ(run.status, 1) << command;
+            EXPECT_EQ(run.status, signal == SIGINT ? 130 : 1) << command;
             EXPECT_TRUE(run.err.starts_with("Cancelled.\n")) << run.err;
             EXPECT_EQ(Has(run.err, "Not sent: "), std::string_view(command) == "write") << run.err;
             EXPECT_EQ(Bytes(file), before) << command;

@@ -89,6 +89,7 @@ TEST(Manual, EveryHelpTopicAndMessageHasItsPlace)
           "The file is written. A spreadsheet may run these notes as formulas.",
           "The listing was not printed.", "The program ended before your changes were saved. They were kept.",
           "The receiver does not hold what was written. Write again.",
+          "The receiver is another model. Write to it all the same?",
           "This link leads out of the manual. Open it in the web browser?"})
         topics << MessageTopic(QString::fromLatin1(message));
     for (const QString& topic : topics)

@@ -1,5 +1,6 @@
 #include "memory/modify_dialog.h"
 
+#include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
@@ -98,6 +99,73 @@ TEST_F(ModifyDialogTest, TabReachesAGroupWhoseChoiceTheRegionLacks)
     });
 }
 
+TEST_F(ModifyDialogTest, TabFollowsTheEye)
+{
+    const std::string order =
+        "txtFreq opbWave_0 opbStep_1 opbTone_0 cbbAir cbbTxTone opbSift_0 txtShift txtNote chkSkip chkEnable "
+        "chkHold "
+        "OKButton CancelButton txtFreq ";
+    document_.Absorb([](CloneImage& image) { image.MemData(0).step = 1; });
+    Memory(0, [&] {
+        std::string reached;
+        while (reached.size() < order.size()) {
+            reached += dialog_.focusWidget()->objectName().toStdString() + ' ';
+            QTest::keyClick(dialog_.focusWidget(), Qt::Key_Tab);
+        }
+        EXPECT_EQ(reached, order);
+    });
+}
+
+TEST_F(ModifyDialogTest, AFrequencyTypedIntoAnEmptyRowEnablesItUnlessTheUserDecides)
+{
+    auto& enable = Get<QCheckBox>("chkEnable");
+    EXPECT_TRUE(Memory(500, [&] {
+        EXPECT_FALSE(enable.isChecked());
+        Type(Frequency(), "88.8");
+        EXPECT_TRUE(enable.isChecked());
+        QTest::keyClick(&Frequency(), Qt::Key_Return);
+    }));
+    EXPECT_TRUE(image_.MemEnable(500));
+    EXPECT_TRUE(Memory(501, [&] {
+        Click(dialog_, "chkEnable");
+        Click(dialog_, "chkEnable");
+        Type(Frequency(), "88.9");
+        EXPECT_FALSE(enable.isChecked()) << "the user has set it";
+        PressEnter();
+    }));
+    EXPECT_FALSE(image_.MemEnable(501));
+    Memory(501, [&] {
+        Type(Frequency(), "90");
+        EXPECT_FALSE(enable.isChecked()) << "a channel that is off stays off";
+        Click(dialog_, "CancelButton");
+    });
+    EXPECT_FALSE(Vfo(3, [&] { Type(Frequency(), "8"); }));
+}
+
+TEST_F(ModifyDialogTest, AnythingRefusedKeepsTheDialogOpen)
+{
+    SetModel(2);
+    Memory(0, [this] {
+        Type(Get<QLineEdit>("txtShift"), "100");
+        PressEnter();
+        EXPECT_TRUE(dialog_.isVisible() && Get<QLineEdit>("txtShift").hasFocus());
+        EXPECT_EQ(Get<QLineEdit>("txtShift").text(), QStringLiteral("0"));
+        Type(Frequency(), "830");
+        auto& wave = Get<QAbstractButton>("opbWave_2");
+        QTest::mousePress(&wave, Qt::LeftButton, {}, {8, wave.height() / 2});
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(dialogs_.asked.size() == 1 && !wave.isDown()) << "the message took the release";
+    });
+}
+
+TEST_F(ModifyDialogTest, ALongNoteFromAFileStaysWhole)
+{
+    const std::string note(300, 'n');
+    document_.Absorb([&](CloneImage& image) { image.MemData(0).note = note; });
+    EXPECT_TRUE(Memory(0, [this] { PressEnter(); }));
+    EXPECT_EQ(image_.MemText(0, kNote), note);
+}
+
 TEST_F(ModifyDialogTest, AnOkThatChangesNothingIsAnUnsavedChangeButNoStep)
 {
     EXPECT_TRUE(Memory(0, [this] { PressEnter(); }));
@@ -193,7 +261,7 @@ TEST_F(ModifyDialogTest, ARowOutsideItsBandCanBeEditedAsLongAsItsFrequencyStays)
     EXPECT_EQ(image_.VFOText(2, kMode), "WFM");
 }
 
-TEST_F(ModifyDialogTest, HoldStartsEmptyRowsWithTheLastConfirmedValues)
+TEST_F(ModifyDialogTest, HoldStartsEmptyRowsWithTheLastConfirmedValuesButTheNote)
 {
     EXPECT_TRUE(Memory(500, [this] {
         EXPECT_EQ(Frequency().text(), QString());
@@ -206,7 +274,9 @@ TEST_F(ModifyDialogTest, HoldStartsEmptyRowsWithTheLastConfirmedValues)
     }));
     Memory(0, [this] { EXPECT_EQ(Get<QLineEdit>("txtNote").text(), QString()); });
     EXPECT_TRUE(Memory(501, [this] { PressEnter(); }));
-    EXPECT_TRUE(image_.MemData(501) == image_.MemData(500) && image_.MemEnable(501));
+    Channel held = image_.MemData(500);
+    held.note.clear();
+    EXPECT_TRUE(image_.MemData(501) == held && held.enabled);
 }
 
 }  // namespace
