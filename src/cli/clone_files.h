@@ -26,6 +26,9 @@ bool AreSameFile(const std::string& a, const std::string& b);
 /// That a command would replace the file that it reads.
 Problem SameFileProblem(const std::string& path);
 
+/// Keeps the file as it is under its name with a "~" behind it, in the place of what was kept there before.
+std::optional<Problem> KeepOldFile(const std::string& path);
+
 /// Saves the image. Notes that the file cannot bring back are named; the file is written and the status
 /// is that of a failure.
 Status Save(const std::string& path, const CloneImage& image, Console& console);

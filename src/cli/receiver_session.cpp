@@ -5,6 +5,7 @@
 #include "cli/clone_files.h"
 #include "cli/values.h"
 #include "link/com_ports.h"
+#include "link/line_notes.h"
 #include "link/port_file.h"
 
 namespace rqm5 {
@@ -33,6 +34,13 @@ ReceiverSession::ReceiverSession(const Arguments& arguments, Console& console)
           link_.Cancel();
       })
 {
+}
+
+ReceiverSession::~ReceiverSession()
+{
+    progress_.Clear();
+    if (const std::string note = RepeatNote(progress_.Repeated()); !note.empty())
+        console_.err << note << '\n';
 }
 
 Status ReceiverSession::Finish(TransferResult result)
