@@ -104,6 +104,20 @@ Problem SameFileProblem(const std::string& path)
             path + ": both names are the same file, which would be replaced; give another name"};
 }
 
+std::optional<Problem> KeepOldFile(const std::string& path)
+{
+    const QString name = PathOf(path);
+    const QString kept = name + QLatin1Char('~');
+    std::string bytes;
+    auto problem = ReadWholeFile(name, bytes);
+    if (!problem)
+        problem = WriteWholeFile(kept, bytes);
+    // Who may not read the file may not read what is kept of it.
+    if (!problem)
+        QFile::setPermissions(kept, QFile::permissions(name));
+    return problem;
+}
+
 std::optional<Problem> ReplaceProblem(const Arguments& arguments, const std::string& path, FileKind kind)
 {
     if (AreSameFile(arguments[0], path))

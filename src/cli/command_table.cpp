@@ -28,6 +28,12 @@ constexpr Option kNewOptions[] = {
     {"--force", "", "replace FILE when it exists"},
 };
 constexpr Option kTransferOptions[] = {kPort, kOnly, kTransferBank};
+constexpr Option kReadOptions[] = {
+    kPort,
+    kOnly,
+    kTransferBank,
+    {"--verify", "", "read everything twice and list each block that came otherwise"},
+};
 constexpr Option kWriteOptions[] = {
     kPort,
     kOnly,
@@ -82,8 +88,10 @@ constexpr Command kCommands[] = {
      "It has default settings, VFO bands and bank sizes and no channels.", kFile, kNewOptions, RunNew},
     {"read", "read the receiver into FILE",
      "Starts from FILE when it exists, so that notes and what is not read stay; a transfer that fails "
-     "leaves FILE untouched.",
-     kFile, kTransferOptions, RunRead, ScopeConflict},
+     "leaves FILE untouched. Where a block came disturbed or, with --verify, otherwise the second time, it "
+     "is "
+     "named, the status is 1, and FILE as it was is kept as FILE~.",
+     kFile, kReadOptions, RunRead, ScopeConflict},
     {"write", "write FILE to the receiver",
      "Sends settings, VFO bands and presets, then banks and channels. Without --verify nothing is read "
      "back. A backup that fails keeps everything from being written.",

@@ -32,6 +32,9 @@ class ProgressBar : public TransferObserver
         portDevice_ = device;
     }
 
+    /// How many blocks needed more than one attempt.
+    int Repeated() const { return repeated_; }
+
     void Cancel() { isCancelled_ = true; }
 
     /// Takes the line off the terminal.
@@ -40,6 +43,7 @@ class ProgressBar : public TransferObserver
     void ProgressStarted(int maximum) override { maximum_ = maximum; }
     void ProgressMoved(int value, int row) override;
     void BlockDone(int address, bool written) override;
+    void BlockRepeated(int /*address*/) override { ++repeated_; }
     void Message(const Problem& problem) override;
     bool IsCancelled() override { return isCancelled_; }
 
@@ -54,6 +58,7 @@ class ProgressBar : public TransferObserver
     std::string portDevice_;
     int total_ = 0;
     int done_ = 0;
+    int repeated_ = 0;
     int maximum_ = 0;
     int row_ = -1;
     int drawnColumns_ = 0;

@@ -7,6 +7,7 @@
 #include "cli/values.h"
 #include "image/display_text.h"
 #include "link/com_ports.h"
+#include "link/line_notes.h"
 #include "link/port_file.h"
 
 namespace rqm5 {
@@ -62,6 +63,13 @@ void ReceiverSession::TellPort()
     console_.err << "Port: " << VisibleText(name + ", " + (device.empty() ? "no device" : device))
                  << " (without --port, that of RQ-M5.ini)\n";
     progress_.NamePort(name, device);
+}
+
+ReceiverSession::~ReceiverSession()
+{
+    progress_.Clear();
+    if (const std::string note = RepeatNote(progress_.Repeated()); !note.empty())
+        console_.err << note << '\n';
 }
 
 Status ReceiverSession::Finish(TransferResult result)

@@ -38,6 +38,11 @@ class ReceiverSession
     /// The port that --port or RQ-M5.ini says. It is opened by the first transfer.
     ReceiverSession(const Arguments& arguments, Console& console);
 
+    /// Says how many blocks needed more than one attempt.
+    ~ReceiverSession();
+    ReceiverSession(const ReceiverSession&) = delete;
+    ReceiverSession& operator=(const ReceiverSession&) = delete;
+
     RadioLink& Link() { return link_; }
     ProgressBar& Observer() { return progress_; }
 

@@ -5,7 +5,9 @@
 #include "cli/receiver_session.h"
 #include "cli/values.h"
 #include "files/file_store.h"
+#include "image/display_text.h"
 #include "link/forwarding_observer.h"
+#include "link/line_notes.h"
 #include "link/memory_map.h"
 #include "link/receiver_checks.h"
 #include "link/receiver_identity.h"
@@ -62,7 +64,51 @@ Status KeepBackup(const CloneImage& image, const TransferScope& scope, const std
     return SaveRead(path, backup, console, NothingWritten());
 }
 
-Status Write(const CloneImage& image, const TransferScope& scope, ReceiverSession& session, Console& console)
+void List(const std::vector<std::string>& rows, Console& console)
+{
+    for (const std::string& row : rows)
+        console.err << "  " << VisibleText(row) << '\n';
+}
+
+/// Names the blocks that a second read brings otherwise. \param agrees  cleared when there is one
+Status ReadTwice(const ReceiverReader& reader, ReceiverSession& session, Console& console, bool& agrees)
+{
+    const std::vector<ExpectedBlock> first = reader.Blocks();
+    session.Observer().Begin(static_cast<int>(first.size()));
+    AftermathObserver observer(session.Observer(), NotReadTwice());
+    std::vector<BlockDifference> differences;
+    const TransferResult result = ReadBack(first, session.Link(), observer, differences);
+    const Status status = session.Finish(result);
+    if (result == TransferResult::Cancelled)
+        console.err << NotReadTwice() << '\n';
+    agrees = agrees && differences.empty();
+    if (differences.empty())
+        return status;
+    Report(console, {kCommunicationError, OtherwiseNote(static_cast<int>(differences.size())) + ":"});
+    std::vector<std::string> rows;
+    rows.reserve(differences.size());
+    for (const auto& [block, read] : differences)
+        rows.push_back(block.label + ": first " + block.contents.String() + ", then " + read.String());
+    List(rows, console);
+    return status;
+}
+
+/// Saves what is not for certain what the receiver holds; the file as it was is not lost by it.
+Status SaveDoubtful(const std::string& path, const CloneImage& image, Console& console)
+{
+    const bool replaces = Exists(path);
+    if (replaces)
+        if (const auto problem = KeepOldFile(path))
+            return Fail(console, {problem->text, problem->details, path + " is as it was."});
+    if (SaveRead(path, image, console) == Status::Done)
+        console.err << path << " is written with what came"
+                    << (replaces ? "; as it was it is kept as " + path + "~" : std::string())
+                    << ". Check the cable and read again.\n";
+    return Status::Failed;
+}
+
+Status Write(const CloneImage& image, const TransferScope& scope, bool isVerified, ReceiverSession& session,
+             Console& console)
 {
     ReceiverWriter writer(image, scope, session.Link(), session.Observer());
     session.Observer().Begin(writer.Plan().BlockCount());
@@ -73,7 +119,8 @@ Status Write(const CloneImage& image, const TransferScope& scope, ReceiverSessio
     if (const int flags = writer.OtherFlags(); flags > 0)
         console.err << "Enable flags of other rows that differ from FILE: " << flags
                     << "; the receiver keeps its own.\n";
-    return status;
+    // The comparison that follows finds out.
+    return writer.IsInDoubt() && !isVerified ? Fail(console, DoubtfulWrite()) : status;
 }
 
 }  // namespace
@@ -91,8 +138,20 @@ Status RunRead(const Arguments& arguments, Console& console)
     session.TellPort();
     session.Observer().Begin(BlocksToBackUp(image, scope));
     ReceiverReader reader(image, session.Link(), session.Observer());
-    const Status status = session.Finish(reader.Read(scope));
-    return status == Status::Done ? SaveRead(arguments[0], image, console) : status;
+    if (const Status status = session.Finish(reader.Read(scope)); status != Status::Done)
+        return status;
+    const std::vector<std::string> unreadable = reader.Unreadable();
+    if (!unreadable.empty()) {
+        Report(console, {kCommunicationError, UnreadableNote(static_cast<int>(unreadable.size())) + ":"});
+        List(unreadable, console);
+    }
+    bool agrees = unreadable.empty();
+    if (arguments.Has("--verify"))
+        if (const Status status = ReadTwice(reader, session, console, agrees); status != Status::Done)
+            return status;
+    if (agrees)
+        return SaveRead(arguments[0], image, console);
+    return SaveDoubtful(arguments[0], image, console);
 }
 
 Status RunWrite(const Arguments& arguments, Console& console)
@@ -117,7 +176,7 @@ Status RunWrite(const Arguments& arguments, Console& console)
                                     " If that is meant, repeat with --force. The backup is in " + backup,
                                 "Nothing was written."});
     if (status == Status::Done)
-        status = Write(image, scope, session, console);
+        status = Write(image, scope, arguments.Has("--verify"), session, console);
     if (status == Status::Done && arguments.Has("--verify"))
         status = CompareWithReceiver(ExpectedAfterWrite(image, scope), session, console, NotVerified());
     return status;

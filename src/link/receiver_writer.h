@@ -24,6 +24,10 @@ class ReceiverWriter
     /// Runs the plan once.
     TransferResult Write();
 
+    /// True when all was acknowledged, but replies had shifted: an OK may have been another block's, so what
+    /// was written must be verified or written again.
+    bool IsInDoubt() const { return isInDoubt_; }
+
     const WritePlan& Plan() const { return plan_; }
 
     /// The image as it was written: outside the group it holds the receiver's flags once they were read.
@@ -34,6 +38,8 @@ class ReceiverWriter
 
   private:
     TransferResult Run(WriteSection& section);
+    TransferResult RunSteps(WriteSection& section);
+    TransferResult AskAgain(WriteSection& section);
     TransferResult Step(WriteSection& section, std::size_t step);
     MemoryBlock ContentsOf(const WriteSection& section, std::size_t step) const;
     void MergeFlags();
@@ -48,6 +54,7 @@ class ReceiverWriter
     std::vector<MemoryBlock> read_;  ///< the receiver's blocks of the last section that was read
     bool isInMemory_ = false;        ///< the memory part has begun
     int otherFlags_ = 0;
+    bool isInDoubt_ = false;
 };
 
 }  // namespace rqm5

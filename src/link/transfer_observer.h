@@ -24,6 +24,9 @@ class TransferObserver
     /// One block was read or acknowledged.
     virtual void BlockDone(int /*address*/, bool /*written*/) {}
 
+    /// A block is done that needed more than one attempt.
+    virtual void BlockRepeated(int /*address*/) {}
+
     /// The memory part of an "all" operation begins: the bank selector goes to this entry.
     virtual void GroupChosen(int /*selector*/) {}
 

@@ -68,6 +68,8 @@ Answer SimulatedReceiver::AnswerTo(std::string line)
         answer.hangsUp = fault == FaultKind::HangUp;
         return answer;
     }
+    if (fault == FaultKind::Stall)
+        answer.stall = stallTime_;
     const std::string reply = Obey(answer.command, fault == FaultKind::Ng);
     if (!reply.empty())
         answer.reply = {{milliseconds(0), reply}};
