@@ -10,14 +10,21 @@ namespace {
 
 constexpr int kNoBank = kBanks;
 
-/// The bank of each row that the banks share.
-std::vector<int> BankOfRows(const BankSizes& sizes)
+struct BankPlace
 {
-    std::vector<int> banks;
+    int bank;
+    int number;
+};
+
+/// Where each row is that the banks share.
+std::vector<BankPlace> PlacesOfRows(const BankSizes& sizes)
+{
+    std::vector<BankPlace> places;
     for (int bank = 0; bank < kBanks; ++bank)
-        banks.insert(banks.end(), static_cast<std::size_t>(sizes.at(static_cast<std::size_t>(bank))), bank);
-    banks.resize(kBankRows, kNoBank);
-    return banks;
+        for (int number = 0; number < sizes.at(static_cast<std::size_t>(bank)); ++number)
+            places.push_back({bank, number});
+    places.resize(kBankRows, {kNoBank, 0});
+    return places;
 }
 
 bool IsEmpty(const Channel& channel)
@@ -84,16 +91,20 @@ BankSizes SizesOfBanks(const CloneImage& image)
     return sizes;
 }
 
-int ChannelsInAnotherBank(const CloneImage& image, const BankSizes& before)
+Displaced DisplacedChannels(const CloneImage& image, const BankSizes& before)
 {
-    const std::vector<int> was = BankOfRows(before);
-    const std::vector<int> is = BankOfRows(SizesOfBanks(image));
-    int moved = 0;
-    for (int row = 0; row < kBankRows; ++row) {
-        const auto place = static_cast<std::size_t>(row);
-        moved += was[place] != is[place] && image.MemData(row).HasChannel() ? 1 : 0;
+    const std::vector<BankPlace> was = PlacesOfRows(before);
+    const std::vector<BankPlace> is = PlacesOfRows(SizesOfBanks(image));
+    Displaced displaced;
+    for (std::size_t row = 0; row < kBankRows; ++row) {
+        if (!image.MemData(static_cast<int>(row)).HasChannel())
+            continue;
+        if (was[row].bank != is[row].bank)
+            ++displaced.bank;
+        else if (was[row].number != is[row].number)
+            ++displaced.number;
     }
-    return moved;
+    return displaced;
 }
 
 void KeepBanks(CloneImage& image, const BankSizes& before)

@@ -25,9 +25,16 @@ using BankSizes = std::array<int, kBanks>;
 
 BankSizes SizesOfBanks(const CloneImage& image);
 
-/// How many channels are in another bank, or in none, or were in none, compared with what these sizes made of
-/// the same rows.
-int ChannelsInAnotherBank(const CloneImage& image, const BankSizes& before);
+/// How many channels are elsewhere than other sizes would have them in the same rows.
+struct Displaced
+{
+    int bank = 0;    ///< in another bank, in one for the first time, or in none any more
+    int number = 0;  ///< in the same bank under another number
+
+    friend bool operator==(const Displaced&, const Displaced&) = default;
+};
+
+Displaced DisplacedChannels(const CloneImage& image, const BankSizes& before);
 
 /// Moves the rows of the banks to where the sizes of now put them, so that every channel has the bank and the
 /// number that it had with the sizes from before.

@@ -56,17 +56,17 @@ TEST(BankFill, KeepingBanksMovesChannelsAfterTheSizesAndLosesNone)
     {
         const char* what;
         std::initializer_list<int> sizes;
-        int changed;
+        Displaced displaced;
         std::map<int, int> places;
     } const cases[] = {
-        {"nothing changes", {4, 3, 2}, 0, {{0, 0}, {3, 3}, {4, 4}, {8, 8}, {9, 9}, {999, 999}}},
-        {"grown", {6, 3, 2}, 3, {{0, 0}, {3, 3}, {4, 6}, {8, 10}, {9, 11}, {999, 999}}},
+        {"nothing changes", {4, 3, 2}, {0, 0}, {{0, 0}, {3, 3}, {4, 4}, {8, 8}, {9, 9}, {999, 999}}},
+        {"grown", {6, 3, 2}, {3, 0}, {{0, 0}, {3, 3}, {4, 6}, {8, 10}, {9, 11}, {999, 999}}},
         {"cut, and its last row goes behind the banks",
          {3, 3, 2},
-         2,
+         {2, 1},
          {{0, 0}, {3, 8}, {4, 3}, {8, 7}, {9, 9}, {999, 999}}},
-        {"gone", {0, 3, 2}, 4, {{0, 5}, {3, 8}, {4, 0}, {8, 4}, {9, 9}, {999, 999}}},
-        {"several at once", {3, 3, 3}, 1, {{0, 0}, {3, 9}, {4, 3}, {8, 7}, {9, 10}, {999, 999}}},
+        {"gone", {0, 3, 2}, {4, 0}, {{0, 5}, {3, 8}, {4, 0}, {8, 4}, {9, 9}, {999, 999}}},
+        {"several at once", {3, 3, 3}, {1, 2}, {{0, 0}, {3, 9}, {4, 3}, {8, 7}, {9, 10}, {999, 999}}},
     };
     for (const auto& row : cases) {
         CloneImage image = SmallBanks();
@@ -74,7 +74,7 @@ TEST(BankFill, KeepingBanksMovesChannelsAfterTheSizesAndLosesNone)
         const BankSizes before = SizesOfBanks(image);
         for (int bank = 0; const int size : row.sizes)
             image.SetBankSize(bank++, size);
-        EXPECT_EQ(ChannelsInAnotherBank(image, before), row.changed) << row.what;
+        EXPECT_EQ(DisplacedChannels(image, before), row.displaced) << row.what;
         KeepBanks(image, before);
         EXPECT_EQ(Places(image), row.places) << row.what;
     }
