@@ -19,8 +19,8 @@ void EditCommands::mnuEditUndo_Click()
     const MemoryPage& memory = pages_.Memory();
     if (pages_.Tabs().Current() == Tab::Settings1)
         ModifyVfo(pages_.Settings1().SelectedVfoRow() - 1);
-    else if (memory.CurrentTableRow() > 0)
-        ModifyMemory(RowOfSelection(document_.Image(), memory.Selector(), memory.CurrentTableRow()));
+    else if (memory.CurrentMemoryRow() >= 0)
+        ModifyMemory(memory.CurrentMemoryRow());
 }
 
 void EditCommands::ModifyMemory(int row)

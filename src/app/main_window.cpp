@@ -68,6 +68,7 @@ void frmMain::Compose()
     new FileNews(document_, *currentFile_, *files_, *messageBar_);
     edits_ = new EditCommands(document_, dialogs_, *pages_, *this);
     history_ = new HistoryCommands(document_, *menus_, *this);
+    finds_ = new FindCommands(document_, *pages_, *this);
     ports_ = new PortCommands(link_.Port(), dialogs_, options_, *this);
     writeOptions_ = new WriteOptionItems(*menus_, dialogs_, *this);
     transfers_ = new TransferCommands(document_, link_, dialogs_, *this);
@@ -134,6 +135,10 @@ void frmMain::ConnectOtherMenus()
     ConnectMenu("mnuHistoryUndo", [this] { document_.History().undo(); });
     ConnectMenu("mnuHistoryRedo", [this] { document_.History().redo(); });
     ConnectMenu("mnuEditUndo", [this] { edits_->mnuEditUndo_Click(); });
+    ConnectMenu("mnuEditFind", [this] { finds_->mnuEditFind_Click(); });
+    ConnectMenu("mnuEditFindNext", [this] { finds_->mnuEditFindNext_Click(); });
+    ConnectMenu("mnuEditFindPrevious", [this] { finds_->mnuEditFindPrevious_Click(); });
+    ConnectMenu("mnuToolsDuplicates", [this] { finds_->mnuToolsDuplicates_Click(); });
     ConnectMenu("mnuViewToolbar",
                 [this] { tbToolBar_->setVisible(menus_->Item("mnuViewToolbar").isChecked()); });
     ConnectMenu("mnuStatusBar", [this] {
@@ -145,6 +150,11 @@ void frmMain::ConnectOtherMenus()
     ConnectMenu("mnuHelpAbout", [this] { sides_->mnuHelpAbout_Click(); });
     sides_->ConnectDiagnostics(menus_->Item("mnuViewDiagnostics"));
     connect(&pages_->Tabs(), &TabStrip::Switched, this, &frmMain::TabStrip1_Click);
+    connect(&pages_->Memory(), &MemoryPage::HintChanged, sbStatusBar_, [this] {
+        // What the keyboard has just gone to, wherever the pointer rests.
+        sbStatusBar_->ShowPointerHint({});
+        sbStatusBar_->ShowHintOf(focusWidget());
+    });
     connect(ports_, &PortCommands::PortChosen, sbStatusBar_, &StatusBar::ShowPort);
 }
 

@@ -7,6 +7,7 @@
 #include "app/current_file.h"
 #include "app/edit_commands.h"
 #include "app/file_commands.h"
+#include "app/find_commands.h"
 #include "app/history_commands.h"
 #include "app/menus.h"
 #include "app/pages.h"
@@ -95,6 +96,7 @@ class frmMain : public QMainWindow
     FileCommands* files_ = nullptr;
     EditCommands* edits_ = nullptr;
     HistoryCommands* history_ = nullptr;
+    FindCommands* finds_ = nullptr;
     PortCommands* ports_ = nullptr;
     WriteOptionItems* writeOptions_ = nullptr;
     TransferCommands* transfers_ = nullptr;

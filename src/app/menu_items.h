@@ -58,6 +58,13 @@ inline constexpr MenuItem kMenuItems[] = {
     {"mnuEdit", "", "", "", "", During::Stays},
     {"mnuEdit", "mnuEditUndo", TEXT("&Modify..."), "F2", TEXT("Edit the selected channel or VFO band"),
      During::Off},
+    {"mnuEdit", "", "", "", "", During::Stays},
+    {"mnuEdit", "mnuEditFind", TEXT("&Find..."), "Ctrl+F",
+     TEXT("Find channels by frequency, note, mode or tone"), During::Off},
+    {"mnuEdit", "mnuEditFindNext", TEXT("Find &Next"), "F3", TEXT("Go to the next channel found"),
+     During::Off},
+    {"mnuEdit", "mnuEditFindPrevious", TEXT("Find Pre&vious"), "Shift+F3",
+     TEXT("Go to the previous channel found"), During::Off},
 
     {"mnuView", "mnuViewToolbar", TEXT("&Toolbar"), "", TEXT("Show or hide the toolbar"), During::Stays},
     {"mnuView", "mnuStatusBar", TEXT("&Status Bar"), "", TEXT("Show or hide the status bar"), During::Stays},
@@ -66,13 +73,15 @@ inline constexpr MenuItem kMenuItems[] = {
     {"mnuView", "mnuViewDiagnostics", TEXT("&Diagnostics"), "",
      TEXT("Send single read commands and see the replies"), During::Stays},
 
-    {"mnuRead", "mnuReAll", TEXT("ALL(&A)"), "", TEXT("Read everything from the receiver"), During::Off},
+    {"mnuRead", "mnuReAll", TEXT("ALL(&A)"), "Ctrl+R", TEXT("Read everything from the receiver"),
+     During::Off},
     {"mnuRead", "mnuReMemory", TEXT("Memory(&M)"), "",
      TEXT("Read the channels of the group shown on the Memory page"), During::Off},
     {"mnuRead", "mnuReSettings", TEXT("Settings(&S)"), "", TEXT("Read the settings and the VFO bands"),
      During::Off},
 
-    {"mnuWrite", "mnuWrAll", TEXT("ALL(&A)"), "", TEXT("Write everything to the receiver"), During::Off},
+    {"mnuWrite", "mnuWrAll", TEXT("ALL(&A)"), "Ctrl+Shift+W", TEXT("Write everything to the receiver"),
+     During::Off},
     {"mnuWrite", "mnuWrMemory", TEXT("Memory(&M)"), "",
      TEXT("Write the channels of the group shown on the Memory page"), During::Off},
     {"mnuWrite", "mnuWrSettings", TEXT("Settings(&S)"), "", TEXT("Write the settings and the VFO bands"),
@@ -85,6 +94,8 @@ inline constexpr MenuItem kMenuItems[] = {
     {"mnuWrite", "mnuWrBackupFolder", TEXT("Backup &Folder..."), "", TEXT("Choose where backups are kept"),
      During::Off},
 
+    {"mnuTools", "mnuToolsDuplicates", TEXT("&Duplicates..."), "",
+     TEXT("List every frequency that is stored more than once"), During::Off},
     {"mnuTools", "mnuToolsOptions", TEXT("COM Port Setup(&C)"), "",
      TEXT("Choose the serial port of the receiver's cable"), During::Off},
 

@@ -55,14 +55,17 @@ TabStrip::TabStrip(QWidget* parent) : QTabWidget(parent)
         bar->setTabData(i, QLatin1String(kTabRows[i].key));
     }
     connect(this, &QTabWidget::currentChanged, this, &TabStrip::TabStrip1_Click);
+    const QKeySequence next(Qt::CTRL | Qt::Key_PageDown);
+    const QKeySequence previous(Qt::CTRL | Qt::Key_PageUp);
     // Tables keep Ctrl+Tab for themselves, so that the tab widget never sees it from there.
-    AddStepKey(QKeySequence::NextChild, 1);
-    AddStepKey(QKeySequence::PreviousChild, kTabs - 1);
+    AddStepKeys(QKeySequence::keyBindings(QKeySequence::NextChild) + QList{next}, 1);
+    AddStepKeys(QKeySequence::keyBindings(QKeySequence::PreviousChild) + QList{previous}, kTabs - 1);
 }
 
-void TabStrip::AddStepKey(QKeySequence::StandardKey key, int step)
+void TabStrip::AddStepKeys(const QList<QKeySequence>& keys, int step)
 {
-    auto* shortcut = new QShortcut(key, this);
+    auto* shortcut = new QShortcut(this);
+    shortcut->setKeys(keys);
     connect(shortcut, &QShortcut::activated, this,
             [this, step] { setCurrentIndex((currentIndex() + step) % kTabs); });
 }

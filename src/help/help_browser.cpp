@@ -55,6 +55,8 @@ void frmHelp::Compose()
     txtSearch_->setClearButtonEnabled(true);
     lstPages_->setObjectName(QStringLiteral("lstPages"));
     lstPages_->setAccessibleName(tr("Pages"));
+    lstPages_->setWordWrap(true);
+    lstPages_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 
     auto* left = new QWidget(this);
     auto* column = new QVBoxLayout(left);
@@ -121,7 +123,7 @@ void frmHelp::AddTools()
         txtSearch_->selectAll();
     });
     AddTool("mnuClose", tr("Close"), QStringLiteral("window-close"), {QKeySequence(Qt::Key_Escape)},
-            [this] { close(); });
+            [this] { LeaveOrClose(); });
 }
 
 void frmHelp::FillContents()
@@ -130,7 +132,8 @@ void frmHelp::FillContents()
     const bool isSearch = !QueryWords(query).isEmpty();
     lstPages_->clear();
     for (const ManualPage& page : isSearch ? SearchManual(query) : ManualPages()) {
-        auto* item = new QListWidgetItem(page.title, lstPages_);
+        const QString line = isSearch ? QLatin1Char('\n') + LineAround(page, QueryWords(query)) : QString();
+        auto* item = new QListWidgetItem(page.title + line, lstPages_);
         item->setData(Qt::UserRole, page.file);
     }
     if (lstPages_->count() == 0) {
@@ -165,6 +168,30 @@ void frmHelp::txtSearch_Change()
 {
     FillContents();
     brwPage_->MarkWords(QueryWords(txtSearch_->text()));
+    if (txtSearch_->text().isEmpty())
+        searchPage_.clear();
+    else
+        OpenFirst();
+}
+
+/// Shows the first page found while its words are typed; Back leads to the page from before the search.
+void frmHelp::OpenFirst()
+{
+    const QString first = lstPages_->item(0)->data(Qt::UserRole).toString();
+    if (QueryWords(txtSearch_->text()).isEmpty() || first.isEmpty() || first == brwPage_->Page())
+        return;
+    if (brwPage_->Page() == searchPage_)
+        brwPage_->backward();
+    OpenItem(lstPages_->item(0));
+    searchPage_ = brwPage_->Page();
+}
+
+void frmHelp::LeaveOrClose()
+{
+    if (txtSearch_->hasFocus() && !txtSearch_->text().isEmpty())
+        txtSearch_->clear();
+    else
+        close();
 }
 
 void frmHelp::txtSearch_Enter()

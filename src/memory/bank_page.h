@@ -6,6 +6,11 @@
 #include "document/document.h"
 #include "ui/dialogs.h"
 
+namespace rqm5 {
+class BankMoveOffer;
+class FillBar;
+}  // namespace rqm5
+
 class QCheckBox;
 class QGridLayout;
 class QLabel;
@@ -42,6 +47,7 @@ class BankPage : public QWidget
 
     /// Shows the sizes and their total.
     void ShowBanks();
+    void ShowFills();
     void ShowLinks();
 
     /// \return false when the size was refused with a message
@@ -56,7 +62,10 @@ class BankPage : public QWidget
     Dialogs& dialogs_;
     std::array<QLineEdit*, kBanks> txtBank_{};
     std::array<QCheckBox*, kLinkFlags> chkLink_{};
+    std::array<FillBar*, kBanks> barFill_{};
+    BankMoveOffer* offer_;
     QLabel* lblChannels_;
+    QLabel* lblNoBank_;
 };
 
 }  // namespace rqm5

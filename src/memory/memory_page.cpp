@@ -1,6 +1,5 @@
 #include "memory/memory_page.h"
 
-#include <QComboBox>
 #include <QFocusEvent>
 #include <QGroupBox>
 #include <QLabel>
@@ -8,10 +7,14 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "memory/bank_list.h"
 #include "memory/channel_operations.h"
+#include "memory/filter_box.h"
+#include "memory/find_bar.h"
 #include "memory/memory_table.h"
 #include "memory/row_names.h"
 #include "memory/shift_note.h"
+#include "ui/fold_button.h"
 #include "ui/table_font.h"
 #include "ui/tall_area.h"
 
@@ -29,24 +32,33 @@ MemoryPage::MemoryPage(Document& document, Dialogs& dialogs, QWidget* parent)
     : QWidget(parent),
       document_(document),
       dialogs_(dialogs),
-      cbbBank_(new QComboBox(this)),
+      cbbBank_(new BankList(document, this)),
+      filter_(new FilterBox(this)),
+      finder_(new FindBar(document, this)),
       table_(new MemoryTable(document.Image(), this))
 {
     auto* middle = new QHBoxLayout;
     middle->addWidget(table_, 1);
     auto* operations = new TallArea(BuildOperations(), this);
     operations->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    auto* fold = new FoldButton(*operations, QStringLiteral("Memory/ButtonsFolded"), tr("operation buttons"));
+    fold->setObjectName(QStringLiteral("cmbFold"));
+    middle->addWidget(fold);
     middle->addWidget(operations);
     auto* page = new QVBoxLayout(this);
     page->addLayout(BuildSelectorRow());
     page->addLayout(middle, 1);
     page->addLayout(BuildTransferRow());
-    setTabOrder(cbbBank_, table_);
+    setTabOrder(finder_, table_);
 
     connect(table_, &MemoryTable::RowChosen, this,
-            [this](int tableRow) { emit ModifyRequested(RowOfSelection(Image(), Selector(), tableRow)); });
+            [this](int tableRow) { emit ModifyRequested(table_->MemoryRow(tableRow)); });
     connect(table_, &MemoryTable::InsertPressed, this, &MemoryPage::cmbInsert_Click);
     connect(table_, &MemoryTable::DeletePressed, this, &MemoryPage::cmbDelete_Click);
+    connect(table_, &MemoryTable::HintChanged, this, &MemoryPage::HintChanged);
+    connect(filter_, &FilterBox::Changed, this, &MemoryPage::ShowFiltered);
+    connect(finder_, &FindBar::Found, this, &MemoryPage::GoToRow);
+    connect(finder_, &FindBar::Done, this, &MemoryPage::FocusTable);
     connect(&document, &Document::Replaced, this, &MemoryPage::ShowReplaced);
     connect(&document, &Document::Changed, this, &MemoryPage::ShowChange);
     ShowReplaced();
@@ -54,6 +66,7 @@ MemoryPage::MemoryPage(Document& document, Dialogs& dialogs, QWidget* parent)
 
 void MemoryPage::ShowReplaced()
 {
+    filter_->SwitchOff();
     GoToFirstRow();
     UpDateMemData();
 }
@@ -66,20 +79,16 @@ void MemoryPage::ShowChange(const ImageChange& change)
 
 QLayout* MemoryPage::BuildSelectorRow()
 {
-    cbbBank_->setObjectName(QStringLiteral("cbbBank"));
-    cbbBank_->setStatusTip(tr("The group of channels that the table shows and a transfer moves"));
-    for (int selector = 0; selector < kSelectorEntries; ++selector)
-        cbbBank_->addItem(QString::fromStdString(SelectorText(selector)));
-    cbbBank_->setMaxVisibleItems(20);
     cbbBank_->installEventFilter(this);
-    connect(cbbBank_, &QComboBox::currentIndexChanged, this, &MemoryPage::UpDateMemData);
+    connect(cbbBank_, &QComboBox::currentIndexChanged, this, &MemoryPage::cbbBank_Click);
 
     auto* label = new QLabel(tr("Ban&k:"));
     label->setBuddy(cbbBank_);
     auto* row = new QHBoxLayout;
     row->addWidget(label);
     row->addWidget(cbbBank_);
-    row->addStretch();
+    row->addWidget(filter_);
+    row->addWidget(finder_, 1);
     return row;
 }
 
@@ -147,7 +156,8 @@ QLayout* MemoryPage::BuildTransferRow()
 
 void MemoryPage::UpDateMemData()
 {
-    table_->UpDateMemData(Selector());
+    table_->UpDateMemData(Selector(), filter_->Filter());
+    filter_->ShowCount(static_cast<int>(table_->MemoryRows().size()), Group().count);
 }
 
 void MemoryPage::SelectGroup(int selector)
@@ -170,6 +180,31 @@ void MemoryPage::GoToFirstRow()
     table_->SelectTableRow(1);
 }
 
+int MemoryPage::CurrentMemoryRow() const
+{
+    return CurrentTableRow() > 0 ? table_->MemoryRow(CurrentTableRow()) : -1;
+}
+
+bool MemoryPage::IsFiltered() const
+{
+    return filter_->IsOn();
+}
+
+/// What is gone to is shown, whatever the filter leaves.
+void MemoryPage::ShowAllIfHidden(const std::vector<int>& rows)
+{
+    const auto isShown = [this](int row) { return std::ranges::binary_search(table_->MemoryRows(), row); };
+    if (!std::ranges::all_of(rows, isShown))
+        filter_->SwitchOff();
+}
+
+void MemoryPage::GoToRow(int memoryRow)
+{
+    SelectGroup(SelectorOfRow(Image(), memoryRow));
+    ShowAllIfHidden({memoryRow});
+    table_->SelectMemoryRow(memoryRow);
+}
+
 void MemoryPage::GoToRows(const std::vector<int>& rows)
 {
     const auto holdsAll = [&](int selector) {
@@ -182,12 +217,18 @@ void MemoryPage::GoToRows(const std::vector<int>& rows)
         const int smallest = SelectorOfRow(Image(), rows.front());
         SelectGroup(holdsAll(smallest) ? smallest : kSelectAll);
     }
-    table_->SelectTableRow(rows.front() - Group().first + 1);
+    ShowAllIfHidden(rows);
+    table_->SelectMemoryRow(rows.front());
 }
 
 void MemoryPage::FocusSelector()
 {
     cbbBank_->setFocus(Qt::OtherFocusReason);
+}
+
+void MemoryPage::FocusTable()
+{
+    table_->setFocus(Qt::OtherFocusReason);
 }
 
 bool MemoryPage::eventFilter(QObject* watched, QEvent* event)
@@ -198,6 +239,22 @@ bool MemoryPage::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
+void MemoryPage::cbbBank_Click()
+{
+    UpDateMemData();
+    table_->scrollTo(table_->currentIndex());
+}
+
+void MemoryPage::ShowFiltered()
+{
+    const int row = CurrentMemoryRow();
+    UpDateMemData();
+    table_->SelectMemoryRow(row);
+    // These two go by row numbers, whatever is shown.
+    for (const char* name : {"cmbInsert", "cmbDelete"})
+        findChild<QPushButton*>(QLatin1String(name))->setEnabled(!IsFiltered());
+}
+
 void MemoryPage::cbbBank_LostFocus()
 {
     ChangeFont(*table_);
@@ -206,13 +263,13 @@ void MemoryPage::cbbBank_LostFocus()
 
 RowRange MemoryPage::SelectedRow() const
 {
-    const int tableRow = CurrentTableRow();
-    return tableRow == 0 ? RowRange{} : RowRange{RowOfSelection(Image(), Selector(), tableRow), 1};
+    const int row = CurrentMemoryRow();
+    return row < 0 ? RowRange{} : RowRange{row, 1};
 }
 
 bool MemoryPage::IsShiftable() const
 {
-    return CurrentTableRow() >= 1 && CurrentTableRow() <= kShiftedRows;
+    return !IsFiltered() && CurrentTableRow() >= 1 && CurrentTableRow() <= kShiftedRows;
 }
 
 /// \param what  what will be hit, as a sentence
@@ -229,7 +286,7 @@ bool MemoryPage::Confirm(const QString& title, const QString& text, const QStrin
 void MemoryPage::Edit(const QString& name, const Document::ChangeFunction& change)
 {
     document_.Edit(name, change);
-    table_->setFocus(Qt::OtherFocusReason);
+    FocusTable();
 }
 
 void MemoryPage::EditRow(const QString& operation, void (*change)(CloneImage&, RowRange))
@@ -242,9 +299,12 @@ void MemoryPage::EditRow(const QString& operation, void (*change)(CloneImage&, R
 
 void MemoryPage::EditGroup(const QString& operation, void (*change)(CloneImage&, RowRange))
 {
-    const RowRange rows = Group();
-    if (rows.count > 0)
-        Edit(tr("%1 (%2)").arg(operation, NameOfGroup()), [=](CloneImage& image) { change(image, rows); });
+    const std::vector<int> rows = table_->MemoryRows();
+    if (!rows.empty())
+        Edit(tr("%1 (%2)").arg(operation, NameOfGroup()), [&](CloneImage& image) {
+            for (const int row : rows)
+                change(image, {row, 1});
+        });
 }
 
 /// "Bank 2, channel 12"; a row in no bank goes by its number.
@@ -254,10 +314,16 @@ QString MemoryPage::NameOfRow(int row) const
     return place.empty() ? tr("row %1").arg(row) : QString::fromStdString(place);
 }
 
-/// "Bank 2, 100 channels"
+/// "Bank 2, 100 channels"; with a filter on "Bank 2, the 12 channels shown of 100"
 QString MemoryPage::NameOfGroup() const
 {
-    return tr("%1, %2 channels").arg(QString::fromStdString(SelectorText(Selector()))).arg(Group().count);
+    const QString group = QString::fromStdString(SelectorText(Selector()));
+    if (!IsFiltered())
+        return tr("%1, %2 channels").arg(group).arg(Group().count);
+    return tr("%1, the %2 channels shown of %3")
+        .arg(group)
+        .arg(table_->MemoryRows().size())
+        .arg(Group().count);
 }
 
 /// "145.500000 MHz"
@@ -280,7 +346,7 @@ void MemoryPage::cmbClear_Click()
 
 void MemoryPage::cmbClAll_Click()
 {
-    if (Group().count > 0 &&
+    if (!table_->MemoryRows().empty() &&
         Confirm(tr("CLEAR OK"),
                 tr("Clear cannot be undone.\nAre you sure that you want to clear all memory?"),
                 tr("This clears %1.").arg(NameOfGroup())))

@@ -8,11 +8,13 @@
 #include "memory/bank_layout.h"
 #include "ui/dialogs.h"
 
-class QComboBox;
 class QBoxLayout;
 
 namespace rqm5 {
 
+class BankList;
+class FilterBox;
+class FindBar;
 class MemoryTable;
 
 /// The page "Memory": the bank selector, the table of its channels and what can be done with them.
@@ -34,11 +36,23 @@ class MemoryPage : public QWidget
     int CurrentTableRow() const;
     void GoToFirstRow();
 
+    /// The memory row that is current, from 0; -1 when nothing is shown.
+    int CurrentMemoryRow() const;
+
+    /// True while a filter hides rows of the group: what goes by table rows is off then.
+    bool IsFiltered() const;
+
     /// Selects a memory row: in the group shown when that holds all of these rows, else in the smallest group
     /// that does.
     void GoToRows(const std::vector<int>& rows);
 
+    /// Selects a memory row in its own bank or group.
+    void GoToRow(int memoryRow);
+
+    FindBar& Finder() { return *finder_; }
+
     void FocusSelector();
+    void FocusTable();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -47,6 +61,9 @@ class MemoryPage : public QWidget
     void WriteRequested();
     void ModifyRequested(int memoryRow);  ///< memory row from 0
     void Noted(const QString& text);      ///< what an operation has done out of sight; empty for nothing
+
+    /// What the status bar says of the table with the focus is another text now.
+    void HintChanged();
 
   private:
     struct Operation;
@@ -58,6 +75,7 @@ class MemoryPage : public QWidget
     QLayout* BuildTransferRow();
     void AddButtons(QBoxLayout& layout, std::span<const Operation> operations);
 
+    void cbbBank_Click();
     void cbbBank_LostFocus();
     void cmbClear_Click();
     void cmbClAll_Click();
@@ -70,6 +88,8 @@ class MemoryPage : public QWidget
 
     const CloneImage& Image() const { return document_.Image(); }
     RowRange Group() const { return GroupRows(Image(), Selector()); }
+    void ShowFiltered();
+    void ShowAllIfHidden(const std::vector<int>& rows);
     RowRange SelectedRow() const;
     bool IsShiftable() const;
     QString NameOfRow(int row) const;
@@ -82,7 +102,9 @@ class MemoryPage : public QWidget
 
     Document& document_;
     Dialogs& dialogs_;
-    QComboBox* cbbBank_;
+    BankList* cbbBank_;
+    FilterBox* filter_;
+    FindBar* finder_;
     MemoryTable* table_;
 };
 

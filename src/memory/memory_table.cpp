@@ -1,64 +1,62 @@
 #include "memory/memory_table.h"
 
 #include <QKeyEvent>
-#include <QStyledItemDelegate>
+#include <algorithm>
 
+#include "memory/channel_delegate.h"
 #include "ui/table_font.h"
 
 namespace rqm5 {
-namespace {
-
-/// Two parts of the text's colour to one of its ground: paler than a text that is on, still to be read.
-QColor Paler(const QColor& text, const QColor& ground)
-{
-    const auto mix = [](int a, int b) { return (2 * a + b) / 3; };
-    return QColor(mix(text.red(), ground.red()), mix(text.green(), ground.green()),
-                  mix(text.blue(), ground.blue()));
-}
-
-/// Lets a disabled row look disabled while it is selected too: the selection has a text colour of its own,
-/// and the row that was just switched off is the selected one.
-class ChannelDelegate : public QStyledItemDelegate
-{
-  public:
-    ChannelDelegate(const MemoryTableModel& model, QObject* parent)
-        : QStyledItemDelegate(parent), model_(model)
-    {
-    }
-
-  protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
-    {
-        QStyledItemDelegate::initStyleOption(option, index);
-        if (model_.IsEnabled(index.row()))
-            return;
-        const QColor text = option->palette.color(QPalette::HighlightedText);
-        const QColor ground = option->palette.color(QPalette::Highlight);
-        option->palette.setColor(QPalette::HighlightedText, Paler(text, ground));
-    }
-
-  private:
-    const MemoryTableModel& model_;
-};
-
-}  // namespace
 
 MemoryTable::MemoryTable(const CloneImage& image, QWidget* parent)
     : ChannelTable({400, 1035, 480, 705, 555, 390, 675, 705, 540, 870, 2055}, parent), model_(image, nullptr)
 {
     setObjectName(QStringLiteral("MSFlexGrid1"));
     setAccessibleName(tr("Memory channels"));
-    setStatusTip(tr("Memory channels; grey ones are disabled. Enter or a double click edits one."));
+    setMouseTracking(true);  // the status bar names what is under the pointer
+    ShowHint();
     setModel(&model_);
     setItemDelegate(new ChannelDelegate(model_, this));
     ChangeFont(*this);
 }
 
-void MemoryTable::UpDateMemData(int selector)
+void MemoryTable::UpDateMemData(int selector, RowFilter filter)
 {
     const int row = CurrentTableRow();
-    model_.ShowGroup(selector);
+    model_.ShowGroup(selector, filter);
     SelectTableRow(row);
+    ShowHint();
+}
+
+int MemoryTable::MemoryRow(int tableRow) const
+{
+    return model_.Rows().at(static_cast<std::size_t>(tableRow - 1));
+}
+
+void MemoryTable::SelectMemoryRow(int memoryRow)
+{
+    const auto place = std::ranges::find(model_.Rows(), memoryRow);
+    if (place != model_.Rows().end())
+        SelectTableRow(static_cast<int>(place - model_.Rows().begin()) + 1);
+    scrollTo(currentIndex());
+}
+
+void MemoryTable::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    ChannelTable::currentChanged(current, previous);
+    ShowHint();
+}
+
+void MemoryTable::ShowHint()
+{
+    const int row = CurrentTableRow();
+    const QString place = row > 0 ? model_.Place(row - 1) : QString();
+    const QString hint = tr("Memory channels; grey ones are disabled. Enter or a double click edits one.");
+    const QString shown = place.isEmpty() ? hint : place;
+    if (shown == statusTip())
+        return;
+    setStatusTip(shown);
+    emit HintChanged();
 }
 
 void MemoryTable::keyPressEvent(QKeyEvent* event)

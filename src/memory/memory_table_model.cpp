@@ -1,10 +1,13 @@
 #include "memory/memory_table_model.h"
 
 #include <QBrush>
+#include <QFont>
 #include <QGuiApplication>
 #include <QPalette>
 
+#include "memory/row_names.h"
 #include "memory/table_titles.h"
+#include "ui/off_colour.h"
 
 namespace rqm5 {
 
@@ -13,29 +16,53 @@ MemoryTableModel::MemoryTableModel(const CloneImage& image, QObject* parent)
 {
 }
 
-void MemoryTableModel::ShowGroup(int selector)
+void MemoryTableModel::ShowGroup(int selector, RowFilter filter)
 {
-    rows_ = GroupRows(image_, selector);
-    ShowRows(BuildChannelLabels(image_, selector));
+    ShownRows shown = FilterGroup(image_, selector, filter);
+    rows_ = std::move(shown.rows);
+    isAll_ = selector == kSelectAll;
+    ShowRows(std::move(shown.labels));
 }
 
 QVariant MemoryTableModel::data(const QModelIndex& index, int role) const
 {
-    if (role != Qt::ForegroundRole || !index.isValid())
-        return ChannelTableModel::data(index, role);
-    const QPalette palette = QGuiApplication::palette();
-    return IsEnabled(index.row()) ? palette.brush(QPalette::Active, QPalette::WindowText)
-                                  : palette.brush(QPalette::Disabled, QPalette::WindowText);
+    if (!index.isValid())
+        return {};
+    const auto offFont = [] {
+        QFont font;
+        font.setItalic(true);
+        return font;
+    };
+    switch (role) {
+        case Qt::ForegroundRole:
+            return QBrush(IsEnabled(index.row()) ? QGuiApplication::palette().color(QPalette::WindowText)
+                                                 : OffColour(QGuiApplication::palette(), QPalette::Base));
+        case Qt::FontRole:
+            return IsEnabled(index.row()) ? QVariant() : offFont();
+        case Qt::ToolTipRole:
+        case Qt::StatusTipRole:
+            return Place(index.row());
+        default:
+            return ChannelTableModel::data(index, role);
+    }
 }
 
 bool MemoryTableModel::IsEnabled(int row) const
 {
-    return image_.MemEnable(rows_.first + row);
+    return image_.MemEnable(MemoryRow(row));
+}
+
+QString MemoryTableModel::Place(int row) const
+{
+    if (!isAll_)
+        return {};
+    const std::string place = PlaceOfRow(image_, MemoryRow(row));
+    return place.empty() ? tr("In no bank") : QString::fromStdString(place);
 }
 
 std::string MemoryTableModel::Cell(int row, Column column) const
 {
-    return CellText(image_.MemData(rows_.first + row), RowKind::Memory, image_.ModelNo(), column);
+    return CellText(image_.MemData(MemoryRow(row)), RowKind::Memory, image_.ModelNo(), column);
 }
 
 }  // namespace rqm5

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "memory/bank_layout.h"
+#include "memory/row_filter.h"
 #include "ui/channel_table_model.h"
 
 namespace rqm5 {
 
-/// The memory rows of the group that the bank selector shows.
+/// The memory rows of the group that the bank selector shows, or those of them that a filter leaves.
 class MemoryTableModel : public ChannelTableModel
 {
     Q_OBJECT
@@ -14,19 +14,28 @@ class MemoryTableModel : public ChannelTableModel
     MemoryTableModel(const CloneImage& image, QObject* parent);
 
     /// Takes over rows and labels of a group and shows them.
-    void ShowGroup(int selector);
+    void ShowGroup(int selector, RowFilter filter);
 
     QVariant data(const QModelIndex& index, int role) const override;
 
+    /// The memory rows shown, in order.
+    const std::vector<int>& Rows() const { return rows_; }
+
     /// True when the memory row of a data row (from 0) is enabled.
     bool IsEnabled(int row) const;
+
+    /// "Bank 2, channel 12" in the view of all rows, whose labels do not tell it; else empty.
+    QString Place(int row) const;
 
   protected:
     std::string Cell(int row, Column column) const override;
 
   private:
+    int MemoryRow(int row) const { return rows_.at(static_cast<std::size_t>(row)); }
+
     const CloneImage& image_;
-    RowRange rows_;
+    std::vector<int> rows_;
+    bool isAll_ = false;
 };
 
 }  // namespace rqm5

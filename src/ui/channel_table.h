@@ -5,6 +5,8 @@
 
 namespace rqm5 {
 
+class ColumnWidths;
+
 /// The table of the memory channels or of the VFO bands: one row is current, and it is selected whole.
 /// Table rows are counted from 1; row 0 is the title row.
 class ChannelTable : public QTableView
@@ -39,8 +41,10 @@ class ChannelTable : public QTableView
     int ColumnWidth(int column) const;
     void FitToFont();
     void StretchNote();
+    void SetWidth(int column, int width);
 
     std::array<int, kColumns + 1> twips_;
+    ColumnWidths* widths_;
 };
 
 }  // namespace rqm5

@@ -1,9 +1,12 @@
 #include <QComboBox>
+#include <QDialog>
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMenu>
+#include <QSignalSpy>
 #include <QTableView>
 #include <QTranslator>
+#include <QTreeWidget>
 
 #include "files/file_store.h"
 #include "link/port_file.h"
@@ -181,7 +184,8 @@ TEST_F(WindowTest, ToolbarButtonsActByTheirKeys)
         buttons[keys.constLast()] = bar.widgetForAction(button);
     }
     EXPECT_EQ(keys.join(QLatin1Char(' ')),
-              QString::fromUtf8("新規作成 開く 上書き保存 | mnuHistoryUndo mnuHistoryRedo | 印刷 ﾍﾙﾌﾟ"));
+              QString::fromUtf8("新規作成 開く 上書き保存 | mnuHistoryUndo mnuHistoryRedo | mnuEditFind | "
+                                "tbReAll tbWrAll | 印刷 ﾍﾙﾌﾟ"));
 
     const auto press = [&](const char* key) {
         QTest::mouseClick(buttons.at(QString::fromUtf8(key)), Qt::LeftButton);
@@ -195,6 +199,79 @@ TEST_F(WindowTest, ToolbarButtonsActByTheirKeys)
         bar.tbToolBar_ButtonClick(QString::fromUtf8(other));
     EXPECT_EQ(dialogs_.choices.size(), 2U);
     EXPECT_EQ(dialogs_.runs, 1);
+}
+
+TEST_F(WindowTest, ToolTipsNameTheKeysAndNewButtonsAct)
+{
+    Start();
+    auto& bar = Find<ToolBar>("tbToolBar");
+    QStringList tips;
+    for (const QAction* button : bar.actions())
+        tips += button->isSeparator() ? QString() : button->toolTip();
+    tips.removeAll(QString());
+    EXPECT_EQ(tips.join(QLatin1Char('|')).toStdString(),
+              "New (Ctrl+N)|Open (Ctrl+O)|Save (Ctrl+S)|Undo (Ctrl+Z)|Redo (Ctrl+Shift+Z)|Find (Ctrl+F)|"
+              "Read ALL (Ctrl+R)|Write ALL (Ctrl+Shift+W)|Print (Ctrl+P)|About");
+    EditSomething();
+    EXPECT_TRUE(Item("mnuHistoryUndo").toolTip().endsWith(QLatin1String(" (Ctrl+Z)")));
+    QSignalSpy read(&Item("mnuReAll"), &QAction::triggered);
+    QTest::mouseClick(bar.widgetForAction(&Item("tbReAll")), Qt::LeftButton);
+    EXPECT_EQ(read.count(), 1);
+    Press(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(read.count(), 2);
+    QTest::mouseClick(bar.widgetForAction(&Item("mnuEditFind")), Qt::LeftButton);
+    EXPECT_TRUE(Find<QLineEdit>("txtFind").hasFocus());
+}
+
+TEST_F(WindowTest, CtrlPageKeysChangeTheTabAndEscLeavesASearchWhereItBegan)
+{
+    Start();
+    for (const int tab : {1, 2, 3, 0}) {
+        Press(Qt::Key_PageDown, Qt::ControlModifier);
+        EXPECT_EQ(Tabs().currentIndex(), tab);
+    }
+    auto& slider = Find<QWidget>("MSFlexGrid2");
+    slider.setFocus();
+    Press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(Tabs().currentIndex(), 2);
+    EXPECT_TRUE(Find<QLineEdit>("txtFind").hasFocus());
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(Tabs().currentIndex(), 0);
+    EXPECT_TRUE(slider.hasFocus());
+    Press(Qt::Key_F3);
+    EXPECT_TRUE(Find<QLineEdit>("txtFind").hasFocus()) << "there is nothing to go to yet";
+    Press(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(Tabs().currentIndex(), 1);
+}
+
+TEST_F(WindowTest, DuplicatesAreListedBesideTheWindowAndAClickGoesThere)
+{
+    CloneImage image = StartUpImage(0);
+    for (const int row : {3, 205, 206, 1201})
+        image.MemData(row).frequency = row == 206 ? 146'000'000 : 145'000'000;
+    options_.commandFile = Path("twice.RQ5");
+    ASSERT_FALSE(SaveCloneFile(options_.commandFile, image).problem);
+    Start();
+    Item("mnuToolsDuplicates").trigger();
+    auto& dialog = Find<QDialog>("dlgDuplicates");
+    EXPECT_FALSE(dialog.isModal());
+    auto& list = Find<QTreeWidget>("lstDuplicates");
+    ASSERT_EQ(list.topLevelItemCount(), 1);
+    QTreeWidgetItem& frequency = *list.topLevelItem(0);
+    EXPECT_EQ(frequency.text(0).toStdString(), "145.000000 MHz, 3 times");
+    ASSERT_EQ(frequency.childCount(), 3);
+    EXPECT_EQ(frequency.child(1)->text(0).toStdString(), "Bank 1, channel 5");
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(frequency.child(1)).center());
+    EXPECT_EQ(Tabs().currentIndex(), 2);
+    EXPECT_EQ(Find<QComboBox>("cbbBank").currentIndex(), 1);
+    EXPECT_EQ(Find<QTableView>("MSFlexGrid1").currentIndex().row(), 5);
+    QTest::keyClick(&list, Qt::Key_Down);
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_EQ(Find<QComboBox>("cbbBank").currentIndex(), kSelectPriority);
+    EXPECT_TRUE(dialog.isVisible());
+    dialogs_.answers = {QMessageBox::Ok};
+    Click("cmbClear");
+    EXPECT_EQ(list.topLevelItem(0)->childCount(), 2) << "it follows";
 }
 
 TEST_F(WindowTest, ModifyOpensTheEditorOnTheRowOfTheTab)
@@ -239,7 +316,7 @@ TEST_F(WindowTest, FollowsTheLanguageWhileItRuns)
     Brackets brackets;
     QApplication::installTranslator(&brackets);
     QCoreApplication::processEvents();
-    EXPECT_EQ(texts(), QStringLiteral("[&New][Read(&R)][Memory][The memory channels][New]"));
+    EXPECT_EQ(texts(), QStringLiteral("[&New][Read(&R)][Memory][The memory channels][New] (Ctrl+N)"));
     EditSomething();
     QApplication::removeTranslator(&brackets);
     QCoreApplication::processEvents();

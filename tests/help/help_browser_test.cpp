@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QDesktopServices>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QScrollBar>
 #include <QTextBrowser>
 
@@ -103,6 +105,32 @@ TEST_F(HelpBrowserTest, FollowsLinksGoesBackAndForwardAndSearches)
     QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("spreadsheet CSV"));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_EQ(Source(), "files-and-csv.md") << "the first page that a search finds";
+}
+
+TEST_F(HelpBrowserTest, TheFirstHitOpensWhileTypingAndEscClearsFirst)
+{
+    OpenHelp();
+    FollowLink("ports.md");
+    QTest::keyClick(&Page(), Qt::Key_F, Qt::ControlModifier);
+    auto& search = *Help().findChild<QLineEdit*>(QStringLiteral("txtSearch"));
+    auto& pages = *Help().findChild<QListWidget*>(QStringLiteral("lstPages"));
+    const int all = pages.count();
+    QTest::keyClicks(&search, QStringLiteral("undo"));
+    EXPECT_EQ(Source(), "undo.md");
+    EXPECT_TRUE(search.hasFocus());
+    for (int i = 0; i < pages.count(); ++i)
+        EXPECT_TRUE(pages.item(i)
+                        ->text()
+                        .section(QLatin1Char('\n'), 1)
+                        .contains(QLatin1String("undo"), Qt::CaseInsensitive))
+            << qPrintable(pages.item(i)->text());
+    QTest::keyClick(&search, Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(Source(), "ports.md") << "one step back from the search, however many letters were typed";
+    QTest::keyClick(&search, Qt::Key_Escape);
+    EXPECT_TRUE(Help().isVisible() && search.text().isEmpty());
+    EXPECT_EQ(pages.count(), all);
+    QTest::keyClick(&search, Qt::Key_Escape);
+    EXPECT_FALSE(Help().isVisible());
 }
 
 TEST_F(HelpBrowserTest, AsksBeforeItLeavesTheManual)
