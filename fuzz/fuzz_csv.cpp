@@ -24,7 +24,7 @@ const CloneImage& FreshImage()
 void RequireEncodable(const ChannelContents& contents, RowKind kind)
 {
     ChannelContents read = DecodeBlock(EncodeChannel(contents), kind).value_or(ChannelContents());
-    // A shift of 0.05 MHz reads back as 0.5 MHz: deliberate.
+    // A shift of 0.05 MHz reads back as 0.5 MHz, as receivers in the field have it.
     if (read.frequency != 0)
         read.shiftFrequency = contents.shiftFrequency;
     // The receiver knows the 1 kHz step for VFO rows only.

@@ -6,6 +6,7 @@
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QMenuBar>
+#include <QPointer>
 #include <QScreen>
 #include <QSettings>
 #include <QStatusTipEvent>
@@ -162,7 +163,13 @@ void frmMain::ConnectDocument()
 {
     connect(&document_, &Document::StateChanged, this, &frmMain::ShowState);
     connect(&document_, &Document::Changed, this, [this] { sbStatusBar_->ShowDocument(document_); });
-    connect(&document_, &Document::Stepped, pages_, &Pages::GoTo);
+    connect(&document_, &Document::Stepped, this, [this](const ImageChange& change) {
+        const QPointer<QWidget> focus = focusWidget();
+        pages_->GoTo(change);
+        // Whoever walks through the list of steps goes on walking.
+        if (focus && focus->objectName() == QLatin1String("lstHistory"))
+            focus->setFocus();
+    });
     connect(&pages_->Memory(), &MemoryPage::Noted, sbStatusBar_, &StatusBar::ShowNote);
     connect(recovery_, &Recovery::Asking, this, &frmMain::Asking);
     connect(recovery_, &Recovery::Kept, warnings_, [this](const QString& reason) {

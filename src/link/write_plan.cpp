@@ -10,7 +10,7 @@
 namespace rqm5 {
 namespace {
 
-constexpr char kCountName[] = "Search Pass count";
+constexpr char kCountName[] = QT_TRANSLATE_NOOP("WriteRecord", "Search Pass count");
 
 QString Translate(const char* text)
 {

@@ -166,7 +166,14 @@ bool BankPage::CommitPending()
 
 void BankPage::GoToBank(int bank)
 {
-    txtBank_.at(bank)->setFocus(Qt::OtherFocusReason);
+    if (bank < kBanks)
+        txtBank_.at(bank)->setFocus(Qt::OtherFocusReason);
+}
+
+void BankPage::GoToLink(int bank)
+{
+    if (bank < kBanks)
+        chkLink_.at(bank)->setFocus(Qt::OtherFocusReason);
 }
 
 bool BankPage::eventFilter(QObject* watched, QEvent* event)

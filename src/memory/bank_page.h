@@ -35,6 +35,9 @@ class BankPage : public QWidget
     /// Gives the box of a bank's size the focus.
     void GoToBank(int bank);
 
+    /// The same with the box of its link.
+    void GoToLink(int bank);
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   signals:
