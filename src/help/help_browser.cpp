@@ -7,6 +7,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "help/hit_delegate.h"
 #include "help/manual.h"
 #include "ui/form_texts.h"
 #include "ui/icons.h"
@@ -55,7 +56,7 @@ void frmHelp::Compose()
     txtSearch_->setClearButtonEnabled(true);
     lstPages_->setObjectName(QStringLiteral("lstPages"));
     lstPages_->setAccessibleName(tr("Pages"));
-    lstPages_->setWordWrap(true);
+    lstPages_->setItemDelegate(new HitDelegate(lstPages_));
     lstPages_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 
     auto* left = new QWidget(this);
@@ -167,19 +168,28 @@ void frmHelp::OpenItem(const QListWidgetItem* item)
 void frmHelp::txtSearch_Change()
 {
     FillContents();
-    brwPage_->MarkWords(QueryWords(txtSearch_->text()));
+    // A single letter stands nearly everywhere.
+    const bool isWord = txtSearch_->text().trimmed().size() > 1;
+    brwPage_->MarkWords(isWord ? QueryWords(txtSearch_->text()) : QStringList());
+    if (isWord)
+        OpenFirst();
     if (txtSearch_->text().isEmpty())
         searchPage_.clear();
-    else
-        OpenFirst();
 }
 
 /// Shows the first page found while its words are typed; Back leads to the page from before the search.
 void frmHelp::OpenFirst()
 {
     const QString first = lstPages_->item(0)->data(Qt::UserRole).toString();
-    if (QueryWords(txtSearch_->text()).isEmpty() || first.isEmpty() || first == brwPage_->Page())
+    if (first.isEmpty())
         return;
+    if (first == brwPage_->Page()) {
+        // The place found so far may go on with the letter that was typed now.
+        QTextCursor place = brwPage_->textCursor();
+        place.setPosition(place.selectionStart());
+        brwPage_->setTextCursor(place);
+        return FindWord();
+    }
     if (brwPage_->Page() == searchPage_)
         brwPage_->backward();
     OpenItem(lstPages_->item(0));

@@ -58,8 +58,8 @@ const QList<ManualPage>& ManualPages()
 
 QString LineAround(const ManualPage& page, const QStringList& words)
 {
-    constexpr qsizetype kBefore = 24;
-    constexpr qsizetype kLength = 90;
+    constexpr qsizetype kBefore = 16;
+    constexpr qsizetype kLength = 70;
     const QString& text = page.plain;
     qsizetype place = text.size();
     for (const QString& word : words)

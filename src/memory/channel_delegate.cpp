@@ -12,7 +12,7 @@ ChannelDelegate::ChannelDelegate(const MemoryTableModel& model, QObject* parent)
 void ChannelDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
-    if (model_.IsEnabled(index.row()))
+    if (model_.IsEnabled(index.row()) || (option->state & QStyle::State_Selected) == 0)
         return;
     for (const auto group : {QPalette::Active, QPalette::Inactive})
         option->palette.setColor(group, QPalette::HighlightedText,

@@ -39,7 +39,7 @@ FindBar::FindBar(const Document& document, QWidget* page)
     lblFound_->setMinimumWidth(fontMetrics().averageCharWidth() * kCountLetters);
     lstFound_->setObjectName(QStringLiteral("lstFound"));
     lstFound_->setAccessibleName(tr("Channels found"));
-    lstFound_->setUniformItemSizes(true);
+    lstFound_->setFrameStyle(QFrame::Box | QFrame::Plain);
     // The box keeps the focus, so that one can go on typing.
     lstFound_->setFocusPolicy(Qt::NoFocus);
     lstFound_->hide();
@@ -100,16 +100,22 @@ void FindBar::Search()
     if (!std::exchange(isStale_, false))
         return;
     hits_ = FindChannels(document_.Image(), txtFind_->text().toStdString());
-    QStringList lines;
-    for (const int row : hits_)
-        lines += LineOf(row);
     lstFound_->clear();
-    lstFound_->addItems(lines);
+    for (const int row : hits_)
+        AddLine(LineOf(row));
     if (hits_.empty())
-        (new QListWidgetItem(tr("Nothing found"), lstFound_))->setFlags(Qt::NoItemFlags);
+        AddLine(tr("Nothing found"))->setFlags(Qt::NoItemFlags);
     else
         lstFound_->setCurrentRow(0);
     ShowCount();
+}
+
+QListWidgetItem* FindBar::AddLine(const QString& text)
+{
+    auto* line = new QListWidgetItem(text, lstFound_);
+    // As far apart as in other lists, however small the table's font looks.
+    line->setSizeHint({0, fontMetrics().height() + 2});
+    return line;
 }
 
 /// "Bank 2, channel 12     145.625000  FM   the note"

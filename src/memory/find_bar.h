@@ -48,6 +48,7 @@ class FindBar : public QWidget
     void ShowCount();
     void OpenList();
     void PlaceList();
+    QListWidgetItem* AddLine(const QString& text);
     QString LineOf(int row) const;
 
     const Document& document_;

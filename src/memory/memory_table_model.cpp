@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QGuiApplication>
 #include <QPalette>
+#include <utility>
 
 #include "memory/row_names.h"
 #include "memory/table_titles.h"
@@ -35,8 +36,7 @@ QVariant MemoryTableModel::data(const QModelIndex& index, int role) const
     };
     switch (role) {
         case Qt::ForegroundRole:
-            return QBrush(IsEnabled(index.row()) ? QGuiApplication::palette().color(QPalette::WindowText)
-                                                 : OffColour(QGuiApplication::palette(), QPalette::Base));
+            return TextColour(IsEnabled(index.row()));
         case Qt::FontRole:
             return IsEnabled(index.row()) ? QVariant() : offFont();
         case Qt::ToolTipRole:
@@ -45,6 +45,17 @@ QVariant MemoryTableModel::data(const QModelIndex& index, int role) const
         default:
             return ChannelTableModel::data(index, role);
     }
+}
+
+QBrush MemoryTableModel::TextColour(bool isEnabled) const
+{
+    const QPalette palette = QGuiApplication::palette();
+    if (isEnabled)
+        return palette.windowText();
+    // Every cell asks, and the answer takes some arithmetic.
+    if (std::exchange(paletteKey_, palette.cacheKey()) != palette.cacheKey())
+        offText_ = OffColour(palette, QPalette::Base);
+    return offText_;
 }
 
 bool MemoryTableModel::IsEnabled(int row) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QBrush>
+
 #include "memory/row_filter.h"
 #include "ui/channel_table_model.h"
 
@@ -31,11 +33,14 @@ class MemoryTableModel : public ChannelTableModel
     std::string Cell(int row, Column column) const override;
 
   private:
+    QBrush TextColour(bool isEnabled) const;
     int MemoryRow(int row) const { return rows_.at(static_cast<std::size_t>(row)); }
 
     const CloneImage& image_;
     std::vector<int> rows_;
     bool isAll_ = false;
+    mutable qint64 paletteKey_ = 0;
+    mutable QBrush offText_;
 };
 
 }  // namespace rqm5

@@ -122,8 +122,11 @@ void ChannelTable::StretchNote()
 {
     if (model() == nullptr)
         return;
-    const int others = horizontalHeader()->sectionPosition(kNoteColumn);
-    SetWidth(kNoteColumn, std::max(ColumnWidth(kNoteColumn), viewport()->width() - others));
+    const int left = viewport()->width() - horizontalHeader()->sectionPosition(kNoteColumn);
+    const int usual = ColumnWidth(kNoteColumn);
+    // Half of its usual width is enough to have the note in sight without scrolling.
+    const int least = widths_->Dragged(kNoteColumn) > 0 ? usual : usual / 2;
+    SetWidth(kNoteColumn, left >= least ? left : usual);
 }
 
 void ChannelTable::SetWidth(int column, int width)

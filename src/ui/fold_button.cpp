@@ -1,5 +1,8 @@
 #include "ui/fold_button.h"
 
+#include <QCoreApplication>
+#include <QStatusTipEvent>
+
 #include "ui/settings_store.h"
 
 namespace rqm5 {
@@ -29,6 +32,10 @@ void FoldButton::Fold(bool isFolded)
     setToolTip((isFolded ? tr("Show the %1") : tr("Hide the %1")).arg(what_));
     setAccessibleName(toolTip());
     setStatusTip(toolTip());
+    if (!underMouse())
+        return;
+    QStatusTipEvent tip(statusTip());
+    QCoreApplication::sendEvent(this, &tip);
 }
 
 }  // namespace rqm5
