@@ -62,6 +62,7 @@ void frmMain::Compose()
     edits_ = new EditCommands(document_, dialogs_, *pages_, *this);
     history_ = new HistoryCommands(document_, *menus_, *this);
     ports_ = new PortCommands(link_.Port(), dialogs_, options_, *this);
+    readOptions_ = new ReadOptionItems(*menus_, this);
     writeOptions_ = new WriteOptionItems(*menus_, dialogs_, *this);
     transfers_ = new TransferCommands(document_, link_, dialogs_, *this);
     shell_ = new TransferShell(*transfers_, *menus_, *pages_, *history_, *transferBar_, *sbStatusBar_, *this);
@@ -103,6 +104,7 @@ void frmMain::ConnectTransferMenus()
     ConnectMenu("mnuWrAll", [this] { shell_->Start(Transfer::WriteAll); });
     ConnectMenu("mnuWrMemory", [this] { shell_->StartOn(Tab::Memory, Transfer::WriteMemory); });
     ConnectMenu("mnuWrSettings", [this] { shell_->StartOn(Tab::Settings1, Transfer::WriteSettings); });
+    ConnectMenu("mnuReVerify", [this] { readOptions_->mnuReVerify_Click(); });
     ConnectMenu("mnuWrBackup", [this] { writeOptions_->Keep(); });
     ConnectMenu("mnuWrVerify", [this] { writeOptions_->Keep(); });
     ConnectMenu("mnuWrBackupFolder", [this] { writeOptions_->mnuWrBackupFolder_Click(); });

@@ -10,6 +10,7 @@
 #include "app/menus.h"
 #include "app/pages.h"
 #include "app/port_commands.h"
+#include "app/read_option_items.h"
 #include "app/recovery.h"
 #include "app/side_windows.h"
 #include "app/start_options.h"
@@ -80,6 +81,7 @@ class frmMain : public QMainWindow
     EditCommands* edits_ = nullptr;
     HistoryCommands* history_ = nullptr;
     PortCommands* ports_ = nullptr;
+    ReadOptionItems* readOptions_ = nullptr;
     WriteOptionItems* writeOptions_ = nullptr;
     TransferCommands* transfers_ = nullptr;
     TransferShell* shell_ = nullptr;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QStringList>
 #include <QWidget>
 #include <functional>
 
@@ -60,23 +61,27 @@ class TransferCommands : public QObject, private TransferObserver
     void ProgressAdvanced(int value, int row);
     void GroupWanted(int selector);  ///< an "all" operation moves the bank selector
 
-    /// What there is to say about a transfer without a message: that nothing was written, that the receiver
-    /// was read back and agrees.
+    /// What there is to say about a transfer without a message, once it has ended: that nothing was written,
+    /// that the receiver was read back and agrees.
     void Noted(const QString& text);
 
   private:
     void Occupy(const std::function<TransferResult()>& work);
     TransferResult RunOperation(Transfer transfer, int selector);
     TransferResult Read(const QString& name, const std::function<TransferResult(ReceiverReader&)>& read);
+    TransferResult ReadTwice(const std::vector<ExpectedBlock>& blocks);
+    void NameUnreadable(const std::vector<std::string>& names);
     TransferResult Write(const TransferScope& scope);
     TransferResult KeepBackup(const TransferScope& scope, const QString& folder);
-    TransferResult WriteBlocks(const TransferScope& scope);
+    TransferResult WriteBlocks(const TransferScope& scope, bool isVerified);
     TransferResult Verify(const TransferScope& scope);
     void Warn(Prompt warning);
+    void WarnOfBlocks(const QString& title, const QString& text, const std::vector<std::string>& names);
     bool SaveBackup(const TransferScope& scope, const QString& folder, const CloneImage& backup);
 
     void ProgressStarted(int maximum) override { emit ProgressBegan(maximum); }
     void ProgressMoved(int value, int row) override { emit ProgressAdvanced(value, row); }
+    void BlockRepeated(int /*address*/) override { ++repeated_; }
     void GroupChosen(int selector) override { emit GroupWanted(selector); }
     void Stored() override;
     void Message(const Problem& problem) override;
@@ -87,6 +92,8 @@ class TransferCommands : public QObject, private TransferObserver
     Dialogs& dialogs_;
     QWidget& window_;
     Transaction* reading_ = nullptr;  ///< of the read that runs
+    QStringList notes_;               ///< sentences for the end of the transfer
+    int repeated_ = 0;                ///< blocks that needed more than one attempt
     bool isRunning_ = false;
     bool isCancelled_ = false;
 };
