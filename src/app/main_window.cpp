@@ -71,6 +71,7 @@ void frmMain::Compose()
     history_ = new HistoryCommands(document_, *menus_, *this);
     finds_ = new FindCommands(document_, *pages_, *this);
     ports_ = new PortCommands(link_.Port(), dialogs_, options_, *this);
+    readOptions_ = new ReadOptionItems(*menus_, this);
     writeOptions_ = new WriteOptionItems(*menus_, dialogs_, *this);
     transfers_ = new TransferCommands(document_, link_, dialogs_, *this);
     shell_ = new TransferShell(*transfers_, *menus_, *pages_, *history_, *transferBar_, *sbStatusBar_, *this);
@@ -120,6 +121,7 @@ void frmMain::ConnectTransferMenus()
     ConnectMenu("mnuWrAll", [this] { shell_->Start(Transfer::WriteAll); });
     ConnectMenu("mnuWrMemory", [this] { shell_->StartOn(Tab::Memory, Transfer::WriteMemory); });
     ConnectMenu("mnuWrSettings", [this] { shell_->StartOn(Tab::Settings1, Transfer::WriteSettings); });
+    ConnectMenu("mnuReVerify", [this] { readOptions_->mnuReVerify_Click(); });
     ConnectMenu("mnuWrBackup", [this] { writeOptions_->Keep(); });
     ConnectMenu("mnuWrVerify", [this] { writeOptions_->Keep(); });
     ConnectMenu("mnuWrBackupFolder", [this] { writeOptions_->mnuWrBackupFolder_Click(); });

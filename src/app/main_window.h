@@ -12,6 +12,7 @@
 #include "app/menus.h"
 #include "app/pages.h"
 #include "app/port_commands.h"
+#include "app/read_option_items.h"
 #include "app/recovery.h"
 #include "app/side_windows.h"
 #include "app/standing_warnings.h"
@@ -98,6 +99,7 @@ class frmMain : public QMainWindow
     HistoryCommands* history_ = nullptr;
     FindCommands* finds_ = nullptr;
     PortCommands* ports_ = nullptr;
+    ReadOptionItems* readOptions_ = nullptr;
     WriteOptionItems* writeOptions_ = nullptr;
     TransferCommands* transfers_ = nullptr;
     TransferShell* shell_ = nullptr;

@@ -79,6 +79,9 @@ inline constexpr MenuItem kMenuItems[] = {
      TEXT("Read the channels of the group shown on the Memory page"), During::Off},
     {"mnuRead", "mnuReSettings", TEXT("Settings(&S)"), "", TEXT("Read the settings and the VFO bands"),
      During::Off},
+    {"mnuRead", "", "", "", "", During::Stays},
+    {"mnuRead", "mnuReVerify", TEXT("&Verify after reading"), "",
+     TEXT("Read everything twice, and list what came otherwise"), During::Off},
 
     {"mnuWrite", "mnuWrAll", TEXT("ALL(&A)"), "Ctrl+Shift+W", TEXT("Write everything to the receiver"),
      During::Off},

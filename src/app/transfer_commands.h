@@ -71,16 +71,20 @@ class TransferCommands : public QObject, private TransferObserver
     void Occupy(const std::function<TransferResult()>& work);
     TransferResult RunOperation(Transfer transfer, int selector);
     TransferResult Read(const QString& name, const std::function<TransferResult(ReceiverReader&)>& read);
+    TransferResult ReadTwice(const std::vector<ExpectedBlock>& blocks);
+    void NameUnreadable(const std::vector<std::string>& names);
     TransferResult Write(const TransferScope& scope);
     TransferResult KeepBackup(const TransferScope& scope, const QString& folder);
     bool MayWriteToThisModel();
-    TransferResult WriteBlocks(const TransferScope& scope);
+    TransferResult WriteBlocks(const TransferScope& scope, bool isVerified);
     TransferResult Verify(const TransferScope& scope);
     void Warn(Prompt warning);
+    void WarnOfBlocks(const QString& title, const QString& text, const std::vector<std::string>& names);
     bool SaveBackup(const QString& path, const CloneImage& backup);
 
     void ProgressStarted(int maximum) override { emit ProgressBegan(maximum); }
     void ProgressMoved(int value, int row) override { emit ProgressAdvanced(value, row); }
+    void BlockRepeated(int /*address*/) override { ++repeated_; }
     void GroupChosen(int selector) override { emit GroupWanted(selector); }
     void Stored() override;
     void BlockRead(int address, const MemoryBlock& block) override;
@@ -95,6 +99,7 @@ class TransferCommands : public QObject, private TransferObserver
     QStringList notes_;               ///< sentences for the end of the transfer
     ReceiverIdentity receiver_;
     std::pair<int, int> agreed_;  ///< models of receiver and image that the user has said yes to
+    int repeated_ = 0;                ///< blocks that needed more than one attempt
     bool isRunning_ = false;
     bool isCancelled_ = false;
 };

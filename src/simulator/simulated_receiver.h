@@ -55,6 +55,7 @@ class SimulatedReceiver
     Answer AnswerTo(std::string line);
     std::string Obey(const std::string& command, bool refuses);
     void Spoil(FaultKind fault, Answer& answer);
+    void SpoilDigit(std::string& frame, bool isLost);
     std::string Noise();
 
     ReceiverMemory memory_;

@@ -5,6 +5,7 @@
 #include <QFile>
 
 #include <csignal>
+#include <filesystem>
 #include <future>
 
 #include "cli/command_run.h"
@@ -170,6 +171,110 @@ TEST_F(Write, ThatFailedIsNotVerified)
     const RunResult run = Transfer("write", receiver, file, {"--only=settings", "--verify"});
     ExpectOneLine(run, "Communication Error: Block 0C50");
     EXPECT_EQ(receiver.CommandLog().size(), 17U);
+}
+
+TEST_F(Transfers, SayHowManyBlocksNeededMoreThanOneAttempt)
+{
+    EXPECT_EQ(RunProgramFile({"new", file}).status, 0);
+    const std::pair<Fault, const char*> cases[] = {
+        {{}, ""},
+        {{.kind = FaultKind::Garble, .after = 5}, "1 block needed more than one attempt\n"},
+        {{.kind = FaultKind::Garble, .count = 5}, "1 block needed more than one attempt\n"},
+    };
+    for (const auto& [fault, text] : cases)
+        for (const char* command : {"read", "write"}) {
+            const SimSession receiver(Demo({fault}));
+            const RunResult run = Transfer(command, receiver, file, {"--only=settings"});
+            EXPECT_EQ(run.status, 0);
+            EXPECT_EQ(run.out + run.err, text);
+        }
+    const Fault single{.kind = FaultKind::Garble};
+    const SimSession receiver(
+        Demo({single, {.kind = FaultKind::Garble, .after = 4}, {.kind = FaultKind::Garble, .after = 30}}));
+    EXPECT_EQ(Transfer("write", receiver, file, {"--only=settings", "--verify"}).err,
+              "3 blocks needed more than one attempt\n");
+}
+
+/// What a receiver holds whose line sends line ends and nothing else, or other signs in single blocks.
+SimOptions Disturbed(const std::vector<int>& addresses, const std::string& characters)
+{
+    SimOptions options = Demo();
+    for (const int address : addresses)
+        options.memory.At(address) = MemoryBlock(characters);
+    return options;
+}
+
+TEST_F(Transfers, NameWhatCameDisturbedAndKeepTheFileAsItWas)
+{
+    EXPECT_EQ(RunProgramFile({"new", file}).status, 0);
+    const std::string before = Bytes(file);
+    ASSERT_EQ(chmod(file.c_str(), S_IRUSR | S_IWUSR), 0);
+    const SimSession receiver(Disturbed({0x5B10, 0x5B90}, "01455000000000000000001000600Z00"));
+    const Words priority = {"--only", "memory", "--bank", "priority"};
+    RunResult run = Transfer("read", receiver, file, priority);
+    EXPECT_EQ(run.status, 1);
+    EXPECT_TRUE(run.err.starts_with(
+        "Communication Error: 2 blocks were read with characters that are no hex digits:\n"
+        "  Row 1201 (Priority Pr1)\n  Row 1209 (Priority Pr9)\n"))
+        << run.err;
+    EXPECT_TRUE(Has(run.err, "kept as " + file + "~")) << run.err;
+    EXPECT_EQ(Bytes(file + "~"), before);
+    EXPECT_NE(Bytes(file), before);
+    struct stat kept
+    {
+    };
+    ASSERT_EQ(stat((file + "~").c_str(), &kept), 0);
+    EXPECT_EQ(kept.st_mode & 0777U, 0600U);
+    EXPECT_EQ(receiver.CommandLog().size(), 28U + 2 * 3);
+
+    // Without a place for the old file it is not replaced.
+    const std::string now = Bytes(file);
+    ASSERT_TRUE(std::filesystem::remove(file + "~") && std::filesystem::create_directory(file + "~"));
+    run = Transfer("read", receiver, file, priority);
+    EXPECT_TRUE(run.status == 1 && Has(run.err, "is as it was")) << run.err;
+    EXPECT_EQ(Bytes(file), now);
+}
+
+TEST_F(Transfers, LineEndsAloneMakeNoFileThatIsWhole)
+{
+    std::vector<int> addresses;
+    for (int address = 0; address < 0x5BA0; address += 0x10)
+        addresses.push_back(address);
+    std::string lineEnds;
+    while (lineEnds.size() < kBlockChars)
+        lineEnds += "\r\n";
+    SimSession receiver(Demo());
+    EXPECT_EQ(Transfer("read", receiver, file).status, 0);
+    const std::string full = Bytes(file);
+    receiver.SetMemory(Disturbed(addresses, lineEnds).memory);
+    const RunResult run = Transfer("read", receiver, file);
+    EXPECT_EQ(run.status, 1);
+    EXPECT_TRUE(Has(run.err, "1244 blocks") && Has(run.err, "  Row 978 (")) << run.err.substr(0, 200);
+    EXPECT_EQ(Bytes(file + "~"), full);
+}
+
+TEST_F(Transfers, ReadTwiceOnRequestAndNameWhatCameOtherwise)
+{
+    const Words settings = {"--only=settings", "--verify"};
+    const SimSession sound(Demo());
+    RunResult run = Transfer("read", sound, file, settings);
+    EXPECT_TRUE(run.status == 0 && (run.out + run.err).empty()) << run.err;
+    EXPECT_EQ(sound.CommandLog().size(), 32U);
+    const std::string right = Bytes(file);
+    // The digit is wrong in the first read.
+    const SimSession receiver(Demo({{.kind = FaultKind::Flip, .after = 5}}));
+    run = Transfer("read", receiver, file, settings);
+    EXPECT_EQ(run.status, 1);
+    EXPECT_TRUE(
+        run.err.starts_with("Communication Error: 1 block came otherwise when it was read again:\n"
+                            "  VFO 3: first "))
+        << run.err;
+    EXPECT_EQ(Bytes(file + "~"), right);
+    // A second read that breaks off leaves nothing to be saved.
+    const SimSession broken(Demo({{.kind = FaultKind::HangUp, .after = 20}}));
+    run = Transfer("read", broken, folder / "new.RQ5", settings);
+    EXPECT_TRUE(run.status == 1 && Has(run.err, "not all of it could be read again")) << run.err;
+    EXPECT_FALSE(std::filesystem::exists(folder / "new.RQ5"));
 }
 
 TEST_F(Transfers, ComNumbersStandForDevices)
