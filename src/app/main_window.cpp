@@ -53,6 +53,7 @@ void frmMain::Compose()
     auto* middle = new QWidget(this);
     auto* column = new QVBoxLayout(middle);
     pages_ = new Pages(document_, dialogs_, middle);
+    pages_->Memory().AddRowItems(menus_->Menu("mnuEdit"));
     transferBar_ = new TransferBar(middle);
     column->addWidget(&pages_->Tabs(), 1);
     column->addWidget(transferBar_);

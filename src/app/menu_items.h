@@ -54,8 +54,8 @@ inline constexpr MenuItem kMenuItems[] = {
     {"mnuEdit", "mnuHistoryRedo", TEXT("&Redo"), "Ctrl+Shift+Z; Ctrl+Y",
      TEXT("Make the change again that was taken back"), During::Off},
     {"mnuEdit", "", "", "", "", During::Stays},
-    {"mnuEdit", "mnuEditUndo", TEXT("&Modify..."), "F2", TEXT("Edit the selected channel or VFO band"),
-     During::Off},
+    {"mnuEdit", "mnuEditUndo", TEXT("&Modify..."), "",
+     TEXT("Edit the selected channels or VFO band; so does Enter"), During::Off},
 
     {"mnuView", "mnuViewToolbar", TEXT("&Toolbar"), "", TEXT("Show or hide the toolbar"), During::Stays},
     {"mnuView", "mnuStatusBar", TEXT("&Status Bar"), "", TEXT("Show or hide the status bar"), During::Stays},

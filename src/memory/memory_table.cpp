@@ -1,8 +1,11 @@
 #include "memory/memory_table.h"
 
-#include <QKeyEvent>
-#include <QStyledItemDelegate>
+#include <QDrag>
+#include <QDropEvent>
+#include <QToolTip>
+#include <algorithm>
 
+#include "memory/table_clipboard.h"
 #include "ui/table_font.h"
 
 namespace rqm5 {
@@ -18,18 +21,18 @@ QColor Paler(const QColor& text, const QColor& ground)
 
 /// Lets a disabled row look disabled while it is selected too: the selection has a text colour of its own,
 /// and the row that was just switched off is the selected one.
-class ChannelDelegate : public QStyledItemDelegate
+class ChannelDelegate : public CellDelegate
 {
   public:
-    ChannelDelegate(const MemoryTableModel& model, QObject* parent)
-        : QStyledItemDelegate(parent), model_(model)
+    ChannelDelegate(const CloneImage& image, const MemoryTableModel& model, QObject* parent)
+        : CellDelegate(image, model, parent), model_(model)
     {
     }
 
   protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
     {
-        QStyledItemDelegate::initStyleOption(option, index);
+        CellDelegate::initStyleOption(option, index);
         if (model_.IsEnabled(index.row()))
             return;
         const QColor text = option->palette.color(QPalette::HighlightedText);
@@ -44,32 +47,187 @@ class ChannelDelegate : public QStyledItemDelegate
 }  // namespace
 
 MemoryTable::MemoryTable(const CloneImage& image, QWidget* parent)
-    : ChannelTable({400, 1035, 480, 705, 555, 390, 675, 705, 540, 870, 2055}, parent), model_(image, nullptr)
+    : ChannelTable({400, 1035, 480, 705, 555, 390, 675, 705, 540, 870, 2055}, parent),
+      image_(image),
+      model_(image, nullptr),
+      cells_(new ChannelDelegate(image, model_, this))
 {
     setObjectName(QStringLiteral("MSFlexGrid1"));
     setAccessibleName(tr("Memory channels"));
-    setStatusTip(tr("Memory channels; grey ones are disabled. Enter or a double click edits one."));
+    setStatusTip(
+        tr("Memory channels; grey ones are disabled. Enter or a double click edits the selected ones, "
+           "typing edits one cell."));
     setModel(&model_);
-    setItemDelegate(new ChannelDelegate(model_, this));
+    setItemDelegate(cells_);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(EditKeyPressed | AnyKeyPressed);
+    setAcceptDrops(true);
+    setDropIndicatorShown(true);
+    setDragDropOverwriteMode(false);
+    connect(cells_, &CellDelegate::Entered, this, &MemoryTable::MoveCell);
     ChangeFont(*this);
 }
 
 void MemoryTable::UpDateMemData(int selector)
 {
+    Refresh(selector);
+    const QModelIndex current = currentIndex();
+    if (current.isValid())
+        selectionModel()->setCurrentIndex(current.siblingAtColumn(0), QItemSelectionModel::NoUpdate);
+}
+
+void MemoryTable::Refresh(int selector)
+{
     const int row = CurrentTableRow();
+    const bool isSameGroup = selector == model_.Selector();
     model_.ShowGroup(selector);
-    SelectTableRow(row);
+    const bool isSelected = isSameGroup && currentIndex().isValid() &&
+                            selectionModel()->isRowSelected(currentIndex().row(), QModelIndex());
+    if (!isSelected)
+        SelectTableRow(row);
+}
+
+void MemoryTable::SelectRows(const std::vector<int>& rows, int column)
+{
+    if (rows.empty() || model_.rowCount() == 0)
+        return;
+    const auto cell = [this, column](int row) { return model_.index(row - model_.MemoryRow(0), column); };
+    QItemSelection selection;
+    for (const int row : rows)
+        if (cell(row).isValid())
+            selection.merge(QItemSelection(cell(row), cell(row)), QItemSelectionModel::Select);
+    const QModelIndex first = cell(rows.front());
+    selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    scrollTo(first);
+}
+
+std::vector<int> MemoryTable::SelectedRows() const
+{
+    std::vector<int> rows = SelectedTableRows();
+    for (int& row : rows)
+        row = model_.MemoryRow(row - 1);
+    return rows;
+}
+
+int MemoryTable::CurrentRow() const
+{
+    return currentIndex().isValid() ? model_.MemoryRow(currentIndex().row()) : -1;
+}
+
+void MemoryTable::SetCellWriter(CellDelegate::Writer writer)
+{
+    cells_->SetWriter(std::move(writer));
+}
+
+void MemoryTable::MoveCell(int rows, int columns)
+{
+    const int row = std::clamp(currentIndex().row() + rows, 0, model_.rowCount() - 1);
+    const int column = std::clamp(currentIndex().column() + columns, 0, model_.columnCount() - 1);
+    selectionModel()->setCurrentIndex(model_.index(row, column),
+                                      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+void MemoryTable::ShowHint(const QString& text)
+{
+    QToolTip::showText(viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()), text, this);
+}
+
+void MemoryTable::keyboardSearch(const QString& /*search*/)
+{
+    // What is typed belongs into the cell; where it cannot go there, it must not go to another row either.
+    if (!currentIndex().isValid())
+        return;
+    const bool isEmpty = !image_.MemData(CurrentRow()).HasChannel();
+    ShowHint(isEmpty ? tr("An empty row begins with its frequency") : tr("This model does not have it"));
 }
 
 void MemoryTable::keyPressEvent(QKeyEvent* event)
 {
-    const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    // Keys that an open cell has no use for come here too.
+    const bool isPlain =
+        (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier && state() != EditingState;
     if (isPlain && event->key() == Qt::Key_Insert)
         emit InsertPressed();
     else if (isPlain && event->key() == Qt::Key_Delete)
         emit DeletePressed();
+    else if (isPlain && event->key() == Qt::Key_Space)
+        emit TogglePressed();
+    else if (event->key() == Qt::Key_F2)
+        QTableView::keyPressEvent(event);
     else
         ChannelTable::keyPressEvent(event);
+}
+
+void MemoryTable::mousePressEvent(QMouseEvent* event)
+{
+    // A drag moves rows that are selected already, and selects rows from any other on.
+    const QModelIndex index = indexAt(event->position().toPoint());
+    const bool isSelected = index.isValid() && selectionModel()->isRowSelected(index.row(), QModelIndex());
+    setDragEnabled(isSelected && (event->modifiers() & Qt::ShiftModifier) == 0);
+    ChannelTable::mousePressEvent(event);
+}
+
+void MemoryTable::startDrag(Qt::DropActions /*actions*/)
+{
+    const std::vector<int> rows = SelectedRows();
+    if (rows.empty())
+        return;
+    QDrag drag(this);
+    drag.setMimeData(ClipOf(image_, rows));
+    drag.exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
+}
+
+bool MemoryTable::IsOwnMove(const QDropEvent& event) const
+{
+    return event.source() == this && (event.modifiers() & Qt::ControlModifier) == 0;
+}
+
+bool MemoryTable::CanTake(const QDropEvent& event) const
+{
+    // The view of all rows is no group in which rows could change their places.
+    return IsOwnMove(event) ? model_.Selector() != kSelectAll : MayHoldChannels(*event.mimeData());
+}
+
+/// The memory row under a place, or the one that something is dropped before there.
+int MemoryTable::RowAt(const QPoint& position) const
+{
+    const QModelIndex index = indexAt(position);
+    if (!index.isValid())
+        return model_.MemoryRow(model_.rowCount());
+    return model_.MemoryRow(index.row()) + (position.y() > visualRect(index).center().y() ? 1 : 0);
+}
+
+void MemoryTable::dragEnterEvent(QDragEnterEvent* event)
+{
+    ChannelTable::dragEnterEvent(event);
+    event->setAccepted(CanTake(*event));
+}
+
+void MemoryTable::dragMoveEvent(QDragMoveEvent* event)
+{
+    ChannelTable::dragMoveEvent(event);
+    event->setDropAction(IsOwnMove(*event) ? Qt::MoveAction : Qt::CopyAction);
+    event->setAccepted(CanTake(*event));
+}
+
+void MemoryTable::dropEvent(QDropEvent* event)
+{
+    stopAutoScroll();
+    setState(NoState);
+    viewport()->update();
+    if (!CanTake(*event) || model_.rowCount() == 0) {
+        event->ignore();
+        return;
+    }
+    const int row = RowAt(event->position().toPoint());
+    const bool isMove = IsOwnMove(*event);
+    event->setDropAction(isMove ? Qt::MoveAction : Qt::CopyAction);
+    event->accept();
+    if (isMove)
+        emit RowsDragged(row);
+    else
+        emit Dropped(*event->mimeData(), std::min(row, model_.MemoryRow(model_.rowCount() - 1)));
 }
 
 }  // namespace rqm5

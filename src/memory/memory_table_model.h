@@ -16,7 +16,17 @@ class MemoryTableModel : public ChannelTableModel
     /// Takes over rows and labels of a group and shows them.
     void ShowGroup(int selector);
 
+    int Selector() const { return selector_; }
+
+    /// The memory row of a data row (from 0).
+    int MemoryRow(int row) const { return rows_.first + row; }
+
     QVariant data(const QModelIndex& index, int role) const override;
+
+    /// Cells that can be edited where they stand are editable; rows can be dragged, and dropped between.
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    Qt::DropActions supportedDropActions() const override;
+    QStringList mimeTypes() const override;
 
     /// True when the memory row of a data row (from 0) is enabled.
     bool IsEnabled(int row) const;
@@ -27,6 +37,7 @@ class MemoryTableModel : public ChannelTableModel
   private:
     const CloneImage& image_;
     RowRange rows_;
+    int selector_ = 0;
 };
 
 }  // namespace rqm5
