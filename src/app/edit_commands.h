@@ -8,7 +8,7 @@
 
 namespace rqm5 {
 
-/// Edit > Modify: opens the channel editor on the row that is selected on the page in front.
+/// Edit > Modify: opens the channel editor on the rows that are selected on the page in front.
 class EditCommands : public QObject
 {
     Q_OBJECT
@@ -23,6 +23,7 @@ class EditCommands : public QObject
 
   private:
     void ModifyMemory(int row);
+    void ModifySeveral(const std::vector<int>& rows);
     void ModifyVfo(int row);
 
     Document& document_;

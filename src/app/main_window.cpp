@@ -56,6 +56,7 @@ void frmMain::Compose()
     auto* middle = new QWidget(this);
     auto* column = new QVBoxLayout(middle);
     pages_ = new Pages(document_, dialogs_, middle);
+    pages_->Memory().AddRowItems(menus_->Menu("mnuEdit"));
     transferBar_ = new TransferBar(middle);
     messageBar_ = new MessageBar(middle);
     column->addWidget(messageBar_);

@@ -28,7 +28,7 @@ QAction* AddItem(QMenu& menu, const MenuItem& item)
 
 }  // namespace
 
-Menus::Menus(QMenuBar& bar) : QObject(&bar)
+Menus::Menus(QMenuBar& bar) : QObject(&bar), bar_(bar)
 {
     for (const MenuTitle& title : kMenuTitles) {
         QMenu* menu = bar.addMenu(QString::fromUtf8(title.text));
@@ -46,6 +46,11 @@ Menus::Menus(QMenuBar& bar) : QObject(&bar)
     Item("mnuStatusBar").setChecked(true);
     Item("mnuFileExit").setMenuRole(QAction::QuitRole);
     Item("mnuHelpAbout").setMenuRole(QAction::AboutRole);
+}
+
+QMenu& Menus::Menu(const char* name) const
+{
+    return *bar_.findChild<QMenu*>(QLatin1String(name));
 }
 
 void Menus::SetTransferRunning(bool isRunning)

@@ -20,6 +20,9 @@ class Menus : public QObject
 
     QAction& Item(ItemName name) const { return *actions_[name.Index()]; }
 
+    /// A menu of the menu bar by its name, for items that belong to a page.
+    QMenu& Menu(const char* name) const;
+
     /// Switches off everything that starts a transfer, edits the image or replaces it, and on again what
     /// was on before.
     void SetTransferRunning(bool isRunning);
@@ -30,6 +33,7 @@ class Menus : public QObject
   private:
     void SetItemStates();
 
+    QMenuBar& bar_;
     std::array<QAction*, std::size(kMenuItems)> actions_{};
     std::array<bool, std::size(kMenuItems)> isPossible_{};
     bool isTransferRunning_ = false;

@@ -6,6 +6,7 @@
 
 #include "image/number_text.h"
 #include "image/value_tables.h"
+#include "memory/channel_parts.h"
 
 namespace rqm5 {
 namespace {
@@ -76,19 +77,6 @@ int ShiftOf(std::string_view text)
 std::uint8_t Code(int value)
 {
     return static_cast<std::uint8_t>(value);
-}
-
-/// Notes are single lines without control characters everywhere else.
-std::string PlainNote(std::string_view field)
-{
-    std::string note;
-    for (std::size_t i = 0; i < field.size(); ++i) {
-        const auto code = static_cast<unsigned char>(field[i]);
-        const bool isSecondOfLineEnd = code == '\n' && i > 0 && field[i - 1] == '\r';
-        if (!isSecondOfLineEnd)
-            note += code < 0x20 || code == 0x7F ? ' ' : field[i];
-    }
-    return note;
 }
 
 ChannelContents Imported(const CsvRecord& record, const ChannelContents& previous)

@@ -4,14 +4,14 @@
 
 namespace rqm5 {
 
-ChannelDelegate::ChannelDelegate(const MemoryTableModel& model, QObject* parent)
-    : QStyledItemDelegate(parent), model_(model)
+ChannelDelegate::ChannelDelegate(const CloneImage& image, const MemoryTableModel& model, QObject* parent)
+    : CellDelegate(image, model, parent), model_(model)
 {
 }
 
 void ChannelDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
-    QStyledItemDelegate::initStyleOption(option, index);
+    CellDelegate::initStyleOption(option, index);
     if (model_.IsEnabled(index.row()) || (option->state & QStyle::State_Selected) == 0)
         return;
     for (const auto group : {QPalette::Active, QPalette::Inactive})

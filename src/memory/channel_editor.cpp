@@ -113,7 +113,41 @@ void StoreMemoryFields(const ChannelFields& fields, Channel& row)
     row.enabled = fields.enable;
 }
 
+/// A row as the fields make it.
+Channel WithFields(const CloneImage& image, RowId id, const ChannelFields& fields)
+{
+    Channel row = image.At(id);
+    row.frequency = ReadHertz(fields.frequency);
+    row.shiftFrequency = static_cast<std::int32_t>(ReadHertz(fields.shiftFrequency));
+    Fill(row, kFrequency);
+    Fill(row, kShiftFrequency);
+    StoreChoices(fields, RegionOf(image.ModelNo()), row);
+    if (id.IsMemory())
+        StoreMemoryFields(fields, row);
+    return row;
+}
+
 }  // namespace
+
+std::string_view VerdictText(Verdict verdict)
+{
+    switch (verdict) {
+        case Verdict::OutOfRange:
+            return "The receiver takes 0.1 to 1299.995 MHz.";
+        case Verdict::Cellular:
+            return "It is a frequency of the cellular phone, which this model refuses.";
+        case Verdict::Duplicate:
+            return "Another Search Pass channel has the same frequency.";
+        default:
+            return {};
+    }
+}
+
+Verdict JudgeFrequency(const CloneImage& image, int row, std::int64_t hertz)
+{
+    const int selector = kSearchPass.rows.Contains(row) ? kSelectSearchPass : kSelectAll;
+    return JudgeFrequency(image, {RowKind::Memory, row}, selector, Megahertz(hertz));
+}
 
 bool HasStepButton(int step)
 {
@@ -173,15 +207,13 @@ bool StoreFields(CloneImage& image, RowId id, const ChannelFields& fields)
 {
     if (!id.Exists())
         return false;
-    Channel& row = image.At(id);
-    row.frequency = ReadHertz(fields.frequency);
-    row.shiftFrequency = static_cast<std::int32_t>(ReadHertz(fields.shiftFrequency));
-    Fill(row, kFrequency);
-    Fill(row, kShiftFrequency);
-    StoreChoices(fields, RegionOf(image.ModelNo()), row);
-    if (id.IsMemory())
-        StoreMemoryFields(fields, row);
+    image.At(id) = WithFields(image, id, fields);
     return true;
+}
+
+void StoreParts(CloneImage& image, int row, const ChannelFields& fields, Parts parts)
+{
+    CopyParts(WithFields(image, {RowKind::Memory, row}, fields), parts, image.MemData(row));
 }
 
 }  // namespace rqm5

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "image/clone_image.h"
+#include "memory/channel_parts.h"
 
 namespace rqm5 {
 
@@ -34,6 +35,9 @@ enum class Verdict {
     Duplicate,   ///< another enabled Search Pass row has it
 };
 
+/// Why, in words; empty for what was accepted.
+std::string_view VerdictText(Verdict verdict);
+
 /// What becomes of a typed number when its box is left.
 struct CheckedEntry
 {
@@ -55,11 +59,19 @@ ChannelFields LoadFields(const CloneImage& image, RowId id);
 
 /// \param selector  the bank selector's index: the Search Pass list has a rule of its own
 CheckedEntry CheckFrequency(const CloneImage& image, RowId id, int selector, const std::string& typed);
+
+/// Whether a memory row may take a frequency. A row of the Search Pass list is held to its rule whatever
+/// group is shown.
+Verdict JudgeFrequency(const CloneImage& image, int row, std::int64_t hertz);
+
 CheckedEntry CheckOffset(const CloneImage& image, RowId id, int selector, const std::string& typed);
 
 /// Writes the fields into the row. What the region does not have keeps its value. A VFO row has neither note
 /// nor skip nor enabled flag.
 /// \return false when there is no such row; nothing changes then
 bool StoreFields(CloneImage& image, RowId id, const ChannelFields& fields);
+
+/// Writes some of the fields into a memory row and leaves everything else in it as it is.
+void StoreParts(CloneImage& image, int row, const ChannelFields& fields, Parts parts);
 
 }  // namespace rqm5

@@ -12,9 +12,9 @@ bool IsShiftable(int tableRow)
 
 }  // namespace
 
-void ClearRows(CloneImage& image, RowRange rows)
+void ClearRows(CloneImage& image, const RowList& rows)
 {
-    for (int row = rows.first; row <= rows.Last(); ++row)
+    for (const int row : rows)
         ClearMemoryRow(image, row);
 }
 
@@ -25,15 +25,15 @@ bool EnableRow(CloneImage& image, int row)
     return canEnable;
 }
 
-void EnableRows(CloneImage& image, RowRange rows)
+void EnableRows(CloneImage& image, const RowList& rows)
 {
-    for (int row = rows.first; row <= rows.Last(); ++row)
+    for (const int row : rows)
         EnableRow(image, row);
 }
 
-void DisableRows(CloneImage& image, RowRange rows)
+void DisableRows(CloneImage& image, const RowList& rows)
 {
-    for (int row = rows.first; row <= rows.Last(); ++row)
+    for (const int row : rows)
         image.MemData(row).enabled = false;
 }
 

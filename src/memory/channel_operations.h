@@ -1,6 +1,6 @@
 #pragma once
 
-#include "image/clone_image.h"
+#include "memory/row_moves.h"
 
 namespace rqm5 {
 
@@ -8,14 +8,14 @@ namespace rqm5 {
 /// shown: owners know these two so, and rows that lie elsewhere stay where they are.
 inline constexpr int kShiftedRows = 200;
 
-void ClearRows(CloneImage& image, RowRange rows);
+void ClearRows(CloneImage& image, const RowList& rows);
 
 /// Enables a row that holds a channel; a row without one is switched off.
 /// \return true when the row is enabled now
 bool EnableRow(CloneImage& image, int row);
 
-void EnableRows(CloneImage& image, RowRange rows);
-void DisableRows(CloneImage& image, RowRange rows);
+void EnableRows(CloneImage& image, const RowList& rows);
+void DisableRows(CloneImage& image, const RowList& rows);
 
 /// Removes the row of table row 1 to 200 and closes the gap up to memory row 199, which becomes empty.
 /// \return false when the table row is outside the range; nothing changes then

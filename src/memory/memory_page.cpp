@@ -1,32 +1,24 @@
 #include "memory/memory_page.h"
 
 #include <QFocusEvent>
-#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "memory/bank_list.h"
-#include "memory/channel_operations.h"
 #include "memory/filter_box.h"
 #include "memory/find_bar.h"
 #include "memory/memory_table.h"
-#include "memory/row_names.h"
-#include "memory/shift_note.h"
+#include "memory/operation_buttons.h"
+#include "memory/refusal_prompt.h"
+#include "memory/row_actions.h"
 #include "ui/fold_button.h"
 #include "ui/table_font.h"
 #include "ui/tall_area.h"
+#include "ui/transfer_buttons.h"
 
 namespace rqm5 {
-
-struct MemoryPage::Operation
-{
-    const char* name;
-    const char* caption;
-    const char* tip;
-    void (MemoryPage::*run)();
-};
 
 MemoryPage::MemoryPage(Document& document, Dialogs& dialogs, QWidget* parent)
     : QWidget(parent),
@@ -35,11 +27,16 @@ MemoryPage::MemoryPage(Document& document, Dialogs& dialogs, QWidget* parent)
       cbbBank_(new BankList(document, this)),
       filter_(new FilterBox(this)),
       finder_(new FindBar(document, this)),
-      table_(new MemoryTable(document.Image(), this))
+      table_(new MemoryTable(document.Image(), this)),
+      selection_(document, *cbbBank_, *table_),
+      rows_(new RowCommands(selection_, dialogs, *this)),
+      clipboard_(new ClipboardCommands(selection_, dialogs, *this)),
+      moves_(new MoveCommands(selection_, dialogs, *this)),
+      actions_(new RowActions(selection_, *rows_, *clipboard_, *moves_, *this))
 {
     auto* middle = new QHBoxLayout;
     middle->addWidget(table_, 1);
-    auto* operations = new TallArea(BuildOperations(), this);
+    auto* operations = new TallArea(new OperationButtons(*rows_), this);
     operations->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     auto* fold = new FoldButton(*operations, QStringLiteral("Memory/ButtonsFolded"), tr("operation buttons"));
     fold->setObjectName(QStringLiteral("cmbFold"));
@@ -51,17 +48,52 @@ MemoryPage::MemoryPage(Document& document, Dialogs& dialogs, QWidget* parent)
     page->addLayout(BuildTransferRow());
     setTabOrder(finder_, table_);
 
-    connect(table_, &MemoryTable::RowChosen, this,
-            [this](int tableRow) { emit ModifyRequested(table_->MemoryRow(tableRow)); });
-    connect(table_, &MemoryTable::InsertPressed, this, &MemoryPage::cmbInsert_Click);
-    connect(table_, &MemoryTable::DeletePressed, this, &MemoryPage::cmbDelete_Click);
-    connect(table_, &MemoryTable::HintChanged, this, &MemoryPage::HintChanged);
+    ConnectTable();
     connect(filter_, &FilterBox::Changed, this, &MemoryPage::ShowFiltered);
     connect(finder_, &FindBar::Found, this, &MemoryPage::GoToRow);
     connect(finder_, &FindBar::Done, this, &MemoryPage::FocusTable);
     connect(&document, &Document::Replaced, this, &MemoryPage::ShowReplaced);
     connect(&document, &Document::Changed, this, &MemoryPage::ShowChange);
     ShowReplaced();
+}
+
+void MemoryPage::ConnectTable()
+{
+    connect(table_, &MemoryTable::RowChosen, this, &MemoryPage::Modify);
+    connect(actions_, &RowActions::ModifyRequested, this, &MemoryPage::Modify);
+    connect(table_, &MemoryTable::HintChanged, this, &MemoryPage::HintChanged);
+    connect(rows_, &RowCommands::Noted, this, &MemoryPage::Noted);
+    connect(table_, &MemoryTable::InsertPressed, rows_, &RowCommands::cmbInsert_Click);
+    connect(table_, &MemoryTable::DeletePressed, rows_, &RowCommands::cmbDelete_Click);
+    connect(table_, &MemoryTable::TogglePressed, rows_, &RowCommands::Toggle);
+    connect(table_, &MemoryTable::RowsDragged, moves_, &MoveCommands::Drag);
+    connect(table_, &MemoryTable::Dropped, clipboard_, &ClipboardCommands::Drop);
+    table_->SetCellWriter(
+        [this](int row, Column column, const CellInput& input) { return WriteCell(row, column, input); });
+}
+
+void MemoryPage::Modify()
+{
+    const RowList selected = selection_.Rows();
+    const RowList channels = ChannelsAmong(Image(), selected);
+    if (selected.size() > 1 && channels.size() > 1)
+        emit ModifySeveralRequested(channels);
+    else if (selected.size() == 1 || channels.size() == 1)
+        emit ModifyRequested(selected.size() == 1 ? selected.front() : channels.front());
+    else if (selection_.Current() >= 0)
+        emit ModifyRequested(selection_.Current());
+}
+
+void MemoryPage::AddRowItems(QMenu& menu)
+{
+    actions_->AddTo(menu);
+}
+
+void MemoryPage::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange)
+        actions_->ShowStates();
 }
 
 void MemoryPage::ShowReplaced()
@@ -73,8 +105,10 @@ void MemoryPage::ShowReplaced()
 
 void MemoryPage::ShowChange(const ImageChange& change)
 {
-    if (change.HasMemoryRows() || !change.BankSize.empty() || change.HasSetting(&ReceiverSettings::model))
-        UpDateMemData();
+    if (change.HasMemoryRows() || !change.BankSize.empty() || change.HasSetting(&ReceiverSettings::model)) {
+        table_->Refresh(Selector(), filter_->Filter());
+        ShowCount();
+    }
 }
 
 QLayout* MemoryPage::BuildSelectorRow()
@@ -92,72 +126,25 @@ QLayout* MemoryPage::BuildSelectorRow()
     return row;
 }
 
-void MemoryPage::AddButtons(QBoxLayout& layout, std::span<const Operation> operations)
-{
-    for (const Operation& operation : operations) {
-        auto* button = new QPushButton(tr(operation.caption));
-        button->setObjectName(QLatin1String(operation.name));
-        button->setStatusTip(tr(operation.tip));
-        connect(button, &QPushButton::clicked, this, operation.run);
-        layout.addWidget(button);
-    }
-}
-
-QWidget* MemoryPage::BuildOperations()
-{
-    static constexpr Operation kOneRow[] = {
-        {"cmbEnable", QT_TR_NOOP("E&nable"), QT_TR_NOOP("Enable the selected channel"),
-         &MemoryPage::cmbEnable_Click},
-        {"cmbDisable", QT_TR_NOOP("&Disable"),
-         QT_TR_NOOP("Disable the selected channel; it keeps its contents"), &MemoryPage::cmbDisable_Click},
-        {"cmbInsert", QT_TR_NOOP("&Insert"),
-         QT_TR_NOOP("Insert an empty row among memory rows 0 to 199; the channel in row 199 is lost"),
-         &MemoryPage::cmbInsert_Click},
-        {"cmbDelete", QT_TR_NOOP("De&lete"),
-         QT_TR_NOOP("Delete a row among memory rows 0 to 199; the rows behind it move up"),
-         &MemoryPage::cmbDelete_Click},
-        {"cmbClear", QT_TR_NOOP("&Clear"), QT_TR_NOOP("Empty the selected channel"),
-         &MemoryPage::cmbClear_Click},
-    };
-    static constexpr Operation kWholeGroup[] = {
-        {"cmbEnAll", QT_TR_NOOP("Ena&ble All"), QT_TR_NOOP("Enable every channel shown"),
-         &MemoryPage::cmbEnAll_Click},
-        {"cmbDisAll", QT_TR_NOOP("Di&sable All"), QT_TR_NOOP("Disable every channel shown"),
-         &MemoryPage::cmbDisAll_Click},
-        {"cmbClAll", QT_TR_NOOP("Clear &All"), QT_TR_NOOP("Empty every channel shown"),
-         &MemoryPage::cmbClAll_Click},
-    };
-    auto* one = new QGroupBox(tr("Selected channel"));
-    AddButtons(*new QVBoxLayout(one), kOneRow);
-    auto* all = new QGroupBox(tr("All channels shown"));
-    AddButtons(*new QVBoxLayout(all), kWholeGroup);
-    auto* boxes = new QWidget;
-    auto* column = new QVBoxLayout(boxes);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(one);
-    column->addWidget(all);
-    column->addStretch();
-    return boxes;
-}
-
 QLayout* MemoryPage::BuildTransferRow()
 {
-    static constexpr Operation kTransfers[] = {
-        {"cmbRxData", QT_TR_NOOP("Read &Memory"),
-         QT_TR_NOOP("Read the channels of the selected group from the receiver"), &MemoryPage::ReadRequested},
-        {"cmbTxData", QT_TR_NOOP("Write Memor&y"),
-         QT_TR_NOOP("Write the channels of the selected group to the receiver"), &MemoryPage::WriteRequested},
-    };
-    auto* row = new QHBoxLayout;
-    row->addStretch();
-    AddButtons(*row, kTransfers);
-    return row;
+    const TransferButtons buttons("cmbRxData", tr("Read &Memory"), "cmbTxData", tr("Write Memor&y"));
+    buttons.read->setStatusTip(tr("Read the channels of the selected group from the receiver"));
+    buttons.write->setStatusTip(tr("Write the channels of the selected group to the receiver"));
+    connect(buttons.read, &QPushButton::clicked, this, &MemoryPage::ReadRequested);
+    connect(buttons.write, &QPushButton::clicked, this, &MemoryPage::WriteRequested);
+    return buttons.row;
 }
 
 void MemoryPage::UpDateMemData()
 {
     table_->UpDateMemData(Selector(), filter_->Filter());
-    filter_->ShowCount(static_cast<int>(table_->MemoryRows().size()), Group().count);
+    ShowCount();
+}
+
+void MemoryPage::ShowCount()
+{
+    filter_->ShowCount(static_cast<int>(table_->MemoryRows().size()), selection_.Group().count);
 }
 
 void MemoryPage::SelectGroup(int selector)
@@ -178,11 +165,6 @@ int MemoryPage::CurrentTableRow() const
 void MemoryPage::GoToFirstRow()
 {
     table_->SelectTableRow(1);
-}
-
-int MemoryPage::CurrentMemoryRow() const
-{
-    return CurrentTableRow() > 0 ? table_->MemoryRow(CurrentTableRow()) : -1;
 }
 
 bool MemoryPage::IsFiltered() const
@@ -218,7 +200,7 @@ void MemoryPage::GoToRows(const std::vector<int>& rows)
         SelectGroup(holdsAll(smallest) ? smallest : kSelectAll);
     }
     ShowAllIfHidden(rows);
-    table_->SelectMemoryRow(rows.front());
+    table_->SelectRows(rows, 0);
 }
 
 void MemoryPage::FocusSelector()
@@ -247,9 +229,12 @@ void MemoryPage::cbbBank_Click()
 
 void MemoryPage::ShowFiltered()
 {
-    const int row = CurrentMemoryRow();
+    const int row = selection_.Current();
+    const RowList rows = selection_.Rows();
     UpDateMemData();
     table_->SelectMemoryRow(row);
+    table_->SelectRows(rows, 0);
+    actions_->ShowStates();
     // These two go by row numbers, whatever is shown.
     for (const char* name : {"cmbInsert", "cmbDelete"})
         findChild<QPushButton*>(QLatin1String(name))->setEnabled(!IsFiltered());
@@ -261,142 +246,23 @@ void MemoryPage::cbbBank_LostFocus()
     UpDateMemData();
 }
 
-RowRange MemoryPage::SelectedRow() const
+/// Takes what was typed into a cell, with the editor's checks and messages.
+bool MemoryPage::WriteCell(int row, Column column, const CellInput& input)
 {
-    const int row = CurrentMemoryRow();
-    return row < 0 ? RowRange{} : RowRange{row, 1};
-}
-
-bool MemoryPage::IsShiftable() const
-{
-    return !IsFiltered() && CurrentTableRow() >= 1 && CurrentTableRow() <= kShiftedRows;
-}
-
-/// \param what  what will be hit, as a sentence
-bool MemoryPage::Confirm(const QString& title, const QString& text, const QString& what)
-{
-    return dialogs_.Ask(this, {.title = title,
-                               .text = text,
-                               .details = what + QLatin1Char(' ') + tr("Edit > Undo brings it back."),
-                               .icon = QMessageBox::Warning,
-                               .buttons = QMessageBox::Ok | QMessageBox::Cancel,
-                               .defaultButton = QMessageBox::Cancel}) == QMessageBox::Ok;
-}
-
-void MemoryPage::Edit(const QString& name, const Document::ChangeFunction& change)
-{
-    document_.Edit(name, change);
-    FocusTable();
-}
-
-void MemoryPage::EditRow(const QString& operation, void (*change)(CloneImage&, RowRange))
-{
-    const RowRange row = SelectedRow();
-    if (row.count > 0)
-        Edit(tr("%1 (%2)").arg(operation, NameOfRow(row.first)),
-             [=](CloneImage& image) { change(image, row); });
-}
-
-void MemoryPage::EditGroup(const QString& operation, void (*change)(CloneImage&, RowRange))
-{
-    const std::vector<int> rows = table_->MemoryRows();
-    if (!rows.empty())
-        Edit(tr("%1 (%2)").arg(operation, NameOfGroup()), [&](CloneImage& image) {
-            for (const int row : rows)
-                change(image, {row, 1});
-        });
-}
-
-/// "Bank 2, channel 12"; a row in no bank goes by its number.
-QString MemoryPage::NameOfRow(int row) const
-{
-    const std::string place = PlaceOfRow(Image(), row);
-    return place.empty() ? tr("row %1").arg(row) : QString::fromStdString(place);
-}
-
-/// "Bank 2, 100 channels"; with a filter on "Bank 2, the 12 channels shown of 100"
-QString MemoryPage::NameOfGroup() const
-{
-    const QString group = QString::fromStdString(SelectorText(Selector()));
-    if (!IsFiltered())
-        return tr("%1, %2 channels").arg(group).arg(Group().count);
-    return tr("%1, the %2 channels shown of %3")
-        .arg(group)
-        .arg(table_->MemoryRows().size())
-        .arg(Group().count);
-}
-
-/// "145.500000 MHz"
-QString MemoryPage::ContentsOf(int row) const
-{
-    const Channel& channel = Image().MemData(row);
-    return channel.HasChannel()
-               ? QString::fromStdString(Image().MemText(row, kFrequency)) + QStringLiteral(" MHz")
-               : tr("which is empty");
-}
-
-void MemoryPage::cmbClear_Click()
-{
-    const RowRange row = SelectedRow();
-    if (row.count > 0 &&
-        Confirm(tr("CLEAR OK"), tr("Clear cannot be undone.\nAre you sure that you want to do the clear?"),
-                tr("This clears %1, %2.").arg(NameOfRow(row.first), ContentsOf(row.first))))
-        EditRow(tr("Clear"), ClearRows);
-}
-
-void MemoryPage::cmbClAll_Click()
-{
-    if (!table_->MemoryRows().empty() &&
-        Confirm(tr("CLEAR OK"),
-                tr("Clear cannot be undone.\nAre you sure that you want to clear all memory?"),
-                tr("This clears %1.").arg(NameOfGroup())))
-        EditGroup(tr("Clear All"), ClearRows);
-}
-
-void MemoryPage::cmbDelete_Click()
-{
-    if (!IsShiftable())
-        return;
-    // The row goes by its number in the table, whatever group is shown, so the question names it.
-    const int row = CurrentTableRow() - 1;
-    const QString name = QString::fromStdString(RowName(Image(), row));
-    if (Confirm(tr("DELETE OK"), tr("Delete cannot be undone.\nAre you sure that you want to do the delete?"),
-                tr("This deletes %1, %2.").arg(name, ContentsOf(row)))) {
-        const QString note = DeleteNote(Image(), Group(), row + 1);
-        Edit(tr("Delete (%1)").arg(name), [row](CloneImage& image) { DeleteTableRow(image, row + 1); });
-        emit Noted(note);
+    const QString name = tr("Edit (%1)").arg(selection_.NameOf(row));
+    if (EditorOfCell(Image(), row, column).kind == CellKind::Choice) {
+        document_.Edit(name, [&](CloneImage& image) { StoreCellChoice(image, row, column, input.choice); });
+        return true;
     }
-}
-
-void MemoryPage::cmbInsert_Click()
-{
-    if (!IsShiftable())
-        return;
-    const int tableRow = CurrentTableRow();
-    const QString name = QString::fromStdString(RowName(Image(), tableRow - 1));
-    const QString note = InsertNote(Image(), Group(), tableRow);
-    Edit(tr("Insert (%1)").arg(name), [tableRow](CloneImage& image) { InsertTableRow(image, tableRow); });
-    emit Noted(note);
-}
-
-void MemoryPage::cmbEnable_Click()
-{
-    EditRow(tr("Enable"), EnableRows);
-}
-
-void MemoryPage::cmbDisable_Click()
-{
-    EditRow(tr("Disable"), DisableRows);
-}
-
-void MemoryPage::cmbEnAll_Click()
-{
-    EditGroup(tr("Enable All"), EnableRows);
-}
-
-void MemoryPage::cmbDisAll_Click()
-{
-    EditGroup(tr("Disable All"), DisableRows);
+    const CheckedEntry checked = CheckCell(Image(), row, column, Selector(), input.text);
+    if (checked.verdict == Verdict::Accepted && checked.text != EditorOfCell(Image(), row, column).text)
+        document_.Edit(name, [&](CloneImage& image) { StoreCellText(image, row, column, checked.text); });
+    if (checked.verdict == Verdict::OutOfRange)
+        table_->ShowHint(QString::fromStdString(std::string(
+            column == kFrequency ? VerdictText(checked.verdict) : "The offset is below 100 MHz.")));
+    else
+        ShowRefusal(checked.verdict, dialogs_, *table_);
+    return checked.verdict == Verdict::Accepted;
 }
 
 }  // namespace rqm5

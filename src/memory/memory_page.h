@@ -1,21 +1,23 @@
 #pragma once
 
 #include <QWidget>
-#include <span>
 #include <vector>
 
 #include "document/document.h"
-#include "memory/bank_layout.h"
+#include "memory/row_selection.h"
 #include "ui/dialogs.h"
 
-class QBoxLayout;
+class QMenu;
 
 namespace rqm5 {
 
 class BankList;
+class ClipboardCommands;
 class FilterBox;
 class FindBar;
-class MemoryTable;
+class MoveCommands;
+class RowActions;
+class RowCommands;
 
 /// The page "Memory": the bank selector, the table of its channels and what can be done with them.
 class MemoryPage : public QWidget
@@ -36,14 +38,11 @@ class MemoryPage : public QWidget
     int CurrentTableRow() const;
     void GoToFirstRow();
 
-    /// The memory row that is current, from 0; -1 when nothing is shown.
-    int CurrentMemoryRow() const;
-
     /// True while a filter hides rows of the group: what goes by table rows is off then.
     bool IsFiltered() const;
 
-    /// Selects a memory row: in the group shown when that holds all of these rows, else in the smallest group
-    /// that does.
+    /// Selects memory rows: in the group shown when that holds all of them, else in the smallest group that
+    /// does.
     void GoToRows(const std::vector<int>& rows);
 
     /// Selects a memory row in its own bank or group.
@@ -54,51 +53,42 @@ class MemoryPage : public QWidget
     void FocusSelector();
     void FocusTable();
 
+    /// Puts the items for the selected rows into a menu.
+    void AddRowItems(QMenu& menu);
+
+    /// Opens the editor for the selected rows, as Enter does.
+    void Modify();
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   signals:
     void ReadRequested();
     void WriteRequested();
     void ModifyRequested(int memoryRow);  ///< memory row from 0
-    void Noted(const QString& text);      ///< what an operation has done out of sight; empty for nothing
+    void ModifySeveralRequested(const std::vector<int>& memoryRows);
+    void Noted(const QString& text);  ///< what an operation has done out of sight; empty for nothing
 
     /// What the status bar says of the table with the focus is another text now.
     void HintChanged();
 
-  private:
-    struct Operation;
+  protected:
+    void changeEvent(QEvent* event) override;
 
+  private:
+    void ConnectTable();
     void ShowReplaced();
     void ShowChange(const ImageChange& change);
     QLayout* BuildSelectorRow();
-    QWidget* BuildOperations();
     QLayout* BuildTransferRow();
-    void AddButtons(QBoxLayout& layout, std::span<const Operation> operations);
 
     void cbbBank_Click();
     void cbbBank_LostFocus();
-    void cmbClear_Click();
-    void cmbClAll_Click();
-    void cmbDelete_Click();
-    void cmbInsert_Click();
-    void cmbEnable_Click();
-    void cmbDisable_Click();
-    void cmbEnAll_Click();
-    void cmbDisAll_Click();
+    bool WriteCell(int row, Column column, const CellInput& input);
 
     const CloneImage& Image() const { return document_.Image(); }
-    RowRange Group() const { return GroupRows(Image(), Selector()); }
     void ShowFiltered();
+    void ShowCount();
     void ShowAllIfHidden(const std::vector<int>& rows);
-    RowRange SelectedRow() const;
-    bool IsShiftable() const;
-    QString NameOfRow(int row) const;
-    QString NameOfGroup() const;
-    QString ContentsOf(int row) const;
-    bool Confirm(const QString& title, const QString& text, const QString& what);
-    void Edit(const QString& name, const Document::ChangeFunction& change);
-    void EditRow(const QString& operation, void (*change)(CloneImage&, RowRange));
-    void EditGroup(const QString& operation, void (*change)(CloneImage&, RowRange));
 
     Document& document_;
     Dialogs& dialogs_;
@@ -106,6 +96,11 @@ class MemoryPage : public QWidget
     FilterBox* filter_;
     FindBar* finder_;
     MemoryTable* table_;
+    RowSelection selection_;
+    RowCommands* rows_;
+    ClipboardCommands* clipboard_;
+    MoveCommands* moves_;
+    RowActions* actions_;
 };
 
 }  // namespace rqm5

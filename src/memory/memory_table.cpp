@@ -1,57 +1,86 @@
 #include "memory/memory_table.h"
 
-#include <QKeyEvent>
+#include <QDrag>
+#include <QDropEvent>
+#include <QToolTip>
 #include <algorithm>
 
 #include "memory/channel_delegate.h"
+#include "memory/table_clipboard.h"
 #include "ui/table_font.h"
 
 namespace rqm5 {
 
 MemoryTable::MemoryTable(const CloneImage& image, QWidget* parent)
-    : ChannelTable({400, 1035, 480, 705, 555, 390, 675, 705, 540, 870, 2055}, parent), model_(image, nullptr)
+    : ChannelTable({400, 1035, 480, 705, 555, 390, 675, 705, 540, 870, 2055}, parent),
+      image_(image),
+      model_(image, nullptr),
+      cells_(new ChannelDelegate(image, model_, this))
 {
     setObjectName(QStringLiteral("MSFlexGrid1"));
     setAccessibleName(tr("Memory channels"));
     setMouseTracking(true);  // the status bar names what is under the pointer
-    ShowHint();
+    ShowPlace();
     setModel(&model_);
-    setItemDelegate(new ChannelDelegate(model_, this));
+    setItemDelegate(cells_);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(EditKeyPressed | AnyKeyPressed);
+    setAcceptDrops(true);
+    setDropIndicatorShown(true);
+    setDragDropOverwriteMode(false);
+    connect(cells_, &CellDelegate::Entered, this, &MemoryTable::MoveCell);
     ChangeFont(*this);
 }
 
 void MemoryTable::UpDateMemData(int selector, RowFilter filter)
 {
-    const int row = CurrentTableRow();
-    model_.ShowGroup(selector, filter);
-    SelectTableRow(row);
-    ShowHint();
+    Refresh(selector, filter);
+    const QModelIndex current = currentIndex();
+    if (current.isValid())
+        selectionModel()->setCurrentIndex(current.siblingAtColumn(0), QItemSelectionModel::NoUpdate);
 }
 
-int MemoryTable::MemoryRow(int tableRow) const
+void MemoryTable::Refresh(int selector, RowFilter filter)
 {
-    return model_.Rows().at(static_cast<std::size_t>(tableRow - 1));
+    const int row = CurrentTableRow();
+    const std::vector<int> before = model_.Rows();
+    const bool isSameGroup = selector == model_.Selector();
+    model_.ShowGroup(selector, filter);
+    const bool isSelected = isSameGroup && before == model_.Rows() && currentIndex().isValid() &&
+                            selectionModel()->isRowSelected(currentIndex().row(), QModelIndex());
+    if (!isSelected)
+        SelectTableRow(row);
+    ShowPlace();
+}
+
+/// The data row of a memory row, -1 when it is not shown.
+int MemoryTable::PlaceOf(int memoryRow) const
+{
+    const auto place = std::ranges::lower_bound(model_.Rows(), memoryRow);
+    const bool isShown = place != model_.Rows().end() && *place == memoryRow;
+    return isShown ? static_cast<int>(place - model_.Rows().begin()) : -1;
 }
 
 void MemoryTable::SelectMemoryRow(int memoryRow)
 {
-    const auto place = std::ranges::find(model_.Rows(), memoryRow);
-    if (place != model_.Rows().end())
-        SelectTableRow(static_cast<int>(place - model_.Rows().begin()) + 1);
+    if (const int place = PlaceOf(memoryRow); place >= 0)
+        SelectTableRow(place + 1);
     scrollTo(currentIndex());
 }
 
 void MemoryTable::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
     ChannelTable::currentChanged(current, previous);
-    ShowHint();
+    ShowPlace();
 }
 
-void MemoryTable::ShowHint()
+void MemoryTable::ShowPlace()
 {
     const int row = CurrentTableRow();
     const QString place = row > 0 ? model_.Place(row - 1) : QString();
-    const QString hint = tr("Memory channels; grey ones are disabled. Enter or a double click edits one.");
+    const QString hint =
+        tr("Memory channels; grey ones are disabled. Enter or a double click edits the selected ones, "
+           "typing edits one cell.");
     const QString shown = place.isEmpty() ? hint : place;
     if (shown == statusTip())
         return;
@@ -59,15 +88,157 @@ void MemoryTable::ShowHint()
     emit HintChanged();
 }
 
+void MemoryTable::SelectRows(const std::vector<int>& rows, int column)
+{
+    QItemSelection selection;
+    QModelIndex first;
+    for (const int row : rows) {
+        const int place = PlaceOf(row);
+        if (place < 0)
+            continue;
+        const QModelIndex cell = model_.index(place, column);
+        selection.merge(QItemSelection(cell, cell), QItemSelectionModel::Select);
+        if (!first.isValid())
+            first = cell;
+    }
+    if (!first.isValid())
+        return;
+    selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    scrollTo(first);
+}
+
+std::vector<int> MemoryTable::SelectedRows() const
+{
+    std::vector<int> rows = SelectedTableRows();
+    for (int& row : rows)
+        row = model_.MemoryRow(row - 1);
+    return rows;
+}
+
+int MemoryTable::CurrentRow() const
+{
+    return currentIndex().isValid() ? model_.MemoryRow(currentIndex().row()) : -1;
+}
+
+void MemoryTable::SetCellWriter(CellDelegate::Writer writer)
+{
+    cells_->SetWriter(std::move(writer));
+}
+
+void MemoryTable::MoveCell(int rows, int columns)
+{
+    if (model_.rowCount() == 0)
+        return;  // a filter may have taken the row away
+    const int row = std::clamp(currentIndex().row() + rows, 0, model_.rowCount() - 1);
+    const int column = std::clamp(currentIndex().column() + columns, 0, model_.columnCount() - 1);
+    selectionModel()->setCurrentIndex(model_.index(row, column),
+                                      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+void MemoryTable::ShowHint(const QString& text)
+{
+    QToolTip::showText(viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()), text, this);
+}
+
+void MemoryTable::keyboardSearch(const QString& /*search*/)
+{
+    // What is typed belongs into the cell; where it cannot go there, it must not go to another row either.
+    if (!currentIndex().isValid())
+        return;
+    const bool isEmpty = !image_.MemData(CurrentRow()).HasChannel();
+    ShowHint(isEmpty ? tr("An empty row begins with its frequency") : tr("This model does not have it"));
+}
+
 void MemoryTable::keyPressEvent(QKeyEvent* event)
 {
-    const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    // Keys that an open cell has no use for come here too.
+    const bool isPlain =
+        (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier && state() != EditingState;
     if (isPlain && event->key() == Qt::Key_Insert)
         emit InsertPressed();
     else if (isPlain && event->key() == Qt::Key_Delete)
         emit DeletePressed();
+    else if (isPlain && event->key() == Qt::Key_Space)
+        emit TogglePressed();
+    else if (event->key() == Qt::Key_F2)
+        QTableView::keyPressEvent(event);
     else
         ChannelTable::keyPressEvent(event);
+}
+
+void MemoryTable::mousePressEvent(QMouseEvent* event)
+{
+    // A drag moves rows that are selected already, and selects rows from any other on.
+    const QModelIndex index = indexAt(event->position().toPoint());
+    const bool isSelected = index.isValid() && selectionModel()->isRowSelected(index.row(), QModelIndex());
+    setDragEnabled(isSelected && (event->modifiers() & Qt::ShiftModifier) == 0);
+    ChannelTable::mousePressEvent(event);
+}
+
+void MemoryTable::startDrag(Qt::DropActions /*actions*/)
+{
+    const std::vector<int> rows = SelectedRows();
+    if (rows.empty())
+        return;
+    QDrag drag(this);
+    drag.setMimeData(ClipOf(image_, rows));
+    drag.exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
+}
+
+bool MemoryTable::IsOwnMove(const QDropEvent& event) const
+{
+    return event.source() == this && (event.modifiers() & Qt::ControlModifier) == 0;
+}
+
+bool MemoryTable::CanTake(const QDropEvent& event) const
+{
+    // Rows that a filter hides would be moved or overwritten out of sight.
+    if (model_.Rows().empty() || model_.IsFiltered())
+        return false;
+    // The view of all rows is no group in which rows could change their places.
+    return IsOwnMove(event) ? model_.Selector() != kSelectAll : MayHoldChannels(*event.mimeData());
+}
+
+/// The memory row under a place, or the one that something is dropped before there.
+int MemoryTable::RowAt(const QPoint& position) const
+{
+    const QModelIndex index = indexAt(position);
+    if (!index.isValid())
+        return model_.Rows().back() + 1;
+    return model_.MemoryRow(index.row()) + (position.y() > visualRect(index).center().y() ? 1 : 0);
+}
+
+void MemoryTable::dragEnterEvent(QDragEnterEvent* event)
+{
+    ChannelTable::dragEnterEvent(event);
+    event->setAccepted(CanTake(*event));
+}
+
+void MemoryTable::dragMoveEvent(QDragMoveEvent* event)
+{
+    ChannelTable::dragMoveEvent(event);
+    event->setDropAction(IsOwnMove(*event) ? Qt::MoveAction : Qt::CopyAction);
+    event->setAccepted(CanTake(*event));
+}
+
+void MemoryTable::dropEvent(QDropEvent* event)
+{
+    stopAutoScroll();
+    setState(NoState);
+    viewport()->update();
+    if (!CanTake(*event)) {
+        event->ignore();
+        return;
+    }
+    const int row = RowAt(event->position().toPoint());
+    const bool isMove = IsOwnMove(*event);
+    event->setDropAction(isMove ? Qt::MoveAction : Qt::CopyAction);
+    event->accept();
+    if (isMove)
+        emit RowsDragged(row);
+    else
+        emit Dropped(*event->mimeData(), std::min(row, model_.Rows().back()));
 }
 
 }  // namespace rqm5

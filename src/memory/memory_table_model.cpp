@@ -6,6 +6,7 @@
 #include <QPalette>
 #include <utility>
 
+#include "memory/cell_edit.h"
 #include "memory/row_names.h"
 #include "memory/table_titles.h"
 #include "ui/off_colour.h"
@@ -21,7 +22,8 @@ void MemoryTableModel::ShowGroup(int selector, RowFilter filter)
 {
     ShownRows shown = FilterGroup(image_, selector, filter);
     rows_ = std::move(shown.rows);
-    isAll_ = selector == kSelectAll;
+    selector_ = selector;
+    filter_ = filter;
     ShowRows(std::move(shown.labels));
 }
 
@@ -58,6 +60,26 @@ QBrush MemoryTableModel::TextColour(bool isEnabled) const
     return offText_;
 }
 
+Qt::ItemFlags MemoryTableModel::flags(const QModelIndex& index) const
+{
+    const Qt::ItemFlags flags = ChannelTableModel::flags(index);
+    if (!index.isValid())
+        return flags | Qt::ItemIsDropEnabled;
+    const CellEdit edit = EditorOfCell(image_, MemoryRow(index.row()), static_cast<Column>(index.column()));
+    return flags | Qt::ItemIsDragEnabled |
+           (edit.kind == CellKind::Fixed ? Qt::NoItemFlags : Qt::ItemIsEditable);
+}
+
+Qt::DropActions MemoryTableModel::supportedDropActions() const
+{
+    return Qt::CopyAction | Qt::MoveAction;
+}
+
+QStringList MemoryTableModel::mimeTypes() const
+{
+    return {QStringLiteral("text/plain"), QStringLiteral("text/uri-list")};
+}
+
 bool MemoryTableModel::IsEnabled(int row) const
 {
     return image_.MemEnable(MemoryRow(row));
@@ -65,7 +87,7 @@ bool MemoryTableModel::IsEnabled(int row) const
 
 QString MemoryTableModel::Place(int row) const
 {
-    if (!isAll_)
+    if (selector_ != kSelectAll)
         return {};
     const std::string place = PlaceOfRow(image_, MemoryRow(row));
     return place.empty() ? tr("In no bank") : QString::fromStdString(place);

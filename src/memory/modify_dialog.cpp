@@ -5,11 +5,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QShowEvent>
 #include <QVBoxLayout>
 
 #include "memory/bank_layout.h"
 #include "memory/modify_form.h"
+#include "memory/refusal_prompt.h"
 #include "ui/leave_watch.h"
 #include "ui/tall_area.h"
 
@@ -20,8 +22,8 @@ dlgModify::dlgModify(Document& document, Dialogs& dialogs, QWidget* parent)
       document_(document),
       dialogs_(dialogs),
       form_(new ModifyForm(this)),
-      frequency_{form_->txtFreq(), CheckFrequency, {}},
-      shift_{form_->txtShift(), CheckOffset, {}}
+      frequency_{form_->txtFreq(), &dlgModify::CheckFrequencyBox, {}},
+      shift_{form_->txtShift(), &dlgModify::CheckOffsetBox, {}}
 {
     setObjectName(QStringLiteral("dlgModify"));
     auto* layout = new QVBoxLayout(this);
@@ -29,6 +31,9 @@ dlgModify::dlgModify(Document& document, Dialogs& dialogs, QWidget* parent)
     // The check boxes and buttons stay in sight when the form has to scroll.
     QBoxLayout* lastRow = form_->TakeLastRow();
     layout->addLayout(lastRow);
+    PreviousButton_ =
+        AddStepButton("PreviousButton", tr("&Previous"), QKeySequence(Qt::ALT | Qt::Key_PageUp), -1);
+    NextButton_ = AddStepButton("NextButton", tr("Ne&xt"), QKeySequence(Qt::ALT | Qt::Key_PageDown), 1);
     // After the check boxes, which Tab reaches first then.
     lastRow->addWidget(BuildButtons());
 
@@ -44,54 +49,109 @@ QWidget* dlgModify::BuildButtons()
     QPushButton* ok = buttons->button(QDialogButtonBox::Ok);
     ok->setObjectName(QStringLiteral("OKButton"));
     ok->setDefault(true);
+    OKNextButton_ = buttons->addButton(tr("OK and Next"), QDialogButtonBox::ActionRole);
+    OKNextButton_->setObjectName(QStringLiteral("OKNextButton"));
+    OKNextButton_->setToolTip(tr("Store the row and go on with the next one (Ctrl+Enter)"));
+    OKNextButton_->setAutoDefault(false);
     QPushButton* cancel = buttons->button(QDialogButtonBox::Cancel);
     cancel->setObjectName(QStringLiteral("CancelButton"));
     // A click leaves the focus in the box being typed into: OK checks that box itself, so that a refusal
     // can stop it, and Cancel need not care what the box holds.
-    ok->setFocusPolicy(Qt::TabFocus);
-    cancel->setFocusPolicy(Qt::TabFocus);
+    for (QPushButton* button : {ok, OKNextButton_, cancel})
+        button->setFocusPolicy(Qt::TabFocus);
     connect(ok, &QPushButton::clicked, this, &dlgModify::OKButton_Click);
+    connect(OKNextButton_, &QPushButton::clicked, this, [this] { GoOn(1, true); });
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
+        connect(new QShortcut(QKeySequence(Qt::CTRL | key), this), &QShortcut::activated, OKNextButton_,
+                &QPushButton::click);
     return buttons;
+}
+
+QPushButton* dlgModify::AddStepButton(const char* name, const QString& text, const QKeySequence& key,
+                                      int step)
+{
+    auto* button = new QPushButton(text, this);
+    button->setObjectName(QLatin1String(name));
+    button->setToolTip(
+        tr("Store what was changed and go on (%1)").arg(key.toString(QKeySequence::NativeText)));
+    button->setAutoDefault(false);
+    button->setFocusPolicy(Qt::TabFocus);
+    connect(button, &QPushButton::clicked, this, [this, step] { GoOn(step, false); });
+    connect(new QShortcut(key, this), &QShortcut::activated, button, &QPushButton::click);
+    form_->AddToTitle(button);
+    return button;
 }
 
 bool dlgModify::OpenMemory(int row, int selector)
 {
-    setWindowTitle(tr("Modify Memory"));
-    return Open({RowKind::Memory, row}, selector, Grid1Data_);
+    selector_ = selector;
+    ShowRow({RowKind::Memory, row});
+    return Run();
 }
 
 bool dlgModify::OpenVfo(int row)
 {
-    setWindowTitle(tr("Modify VFO"));
-    return Open({RowKind::Vfo, row}, kSelectAll, Grid2Data_);
+    const RowId id{RowKind::Vfo, row};
+    if (!CanModify(document_.Image(), id))
+        return false;
+    selector_ = kSelectAll;
+    ShowRow(id);
+    return Run();
 }
 
-bool dlgModify::Open(RowId row, int selector, ChannelFields& stored)
+bool dlgModify::OpenSeveral(const RowList& rows, int selector)
 {
-    const CloneImage& image = document_.Image();
-    if (!CanModify(image, row))
-        return false;
-    row_ = row;
     selector_ = selector;
-    stored = LoadFields(image, row);
-    frequency_.checked = QString::fromStdString(stored.frequency);
-    shift_.checked = QString::fromStdString(stored.shiftFrequency);
+    row_ = {RowKind::Memory, rows.front()};
+    rows_ = rows;
+    isHeld_ = false;
+    mayTickEnable_ = false;
+    ShowForm(tr("%1 channels").arg(rows.size()), LoadShared(document_.Image(), rows));
+    return Run();
+}
 
-    const bool isHeld =
-        row.IsMemory() && form_->IsHeld() && confirmed_.has_value() && !image.At(row).HasChannel();
-    form_->SetAvailable(row.IsMemory(), RegionOf(image.ModelNo()));
-    form_->ShowRow(row.IsMemory() ? tr("Memory") : tr("VFO"), RowName(),
-                   QString::fromStdString(FrequencyRangeText(image, row)));
-    ChannelFields shown = isHeld ? *confirmed_ : stored;
-    shown.note = stored.note;  // what is noted of one channel is seldom true of another
-    form_->ShowFields(shown);
-    // Held values were confirmed with their flag.
-    mayTickEnable_ = row.IsMemory() && !isHeld && !image.At(row).HasChannel();
+bool dlgModify::Run()
+{
+    setWindowTitle(row_.IsMemory() ? tr("Modify Memory") : tr("Modify VFO"));
     // The two kinds of row show different controls; the form has to notice before the dialog takes its size.
     form_->layout()->activate();
     TallArea::FitToScreen(*this);
     return dialogs_.Run(*this) == Accepted;
+}
+
+void dlgModify::ShowRow(RowId row)
+{
+    const CloneImage& image = document_.Image();
+    row_ = row;
+    rows_.clear();
+    ChannelFields& stored = row.IsMemory() ? Grid1Data_ : Grid2Data_;
+    stored = LoadFields(image, row);
+    isHeld_ = row.IsMemory() && form_->IsHeld() && confirmed_.has_value() && !image.At(row).HasChannel();
+    ChannelFields shown = isHeld_ ? *confirmed_ : stored;
+    shown.note = stored.note;  // what is noted of one channel is seldom true of another
+    ShowForm(RowName(), {shown});
+    // Held values were confirmed with their flag.
+    mayTickEnable_ = row.IsMemory() && !isHeld_ && !image.At(row).HasChannel();
+    frequency_.checked = QString::fromStdString(stored.frequency);
+    shift_.checked = QString::fromStdString(stored.shiftFrequency);
+}
+
+void dlgModify::ShowForm(const QString& name, const SharedFields& shown)
+{
+    const CloneImage& image = document_.Image();
+    form_->SetAvailable(row_.IsMemory(), RegionOf(image.ModelNo()));
+    form_->ShowRow(row_.IsMemory() ? tr("Memory") : tr("VFO"), name,
+                   QString::fromStdString(FrequencyRangeText(image, row_)));
+    form_->ShowShared(shown, IsSeveral());
+    shown_ = shown;
+    frequency_.checked = QString::fromStdString(shown.fields.frequency);
+    shift_.checked = QString::fromStdString(shown.fields.shiftFrequency);
+    for (QPushButton* button : {PreviousButton_, NextButton_, OKNextButton_})
+        button->setVisible(!IsSeveral());
+    PreviousButton_->setEnabled(IsNeighbour(-1));
+    NextButton_->setEnabled(IsNeighbour(1));
+    OKNextButton_->setEnabled(IsNeighbour(1));
 }
 
 QString dlgModify::RowName() const
@@ -99,13 +159,62 @@ QString dlgModify::RowName() const
     if (!row_.IsMemory())
         return tr("Band %1").arg(row_.row);
     const CloneImage& image = document_.Image();
-    const auto labels = BuildChannelLabels(image, selector_);
-    const auto place = static_cast<std::size_t>(row_.row - GroupRows(image, selector_).first);
+    // The view of all rows does not say where a row is, so its bank or group names it there too.
+    const int selector = selector_ == kSelectAll ? SelectorOfRow(image, row_.row) : selector_;
+    const auto labels = BuildChannelLabels(image, selector);
+    const auto place = static_cast<std::size_t>(row_.row - GroupRows(image, selector).first);
     const QString label =
         place < labels.size() ? QString::fromStdString(labels[place]) : QString::number(row_.row);
-    if (selector_ == kSelectAll)
+    if (selector == kSelectAll)
         return tr("CH %1").arg(label);
-    return tr("%1  CH %2").arg(QString::fromStdString(SelectorText(selector_)), label);
+    return tr("%1  CH %2").arg(QString::fromStdString(SelectorText(selector)), label);
+}
+
+/// The rows that Previous and Next go through.
+RowRange dlgModify::Neighbours() const
+{
+    const CloneImage& image = document_.Image();
+    return row_.IsMemory() ? GroupRows(image, selector_) : RowRange{0, RegionOf(image.ModelNo()).vfoBands};
+}
+
+bool dlgModify::IsNeighbour(int step) const
+{
+    return !IsSeveral() && Neighbours().Contains(row_.row + step);
+}
+
+/// \param storesAlways  else a row that nobody touched stays as it is
+void dlgModify::GoOn(int step, bool storesAlways)
+{
+    if (!IsNeighbour(step) || ((storesAlways || isHeld_ || IsTouched()) && !Store()))
+        return;
+    ShowRow({row_.kind, row_.row + step});
+    emit RowShown(row_);
+    FocusFrequency();
+}
+
+bool dlgModify::IsTouched() const
+{
+    return !TouchedParts(shown_, form_->Shared()).IsEmpty();
+}
+
+void dlgModify::FocusFrequency()
+{
+    form_->txtFreq()->setFocus(Qt::OtherFocusReason);
+    form_->txtFreq()->selectAll();
+}
+
+CheckedEntry dlgModify::CheckFrequencyBox(const std::string& typed) const
+{
+    const CloneImage& image = document_.Image();
+    return IsSeveral() ? CheckSharedFrequency(image, rows_, selector_, typed)
+                       : CheckFrequency(image, row_, selector_, typed);
+}
+
+CheckedEntry dlgModify::CheckOffsetBox(const std::string& typed) const
+{
+    const CloneImage& image = document_.Image();
+    return IsSeveral() ? CheckSharedOffset(image, rows_, selector_, typed)
+                       : CheckOffset(image, row_, selector_, typed);
 }
 
 void dlgModify::showEvent(QShowEvent* event)
@@ -113,8 +222,7 @@ void dlgModify::showEvent(QShowEvent* event)
     QDialog::showEvent(event);
     if (event->spontaneous())
         return;
-    form_->txtFreq()->setFocus(Qt::OtherFocusReason);
-    form_->txtFreq()->selectAll();
+    FocusFrequency();
 }
 
 void dlgModify::txtFreq_LostFocus()
@@ -137,11 +245,11 @@ bool dlgModify::LeaveBox(Entry& entry)
 {
     if (!isVisible())
         return true;
-    const CheckedEntry result =
-        entry.check(document_.Image(), row_, selector_, entry.box->text().toStdString());
+    const CheckedEntry result = (this->*entry.check)(entry.box->text().toStdString());
     entry.checked = QString::fromStdString(result.text);
     entry.box->setText(entry.checked);
-    ShowRefusal(result.verdict);
+    if (ShowRefusal(result.verdict, dialogs_, *this))
+        ReleasePressedButtons(*this);
     return result.verdict == Verdict::Accepted;
 }
 
@@ -157,31 +265,29 @@ bool dlgModify::LeaveIfPending(Entry& entry)
     return false;
 }
 
-void dlgModify::ShowRefusal(Verdict verdict)
+/// \return false when a box has to be looked at again; nothing is stored then
+bool dlgModify::Store()
 {
-    Prompt prompt;
-    if (verdict == Verdict::Cellular)
-        prompt = {.title = tr("Frequency of the cellular phone"),
-                  .text = tr("It is a frequency of the cellular phone.\nIt is not possible to set it.")};
-    else if (verdict == Verdict::Duplicate)
-        prompt = {.title = tr("ERROR"),
-                  .text = tr("The same frequency as other channels cannot be set in Search Pass bank.")};
-    else
-        return;
-    dialogs_.Ask(this, prompt);
-    ReleasePressedButtons(*this);
+    if (!LeaveIfPending(frequency_) || !LeaveIfPending(shift_))
+        return false;
+    const SharedFields entered = form_->Shared();
+    if (IsSeveral()) {
+        const QString group = QString::fromStdString(SelectorText(selector_));
+        document_.Edit(tr("Modify (%1, %2 channels)").arg(group).arg(rows_.size()),
+                       [&](CloneImage& image) { StoreShared(image, rows_, shown_, entered); });
+        return true;
+    }
+    document_.Edit(tr("Modify (%1)").arg(RowName().simplified()),
+                   [&](CloneImage& image) { StoreFields(image, row_, entered.fields); });
+    if (row_.IsMemory())
+        confirmed_ = entered.fields;
+    return true;
 }
 
 void dlgModify::OKButton_Click()
 {
-    if (!LeaveIfPending(frequency_) || !LeaveIfPending(shift_))
-        return;
-    const ChannelFields fields = form_->Fields();
-    document_.Edit(tr("Modify (%1)").arg(RowName().simplified()),
-                   [&](CloneImage& image) { StoreFields(image, row_, fields); });
-    if (row_.IsMemory())
-        confirmed_ = fields;
-    accept();
+    if (Store())
+        accept();
 }
 
 }  // namespace rqm5

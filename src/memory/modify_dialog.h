@@ -4,16 +4,18 @@
 #include <optional>
 
 #include "document/document.h"
-#include "memory/channel_editor.h"
+#include "memory/several_rows.h"
 #include "ui/dialogs.h"
 
 class QLineEdit;
+class QPushButton;
 
 namespace rqm5 {
 
 class ModifyForm;
 
-/// The channel editor: one memory row or one VFO row. One instance serves the whole run of the program.
+/// The channel editor: one memory row or VFO row, or several memory rows. One instance serves the whole run
+/// of the program.
 class dlgModify : public QDialog
 {
     Q_OBJECT
@@ -31,8 +33,16 @@ class dlgModify : public QDialog
     /// \return true when the row was stored
     bool OpenVfo(int row);
 
+    /// Lets the user edit several memory rows at once: fields in which they differ are blank, and only what
+    /// is touched is stored. \return true when it was
+    bool OpenSeveral(const RowList& rows, int selector);
+
     const ChannelFields& Grid1Data() const { return Grid1Data_; }  ///< the memory row as it was opened
     const ChannelFields& Grid2Data() const { return Grid2Data_; }  ///< the VFO row as it was opened
+
+  signals:
+    /// Previous or Next has brought another row into the editor.
+    void RowShown(rqm5::RowId row);
 
   protected:
     void showEvent(QShowEvent* event) override;
@@ -42,16 +52,29 @@ class dlgModify : public QDialog
     struct Entry
     {
         QLineEdit* box;
-        CheckedEntry (*check)(const CloneImage&, RowId, int selector, const std::string&);
+        CheckedEntry (dlgModify::*check)(const std::string& typed) const;
         QString checked;
     };
 
-    bool Open(RowId row, int selector, ChannelFields& stored);
+    QPushButton* AddStepButton(const char* name, const QString& text, const QKeySequence& key, int step);
+
+    bool Run();
+    void ShowRow(RowId row);
+    void ShowForm(const QString& name, const SharedFields& shown);
+    RowRange Neighbours() const;
+    bool IsNeighbour(int step) const;
+    void GoOn(int step, bool storesAlways);
+    bool IsTouched() const;
+    bool Store();
+
+    CheckedEntry CheckFrequencyBox(const std::string& typed) const;
+    CheckedEntry CheckOffsetBox(const std::string& typed) const;
     bool LeaveBox(Entry& entry);
     bool LeaveIfPending(Entry& entry);
-    void ShowRefusal(Verdict verdict);
+    bool IsSeveral() const { return rows_.size() > 1; }
     QString RowName() const;
     QWidget* BuildButtons();
+    void FocusFrequency();
     void txtFreq_Change(const QString& typed);
     void txtFreq_LostFocus();
     void txtShift_LostFocus();
@@ -60,7 +83,13 @@ class dlgModify : public QDialog
     Document& document_;
     Dialogs& dialogs_;
     ModifyForm* form_;
+    QPushButton* PreviousButton_ = nullptr;
+    QPushButton* NextButton_ = nullptr;
+    QPushButton* OKNextButton_ = nullptr;
     RowId row_;
+    RowList rows_;        ///< several rows that are edited at once; else empty
+    SharedFields shown_;  ///< what the form held when it was opened
+    bool isHeld_ = false;
     int selector_ = 0;
     ChannelFields Grid1Data_;
     ChannelFields Grid2Data_;

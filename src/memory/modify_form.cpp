@@ -69,10 +69,11 @@ ModifyForm::ModifyForm(QWidget* parent)
       txtFreq_(MegahertzBox("txtFreq")),
       txtShift_(MegahertzBox("txtShift")),
       chkHold_(Named(new QCheckBox(tr("&Hold")), "chkHold")),
+      titleRow_(new QHBoxLayout),
       lastRow_(new QHBoxLayout),
       opbWave_(
           new OptionGroup(kContext, "opbWave", QT_TRANSLATE_NOOP("Modify", "Modulation Mode"), kWaves, 3)),
-      opbStep_(new OptionGroup(kContext, "opbStep", QT_TRANSLATE_NOOP("Modify", "Tuning Step"), kSteps, 5)),
+      opbStep_(new OptionGroup(kContext, "opbStep", QT_TRANSLATE_NOOP("Modify", "Tuning Step"), kSteps, 3)),
       opbTone_(new OptionGroup(kContext, "opbTone", QT_TRANSLATE_NOOP("Modify", "Option"), kOptions, 1)),
       opbSift_(new OptionGroup(kContext, "opbSift", QT_TRANSLATE_NOOP("Modify", "Shift"), kShifts, 3)),
       cbbSec_(Named(new QComboBox, "cbbSec")),
@@ -84,14 +85,20 @@ ModifyForm::ModifyForm(QWidget* parent)
       chkSkip_(Named(new QCheckBox(tr("S&kip")), "chkSkip")),
       chkEnable_(Named(new QCheckBox(tr("&Enable")), "chkEnable"))
 {
+    auto* left = new QVBoxLayout;
+    left->addLayout(BuildFrequency());
+    left->addWidget(opbWave_);
+    left->addWidget(opbStep_, 1);
+    auto* right = new QVBoxLayout;
+    right->addLayout(BuildChoices(), 1);
+    right->addLayout(BuildShift());
+    auto* columns = new QHBoxLayout;
+    columns->addLayout(left);
+    columns->addLayout(right, 1);
     auto* form = new QVBoxLayout(this);
     form->setContentsMargins(0, 0, 0, 0);
     form->addLayout(BuildTitle());
-    form->addLayout(BuildFrequency());
-    form->addWidget(opbWave_);
-    form->addWidget(opbStep_);
-    form->addLayout(BuildChoices());
-    form->addLayout(BuildShift());
+    form->addLayout(columns);
     form->addLayout(BuildNote());
     form->addStretch();
     BuildChecks();
@@ -103,11 +110,15 @@ QLayout* ModifyForm::BuildTitle()
     bold.setBold(true);
     lblMode_->setFont(bold);
     lblCH_->setFont(bold);
-    auto* row = new QHBoxLayout;
-    row->addWidget(lblMode_);
-    row->addWidget(lblCH_);
-    row->addStretch();
-    return row;
+    titleRow_->addWidget(lblMode_);
+    titleRow_->addWidget(lblCH_);
+    titleRow_->addStretch();
+    return titleRow_;
+}
+
+void ModifyForm::AddToTitle(QWidget* button)
+{
+    titleRow_->addWidget(button);
 }
 
 QLayout* ModifyForm::BuildFrequency()
@@ -198,6 +209,29 @@ void ModifyForm::ShowFields(const ChannelFields& fields)
     noteLine_->ShowNote(note);
     chkSkip_->setChecked(fields.skip);
     chkEnable_->setChecked(fields.enable);
+}
+
+void ModifyForm::ShowShared(const SharedFields& shared, bool isSeveral)
+{
+    ShowFields(shared.fields);
+    const auto show = [](QCheckBox& box, bool isMixed) {
+        box.setTristate(isMixed);
+        if (isMixed)
+            box.setCheckState(Qt::PartiallyChecked);
+    };
+    show(*chkSkip_, shared.isSkipMixed);
+    show(*chkEnable_, shared.isEnableMixed);
+    const bool isNoteMixed = isSeveral && shared.fields.note.empty();
+    txtNote_->setPlaceholderText(isNoteMixed ? tr("What is blank stays as it is in each channel")
+                                             : QString());
+    chkHold_->setVisible(chkHold_->isVisibleTo(this) && !isSeveral);
+}
+
+SharedFields ModifyForm::Shared() const
+{
+    return {.fields = Fields(),
+            .isSkipMixed = chkSkip_->checkState() == Qt::PartiallyChecked,
+            .isEnableMixed = chkEnable_->checkState() == Qt::PartiallyChecked};
 }
 
 ChannelFields ModifyForm::Fields() const

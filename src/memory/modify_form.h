@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "memory/channel_editor.h"
+#include "memory/several_rows.h"
 #include "ui/option_group.h"
 
 class QBoxLayout;
@@ -23,8 +23,9 @@ class ModifyForm : public QWidget
   public:
     explicit ModifyForm(QWidget* parent);
 
-    void ShowFields(const ChannelFields& fields);
-    ChannelFields Fields() const;
+    /// \param isSeveral  of several rows: what is blank says that they differ
+    void ShowShared(const SharedFields& shared, bool isSeveral);
+    SharedFields Shared() const;
 
     /// Shows what a kind of row has, and disables what the model region does not have.
     void SetAvailable(bool isMemory, const Region& region);
@@ -39,10 +40,15 @@ class ModifyForm : public QWidget
     QLineEdit* txtShift() const { return txtShift_; }
     QCheckBox* chkEnable() const { return chkEnable_; }
 
+    /// Puts a button at the right end of the row's name.
+    void AddToTitle(QWidget* button);
+
     /// The row of check boxes, for the dialog to put below the form.
     QBoxLayout* TakeLastRow() const { return lastRow_; }
 
   private:
+    void ShowFields(const ChannelFields& fields);
+    ChannelFields Fields() const;
     QLayout* BuildTitle();
     QLayout* BuildFrequency();
     QLayout* BuildChoices();
@@ -57,6 +63,7 @@ class ModifyForm : public QWidget
     QLineEdit* txtFreq_;
     QLineEdit* txtShift_;
     QCheckBox* chkHold_;
+    QBoxLayout* titleRow_;
     QBoxLayout* lastRow_;
     OptionGroup* opbWave_;
     OptionGroup* opbStep_;

@@ -57,10 +57,23 @@ void ChannelTable::SelectTableRow(int tableRow)
                                       QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
+std::vector<int> ChannelTable::SelectedTableRows() const
+{
+    std::vector<int> rows;
+    for (const QItemSelectionRange& range : selectionModel()->selection())
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.push_back(row + 1);
+    std::ranges::sort(rows);
+    const auto repeated = std::ranges::unique(rows);
+    rows.erase(repeated.begin(), repeated.end());
+    return rows;
+}
+
 void ChannelTable::keyPressEvent(QKeyEvent* event)
 {
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isEnter && CurrentTableRow() > 0)
+    const int key = event->key();
+    const bool isChoice = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_F2;
+    if (isChoice && CurrentTableRow() > 0)
         emit RowChosen(CurrentTableRow());
     else
         QTableView::keyPressEvent(event);

@@ -2,12 +2,14 @@
 
 #include <QTableView>
 #include <array>
+#include <vector>
 
 namespace rqm5 {
 
 class ColumnWidths;
 
-/// The table of the memory channels or of the VFO bands: one row is current, and it is selected whole.
+/// The table of the memory channels or of the VFO bands: one row is current, and rows are
+/// selected whole.
 /// Table rows are counted from 1; row 0 is the title row.
 class ChannelTable : public QTableView
 {
@@ -26,8 +28,11 @@ class ChannelTable : public QTableView
     /// column.
     void SelectTableRow(int tableRow);
 
+    /// All selected table rows, rising.
+    std::vector<int> SelectedTableRows() const;
+
   signals:
-    /// The user wants to edit a row: double click or Enter.
+    /// The user wants to edit a row: double click, Enter or F2.
     void RowChosen(int tableRow);
 
   protected:

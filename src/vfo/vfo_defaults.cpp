@@ -50,22 +50,25 @@ const DefaultRow& RowFor(int row, int bandPlan)
 
 }  // namespace
 
+Channel DefaultVfoRow(int region, int row)
+{
+    const DefaultRow& from = RowFor(row, RegionOf(region).bandPlan);
+    Channel channel;
+    channel.blank = 0;
+    channel.frequency = Hertz(from.frequency);
+    channel.shiftFrequency = static_cast<std::int32_t>(Hertz(from.shift));
+    channel.mode = from.mode;
+    channel.step = from.step[region == 0 ? 0 : 1];
+    channel.secret = kSecretCode;
+    channel.carrier = kCarrierJr;
+    channel.tone = kToneCode;
+    return channel;
+}
+
 void BuildVfoDefaults(CloneImage& image)
 {
-    const int region = image.ModelNo();
-    for (int row = 0; row < kVfoRows; ++row) {
-        const DefaultRow& from = RowFor(row, RegionOf(region).bandPlan);
-        Channel channel;
-        channel.blank = 0;
-        channel.frequency = Hertz(from.frequency);
-        channel.shiftFrequency = static_cast<std::int32_t>(Hertz(from.shift));
-        channel.mode = from.mode;
-        channel.step = from.step[region == 0 ? 0 : 1];
-        channel.secret = kSecretCode;
-        channel.carrier = kCarrierJr;
-        channel.tone = kToneCode;
-        image.VFOData(row) = channel;
-    }
+    for (int row = 0; row < kVfoRows; ++row)
+        image.VFOData(row) = DefaultVfoRow(image.ModelNo(), row);
 }
 
 }  // namespace rqm5

@@ -29,10 +29,10 @@ TEST(ChannelOperations, EnableNeedsAFrequency)
     PutChannel(image, 1, "");
     PutChannel(image, 2, "");
     image.MemData(2).frequency = 0;
-    EnableRows(image, {0, 4});
+    EnableRows(image, RowsOf({0, 4}));
     for (int row = 0; row < 5; ++row)
         EXPECT_EQ(image.MemEnable(row), row == 1) << row;
-    DisableRows(image, {1, 1});
+    DisableRows(image, {1});
     EXPECT_FALSE(image.MemEnable(1));
     EXPECT_EQ(image.MemData(1).frequency, Hertz(101));
 }

@@ -245,7 +245,7 @@ TEST_F(ModifyDialogTest, OkStoresWhatTheControlsHold)
     EXPECT_EQ(TextsOf(row), (std::vector<std::string>{"100.000000", "WFM", "1KHz", "Carrier", "0", "JR",
                                                       "67.0Hz", "+Shift", "0.600000", "a,b"}));
     EXPECT_TRUE(row.carrier == 28 && row.IsSkipped() && row.enabled);
-    EXPECT_EQ(document_.History().undoText(), QStringLiteral("Modify (CH 0)"));
+    EXPECT_EQ(document_.History().undoText(), QStringLiteral("Modify (Bank 0 CH 0)"));
     EXPECT_TRUE(document_.DataChanged());
 }
 

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "memory/channel_parts.h"
+
+namespace rqm5 {
+
+/// One channel of a list: what it says, or why it cannot be taken.
+struct ListedChannel
+{
+    std::string source;  ///< where it stands: "Line 3"; empty when it is not from a text
+    Channel channel;     ///< only the parts given count
+    Parts given;
+    std::string refusal;  ///< why the row cannot be taken; empty when it can
+    std::string remark;   ///< what of it is left out
+};
+
+/// Reads channels out of the text of a spreadsheet, a web page or a file: fields separated by tabs,
+/// semicolons or commas, under titles in any order or without; or frequencies alone, one a line. UTF-8 or
+/// older, as DecodeFileText takes it. Never fails: a line that is no channel comes with the reason.
+///
+/// A number without a unit goes by its column's title, else by what most of the column can be: MHz, kHz or
+/// Hz. Limits of the receiver and of a model region are not looked at here; PlanPaste does.
+std::vector<ListedChannel> ReadChannelList(std::string_view text);
+
+}  // namespace rqm5

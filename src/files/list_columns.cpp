@@ -1,0 +1,172 @@
+#include "files/list_columns.h"
+
+#include <algorithm>
+#include <array>
+
+#include "image/channel.h"
+
+namespace rqm5 {
+namespace {
+
+/// Most people write no unit: what the numbers of a column can be.
+Unit LikelyUnit(const std::vector<ListRecord>& records, std::size_t column)
+{
+    int megahertz = 0;
+    int kilohertz = 0;
+    int hertz = 0;
+    for (const ListRecord& record : records) {
+        const auto number =
+            column < record.fields.size() ? ReadFrequency(record.fields[column]) : std::nullopt;
+        if (!number || number->unit != Unit::None)
+            continue;
+        ++(number->whole < 1300 ? megahertz : number->whole < 1'300'000 ? kilohertz : hertz);
+    }
+    if (megahertz >= kilohertz && megahertz >= hertz)
+        return Unit::MHz;
+    return kilohertz >= hertz ? Unit::KHz : Unit::Hz;
+}
+
+/// How surely a text is a frequency: a bare small number is more often a count.
+int FrequencyLikeness(const std::string& field)
+{
+    const auto number = ReadFrequency(field);
+    if (!number || number->isNegative)
+        return 0;
+    return number->hasFraction || number->unit != Unit::None || number->whole >= 1300 ? 3 : 1;
+}
+
+bool IsMode(const std::string& field)
+{
+    return ReadMode(field).has_value();
+}
+
+bool IsTone(const std::string& field)
+{
+    return ReadTone(field).has_value() && field.find_first_of(".,hH") != std::string::npos;
+}
+
+bool IsStep(const std::string& field)
+{
+    return ReadStep(field).has_value() && PlainWords(field).ends_with("hz");
+}
+
+bool IsShift(const std::string& field)
+{
+    return field == "+" || field == "-" || PlainWords(field) == "shift";
+}
+
+bool IsWords(const std::string& field)
+{
+    return !ReadFrequency(field) && !PlainWords(field).empty();
+}
+
+/// Finds out what the columns of a list without titles hold.
+class Guesser
+{
+  public:
+    explicit Guesser(const std::vector<ListRecord>& records) : records_(records)
+    {
+        for (const ListRecord& record : records)
+            columns_.resize(std::max(columns_.size(), record.fields.size()));
+    }
+
+    std::vector<ListColumn> Columns()
+    {
+        TakeBest(kFrequency, FrequencyLikeness, 1);
+        TakeBest(kMode, IsMode, 2);
+        TakeBest(kStep, IsStep, 2);
+        TakeBest(kTone, IsTone, 2);
+        TakeBest(kShift, IsShift, 2);
+        TakeBest(kNote, IsWords, 0);
+        return columns_;
+    }
+
+  private:
+    /// \param share  of the texts in the column, one in so many has to fit at least; 0 for any
+    template <class Fits>
+    void TakeBest(int part, Fits fits, int share)
+    {
+        int best = 0;
+        std::size_t place = columns_.size();
+        for (std::size_t column = 0; column < columns_.size(); ++column) {
+            const auto [points, texts, fitting] = Count(column, fits);
+            const bool isEnough = share == 0 || fitting * (share == 1 ? 2 : share) >= texts;
+            if (columns_[column].part == ListColumn::kIgnored && isEnough && points > best) {
+                best = points;
+                place = column;
+            }
+        }
+        if (place < columns_.size())
+            columns_[place].part = part;
+    }
+
+    template <class Fits>
+    std::array<int, 3> Count(std::size_t column, Fits fits) const
+    {
+        std::array<int, 3> counts{};
+        for (const ListRecord& record : records_) {
+            const std::string text = column < record.fields.size() ? record.fields[column] : std::string();
+            const int points = text.empty() ? 0 : static_cast<int>(fits(text));
+            counts[0] += points;
+            counts[1] += text.empty() ? 0 : 1;
+            counts[2] += points > 0 ? 1 : 0;
+        }
+        return counts;
+    }
+
+    const std::vector<ListRecord>& records_;
+    std::vector<ListColumn> columns_;
+};
+
+std::vector<ListColumn>::const_iterator FindColumn(const std::vector<ListColumn>& columns, int part)
+{
+    return std::ranges::find(columns, part, &ListColumn::part);
+}
+
+/// "145,500,Tower": a comma for the decimals and one between the fields. It cannot be told where they end.
+bool HasTwoKindsOfComma(const std::vector<ListRecord>& records, const std::vector<ListColumn>& columns)
+{
+    const auto found = FindColumn(columns, kFrequency);
+    const auto place = static_cast<std::size_t>(found - columns.begin());
+    const auto isBare = [](const std::string& text) {
+        return !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
+    };
+    return found != columns.end() && std::ranges::any_of(records, [&](const ListRecord& record) {
+               return place + 1 < record.fields.size() && isBare(record.fields[place]) &&
+                      record.fields[place].size() <= 4 && isBare(record.fields[place + 1]);
+           });
+}
+
+}  // namespace
+
+bool HasColumn(const std::vector<ListColumn>& columns, int part)
+{
+    return FindColumn(columns, part) != columns.end();
+}
+
+ColumnList FindColumns(std::string_view text, std::size_t mostRecords)
+{
+    ColumnList list;
+    const char delimiter = DelimiterOf(text);
+    list.records = SplitList(text, delimiter, mostRecords);
+    if (list.records.empty())
+        return list;
+    const bool hasTitles = AreTitles(list.records.front().fields);
+    if (hasTitles) {
+        list.columns = ColumnsUnder(list.records.front().fields);
+        list.records.erase(list.records.begin());
+    } else {
+        list.columns = Guesser(list.records).Columns();
+    }
+    if (!hasTitles && delimiter == ',' && HasTwoKindsOfComma(list.records, list.columns))
+        list.problem = "commas stand for decimals and between fields; separate the fields by tabs";
+    else if (!hasTitles && !HasColumn(list.columns, kFrequency))
+        list.problem = "there is no frequency";
+    else if (HasColumn(list.columns, kFrequency))
+        list.usualUnit =
+            LikelyUnit(list.records,
+                       static_cast<std::size_t>(FindColumn(list.columns, kFrequency) - list.columns.begin()));
+    return list;
+}
+
+}  // namespace rqm5

@@ -1,0 +1,125 @@
+#include "files/list_fields.h"
+
+#include <algorithm>
+
+#include "files/list_values.h"
+
+namespace rqm5 {
+namespace {
+
+/// Walks through a text and remembers the line.
+class Walker
+{
+  public:
+    Walker(std::string_view text, char delimiter) : rest_(text), delimiter_(delimiter) {}
+
+    bool IsAtEnd() const { return rest_.empty(); }
+    ListRecord TakeRecord();
+
+  private:
+    std::string TakeField();
+    std::string TakeQuoted();
+    std::string_view TakePlain();
+    bool IsEndOfField(char c) const
+    {
+        return c == '\r' || c == '\n' || (delimiter_ != '\0' && c == delimiter_);
+    }
+    void SkipLineEnd();
+
+    std::string_view rest_;
+    char delimiter_;
+    int line_ = 1;
+};
+
+std::string_view Walker::TakePlain()
+{
+    const auto* end = std::ranges::find_if(rest_, [this](char c) { return IsEndOfField(c); });
+    const std::string_view field = rest_.substr(0, static_cast<std::size_t>(end - rest_.begin()));
+    rest_.remove_prefix(field.size());
+    return field;
+}
+
+/// The field at the front, which begins with a quote; one that nothing closes is a character like any other.
+std::string Walker::TakeQuoted()
+{
+    std::string field;
+    for (std::size_t i = 1; i < rest_.size(); ++i) {
+        const bool isQuote = rest_[i] == '"';
+        if (isQuote && i + 1 < rest_.size() && rest_[i + 1] == '"') {
+            ++i;
+        } else if (isQuote) {
+            line_ += static_cast<int>(std::ranges::count(field, '\n'));
+            rest_.remove_prefix(i + 1);
+            return field.append(TakePlain());
+        }
+        field += rest_[i];
+    }
+    return std::string(TakePlain());
+}
+
+std::string Walker::TakeField()
+{
+    while (!rest_.empty() && (rest_.front() == ' ' || (rest_.front() == '\t' && delimiter_ != '\t')))
+        rest_.remove_prefix(1);
+    return rest_.starts_with('"') ? TakeQuoted() : std::string(TakePlain());
+}
+
+void Walker::SkipLineEnd()
+{
+    rest_.remove_prefix(rest_.starts_with("\r\n") ? 2 : rest_.empty() ? 0 : 1);
+    ++line_;
+}
+
+ListRecord Walker::TakeRecord()
+{
+    ListRecord record{line_, {Trimmed(TakeField())}};
+    while (!rest_.empty() && rest_.front() == delimiter_) {
+        rest_.remove_prefix(1);
+        record.fields.push_back(Trimmed(TakeField()));
+    }
+    SkipLineEnd();
+    return record;
+}
+
+bool HasText(const ListRecord& record)
+{
+    return std::ranges::any_of(record.fields, [](const std::string& field) { return !field.empty(); });
+}
+
+/// A line such as "145,500" or "145,500 MHz": a number with a decimal comma, and nothing else.
+bool IsDecimal(std::string_view line)
+{
+    return line.find(',') == line.rfind(',') && ReadFrequency(line).has_value();
+}
+
+}  // namespace
+
+char DelimiterOf(std::string_view text)
+{
+    for (const char delimiter : {'\t', ';'})
+        if (text.find(delimiter) != std::string_view::npos)
+            return delimiter;
+    if (text.find(',') == std::string_view::npos)
+        return '\0';
+    const auto lines = SplitList(text, '\0', 100);
+    const auto commas = std::ranges::count_if(
+        lines, [](const ListRecord& line) { return line.fields.front().find(',') != std::string::npos; });
+    const auto decimals = std::ranges::count_if(lines, [](const ListRecord& line) {
+        return line.fields.front().find(',') != std::string::npos && IsDecimal(line.fields.front());
+    });
+    return decimals * 2 > commas ? '\0' : ',';
+}
+
+std::vector<ListRecord> SplitList(std::string_view text, char delimiter, std::size_t most)
+{
+    std::vector<ListRecord> records;
+    Walker walker(text, delimiter);
+    while (!walker.IsAtEnd() && records.size() < most) {
+        ListRecord record = walker.TakeRecord();
+        if (HasText(record))
+            records.push_back(std::move(record));
+    }
+    return records;
+}
+
+}  // namespace rqm5

@@ -1,0 +1,115 @@
+#include "memory/move_commands.h"
+
+#include "memory/channel_operations.h"
+
+namespace rqm5 {
+
+MoveCommands::MoveCommands(const RowSelection& selection, Dialogs& dialogs, QWidget& page)
+    : QObject(&page), selection_(selection), dialogs_(dialogs), page_(page)
+{
+}
+
+/// Runs a move, unless nothing changes its place; what was selected stays so where it went.
+void MoveCommands::MoveTo(const std::function<RowList(CloneImage&)>& move)
+{
+    const RowList rows = selection_.Rows();
+    if (rows.empty() || !selection_.IsMovable())
+        return;
+    CloneImage after = selection_.Image();
+    const RowList moved = move(after);
+    const int column = selection_.Table().currentIndex().column();
+    if (moved != rows || after != selection_.Image())
+        selection_.Edit(tr("Move (%1)").arg(selection_.NameOf(rows)),
+                        [&](CloneImage& image) { move(image); });
+    selection_.Table().SelectRows(moved, column);
+}
+
+void MoveCommands::Shift(bool isUp)
+{
+    MoveTo([group = selection_.Movable(), rows = selection_.Rows(), isUp](CloneImage& image) {
+        return ShiftRows(image, group, rows, isUp);
+    });
+}
+
+void MoveCommands::Drag(int before)
+{
+    MoveTo([group = selection_.Movable(), rows = selection_.Rows(), before](CloneImage& image) {
+        return MoveRows(image, group, rows, before);
+    });
+}
+
+void MoveCommands::mnuEditInsertRow_Click()
+{
+    const int row = selection_.Current();
+    if (row < 0 || !selection_.IsMovable())
+        return;
+    const MoveGroup group = selection_.Movable();
+    CloneImage after = selection_.Image();
+    if (!InsertRow(after, group, row)) {
+        dialogs_.Ask(&page_,
+                     {.title = tr("Insert Row Here"),
+                      .text = tr("There is no empty row behind it in %1.").arg(selection_.NameOfSelector()),
+                      .details = tr("Clear a channel there, or make the bank larger on the Bank page."),
+                      .icon = QMessageBox::Information});
+        return;
+    }
+    selection_.Edit(tr("Insert Row (%1)").arg(selection_.NameOf(row)),
+                    [=](CloneImage& image) { InsertRow(image, group, row); });
+    selection_.Table().SelectRows({row}, 0);
+}
+
+void MoveCommands::mnuEditDeleteRow_Click()
+{
+    const RowList rows = selection_.Rows();
+    if (rows.empty() || !selection_.IsMovable())
+        return;
+    const MoveGroup group = selection_.Movable();
+    selection_.Edit(tr("Delete Row (%1)").arg(selection_.NameOf(rows)),
+                    [=](CloneImage& image) { DeleteRows(image, group, rows); });
+    selection_.Table().SelectRows({rows.front()}, 0);
+}
+
+void MoveCommands::Sort(SortKey key, const QString& name)
+{
+    const MoveGroup group = selection_.Movable();
+    if (selection_.IsMovable() && group.rows.count > 0)
+        selection_.Edit(name.arg(selection_.NameOfSelector()),
+                        [=](CloneImage& image) { SortRows(image, group, key); });
+}
+
+void MoveCommands::FillBankMenu(QMenu& menu, bool isMove)
+{
+    menu.clear();
+    const CloneImage& image = selection_.Image();
+    const std::size_t wanted = ChannelsAmong(image, selection_.Rows()).size();
+    for (int bank = 0; bank < kBanks; ++bank) {
+        const RowRange rows = GroupRows(image, bank);
+        if (rows.count == 0)
+            continue;
+        const std::size_t room = EmptyRows(image, rows).size();
+        QAction* item = menu.addAction(tr("%1 (%2 of %3)")
+                                           .arg(QString::fromStdString(SelectorText(bank)))
+                                           .arg(static_cast<std::size_t>(rows.count) - room)
+                                           .arg(rows.count));
+        item->setEnabled(room >= wanted && bank != selection_.Selector());
+        connect(item, &QAction::triggered, this, [this, bank, isMove] { ToBank(bank, isMove); });
+    }
+}
+
+void MoveCommands::ToBank(int bank, bool isMove)
+{
+    const CloneImage& image = selection_.Image();
+    const RowList from = ChannelsAmong(image, selection_.Rows());
+    const RowList to = EmptyRows(image, GroupRows(image, bank));
+    if (from.empty() || to.size() < from.size())
+        return;
+    const QString name = isMove ? tr("Move to %1 (%2)") : tr("Copy to %1 (%2)");
+    selection_.Edit(name.arg(QString::fromStdString(SelectorText(bank)), selection_.NameOf(from)),
+                    [=](CloneImage& after) {
+                        CopyRows(after, from, to);
+                        if (isMove)
+                            ClearRows(after, from);
+                    });
+}
+
+}  // namespace rqm5

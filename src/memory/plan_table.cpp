@@ -1,0 +1,142 @@
+#include "memory/plan_table.h"
+
+#include <QBrush>
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QPalette>
+#include <QTableView>
+#include <algorithm>
+
+#include "image/display_text.h"
+#include "memory/row_names.h"
+
+namespace rqm5 {
+namespace {
+
+enum PlanColumn { kTarget, kPresent, kComing, kRemark, kPlanColumns };
+
+constexpr const char* kTitles[kPlanColumns] = {QT_TRANSLATE_NOOP("rqm5::PlanTableModel", "Row"),
+                                               QT_TRANSLATE_NOOP("rqm5::PlanTableModel", "Holds now"),
+                                               QT_TRANSLATE_NOOP("rqm5::PlanTableModel", "What comes"),
+                                               QT_TRANSLATE_NOOP("rqm5::PlanTableModel", "Remark")};
+
+}  // namespace
+
+PlanTableModel::PlanTableModel(const CloneImage& image, QObject* parent)
+    : QAbstractTableModel(parent), image_(image)
+{
+}
+
+void PlanTableModel::ShowPlan(const PastePlan& plan)
+{
+    beginResetModel();
+    plan_ = plan;
+    endResetModel();
+}
+
+int PlanTableModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(plan_.size());
+}
+
+int PlanTableModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : kPlanColumns;
+}
+
+/// "145.500000 FM 12.5KHz Tone 88.5Hz, the note"
+QString PlanTableModel::Contents(const Channel& channel) const
+{
+    if (!channel.HasChannel())
+        return tr("(empty)");
+    std::string text = CellText(channel, RowKind::Memory, kNoRegion, kFrequency);
+    for (const Column column : {kMode, kStep})
+        text += " " + CellText(channel, RowKind::Memory, kNoRegion, column);
+    if (!channel.note.empty())
+        text += ", " + VisibleText(channel.note);
+    return QString::fromStdString(text);
+}
+
+QString PlanTableModel::TextOf(const PlannedRow& planned, int column) const
+{
+    const bool hasRow = planned.row != PlannedRow::kNowhere;
+    switch (column) {
+        case kTarget: {
+            if (!hasRow)
+                return {};
+            const std::string place = PlaceOfRow(image_, planned.row);
+            return place.empty() ? tr("row %1").arg(planned.row) : QString::fromStdString(place);
+        }
+        case kPresent:
+            return hasRow ? Contents(image_.MemData(planned.row)) : QString();
+        case kComing:
+            return planned.IsTaken() || planned.channel.HasChannel() ? Contents(planned.channel)
+                                                                     : QString::fromStdString(planned.source);
+        default:
+            break;
+    }
+    const QString source =
+        planned.source.empty() ? QString() : QString::fromStdString(planned.source) + QStringLiteral(": ");
+    if (!planned.IsTaken())
+        return tr("Refused: %1").arg(source + QString::fromStdString(VisibleText(planned.refusal)));
+    return planned.remark.empty() ? QString() : source + QString::fromStdString(VisibleText(planned.remark));
+}
+
+QVariant PlanTableModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid())
+        return {};
+    const PlannedRow& planned = plan_.at(static_cast<std::size_t>(index.row()));
+    if (role == Qt::DisplayRole || role == Qt::ToolTipRole)
+        return TextOf(planned, index.column());
+    if (role == Qt::FontRole && !planned.IsTaken()) {
+        QFont bold;
+        bold.setBold(true);
+        return bold;
+    }
+    return {};
+}
+
+QVariant PlanTableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (role != Qt::DisplayRole || orientation != Qt::Horizontal)
+        return {};
+    return tr(kTitles[section]);
+}
+
+QTableView* MakePlanTable(PlanTableModel& model, QWidget* parent)
+{
+    auto* table = new QTableView(parent);
+    table->setModel(&model);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setTabKeyNavigation(false);
+    table->setWordWrap(false);
+    table->verticalHeader()->hide();
+    const int line = table->fontMetrics().height();
+    table->verticalHeader()->setDefaultSectionSize(line + 6);
+    table->horizontalHeader()->setStretchLastSection(true);
+    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    const int letter = table->fontMetrics().averageCharWidth();
+    table->setColumnWidth(kTarget, 24 * letter);
+    table->setColumnWidth(kPresent, 34 * letter);
+    table->setColumnWidth(kComing, 34 * letter);
+    return table;
+}
+
+QString PlanSummary(const CloneImage& image, const PastePlan& plan)
+{
+    const auto count = [&plan](auto fits) { return std::ranges::count_if(plan, fits); };
+    const auto taken = count([](const PlannedRow& row) { return row.IsTaken(); });
+    const auto over =
+        count([&](const PlannedRow& row) { return row.IsTaken() && image.MemData(row.row).HasChannel(); });
+    const auto refused = static_cast<std::ptrdiff_t>(plan.size()) - taken;
+    QString text = PlanTableModel::tr("Rows that are written: %1").arg(taken);
+    if (over > 0)
+        text += PlanTableModel::tr(", of which %1 hold a channel now").arg(over);
+    return refused > 0 ? text + PlanTableModel::tr("; refused: %1").arg(refused) : text;
+}
+
+}  // namespace rqm5

@@ -1,0 +1,144 @@
+#include "memory/row_commands.h"
+
+#include <algorithm>
+
+#include "memory/channel_operations.h"
+#include "memory/row_names.h"
+#include "memory/shift_note.h"
+
+namespace rqm5 {
+
+RowCommands::RowCommands(const RowSelection& selection, Dialogs& dialogs, QWidget& page)
+    : QObject(&page), selection_(selection), dialogs_(dialogs), page_(page)
+{
+}
+
+bool RowCommands::IsShiftable() const
+{
+    const int tableRow = selection_.Table().CurrentTableRow();
+    return !selection_.IsFiltered() && tableRow >= 1 && tableRow <= kShiftedRows;
+}
+
+/// \param what  what will be hit, as a sentence
+bool RowCommands::Confirm(const QString& title, const QString& text, const QString& what)
+{
+    return dialogs_.Ask(&page_, {.title = title,
+                                 .text = text,
+                                 .details = what + QLatin1Char(' ') + tr("Edit > Undo brings it back."),
+                                 .icon = QMessageBox::Warning,
+                                 .buttons = QMessageBox::Ok | QMessageBox::Cancel,
+                                 .defaultButton = QMessageBox::Cancel}) == QMessageBox::Ok;
+}
+
+void RowCommands::EditRows(const QString& operation, RowsFunction change)
+{
+    const RowList rows = selection_.Rows();
+    if (!rows.empty())
+        selection_.Edit(tr("%1 (%2)").arg(operation, selection_.NameOf(rows)),
+                        [=](CloneImage& image) { change(image, rows); });
+}
+
+void RowCommands::EditGroup(const QString& operation, RowsFunction change)
+{
+    const RowList rows = selection_.Shown();
+    if (rows.empty())
+        return;
+    selection_.Edit(tr("%1 (%2)").arg(operation, selection_.NameOfGroup()),
+                    [=](CloneImage& image) { change(image, rows); });
+    HighlightCurrentRow();
+}
+
+/// Selects the current row alone, from its first column on.
+void RowCommands::HighlightCurrentRow()
+{
+    selection_.Table().SelectTableRow(selection_.Table().CurrentTableRow());
+}
+
+void RowCommands::cmbClear_Click()
+{
+    const RowList rows = selection_.Rows();
+    if (rows.empty())
+        return;
+    const QString what =
+        rows.size() == 1
+            ? tr("This clears %1, %2.").arg(selection_.NameOf(rows), selection_.ContentsOf(rows.front()))
+            : tr("This clears %1.").arg(selection_.NameOf(rows));
+    if (Confirm(tr("CLEAR OK"), tr("Clear cannot be undone.\nAre you sure that you want to do the clear?"),
+                what))
+        EditRows(tr("Clear"), ClearRows);
+}
+
+void RowCommands::cmbClAll_Click()
+{
+    if (!selection_.Shown().empty() &&
+        Confirm(tr("CLEAR OK"),
+                tr("Clear cannot be undone.\nAre you sure that you want to clear all memory?"),
+                tr("This clears %1.").arg(selection_.NameOfGroup())))
+        EditGroup(tr("Clear All"), ClearRows);
+}
+
+void RowCommands::cmbDelete_Click()
+{
+    if (!IsShiftable())
+        return;
+    // The row goes by its number in the table, whatever group is shown, so the question names it.
+    const int row = selection_.Table().CurrentTableRow() - 1;
+    const QString name = QString::fromStdString(RowName(selection_.Image(), row));
+    if (!Confirm(tr("DELETE OK"),
+                 tr("Delete cannot be undone.\nAre you sure that you want to do the delete?"),
+                 tr("This deletes %1, %2.").arg(name, selection_.ContentsOf(row))))
+        return;
+    const QString note = DeleteNote(selection_.Image(), selection_.Group(), row + 1);
+    selection_.Edit(tr("Delete (%1)").arg(name),
+                    [row](CloneImage& image) { DeleteTableRow(image, row + 1); });
+    HighlightCurrentRow();
+    emit Noted(note);
+}
+
+void RowCommands::cmbInsert_Click()
+{
+    if (!IsShiftable())
+        return;
+    const int tableRow = selection_.Table().CurrentTableRow();
+    const QString name = QString::fromStdString(RowName(selection_.Image(), tableRow - 1));
+    const QString note = InsertNote(selection_.Image(), selection_.Group(), tableRow);
+    selection_.Edit(tr("Insert (%1)").arg(name),
+                    [tableRow](CloneImage& image) { InsertTableRow(image, tableRow); });
+    HighlightCurrentRow();
+    emit Noted(note);
+}
+
+void RowCommands::cmbEnable_Click()
+{
+    EditRows(tr("Enable"), EnableRows);
+}
+
+void RowCommands::cmbDisable_Click()
+{
+    EditRows(tr("Disable"), DisableRows);
+}
+
+void RowCommands::cmbEnAll_Click()
+{
+    EditGroup(tr("Enable All"), EnableRows);
+}
+
+void RowCommands::cmbDisAll_Click()
+{
+    EditGroup(tr("Disable All"), DisableRows);
+}
+
+void RowCommands::Toggle()
+{
+    const RowList channels = ChannelsAmong(selection_.Image(), selection_.Rows());
+    const bool isAnyOff =
+        std::ranges::any_of(channels, [this](int row) { return !selection_.Image().MemEnable(row); });
+    if (channels.empty())
+        return;
+    if (isAnyOff)
+        cmbEnable_Click();
+    else
+        cmbDisable_Click();
+}
+
+}  // namespace rqm5
