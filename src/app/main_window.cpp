@@ -10,6 +10,7 @@
 #include <QStatusTipEvent>
 #include <QVBoxLayout>
 
+#include "app/clone_drop.h"
 #include "app/placement.h"
 #include "memory/start_image.h"
 #include "ui/form_texts.h"
@@ -125,6 +126,8 @@ void frmMain::ConnectOtherMenus()
     ConnectMenu("mnuHelpAbout", [this] { sides_->mnuHelpAbout_Click(); });
     sides_->ConnectDiagnostics(menus_->Item("mnuViewDiagnostics"));
     connect(&pages_->Tabs(), &TabStrip::Switched, this, &frmMain::TabStrip1_Click);
+    connect(new CloneDrop(*this, menus_->Item("mnuFileOpen")), &CloneDrop::Dropped, files_,
+            &FileCommands::OpenDropped);
     connect(ports_, &PortCommands::PortChosen, sbStatusBar_, &StatusBar::ShowPort);
 }
 

@@ -78,8 +78,10 @@ void MemoryTable::UpDateMemData(int selector)
 
 void MemoryTable::Refresh(int selector)
 {
-    const int row = CurrentTableRow();
+    // Another group keeps the place in the table. Of several rows it is the first: there the same rows begin.
+    const std::vector<int> selected = SelectedTableRows();
     const bool isSameGroup = selector == model_.Selector();
+    const int row = selected.size() > 1 && !isSameGroup ? selected.front() : CurrentTableRow();
     model_.ShowGroup(selector);
     const bool isSelected = isSameGroup && currentIndex().isValid() &&
                             selectionModel()->isRowSelected(currentIndex().row(), QModelIndex());
