@@ -82,6 +82,12 @@ void FileCommands::mnuFileOpen_Click()
         Load(path);
 }
 
+void FileCommands::OpenDropped(const QString& path)
+{
+    if (MayLoseChanges())
+        Load(path);
+}
+
 bool FileCommands::Load(const QString& path)
 {
     CloneImage image = document_.Image();

@@ -37,6 +37,9 @@ class FileCommands : public QObject
 
     void mnuFileNew_Click();
     void mnuFileOpen_Click();
+
+    /// Opens a clone file that was dropped on the window.
+    void OpenDropped(const QString& path);
     bool mnuFileSave_Click();    ///< \return true when the file was written
     bool mnuFileSaveAs_Click();  ///< \return true when the file was written
     void mnuFileImport_Click();

@@ -12,6 +12,7 @@
 #include <QStatusTipEvent>
 #include <QVBoxLayout>
 
+#include "app/clone_drop.h"
 #include "app/file_news.h"
 #include "app/placement.h"
 #include "memory/start_image.h"
@@ -159,6 +160,8 @@ void frmMain::ConnectOtherMenus()
         sbStatusBar_->ShowPointerHint({});
         sbStatusBar_->ShowHintOf(focusWidget());
     });
+    connect(new CloneDrop(*this, menus_->Item("mnuFileOpen")), &CloneDrop::Dropped, files_,
+            &FileCommands::OpenDropped);
     connect(ports_, &PortCommands::PortChosen, sbStatusBar_, &StatusBar::ShowPort);
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "files/csv_record.h"
 #include "files/list_columns.h"
 #include "files/text_encoding.h"
 #include "image/value_tables.h"
@@ -158,6 +159,11 @@ void RecordReader::TakeNote(const std::string& text)
 
 void RecordReader::Take(const ListColumn& column, const std::string& text)
 {
+    if (column.part == ListColumn::kBank) {
+        if (text == kCsvVfo)
+            row_.refusal = "it is a VFO band";
+        return;
+    }
     // An empty cell says nothing, but for a mark that is not set and a note that is empty.
     const bool isMark = column.part == kSkipPart || column.part == kEnabledPart;
     saysSomething_ |= !text.empty() && !(isMark && ReadMark(text) == 0);
@@ -183,7 +189,7 @@ std::optional<ListedChannel> RecordReader::Read(const ListRecord& record)
     for (std::size_t i = 0; i < columns_.size() && row_.refusal.empty(); ++i)
         if (columns_[i].part != ListColumn::kIgnored)
             Take(columns_[i], i < record.fields.size() ? record.fields[i] : std::string());
-    if (!saysSomething_)
+    if (!saysSomething_ && row_.refusal.empty())
         return std::nullopt;
     if (row_.refusal.empty() && HasColumn(columns_, kFrequency) && !row_.given.Has(kFrequency))
         row_.refusal = "there is no frequency";

@@ -73,6 +73,8 @@ class Guesser
     std::vector<ListColumn> Columns()
     {
         TakeBest(kFrequency, FrequencyLikeness, 1);
+        if (columns_.size() == 1)
+            columns_.front().part = kFrequency;
         TakeBest(kMode, IsMode, 2);
         TakeBest(kStep, IsStep, 2);
         TakeBest(kTone, IsTone, 2);

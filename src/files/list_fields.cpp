@@ -86,10 +86,15 @@ bool HasText(const ListRecord& record)
     return std::ranges::any_of(record.fields, [](const std::string& field) { return !field.empty(); });
 }
 
-/// A line such as "145,500" or "145,500 MHz": a number with a decimal comma, and nothing else.
-bool IsDecimal(std::string_view line)
+/// A line such as "145,500" or "145,500 MHz": a number whose commas belong to it. One that cannot be read for
+/// certain counts too: its comma must not make two numbers of it.
+bool IsNumber(std::string_view line)
 {
-    return line.find(',') == line.rfind(',') && ReadFrequency(line).has_value();
+    if (ReadFrequency(line))
+        return true;
+    const std::size_t end = line.find_last_of("0123456789");
+    return end != std::string_view::npos && line.find_first_not_of("0123456789, ") > end &&
+           UnitNamed(line.substr(end + 1)) != Unit::None;
 }
 
 }  // namespace
@@ -105,7 +110,7 @@ char DelimiterOf(std::string_view text)
     const auto commas = std::ranges::count_if(
         lines, [](const ListRecord& line) { return line.fields.front().find(',') != std::string::npos; });
     const auto decimals = std::ranges::count_if(lines, [](const ListRecord& line) {
-        return line.fields.front().find(',') != std::string::npos && IsDecimal(line.fields.front());
+        return line.fields.front().find(',') != std::string::npos && IsNumber(line.fields.front());
     });
     return decimals * 2 > commas ? '\0' : ',';
 }

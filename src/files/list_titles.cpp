@@ -93,7 +93,7 @@ constexpr Title kTitles[] = {
     {"enabled", kEnabledPart},
     {"active", kEnabledPart},
     {"model", kIgnored},
-    {"bank", kIgnored},
+    {"bank", ListColumn::kBank},
     {"channel", kIgnored},
     {"ch", kIgnored},
     {"no", kIgnored},
@@ -153,9 +153,9 @@ std::vector<ListColumn> ColumnsUnder(const std::vector<std::string>& titles)
     Parts taken;
     for (const std::string& title : titles) {
         ListColumn column = ReadTitle(title).value_or(ListColumn{});
-        if (column.part != kIgnored && taken.Has(column.part))
+        if (column.part >= 0 && taken.Has(column.part))
             column.part = kIgnored;
-        if (column.part != kIgnored)
+        if (column.part >= 0)
             taken.Add(column.part);
         columns.push_back(column);
     }

@@ -13,6 +13,7 @@ namespace rqm5 {
 struct ListColumn
 {
     static constexpr int kIgnored = -1;
+    static constexpr int kBank = -2;  ///< in a file of this program: the table that a row belongs to
 
     int part = kIgnored;     ///< a Column or a ChannelPart
     Unit unit = Unit::None;  ///< that its title names

@@ -105,7 +105,7 @@ void ClipboardCommands::PasteFrom(const QMimeData& data, int row)
 void ClipboardCommands::mnuEditPaste_Click()
 {
     if (selection_.Current() >= 0)
-        PasteFrom(Clipboard(), selection_.Current());
+        PasteFrom(Clipboard(), selection_.Top());
 }
 
 void ClipboardCommands::Drop(const QMimeData& data, int row)
@@ -163,7 +163,7 @@ void ClipboardCommands::mnuEditFillSeries_Click()
 {
     if (selection_.Current() < 0)
         return;
-    dlgFill dialog(selection_.Image(), selection_.Group(), selection_.Current(), &page_);
+    dlgFill dialog(selection_.Image(), selection_.Group(), selection_.Top(), &page_);
     if (dialogs_.Run(dialog) == QDialog::Accepted)
         Take(tr("Fill Series"), dialog.Plan(), false);
 }

@@ -68,6 +68,8 @@ void MemoryPage::ConnectTable()
     connect(table_, &MemoryTable::TogglePressed, rows_, &RowCommands::Toggle);
     connect(table_, &MemoryTable::RowsDragged, moves_, &MoveCommands::Drag);
     connect(table_, &MemoryTable::Dropped, clipboard_, &ClipboardCommands::Drop);
+    // Who copies rows and chooses another bank stands in the list then.
+    actions_->AddPasteKeyTo(*cbbBank_);
     table_->SetCellWriter(
         [this](int row, Column column, const CellInput& input) { return WriteCell(row, column, input); });
 }

@@ -42,9 +42,11 @@ void MemoryTable::UpDateMemData(int selector, RowFilter filter)
 
 void MemoryTable::Refresh(int selector, RowFilter filter)
 {
-    const int row = CurrentTableRow();
+    // Another group keeps the place in the table. Of several rows it is the first: there the same rows begin.
+    const std::vector<int> selected = SelectedTableRows();
     const std::vector<int> before = model_.Rows();
     const bool isSameGroup = selector == model_.Selector();
+    const int row = selected.size() > 1 && !isSameGroup ? selected.front() : CurrentTableRow();
     model_.ShowGroup(selector, filter);
     const bool isSelected = isSameGroup && before == model_.Rows() && currentIndex().isValid() &&
                             selectionModel()->isRowSelected(currentIndex().row(), QModelIndex());

@@ -167,6 +167,13 @@ void RowActions::AddTo(QMenu& menu)
     menu.addActions({actions_.begin(), actions_.end()});
 }
 
+void RowActions::AddPasteKeyTo(QWidget& control)
+{
+    for (QAction* action : actions_)
+        if (action->objectName() == QLatin1String("mnuEditPaste"))
+            control.addAction(action);
+}
+
 bool RowActions::IsPossible(const Item& item) const
 {
     const std::size_t rows = selection_.Rows().size();

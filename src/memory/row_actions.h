@@ -23,6 +23,9 @@ class RowActions : public QObject
 
     void AddTo(QMenu& menu);
 
+    /// Gives Paste its key in another control too, which has no use for it.
+    void AddPasteKeyTo(QWidget& control);
+
     /// Switches on what can be done with what is selected.
     void ShowStates();
 

@@ -1,6 +1,7 @@
 #include "memory/row_selection.h"
 
 #include <QCoreApplication>
+#include <algorithm>
 
 #include "memory/row_names.h"
 
@@ -17,6 +18,12 @@ QString Translated(const char* text)
 RowSelection::RowSelection(Document& document, const QComboBox& cbbBank, MemoryTable& table)
     : document_(document), cbbBank_(cbbBank), table_(table)
 {
+}
+
+int RowSelection::Top() const
+{
+    const RowList rows = Rows();
+    return std::ranges::binary_search(rows, Current()) ? rows.front() : Current();
 }
 
 QString RowSelection::NameOf(int row) const

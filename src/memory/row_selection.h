@@ -34,6 +34,10 @@ class RowSelection
     /// The current memory row, -1 in an empty group.
     int Current() const { return table_.CurrentRow(); }
 
+    /// Where something that is written into the table begins: the current row, and of several selected ones
+    /// the first.
+    int Top() const;
+
     /// True where rows can change their places: the group shown is a bank or a fixed group.
     bool IsMovable() const { return Selector() != kSelectAll; }
     MoveGroup Movable() const { return MoveGroupOf(Image(), Selector()); }

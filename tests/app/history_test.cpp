@@ -99,7 +99,7 @@ class HistoryTest : public WindowTest
                               {}, {8, 8});
             QTest::mouseClick(dialog.findChild<QAbstractButton*>(QStringLiteral("OKButton")), Qt::LeftButton);
         };
-        Press(Qt::Key_F2);
+        Press(Qt::Key_Return);
     }
 
     void Import(const char* name)
@@ -325,7 +325,7 @@ TEST_F(HistoryTest, ABoxTakesBackItsOwnTypingFirst)
     dialogs_.act = [](QDialog& dialog) {
         QTest::keyClick(dialog.focusWidget(), Qt::Key_Z, Qt::ControlModifier);
     };
-    Press(Qt::Key_F2);
+    Press(Qt::Key_Return);
     EXPECT_EQ(RedoText(), "&Redo") << "a dialog leaves the history alone";
 }
 
