@@ -1,5 +1,8 @@
 #include "app/ending.h"
 
+#include <QApplication>
+#include <QSessionManager>
+
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
 #include <unistd.h>
@@ -90,5 +93,29 @@ EndSignals::EndSignals() = default;
 EndSignals::~EndSignals() = default;
 void EndSignals::ReadNumber() {}
 #endif
+
+ProgramEnd::ProgramEnd()
+{
+    connect(&signals_, &EndSignals::Came, this, [this] {
+        if (window_ != nullptr)
+            window_->KeepWork();
+        QApplication::exit(signals_.Status());
+    });
+    connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager&) {
+        if (window_ != nullptr)
+            window_->EndSession();
+    });
+}
+
+int ProgramEnd::Exec(frmMain& window)
+{
+    window_ = &window;
+    const int status = signals_.Status() != 0 ? signals_.Status() : QApplication::exec();
+    // What a transfer stored until it had ended.
+    if (signals_.Status() != 0)
+        window.KeepWork();
+    window_ = nullptr;
+    return status;
+}
 
 }  // namespace rqm5

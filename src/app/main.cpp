@@ -1,7 +1,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QLocale>
-#include <QSessionManager>
 #include <QTranslator>
 #include <algorithm>
 #include <initializer_list>
@@ -94,21 +93,7 @@ int main(int argc, char** argv)
     options.portFile = rqm5::PortFilePath(QApplication::applicationDirPath());
     options.stateFolder = rqm5::StateFolder();
     options.useDevice = [&port](const QString& device) { port.SetDevice(device); };
-    std::unique_ptr<rqm5::frmMain> window;
-    rqm5::EndSignals endSignals;
-    QObject::connect(&endSignals, &rqm5::EndSignals::Came, [&] {
-        if (window)
-            window->KeepWork();
-        QApplication::exit(endSignals.Status());
-    });
-    QObject::connect(&application, &QGuiApplication::commitDataRequest, [&](QSessionManager&) {
-        if (window)
-            window->EndSession();
-    });
-    window = rqm5::StartUp(port, dialogs, options);
-    const int status = endSignals.Status() != 0 ? endSignals.Status() : QApplication::exec();
-    // What a transfer stored until it had ended.
-    if (endSignals.Status() != 0)
-        window->KeepWork();
-    return status;
+    rqm5::ProgramEnd end;
+    const auto window = rqm5::StartUp(port, dialogs, options);
+    return end.Exec(*window);
 }

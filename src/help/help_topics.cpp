@@ -45,6 +45,8 @@ constexpr Topic kTopics[] = {
     {"Frame1_2", "channels-and-banks.md#the-memory-page"},
     {"Frame1_3", "channels-and-banks.md#the-bank-page"},
     {"txtNote", "files-and-csv.md#notes-and-the-characters-they-cannot-hold"},
+    {"cmbSafeNote", "limits.md#notes-with-a-comma-or-quotes"},
+    {"barMessage", "messages.md#messages-of-the-bar-above-the-tabs"},
     {"dlgModify", "channels-and-banks.md#the-channel-editor"},
     {"dlgCOM", "ports.md"},
     {"dlgPrint", "printing.md"},

@@ -130,6 +130,17 @@ TEST_F(WriteOptionsTest, AGroupThatTakesFlagsFromTheReceiverSaysHowMany)
         << "first of the two";
 }
 
+TEST_F(WriteOptionsTest, NoBackupReplacesAnother)
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    const QString first = NewBackupPath(folder_.path(), {}, now);
+    ASSERT_TRUE(QFile(first).open(QIODevice::WriteOnly));
+    const QString second = NewBackupPath(folder_.path(), {}, now);
+    ASSERT_TRUE(second != first && QFile(second).open(QIODevice::WriteOnly));
+    const QString third = NewBackupPath(folder_.path(), {}, now);
+    EXPECT_TRUE(third != first && third != second && !QFile::exists(third));
+}
+
 TEST_F(WriteOptionsTest, VerifyNamesTheRowsThatDiffer)
 {
     Item("mnuReAll").trigger();
@@ -163,7 +174,24 @@ TEST_F(WriteOptionsTest, WithoutItsBackupNothingIsWrittenAndACancelTellsWhatWas)
     EXPECT_EQ(receiver_.Memory(), before);
     EXPECT_TRUE(Backups().isEmpty());
 
+    // A folder that goes away meanwhile, and one that is none: a backup that cannot be saved is kept
+    // elsewhere.
     receiver_.SetFaults({});
+    qputenv("XDG_STATE_HOME", QFile::encodeName(Path("state")));
+    At(100, [this] {
+        QDir(Path("backups")).removeRecursively();
+        QFile(Path("backups")).open(QIODevice::WriteOnly);
+    });
+    for (const bool wasRead : {true, false}) {
+        dialogs_.asked.clear();
+        Item("mnuWrMemory").trigger();
+        ASSERT_EQ(dialogs_.asked.size(), 1U);
+        EXPECT_TRUE(dialogs_.asked[0].details.contains(QStringLiteral("nothing was written")));
+        EXPECT_EQ(dialogs_.asked[0].details.contains(Path("state/rq-m5-clone/recovery-read-")), wasRead);
+        EXPECT_EQ(receiver_.Memory(), before);
+    }
+    qunsetenv("XDG_STATE_HOME");
+    dialogs_.asked.resize(1);
     SaveWriteOptions({false, false, Path("backups")});
     At(20, [this] { Find<QPushButton>("cmbCancel").click(); });
     Item("mnuWrMemory").trigger();

@@ -4,12 +4,14 @@
 #include <QDir>
 #include <QFile>
 
+#include <QDir>
 #include <csignal>
 #include <filesystem>
 #include <future>
 
 #include "cli/command_run.h"
 #include "files/clone_file.h"
+#include "files/file_store.h"
 #include "memory/start_image.h"
 #include "simulator/demo_image.h"
 #include "simulator/sim_session.h"
@@ -116,6 +118,55 @@ TEST_F(Transfers, MoveOnlyWhatIsAskedFor)
         for (const std::string& sent : receiver.CommandLog())
             EXPECT_FALSE(sent.starts_with("QT~F0040") || sent.starts_with("QT~F0C")) << command << sent;
     }
+}
+
+/// What a read leaves in the user's state folder.
+QStringList Rescued(const QString& state)
+{
+    return QDir(state + QStringLiteral("/rq-m5-clone")).entryList({QStringLiteral("recovery-read-*.RQ5")});
+}
+
+TEST_F(Transfers, AReadThatCannotBeSavedIsKeptElsewhere)
+{
+    const QTemporaryDir state;
+    qputenv("XDG_STATE_HOME", QFile::encodeName(state.path()));
+    const std::string inside = folder / "folder/radio.RQ5";
+    EXPECT_EQ(RunProgramFile({"new", file}).status, 0);
+    for (const bool isBackup : {false, true}) {
+        ASSERT_TRUE(QDir().mkpath(QString::fromStdString(folder / "folder")));
+        SimOptions options = Demo();
+        int commands = 0;
+        options.onCommand = [&](const std::string&) {
+            if (++commands == 30)
+                QDir(QString::fromStdString(folder / "folder")).removeRecursively();
+        };
+        const SimSession receiver(options);
+        const ReceiverMemory before = receiver.Memory();
+        const RunResult run = isBackup ? Transfer("write", receiver, file, {"--backup", inside})
+                                       : Transfer("read", receiver, inside);
+        EXPECT_EQ(run.status, 1);
+        EXPECT_EQ(Has(run.err, "nothing was written"), isBackup) << run.err;
+        EXPECT_EQ(receiver.Memory(), before);
+        const QStringList kept = Rescued(state.path());
+        ASSERT_EQ(kept.size(), 1);
+        const QString path = state.path() + QStringLiteral("/rq-m5-clone/") + kept.constFirst();
+        EXPECT_TRUE(Has(run.err, path.toStdString())) << run.err;
+        CloneImage image;
+        ASSERT_FALSE(LoadCloneFile(path, image));
+        EXPECT_TRUE(image.MemData(0) == ImageFromMemory(receiver.Memory(), {}).MemData(0));
+        QFile::remove(path);
+    }
+    // A note between quotes may hold a comma that the next save would not survive.
+    CloneImage image = StartUpImage(0);
+    image.MemData(1203).note = "\"a, b\"";
+    PutBytes(file, FormatCloneFile(image));
+    const SimSession receiver(Demo());
+    const RunResult run = Transfer("read", receiver, file, {"--only=settings"});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_TRUE(Has(run.err, "is as it was") && Has(run.err, "memory row 1203")) << run.err;
+    EXPECT_EQ(Bytes(file), FormatCloneFile(image));
+    EXPECT_EQ(Rescued(state.path()).size(), 1);
+    qunsetenv("XDG_STATE_HOME");
 }
 
 using Write = Transfers;

@@ -62,7 +62,12 @@ TEST(Csv, AnExportImportsAgain)
 {
     const CloneImage image = DemoImage(1);
     CloneImage imported;
-    EXPECT_EQ(ParseCsv(FormatCsv(image), imported).rows, 1224);
+    const CsvTaken taken = ParseCsv(FormatCsv(image), imported);
+    EXPECT_EQ(taken.rows, 1224);
+    int moved = 0;
+    for (int row = 0; row < kRadioRows; ++row)
+        moved += imported.MemData(row).carrier == image.MemData(row).carrier + 1 ? 1 : 0;
+    EXPECT_TRUE(moved > 0 && taken.movedCarriers == moved) << "3000Hz, JR and empty rows stay";
     for (int row = 0; row < kRadioRows; ++row) {
         EXPECT_EQ(imported.MemEnable(row), image.MemEnable(row)) << row;
         EXPECT_EQ(imported.MemText(row, kFrequency), image.MemText(row, kFrequency)) << row;
@@ -178,11 +183,12 @@ TEST(Csv, NamesTheNotesThatASpreadsheetWouldRun)
 {
     CloneImage image = StartUpImage(0);
     image.VFOData(13).note = "=1+1";
-    for (int row = 0; const char* note : {"+1", "-1", "@x", "\tx", "＝1", "＋1", "－1", "＠x", " =1", "1=1"})
+    for (int row = 0;
+         const char* note : {"+1", "-1", "@x", "\tx", "\rx", "＝1", "＋1", "－1", "＠x", " =1", "1=1"})
         image.MemData(row++).note = note;
     image.MemData(1209).note = image.MemData(1210).note = "=";  // no CSV holds the second
     const Texts names = NotesThatLookLikeFormulas(image);
-    ASSERT_EQ(names.size(), 10U);
+    ASSERT_EQ(names.size(), 11U);
     EXPECT_EQ(names.front() + ", " + names.back(), "VFO row 13, memory row 1209 (Priority Pr9)");
 }
 

@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 
 #include "image/row_texts.h"
 #include "ui/page_test.h"
@@ -230,6 +231,36 @@ TEST_F(ModifyDialogTest, CancelChangesNothingAndAsksNothing)
     EXPECT_TRUE(image_ == before && !document_.DataChanged() && dialogs_.asked.empty());
 }
 
+TEST_F(ModifyDialogTest, TheFileSafeFormOfANoteIsOfferedAndTheChoiceRemembered)
+{
+    const auto note = [this] { return Get<QLineEdit>("txtNote").text(); };
+    Memory(0, [&] {
+        Type(Get<QLineEdit>("txtNote"), "a,b");
+        EXPECT_EQ(note(), QStringLiteral("a,b"));
+        Click(dialog_, "cmbSafeNote");
+        EXPECT_EQ(note(), QStringLiteral("a;b"));
+        QTest::keyClicks(&Get<QLineEdit>("txtNote"), QStringLiteral(",c"));
+        EXPECT_EQ(note(), QStringLiteral("a;b;c")) << "the cursor stays where it is";
+        Type(Get<QLineEdit>("txtNote"), "\"q\"");
+        EXPECT_EQ(note(), QStringLiteral("'q'"));
+        QApplication::clipboard()->setText(QStringLiteral("x, y"));
+        Get<QLineEdit>("txtNote").selectAll();
+        Get<QLineEdit>("txtNote").paste();
+        EXPECT_EQ(note(), QStringLiteral("x; y"));
+        EXPECT_TRUE(Get<QLabel>("lblNoteHint").isVisible()) << "what was replaced is said";
+    });
+    EXPECT_TRUE(Find<QPushButton>(*std::make_unique<dlgModify>(document_, dialogs_, &mainWindow_),
+                                  QStringLiteral("cmbSafeNote"))
+                    .isChecked());
+    Memory(0, [&] {
+        EXPECT_FALSE(Get<QLabel>("lblNoteHint").isVisible());
+        Type(Get<QLineEdit>("txtNote"), "a,");
+        Click(dialog_, "cmbSafeNote");
+        Type(Get<QLineEdit>("txtNote"), "a,b");
+        EXPECT_EQ(note(), QStringLiteral("a,b")) << "the choice was taken back";
+    });
+}
+
 TEST_F(ModifyDialogTest, OkStoresWhatTheControlsHold)
 {
     EXPECT_TRUE(Memory(0, [this] {
@@ -239,6 +270,9 @@ TEST_F(ModifyDialogTest, OkStoresWhatTheControlsHold)
         Type(Get<QLineEdit>("txtShift"), "0.6");
         Type(Get<QLineEdit>("txtNote"), "a,b");
         EXPECT_TRUE(Get<QLabel>("lblNoteHint").isVisible());
+        Type(Get<QLineEdit>("txtNote"), "5\" rod");
+        EXPECT_FALSE(Get<QLabel>("lblNoteHint").isVisible()) << "such quotes come back";
+        Type(Get<QLineEdit>("txtNote"), "a,b");
         Click(dialog_, "OKButton");
     }));
     const Channel& row = image_.MemData(0);
