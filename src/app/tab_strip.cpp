@@ -104,7 +104,8 @@ void TabStrip::TabStrip1_Click()
         ShowTipOf(currentIndex());
     const auto chosen = static_cast<std::size_t>(currentIndex());
     Frame1_.at(chosen)->setEnabled(true);
-    // The fourth page is never disabled, only covered: a bank size that is typed there can be checked from anywhere.
+    // The fourth page is never disabled, only covered: a bank size that is typed there can be checked from
+    // anywhere.
     for (std::size_t i = 0; i < 3; ++i)
         if (i != chosen)
             Frame1_.at(i)->setEnabled(false);

@@ -99,7 +99,7 @@ class TransferCommands : public QObject, private TransferObserver
     QStringList notes_;               ///< sentences for the end of the transfer
     ReceiverIdentity receiver_;
     std::pair<int, int> agreed_;  ///< models of receiver and image that the user has said yes to
-    int repeated_ = 0;                ///< blocks that needed more than one attempt
+    int repeated_ = 0;            ///< blocks that needed more than one attempt
     bool isRunning_ = false;
     bool isCancelled_ = false;
 };

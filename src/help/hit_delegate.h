@@ -4,8 +4,8 @@
 
 namespace rqm5 {
 
-/// Paints an entry of two lines as a title and, below it, smaller in weight, a piece of text in two rows at most.
-/// An entry of one line is painted as ever.
+/// Paints an entry of two lines as a title and, below it, smaller in weight, a piece of text in two rows at
+/// most. An entry of one line is painted as ever.
 class HitDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

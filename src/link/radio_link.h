@@ -61,8 +61,8 @@ class RadioLink : public QObject
     const std::string& LastDiscarded() const { return discarded_; }
 
     /// True when a command ended without its reply, which may still come. The link remembers it from one
-    /// operation to the next, until the line has been silent long enough. A device that went away has taken with it
-    /// what was under way.
+    /// operation to the next, until the line has been silent long enough. A device that went away has taken
+    /// with it what was under way.
     bool MayStillReply() const { return mayStillReply_; }
 
     /// Waits after a failed attempt: for 50 ms of silence, at most 500 ms.
