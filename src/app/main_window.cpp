@@ -46,6 +46,12 @@ frmMain::frmMain(SerialPort& port, Dialogs& dialogs, const StartOptions& options
     resize(kUsualSize.boundedTo(screen()->availableSize() - kWindowFrame));
 }
 
+frmMain::~frmMain()
+{
+    // The pages show the document to their end, and a window that closes makes them draw once more.
+    delete takeCentralWidget();
+}
+
 void frmMain::Compose()
 {
     menus_ = new Menus(*menuBar());

@@ -36,6 +36,7 @@ class frmMain : public QMainWindow
 
   public:
     frmMain(SerialPort& port, Dialogs& dialogs, const StartOptions& options);
+    ~frmMain() override;
 
     /// Reads the COM number, waits for the splash time, then offers what a crash left behind or opens the
     /// file of the command line. Runs once, before the window is shown.

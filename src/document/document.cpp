@@ -137,8 +137,8 @@ void Document::History_IndexChanged()
         file_.isMarked = false;
     const ImageChange change = std::exchange(stepped_, {});
     Announce(change);
-    emit StateChanged();
     emit Stepped(change);
+    emit StateChanged();
 }
 
 Transaction::Transaction(Document& document, const QString& name)

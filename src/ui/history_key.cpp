@@ -23,7 +23,8 @@ bool HistoryKey::eventFilter(QObject* watched, QEvent* event)
     const bool isRedo = key->matches(QKeySequence::Redo) ||
                         (key->key() == Qt::Key_Y && key->modifiers() == Qt::ControlModifier);
     const bool hasTyping = box->isUndoAvailable() || box->isRedoAvailable();
-    const bool isForHistory = (isRedo || key->matches(QKeySequence::Undo)) && !hasTyping;
+    const bool isForHistory =
+        (isRedo && !hasTyping) || (key->matches(QKeySequence::Undo) && !box->isUndoAvailable());
     if (isForHistory)
         event->ignore();
     return isForHistory;
