@@ -157,7 +157,7 @@ TEST_F(HistoryTest, EveryKindOfEditIsTakenBackAndMadeAgain)
         {"Delete (memory row 3 (Bank 0, channel 3))", [this] { OnRow(3, "cmbDelete"); }},
         {"Clear (Bank 0, channel 3)", [this] { OnRow(3, "cmbClear"); }},
         {"Clear All (All, 1210 channels)", [this] { OnRow(3, "cmbClAll"); }},
-        {"Modify (CH 3)",
+        {"Modify (Bank 0 CH 3)",
          [this] {
              GoToRow(kSelectAll, 4);
              Modify();
