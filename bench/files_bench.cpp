@@ -124,7 +124,7 @@ void ImportFile(benchmark::State& state)
     const QString path = folder.filePath(QStringLiteral("bench.csv"));
     CloneImage image = FullImage();
     ExportCsv(path, image);
-    int taken = 0;
+    CsvTaken taken;
     for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize(ImportCsv(path, image, taken));
 }

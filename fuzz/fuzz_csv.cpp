@@ -24,7 +24,7 @@ const CloneImage& FreshImage()
 void RequireEncodable(const ChannelContents& contents, RowKind kind)
 {
     ChannelContents read = DecodeBlock(EncodeChannel(contents), kind).value_or(ChannelContents());
-    // A shift of 0.05 MHz reads back as 0.5 MHz: deliberate.
+    // A shift of 0.05 MHz reads back as 0.5 MHz, as receivers in the field have it.
     if (read.frequency != 0)
         read.shiftFrequency = contents.shiftFrequency;
     // The receiver knows the 1 kHz step for VFO rows only.
@@ -57,7 +57,7 @@ void RequireStableExport(CloneImage image)
 void CheckCsv(std::string_view text)
 {
     static CloneImage image = FreshImage();
-    const int taken = ParseCsv(text, image);
+    const int taken = ParseCsv(text, image).rows;
     const ImageChange change = Difference(FreshImage(), image);
     Require(taken > 0 || change.IsEmpty(), "a text without records changes nothing");
     if (change.IsEmpty())

@@ -2,8 +2,12 @@
 
 #include <QFileInfo>
 
+#include "app/save_prompts.h"
 #include "files/clone_file.h"
 #include "files/csv_file.h"
+#include "files/file_access.h"
+#include "files/file_kind.h"
+#include "files/note_repair.h"
 #include "image/value_tables.h"
 #include "memory/start_image.h"
 #include "ui/error_prompt.h"
@@ -25,9 +29,10 @@ constexpr std::size_t kNamedRows = 10;
 
 }  // namespace
 
-FileCommands::FileCommands(Document& document, Dialogs& dialogs, QWidget& window)
-    : QObject(&window), document_(document), dialogs_(dialogs), window_(window)
+FileCommands::FileCommands(Document& document, CurrentFile& currentFile, Dialogs& dialogs, QWidget& window)
+    : QObject(&window), document_(document), currentFile_(currentFile), dialogs_(dialogs), window_(window)
 {
+    connect(&document, &Document::Replaced, this, [this] { emit NotesLost(QString()); });
 }
 
 QString FileCommands::Caption() const
@@ -86,24 +91,57 @@ void FileCommands::OpenDropped(const QString& path)
 bool FileCommands::Load(const QString& path)
 {
     CloneImage image = document_.Image();
-    if (!Report(LoadCloneFile(path, image)))
+    FileMark mark;
+    if (!Report(LoadCloneFile(path, image, &mark)))
         return false;
+    currentFile_.Know(Absolute(path), mark);
     document_.Replace(std::move(image), Absolute(path));
     return true;
 }
 
-bool FileCommands::Recover(const QString& path, const QString& origin)
+void FileCommands::LoadAgain()
+{
+    // The path goes out of the document while the file is loaded.
+    const QString path = document_.FileName();
+    if (MayLoseChanges())
+        Load(path);
+}
+
+bool FileCommands::Recover(const RecoveryFile& file)
 {
     CloneImage image = document_.Image();
-    if (!Report(LoadCloneFile(path, image)))
+    if (!Report(LoadCloneFile(file.Path(), image)))
         return false;
-    document_.Replace(std::move(image), QFileInfo(origin).isFile() ? Absolute(origin) : QString(), false);
+    const RecoveryOrigin origin = file.Origin();
+    const QString path = QFileInfo(origin.path).isFile() ? Absolute(origin.path) : QString();
+    if (!path.isEmpty())
+        currentFile_.Know(path, origin.mark);
+    document_.Replace(std::move(image), path, false);
     return true;
+}
+
+FileCommands::Answer FileCommands::AskToReplace(const Prompt& question)
+{
+    const QMessageBox::StandardButton answer = Ask(question);
+    return answer == QMessageBox::Yes  ? Answer::Save
+           : answer == QMessageBox::No ? Answer::SaveAs
+                                       : Answer::Cancel;
+}
+
+FileCommands::Answer FileCommands::MayReplaceCurrent()
+{
+    const CurrentFile::State state = currentFile_.Look();
+    return state == CurrentFile::State::AsKnown
+               ? Answer::Save
+               : AskToReplace(AlteredFilePrompt(document_.FileName(), state));
 }
 
 bool FileCommands::mnuFileSave_Click()
 {
-    return document_.FileName().isEmpty() ? mnuFileSaveAs_Click() : SaveTo(document_.FileName());
+    const Answer answer = document_.FileName().isEmpty() ? Answer::SaveAs : MayReplaceCurrent();
+    if (answer == Answer::SaveAs)
+        return mnuFileSaveAs_Click();
+    return answer == Answer::Save && SaveTo(document_.FileName());
 }
 
 bool FileCommands::mnuFileSaveAs_Click()
@@ -112,16 +150,37 @@ bool FileCommands::mnuFileSaveAs_Click()
     return !path.isEmpty() && SaveTo(path);
 }
 
-bool FileCommands::SaveTo(const QString& path)
+bool FileCommands::SaveTo(const QString& chosen)
 {
+    const QString path = Absolute(chosen);
+    if (const int names = NameCount(path); names > 1) {
+        const Answer answer = AskToReplace(HardLinkPrompt(path, names));
+        if (answer != Answer::Save)
+            return answer == Answer::SaveAs && mnuFileSaveAs_Click();
+    }
+    const FileKind kind = KindOf(path);
+    QString kept;
+    if (kind != FileKind::None && kind != FileKind::Empty && kind != FileKind::Clone && !SaveObstacle(path) &&
+        !Report(KeepOldFile(path, kept)))
+        return false;
     const SaveOutcome outcome = SaveCloneFile(path, document_.Image());
+    if (!outcome.mark.isEmpty())
+        currentFile_.Know(path, outcome.mark);
     if (!Report(outcome.problem))
         return false;
-    document_.MarkSaved(Absolute(path));
+    document_.MarkSaved(path);
+    TellOfSave(path, outcome, kept);
+    return true;
+}
+
+void FileCommands::TellOfSave(const QString& path, const SaveOutcome& outcome, const QString& kept)
+{
+    emit NotesLost(LostNotesWarning(path, outcome.lostNotes));
+    if (const QString note = SaveNote(path, outcome, kept); !note.isEmpty())
+        emit Noted(note);
     WarnOfNotes(tr("The file is saved, but a clone file cannot hold notes with a comma or quotes. While "
                    "these notes stay as they are, the file cannot be opened again or shows them changed."),
                 outcome.lostNotes);
-    return true;
 }
 
 void FileCommands::mnuFileExport_Click()
@@ -133,6 +192,7 @@ void FileCommands::mnuFileExport_Click()
     const QString path = dialogs_.ChooseFile(&window_, FileChoice::SaveCsv, suggested);
     if (path.isEmpty() || !Report(ExportCsv(path, document_.Image())))
         return;
+    currentFile_.Know(Absolute(path), MarkOf(FormatCsv(document_.Image())));
     document_.MarkSaved(Absolute(path));
     WarnOfNotes(tr("The file is written. A spreadsheet may run these notes as formulas."),
                 NotesThatLookLikeFormulas(document_.Image()));
@@ -144,14 +204,59 @@ void FileCommands::mnuFileImport_Click()
     if (path.isEmpty())
         return;
     CloneImage image = document_.Image();
-    int taken = 0;
-    if (!Report(ImportCsv(path, image, taken)))
+    CsvTaken taken;
+    FileMark mark;
+    if (!Report(ImportCsv(path, image, taken, &mark)))
         return;
-    if (taken == 0)
+    if (taken.rows == 0) {
         emit NothingImported();
-    else
-        document_.Import(tr("Import (%1)").arg(VisibleText(QFileInfo(path).fileName())), image,
-                         Absolute(path));
+        return;
+    }
+    currentFile_.Know(Absolute(path), mark);
+    document_.Import(tr("Import (%1)").arg(VisibleText(QFileInfo(path).fileName())), image, Absolute(path));
+    if (const QString note = ImportNote(NotesThatDoNotSurvive(image)); !note.isEmpty())
+        emit Noted(note);
+}
+
+void FileCommands::mnuFileRepair_Click()
+{
+    if (!MayLoseChanges())
+        return;
+    const QString path = dialogs_.ChooseFile(&window_, FileChoice::OpenClone, document_.FileName());
+    std::string bytes;
+    if (path.isEmpty() || !Report(ReadWholeFile(path, bytes)))
+        return;
+    const auto result = RepairNotes(bytes);
+    if (const auto* error = std::get_if<ParseError>(&result)) {
+        Report(Problem{kDataError, VisibleText(path).toStdString() + ": " + error->reason});
+        return;
+    }
+    const auto& repair = std::get<NoteRepair>(result);
+    if (repair.notes.empty()) {
+        if (Load(path))
+            emit Noted(tr("There was nothing to repair; the file is open."));
+        return;
+    }
+    const QString written = WriteRepaired(path, repair);
+    if (!written.isEmpty() && Load(written))
+        emit Noted(tr("Repaired notes: %1").arg(repair.notes.size()));
+}
+
+QString FileCommands::WriteRepaired(const QString& path, const NoteRepair& repair)
+{
+    const QMessageBox::StandardButton answer = Ask(RepairPrompt(path, repair));
+    QString target;
+    QString kept;
+    if (answer == QMessageBox::No && Report(KeepOldFile(path, kept)))
+        target = path;
+    const QFileInfo info(path);
+    if (answer == QMessageBox::Yes)
+        target = dialogs_.ChooseFile(&window_, FileChoice::SaveClone,
+                                     info.path() + QLatin1Char('/') + info.completeBaseName() +
+                                         tr(" repaired") + QStringLiteral(".RQ5"));
+    if (target.isEmpty() || !Report(WriteWholeFile(target, repair.text)))
+        return {};
+    return target;
 }
 
 QMessageBox::StandardButton FileCommands::Ask(const Prompt& prompt)

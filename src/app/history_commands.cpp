@@ -1,6 +1,7 @@
 #include "app/history_commands.h"
 
 #include "ui/history_key.h"
+#include "ui/icons.h"
 
 namespace rqm5 {
 
@@ -9,8 +10,6 @@ HistoryCommands::HistoryCommands(Document& document, Menus& menus, QMainWindow& 
 {
     new HistoryKey(window);
     MakeView(window);
-    connect(&menus.Item("mnuHistoryUndo"), &QAction::triggered, &history_, &QUndoStack::undo);
-    connect(&menus.Item("mnuHistoryRedo"), &QAction::triggered, &history_, &QUndoStack::redo);
     connect(&history_, &QUndoStack::indexChanged, this, &HistoryCommands::ShowItems);
     // A run that goes on changes the name of the step and nothing else.
     connect(&document, &Document::StateChanged, this, &HistoryCommands::ShowItems);
@@ -25,7 +24,10 @@ void HistoryCommands::MakeView(QMainWindow& window)
     view->setObjectName(QStringLiteral("lstHistory"));
     view->setAccessibleName(tr("Changes, the latest at the end"));
     view->setStatusTip(tr("A click takes back or makes again every change down to there"));
-    view->setEmptyLabel(tr("As it was opened"));
+    view->setEmptyLabel(tr("Before these changes"));
+    view->setCleanIcon(IconOf("mnuFileSave"));
+    // A window of its own would take a click without the box that is typed into noticing.
+    dckHistory_->setFeatures(QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable);
     dckHistory_->setWidget(view);
     window.addDockWidget(Qt::RightDockWidgetArea, dckHistory_);
     dckHistory_->hide();

@@ -9,7 +9,7 @@
 
 namespace rqm5 {
 
-/// Undo, Redo and the list of the steps.
+/// The items of Undo and Redo, and the list of the steps.
 class HistoryCommands : public QObject
 {
     Q_OBJECT
@@ -17,12 +17,14 @@ class HistoryCommands : public QObject
   public:
     HistoryCommands(Document& document, Menus& menus, QMainWindow& window);
 
+    /// Undo and Redo say what they would do, in the language of now.
+    void ShowItems();
+
     /// Nothing is taken back while a transfer runs.
     void SetTransferRunning(bool isRunning);
 
   private:
     void MakeView(QMainWindow& window);
-    void ShowItems();
 
     QUndoStack& history_;
     Menus& menus_;

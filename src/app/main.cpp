@@ -2,11 +2,16 @@
 #include <QCommandLineParser>
 #include <QLocale>
 #include <QTranslator>
+#include <algorithm>
+#include <initializer_list>
+#include <string_view>
 
 #include "app/command_file.h"
+#include "app/ending.h"
 #include "app/recovery.h"
 #include "app/start_up.h"
 #include "files/file_store.h"
+#include "files/plain_settings.h"
 #include "link/port_file.h"
 #include "link/qt_serial_port.h"
 #include "ui/icons.h"
@@ -14,16 +19,56 @@
 
 namespace {
 
-QStringList FileArguments(const QApplication& application)
+/// Sets the names and the language, which texts at the terminal have, too.
+void Introduce(const QCoreApplication& application, QTranslator& translator)
 {
-    QCommandLineParser parser;
+    QCoreApplication::setOrganizationName(QStringLiteral("Tervan"));
+    QCoreApplication::setApplicationName(QStringLiteral("Tervan RQ-M5 Clone Utility"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(RQM5_VERSION));
+    if (translator.load(QLocale(), QStringLiteral("rq-m5-clone"), QStringLiteral("_"),
+                        application.applicationDirPath() + QStringLiteral("/translations")))
+        QCoreApplication::installTranslator(&translator);
+}
+
+void Describe(QCommandLineParser& parser)
+{
     parser.setApplicationDescription(
-        QApplication::translate("main", "Reads, edits and writes the memory of an RQ-M5 receiver."));
+        QCoreApplication::translate("main", "Reads, edits and writes the memory of an RQ-M5 receiver."));
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("FILE"),
-                                 QApplication::translate("main", "Clone file to open."),
+                                 QCoreApplication::translate("main", "Clone file to open."),
                                  QStringLiteral("[FILE]"));
+}
+
+bool Asks(int argc, char** argv, std::initializer_list<std::string_view> words)
+{
+    for (int i = 1; i < argc && std::string_view(argv[i]) != "--"; ++i)
+        if (std::ranges::find(words, argv[i]) != words.end())
+            return true;
+    return false;
+}
+
+/// Help and version are for the terminal, where there may be no display.
+void AnswerAtTheTerminal(int argc, char** argv)
+{
+    const bool wantsVersion = Asks(argc, argv, {"-v", "--version"});
+    if (!wantsVersion && !Asks(argc, argv, {"-h", "-?", "--help"}))
+        return;
+    const QCoreApplication application(argc, argv);
+    QTranslator translator;
+    Introduce(application, translator);
+    QCommandLineParser parser;
+    Describe(parser);
+    if (wantsVersion)
+        parser.showVersion();
+    parser.showHelp();
+}
+
+QStringList FileArguments(const QApplication& application)
+{
+    QCommandLineParser parser;
+    Describe(parser);
     parser.process(application);
     return parser.positionalArguments();
 }
@@ -33,26 +78,22 @@ QStringList FileArguments(const QApplication& application)
 int main(int argc, char** argv)
 {
     rqm5::TurnFileSizeLimitIntoError();
+    rqm5::PassOverSettingsThatAreNoFiles();
+    AnswerAtTheTerminal(argc, argv);
     QApplication application(argc, argv);
-    QApplication::setOrganizationName(QStringLiteral("Tervan"));
-    QApplication::setApplicationName(QStringLiteral("Tervan RQ-M5 Clone Utility"));
-    QApplication::setApplicationVersion(QStringLiteral(RQM5_VERSION));
+    QTranslator translator;
+    Introduce(application, translator);
     QApplication::setDesktopFileName(QStringLiteral("rq-m5-clone"));
     QApplication::setWindowIcon(rqm5::ProgramIcon());
-
-    QTranslator translator;
-    const QString folder = QApplication::applicationDirPath();
-    if (translator.load(QLocale(), QStringLiteral("rq-m5-clone"), QStringLiteral("_"),
-                        folder + QStringLiteral("/translations")))
-        QApplication::installTranslator(&translator);
 
     rqm5::QtSerialPort port{QString()};
     rqm5::MessageDialogs dialogs;
     rqm5::StartOptions options;
     options.commandFile = rqm5::CommandFile(rqm5::CommandLineText(FileArguments(application)));
-    options.portFile = rqm5::PortFilePath(folder);
+    options.portFile = rqm5::PortFilePath(QApplication::applicationDirPath());
     options.stateFolder = rqm5::StateFolder();
     options.useDevice = [&port](const QString& device) { port.SetDevice(device); };
+    rqm5::ProgramEnd end;
     const auto window = rqm5::StartUp(port, dialogs, options);
-    return QApplication::exec();
+    return end.Exec(*window);
 }

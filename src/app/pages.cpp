@@ -1,7 +1,5 @@
 #include "app/pages.h"
 
-#include <algorithm>
-
 namespace rqm5 {
 
 Pages::Pages(Document& document, Dialogs& dialogs, QWidget* parent)
@@ -41,9 +39,10 @@ void Pages::GoTo(const ImageChange& change)
         settings1_->GoToVfoRow(change.VfoRows().front());
     } else if (change.HasBanks()) {
         BringToFront(Tab::Bank);
-        const int bank =
-            change.BankSize.empty() ? change.BankLink.front().index : change.BankSize.front().index;
-        banks_->GoToBank(std::min(bank, kBanks - 1));
+        if (change.BankSize.empty())
+            banks_->GoToLink(change.BankLink.front().index);
+        else
+            banks_->GoToBank(change.BankSize.front().index);
     } else if (!change.Settings.empty()) {
         const bool isOnFirst = Settings1Page::Shows(change.Settings.front().index);
         BringToFront(isOnFirst ? Tab::Settings1 : Tab::Settings2);

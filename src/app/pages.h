@@ -31,9 +31,10 @@ class Pages : public QObject
     /// Brings what a step of the history touched to the front and selects it: its page, group and row.
     void GoTo(const ImageChange& change);
 
-  private:
+    /// Brings a tab's page to the front unless it is there.
     void BringToFront(Tab tab);
 
+  private:
     TabStrip* TabStrip1_;
     Settings1Page* settings1_;
     Settings2Page* settings2_;

@@ -1,9 +1,7 @@
 #include "app/recovery.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QLocale>
-#include <QStandardPaths>
 
 #include "ui/plain_text.h"
 
@@ -14,12 +12,15 @@ enum class Choice { Recover, Discard, Later };
 
 Choice Ask(Dialogs& dialogs, QWidget* parent, const RecoveryFile& file)
 {
-    const QString origin = file.Origin();
+    const QString origin = file.Origin().path;
+    const bool isRead = file.Holds() == RecoveryFile::Work::Read;
     const QString name = origin.isEmpty() ? Recovery::tr("changes that were in no file yet")
                                           : VisibleText(QFileInfo(origin).fileName());
     Prompt question;
     question.title = Recovery::tr("Recovery");
-    question.text = Recovery::tr("The program ended before your changes were saved. They were kept.");
+    question.text = isRead
+                        ? Recovery::tr("What was read from the receiver could not be saved. It was kept.")
+                        : Recovery::tr("The program ended before your changes were saved. They were kept.");
     question.details =
         Recovery::tr("File: %1\nKept: %2").arg(name, QLocale().toString(file.Time(), QLocale::ShortFormat));
     question.icon = QMessageBox::Question;
@@ -39,18 +40,6 @@ Choice Ask(Dialogs& dialogs, QWidget* parent, const RecoveryFile& file)
 }
 
 }  // namespace
-
-QString StateFolder()
-{
-#ifdef Q_OS_LINUX
-    const QString set = qEnvironmentVariable("XDG_STATE_HOME");
-    const QString base =
-        QDir::isAbsolutePath(set) ? set : QDir::home().filePath(QStringLiteral(".local/state"));
-    return QDir(base).filePath(QStringLiteral("rq-m5-clone"));
-#else
-    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
-#endif
-}
 
 Recovery::Recovery(const Document& document, const QString& folder, std::chrono::milliseconds delay,
                    QObject* parent)
@@ -77,11 +66,28 @@ void Recovery::Keep()
 {
     if (!file_)
         file_ = std::make_unique<RecoveryFile>(folder_);
-    pool_.start([this, image = document_.Image(), origin = document_.FileName(), file = file_.get()] {
+    pool_.start([this, image = document_.Image(), origin = Origin(), file = file_.get()] {
         const auto problem = file->Keep(RecoveryText(image), origin);
         const QString reason = problem ? QString::fromStdString(problem->details) : QString();
         QMetaObject::invokeMethod(this, [this, reason] { Keep_Done(reason); });
     });
+}
+
+RecoveryOrigin Recovery::Origin() const
+{
+    return {document_.FileName(), mark_ ? mark_() : FileMark()};
+}
+
+void Recovery::KeepNow()
+{
+    if (!document_.DataChanged() || folder_.isEmpty() || hasEnded_)
+        return;
+    timer_.stop();
+    if (!file_)
+        file_ = std::make_unique<RecoveryFile>(folder_);
+    pool_.waitForDone();
+    if (const auto problem = file_->Keep(RecoveryText(document_.Image()), Origin()))
+        qWarning("%s", problem->details.c_str());
 }
 
 void Recovery::Keep_Done(const QString& reason)
@@ -111,7 +117,7 @@ void Recovery::End()
 }
 
 bool Recovery::Offer(Dialogs& dialogs, QWidget* parent,
-                     const std::function<bool(const QString& path, const QString& origin)>& load)
+                     const std::function<bool(const RecoveryFile& file)>& load)
 {
     if (folder_.isEmpty())
         return false;
@@ -120,7 +126,7 @@ bool Recovery::Offer(Dialogs& dialogs, QWidget* parent,
         const Choice choice = Ask(dialogs, parent, *file);
         if (choice == Choice::Discard)
             file->Remove();
-        if (choice == Choice::Recover && load(file->Path(), file->Origin())) {
+        if (choice == Choice::Recover && load(*file)) {
             file_ = std::move(file);  // goes on in the same file: there is no moment without one
             return true;
         }

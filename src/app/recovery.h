@@ -13,9 +13,6 @@
 
 namespace rqm5 {
 
-/// Where the program keeps what is no setting and no document: the user's state folder.
-QString StateFolder();
-
 /// Keeps the unsaved changes of a document in a recovery file while there are any, and offers what a crash
 /// left behind.
 class Recovery : public QObject
@@ -29,13 +26,18 @@ class Recovery : public QObject
     Recovery(const Document& document, const QString& folder, std::chrono::milliseconds delay,
              QObject* parent);
 
+    /// Tells what is known of the current file, to be kept with the changes. Without it nothing is.
+    void SetMark(std::function<FileMark()> mark) { mark_ = std::move(mark); }
+
+    /// Keeps the changes at once, and returns when they are on the disk: the program is going to be ended.
+    void KeepNow();
+
     /// The program ends in the usual way: nothing is kept any more.
     void End();
 
     /// Asks about files that a crash left behind, the latest first, until one is to be recovered and
-    /// `load` can load it (path, original file). \return true when one was
-    bool Offer(Dialogs& dialogs, QWidget* parent,
-               const std::function<bool(const QString& path, const QString& origin)>& load);
+    /// `load` can load it. \return true when one was
+    bool Offer(Dialogs& dialogs, QWidget* parent, const std::function<bool(const RecoveryFile& file)>& load);
 
   signals:
     /// The changes are in the recovery file now, or \param reason why they are not; then it is tried
@@ -47,11 +49,13 @@ class Recovery : public QObject
   private:
     void Look();
     void Keep();
+    RecoveryOrigin Origin() const;
     void Keep_Done(const QString& reason);
     void Remove();
 
     const Document& document_;
     const QString folder_;
+    std::function<FileMark()> mark_;
     QTimer timer_;
     std::unique_ptr<RecoveryFile> file_;  ///< null until there is something to keep
     bool hasEnded_ = false;

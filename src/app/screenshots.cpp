@@ -92,6 +92,36 @@ void SavePaste(QWidget& window)
     Trigger(window, "mnuEditPaste");
 }
 
+/// Channels found while somebody types, and frequencies that are stored twice.
+void SaveFinds(PictureDialogs& dialogs, QWidget& window)
+{
+    Trigger(window, "mnuEditFind");
+    auto& box = Find<QLineEdit>(window, "txtFind");
+    box.setText(QStringLiteral("145.6"));
+    dialogs.Save(window, QStringLiteral("find"));
+    box.clear();
+    Trigger(window, "mnuToolsDuplicates");
+    dialogs.Save(Find<QWidget>(window, "dlgDuplicates"), QStringLiteral("duplicates"));
+    Find<QWidget>(window, "dlgDuplicates").close();
+}
+
+/// A bank that grows, and the offer to move the channels behind it.
+void SaveBankMove(PictureDialogs& dialogs, QWidget& window)
+{
+    auto& tabs = Find<QTabWidget>(window, "TabStrip1");
+    tabs.setCurrentIndex(3);
+    // A size is taken when its box loses the focus, which only the active window has.
+    window.activateWindow();
+    QCoreApplication::processEvents();
+    auto& size = Find<QLineEdit>(window, "txtBank_1");
+    size.setFocus();
+    size.setText(QStringLiteral("60"));
+    Find<QLineEdit>(window, "txtBank_2").setFocus();
+    dialogs.Save(window, QStringLiteral("bank-move"));
+    Trigger(window, "mnuHistoryUndo");
+    tabs.setCurrentIndex(2);
+}
+
 void SaveDiagnostics(PictureDialogs& dialogs, QWidget& window)
 {
     Trigger(window, "mnuViewDiagnostics");
@@ -136,6 +166,8 @@ int main(int argc, char** argv)
     Trigger(*window, "mnuReAll");
 
     SavePages(dialogs, *window);
+    SaveFinds(dialogs, *window);
+    SaveBankMove(dialogs, *window);
     Trigger(*window, "mnuEditUndo");
     Trigger(*window, "mnuEditFillSeries");
     SavePaste(*window);

@@ -1,6 +1,7 @@
 #include "app/status_bar.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 
 #include "ui/elided_label.h"
 
@@ -24,6 +25,16 @@ int EnabledChannels(const CloneImage& image)
     for (int row = 0; row < kRadioRows; ++row)
         enabled += image.MemEnable(row) ? 1 : 0;
     return enabled;
+}
+
+/// A click or a key that does something; Alt on its way to another window does not.
+bool IsAction(const QEvent& event)
+{
+    // A shortcut comes as nothing but the question whether a control wants the key for itself.
+    if (event.type() != QEvent::KeyPress && event.type() != QEvent::ShortcutOverride)
+        return event.type() == QEvent::MouseButtonPress;
+    const int key = static_cast<const QKeyEvent&>(event).key();
+    return key != Qt::Key_Shift && key != Qt::Key_Control && key != Qt::Key_Alt && key != Qt::Key_Meta;
 }
 
 }  // namespace
@@ -53,6 +64,15 @@ StatusBar::StatusBar(QWidget* parent)
     // Devices found by their name in /dev/serial have paths longer than the rest of the bar.
     lblPort_->setMaximumWidth(lblPort_->fontMetrics().averageCharWidth() * kPortColumns);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { ShowHintOf(now); });
+    qApp->installEventFilter(this);
+}
+
+bool StatusBar::eventFilter(QObject* watched, QEvent* event)
+{
+    if (!note_.isEmpty() && IsAction(*event) && watched->isWidgetType() &&
+        static_cast<QWidget*>(watched)->window() == window())
+        ShowNote({});
+    return QStatusBar::eventFilter(watched, event);
 }
 
 void StatusBar::ShowDocument(const Document& document)
@@ -65,10 +85,6 @@ void StatusBar::ShowDocument(const Document& document)
 
 void StatusBar::ShowNote(const QString& text)
 {
-    // What has just happened is shown at once, wherever the pointer rests; the next control that it comes to
-    // brings hints back.
-    if (text != note_)
-        pointerHint_.clear();
     note_ = text;
     ShowFirstText();
 }
@@ -102,7 +118,7 @@ void StatusBar::ShowHintOf(const QWidget* focused)
 
 void StatusBar::ShowFirstText()
 {
-    for (const QString& text : {pointerHint_, note_, warning_, focusHint_})
+    for (const QString& text : {note_, pointerHint_, warning_, focusHint_})
         if (!text.isEmpty())
             return lblHint_->setText(text);
     lblHint_->clear();

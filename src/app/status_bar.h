@@ -19,19 +19,22 @@ class StatusBar : public QStatusBar
     /// Without a current file an unchanged image is a new one.
     void ShowDocument(const Document& document);
 
-    /// Something to read at leisure in the place of hints; an empty text makes room for them again.
+    /// What has just happened, in the place of hints until the next click or key in the window; an empty text
+    /// makes room for them at once.
     void ShowNote(const QString& text);
 
-    /// What stays true until it is taken back by an empty text; behind a note.
+    /// What stays true until it is taken back by an empty text; behind notes and what the pointer asks for.
     void ShowWarning(const QString& text);
 
-    /// What the control or menu item under the pointer does; before all else, and empty once it is left.
+    /// What the control or menu item under the pointer does; behind a note, and empty once it is left.
     void ShowPointerHint(const QString& text);
 
     /// What the control with the focus does; behind all else.
     void ShowHintOf(const QWidget* focused);
 
     void ShowPort(int number, const QString& device);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void ShowFirstText();

@@ -55,14 +55,17 @@ TabStrip::TabStrip(QWidget* parent) : QTabWidget(parent)
         bar->setTabData(i, QLatin1String(kTabRows[i].key));
     }
     connect(this, &QTabWidget::currentChanged, this, &TabStrip::TabStrip1_Click);
+    const QKeySequence next(Qt::CTRL | Qt::Key_PageDown);
+    const QKeySequence previous(Qt::CTRL | Qt::Key_PageUp);
     // Tables keep Ctrl+Tab for themselves, so that the tab widget never sees it from there.
-    AddStepKey(QKeySequence::NextChild, 1);
-    AddStepKey(QKeySequence::PreviousChild, kTabs - 1);
+    AddStepKeys(QKeySequence::keyBindings(QKeySequence::NextChild) + QList{next}, 1);
+    AddStepKeys(QKeySequence::keyBindings(QKeySequence::PreviousChild) + QList{previous}, kTabs - 1);
 }
 
-void TabStrip::AddStepKey(QKeySequence::StandardKey key, int step)
+void TabStrip::AddStepKeys(const QList<QKeySequence>& keys, int step)
 {
-    auto* shortcut = new QShortcut(key, this);
+    auto* shortcut = new QShortcut(this);
+    shortcut->setKeys(keys);
     connect(shortcut, &QShortcut::activated, this,
             [this, step] { setCurrentIndex((currentIndex() + step) % kTabs); });
 }
@@ -101,7 +104,8 @@ void TabStrip::TabStrip1_Click()
         ShowTipOf(currentIndex());
     const auto chosen = static_cast<std::size_t>(currentIndex());
     Frame1_.at(chosen)->setEnabled(true);
-    // The fourth page is never disabled, only covered: deliberate.
+    // The fourth page is never disabled, only covered: a bank size that is typed there can be checked from
+    // anywhere.
     for (std::size_t i = 0; i < 3; ++i)
         if (i != chosen)
             Frame1_.at(i)->setEnabled(false);

@@ -35,7 +35,7 @@ class TabStrip : public QTabWidget
     void TabStrip1_Click();
     void ShowTipOf(int tab);
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void AddStepKey(QKeySequence::StandardKey key, int step);
+    void AddStepKeys(const QList<QKeySequence>& keys, int step);
 
     std::array<QScrollArea*, kTabs> Frame1_{};
 };

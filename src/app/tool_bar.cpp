@@ -1,27 +1,42 @@
 #include "app/tool_bar.h"
 
 #include <QIcon>
+#include <QRegularExpression>
 
 namespace rqm5 {
 
 namespace {
 
-constexpr int kButtonsBeforeHistory = 3;
-
 struct ButtonRow
 {
-    const char* key;
-    ItemName item;  ///< the menu item that does the same
-    const char* toolTip;
+    const char* key;  ///< none for a button that nobody asks for by its key
+    ItemName item;    ///< the menu item that does the same
+    const char* text;
+    bool isLastOfGroup = false;
 };
 
+#define TEXT(text) QT_TRANSLATE_NOOP("rqm5::frmMain", text)
+
 const ButtonRow kButtons[] = {
-    {"新規作成", "mnuFileNew", QT_TRANSLATE_NOOP("rqm5::frmMain", "New")},
-    {"開く", "mnuFileOpen", QT_TRANSLATE_NOOP("rqm5::frmMain", "Open")},
-    {"上書き保存", "mnuFileSave", QT_TRANSLATE_NOOP("rqm5::frmMain", "Save")},
-    {"印刷", "mnuFilePrint", QT_TRANSLATE_NOOP("rqm5::frmMain", "Print")},
-    {"ﾍﾙﾌﾟ", "mnuHelpAbout", QT_TRANSLATE_NOOP("rqm5::frmMain", "About")},
+    {"新規作成", "mnuFileNew", TEXT("New")},           {"開く", "mnuFileOpen", TEXT("Open")},
+    {"上書き保存", "mnuFileSave", TEXT("Save"), true}, {nullptr, "mnuHistoryUndo", nullptr},
+    {nullptr, "mnuHistoryRedo", nullptr, true},        {nullptr, "mnuEditFind", nullptr, true},
+    {nullptr, "mnuReAll", TEXT("Read ALL")},           {nullptr, "mnuWrAll", TEXT("Write ALL"), true},
+    {"印刷", "mnuFilePrint", TEXT("Print")},           {"ﾍﾙﾌﾟ", "mnuHelpAbout", TEXT("About")},
 };
+
+#undef TEXT
+
+/// "Undo Clear All (Ctrl+Z)", from the text "&Undo Clear All" and the menu item's shortcut.
+void ShowTip(QAction& button, const QAction& item)
+{
+    static const QRegularExpression mnemonic(QStringLiteral("&(.)"));
+    QString tip = button.text().replace(mnemonic, QStringLiteral("\\1"));
+    if (tip.endsWith(QLatin1String("...")))
+        tip.chop(3);
+    const QString keys = item.shortcut().toString(QKeySequence::NativeText);
+    button.setToolTip(keys.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, keys));
+}
 
 }  // namespace
 
@@ -32,26 +47,36 @@ ToolBar::ToolBar(const Menus& menus, QWidget* parent) : QToolBar(parent), menus_
     setMovable(false);
     for (const ButtonRow& row : kButtons) {
         QAction& item = menus_.Item(row.item);
-        QAction* button = addAction(item.icon(), QString());
-        button->setData(QString::fromUtf8(row.key));
-        button->setText(QString::fromUtf8(row.toolTip));
-        button->setStatusTip(item.statusTip());
-        // What the menu does not offer now, the button does not either.
-        connect(&item, &QAction::enabledChanged, button, &QAction::setEnabled);
+        // Buttons without a text of their own show what the menu does: what would be undone.
+        QAction* button = row.text != nullptr ? AddButton(item, row.text) : &item;
+        if (row.key != nullptr)
+            button->setData(QString::fromUtf8(row.key));
+        else if (button != &item)
+            connect(button, &QAction::triggered, &item, &QAction::trigger);
+        addAction(button);
+        ShowTip(*button, item);
+        connect(button, &QAction::changed, this, [button, &item] { ShowTip(*button, item); });
+        if (row.isLastOfGroup)
+            addSeparator();
     }
-    // These show what they would take back, so they are the menu's own.
-    QAction* behind = actions().at(kButtonsBeforeHistory);
-    insertActions(behind, {&menus_.Item("mnuHistoryUndo"), &menus_.Item("mnuHistoryRedo")});
-    insertSeparator(behind);
-    insertSeparator(&menus_.Item("mnuHistoryUndo"));
     connect(this, &QToolBar::actionTriggered, this,
             [this](const QAction* button) { tbToolBar_ButtonClick(button->data().toString()); });
+}
+
+QAction* ToolBar::AddButton(QAction& item, const char* text)
+{
+    auto* button = new QAction(item.icon(), QString::fromUtf8(text), this);
+    button->setObjectName(item.objectName().replace(QLatin1String("mnu"), QLatin1String("tb")));
+    button->setStatusTip(item.statusTip());
+    // What the menu does not offer now, the button does not either.
+    connect(&item, &QAction::enabledChanged, button, &QAction::setEnabled);
+    return button;
 }
 
 void ToolBar::tbToolBar_ButtonClick(const QString& key)
 {
     for (const ButtonRow& row : kButtons)
-        if (key == QString::fromUtf8(row.key))
+        if (row.key != nullptr && key == QString::fromUtf8(row.key))
             menus_.Item(row.item).trigger();
 }
 

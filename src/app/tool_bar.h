@@ -7,7 +7,8 @@
 
 namespace rqm5 {
 
-/// `tbToolBar`: five buttons whose data is their key, which alone chooses what they do, and Undo and Redo.
+/// `tbToolBar`: five buttons whose data is their key, which alone chooses what they do; and Undo, Redo, Find,
+/// Read and Write.
 class ToolBar : public QToolBar
 {
     Q_OBJECT
@@ -19,6 +20,8 @@ class ToolBar : public QToolBar
     void tbToolBar_ButtonClick(const QString& key);
 
   private:
+    QAction* AddButton(QAction& item, const char* text);
+
     const Menus& menus_;
 };
 

@@ -2,9 +2,13 @@
 
 #include <QDir>
 
+#include "app/read_option_items.h"
 #include "app/write_options.h"
 #include "files/file_store.h"
+#include "files/rescue.h"
 #include "link/forwarding_observer.h"
+#include "link/line_notes.h"
+#include "link/memory_map.h"
 #include "link/receiver_checks.h"
 #include "link/receiver_writer.h"
 #include "memory/bank_layout.h"
@@ -12,6 +16,21 @@
 #include "ui/row_list.h"
 
 namespace rqm5 {
+namespace {
+
+/// As many as fit into the status bar.
+constexpr std::size_t kNotedBlocks = 3;
+
+std::vector<std::string> LabelsOf(const std::vector<BlockDifference>& differences)
+{
+    std::vector<std::string> labels;
+    labels.reserve(differences.size());
+    for (const BlockDifference& difference : differences)
+        labels.push_back(difference.expected.label);
+    return labels;
+}
+
+}  // namespace
 
 TransferCommands::TransferCommands(Document& document, RadioLink& link, Dialogs& dialogs, QWidget& window)
     : QObject(&window), document_(document), link_(link), dialogs_(dialogs), window_(window)
@@ -29,10 +48,16 @@ void TransferCommands::Occupy(const std::function<TransferResult()>& work)
         return;
     isRunning_ = true;
     isCancelled_ = false;
+    notes_.clear();
+    repeated_ = 0;
     emit Started();
     const TransferResult result = work();
+    if (repeated_ > 0)
+        notes_ << QString::fromStdString(RepeatNote(repeated_)) + QLatin1Char('.');
     isRunning_ = false;
     emit Ended(result);
+    if (!notes_.isEmpty())
+        emit Noted(notes_.join(QLatin1Char(' ')));
 }
 
 void TransferCommands::RunOther(const std::function<void()>& work)
@@ -70,14 +95,55 @@ TransferResult TransferCommands::RunOperation(Transfer transfer, int selector)
 TransferResult TransferCommands::Read(const QString& name,
                                       const std::function<TransferResult(ReceiverReader&)>& read)
 {
-    Transaction reading(document_, name);
-    reading_ = &reading;
-    ReceiverReader reader(reading.Image(), link_, *this);
-    const TransferResult result = read(reader);
-    // What has arrived is in no file, also when it is what was there, and when the read broke off.
-    if (reader.HasStored())
-        reading.MarkChanged();
-    reading_ = nullptr;
+    std::vector<std::string> unreadable;
+    std::vector<ExpectedBlock> blocks;
+    auto result = TransferResult::Done;
+    {
+        Transaction reading(document_, name);
+        reading_ = &reading;
+        ReceiverReader reader(reading.Image(), link_, *this);
+        result = read(reader);
+        // What has arrived is in no file, also when it is what was there, and when the read broke off.
+        if (reader.HasStored())
+            reading.MarkChanged();
+        reading_ = nullptr;
+        unreadable = reader.Unreadable();
+        blocks = reader.Blocks();
+    }
+    if (result != TransferResult::Cancelled)
+        NameUnreadable(unreadable);
+    if (result == TransferResult::Done && LoadReadTwice())
+        result = ReadTwice(blocks);
+    return result;
+}
+
+/// Such blocks are in the image as they came, which is not what the receiver holds.
+void TransferCommands::NameUnreadable(const std::vector<std::string>& names)
+{
+    if (names.empty())
+        return;
+    const QString note = QString::fromStdString(UnreadableNote(static_cast<int>(names.size())));
+    notes_ << note + QStringLiteral(": ") +
+                  RowList(names, kNotedBlocks).replace(QLatin1Char('\n'), QStringLiteral(", ")) +
+                  QLatin1Char('.');
+    WarnOfBlocks(tr("Read"), tr("%1. Check the cable, then read again.").arg(note), names);
+}
+
+/// Names the blocks that a second read brings otherwise. The image keeps the first.
+TransferResult TransferCommands::ReadTwice(const std::vector<ExpectedBlock>& blocks)
+{
+    std::vector<BlockDifference> differences;
+    AftermathObserver observer(*this, NotReadTwice());
+    const TransferResult result = ReadBack(blocks, link_, observer, differences);
+    if (result == TransferResult::Cancelled)
+        notes_ << QString::fromStdString(NotReadTwice());
+    if (!differences.empty())
+        WarnOfBlocks(tr("Verify"),
+                     tr("%1. Check the cable, then read again.")
+                         .arg(QString::fromStdString(OtherwiseNote(static_cast<int>(differences.size())))),
+                     LabelsOf(differences));
+    else if (result == TransferResult::Done)
+        notes_.prepend(tr("Read and verified: a second read brought the same."));
     return result;
 }
 
@@ -93,8 +159,10 @@ TransferResult TransferCommands::Write(const TransferScope& scope)
     auto result = TransferResult::Done;
     if (options.keepsBackup)
         result = KeepBackup(scope, options.backupFolder);
+    if (result == TransferResult::Done && !MayWriteToThisModel())
+        result = TransferResult::Cancelled;
     if (result == TransferResult::Done)
-        result = WriteBlocks(scope);
+        result = WriteBlocks(scope, options.verifies);
     if (result == TransferResult::Done && options.verifies)
         result = Verify(scope);
     return result;
@@ -102,58 +170,89 @@ TransferResult TransferCommands::Write(const TransferScope& scope)
 
 TransferResult TransferCommands::KeepBackup(const TransferScope& scope, const QString& folder)
 {
+    QDir().mkpath(folder);  // where it cannot be made, what follows says why
+    const QString path = NewBackupPath(folder, scope, QDateTime::currentDateTime());
+    if (const auto problem = ReadingObstacle(path)) {
+        Message({problem->text, problem->details, NothingWritten()});
+        return TransferResult::Failed;
+    }
     CloneImage backup;
     const TransferResult result = ReadBackup(document_.Image(), scope, link_, *this, backup);
     if (result == TransferResult::Cancelled)
-        emit Noted(QString::fromStdString(NothingWritten()));
+        notes_ << QString::fromStdString(NothingWritten());
     if (result != TransferResult::Done)
         return result;
-    return SaveBackup(scope, folder, backup) ? TransferResult::Done : TransferResult::Failed;
+    return SaveBackup(path, backup) ? TransferResult::Done : TransferResult::Failed;
 }
 
-bool TransferCommands::SaveBackup(const TransferScope& scope, const QString& folder, const CloneImage& backup)
+bool TransferCommands::SaveBackup(const QString& path, const CloneImage& backup)
 {
-    QDir().mkpath(folder);  // where it cannot be made, saving says why
-    const auto problem =
-        SaveCloneFile(NewBackupPath(folder, scope, QDateTime::currentDateTime()), backup).problem;
+    const auto problem = SaveCloneFile(path, backup).problem;
     if (problem)
-        Message({problem->text, problem->details, NothingWritten()});
+        Message({problem->text, problem->details, Rescue(backup, path) + ' ' + NothingWritten()});
     return !problem;
 }
 
-TransferResult TransferCommands::WriteBlocks(const TransferScope& scope)
+void TransferCommands::BlockRead(int address, const MemoryBlock& block)
+{
+    if (address == AreaOf(Area::Settings).address)
+        receiver_.Read(block, link_.Port().Device());
+}
+
+/// Asks before the first write to a receiver that has told to be another model.
+bool TransferCommands::MayWriteToThisModel()
+{
+    const int wanted = document_.Image().Settings().model;
+    const int known = receiver_.Model(link_.Port().Device()).value_or(wanted);
+    const std::pair models(known, wanted);
+    if (known == wanted || models == agreed_)
+        return true;
+    const bool isMeant =
+        dialogs_.Ask(&window_, {.title = tr("Write"),
+                                .text = tr("The receiver is another model. Write to it all the same?"),
+                                .details = QString::fromStdString(OtherModelText(known, wanted)),
+                                .icon = QMessageBox::Warning,
+                                .buttons = QMessageBox::Yes | QMessageBox::No,
+                                .defaultButton = QMessageBox::No}) == QMessageBox::Yes;
+    if (isMeant)
+        agreed_ = models;
+    else
+        notes_ << tr("Nothing was written.");
+    return isMeant;
+}
+
+TransferResult TransferCommands::WriteBlocks(const TransferScope& scope, bool isVerified)
 {
     ReceiverWriter writer(document_.Image(), scope, link_, *this);
     const TransferResult result = writer.Write();
     document_.Absorb([&writer](CloneImage& image) { image = writer.Written(); });
+    if (writer.Plan().MayHaveSent(AreaOf(Area::Settings).address))
+        receiver_.Written(writer.Written().Settings().model, link_.Port().Device());
+    if (const int flags = writer.OtherFlags(); flags > 0)
+        notes_ << tr("Enable flags of other rows replaced by the receiver's: %1.").arg(flags);
     if (result == TransferResult::Cancelled && writer.Plan().HasBegun())
         Warn({.title = tr("Write"),
               .text = tr("The write was cancelled."),
               .details = QString::fromStdString(writer.Plan().Summary())});
-    return result;
+    if (!writer.IsInDoubt() || isVerified)
+        return result;
+    Message(DoubtfulWrite());
+    return TransferResult::Failed;
 }
 
 TransferResult TransferCommands::Verify(const TransferScope& scope)
 {
-    constexpr std::size_t kNamedBlocks = 20;
     std::vector<BlockDifference> differences;
     AftermathObserver observer(*this, NotVerified());
     const TransferResult result =
         ReadBack(ExpectedAfterWrite(document_.Image(), scope), link_, observer, differences);
     if (result == TransferResult::Cancelled)
-        emit Noted(QString::fromStdString(NotVerified()));
-    if (!differences.empty()) {
-        std::vector<std::string> rows;
-        rows.reserve(differences.size());
-        for (const BlockDifference& difference : differences)
-            rows.push_back(difference.expected.label);
-        Warn({.title = tr("Verify"),
-              .text = tr("The receiver does not hold what was written. Write again."),
-              .details = RowList(rows, kNamedBlocks),
-              .more = rows.size() > kNamedBlocks ? RowList(rows, rows.size()) : QString()});
-    } else if (result == TransferResult::Done) {
-        emit Noted(tr("Written and verified: the receiver holds what was written."));
-    }
+        notes_ << QString::fromStdString(NotVerified());
+    if (!differences.empty())
+        WarnOfBlocks(tr("Verify"), tr("The receiver does not hold what was written. Write again."),
+                     LabelsOf(differences));
+    else if (result == TransferResult::Done)
+        notes_.prepend(tr("Written and verified: the receiver holds what was written."));
     return result;
 }
 
@@ -163,6 +262,16 @@ void TransferCommands::Cancel()
         return;
     isCancelled_ = true;
     link_.Cancel();
+}
+
+void TransferCommands::WarnOfBlocks(const QString& title, const QString& text,
+                                    const std::vector<std::string>& names)
+{
+    constexpr std::size_t kNamedBlocks = 20;
+    Warn({.title = title,
+          .text = text,
+          .details = RowList(names, kNamedBlocks),
+          .more = names.size() > kNamedBlocks ? RowList(names, names.size()) : QString()});
 }
 
 void TransferCommands::Warn(Prompt warning)

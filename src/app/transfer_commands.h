@@ -1,11 +1,14 @@
 #pragma once
 
 #include <QObject>
+#include <QStringList>
 #include <QWidget>
 #include <functional>
+#include <utility>
 
 #include "document/document.h"
 #include "link/radio_link.h"
+#include "link/receiver_identity.h"
 #include "link/receiver_reader.h"
 #include "link/transfer_observer.h"
 #include "link/transfer_scope.h"
@@ -60,25 +63,31 @@ class TransferCommands : public QObject, private TransferObserver
     void ProgressAdvanced(int value, int row);
     void GroupWanted(int selector);  ///< an "all" operation moves the bank selector
 
-    /// What there is to say about a transfer without a message: that nothing was written, that the receiver
-    /// was read back and agrees.
+    /// What there is to say about a transfer without a message, once it has ended: that nothing was written,
+    /// that the receiver was read back and agrees.
     void Noted(const QString& text);
 
   private:
     void Occupy(const std::function<TransferResult()>& work);
     TransferResult RunOperation(Transfer transfer, int selector);
     TransferResult Read(const QString& name, const std::function<TransferResult(ReceiverReader&)>& read);
+    TransferResult ReadTwice(const std::vector<ExpectedBlock>& blocks);
+    void NameUnreadable(const std::vector<std::string>& names);
     TransferResult Write(const TransferScope& scope);
     TransferResult KeepBackup(const TransferScope& scope, const QString& folder);
-    TransferResult WriteBlocks(const TransferScope& scope);
+    bool MayWriteToThisModel();
+    TransferResult WriteBlocks(const TransferScope& scope, bool isVerified);
     TransferResult Verify(const TransferScope& scope);
     void Warn(Prompt warning);
-    bool SaveBackup(const TransferScope& scope, const QString& folder, const CloneImage& backup);
+    void WarnOfBlocks(const QString& title, const QString& text, const std::vector<std::string>& names);
+    bool SaveBackup(const QString& path, const CloneImage& backup);
 
     void ProgressStarted(int maximum) override { emit ProgressBegan(maximum); }
     void ProgressMoved(int value, int row) override { emit ProgressAdvanced(value, row); }
+    void BlockRepeated(int /*address*/) override { ++repeated_; }
     void GroupChosen(int selector) override { emit GroupWanted(selector); }
     void Stored() override;
+    void BlockRead(int address, const MemoryBlock& block) override;
     void Message(const Problem& problem) override;
     bool IsCancelled() override { return isCancelled_; }
 
@@ -87,6 +96,10 @@ class TransferCommands : public QObject, private TransferObserver
     Dialogs& dialogs_;
     QWidget& window_;
     Transaction* reading_ = nullptr;  ///< of the read that runs
+    QStringList notes_;               ///< sentences for the end of the transfer
+    ReceiverIdentity receiver_;
+    std::pair<int, int> agreed_;  ///< models of receiver and image that the user has said yes to
+    int repeated_ = 0;            ///< blocks that needed more than one attempt
     bool isRunning_ = false;
     bool isCancelled_ = false;
 };

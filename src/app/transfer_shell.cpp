@@ -53,8 +53,8 @@ void TransferShell::StartOn(Tab tab, Transfer transfer)
 
 void TransferShell::Start(Transfer transfer)
 {
-    pages_.Banks().CommitPending();
-    transfers_.Run(transfer, pages_.Memory().Selector());
+    if (pages_.Banks().CommitPending())
+        transfers_.Run(transfer, pages_.Memory().Selector());
 }
 
 void TransferShell::SetRunning(bool isRunning)

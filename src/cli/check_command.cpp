@@ -8,6 +8,7 @@
 #include "files/clone_lines.h"
 #include "files/csv_file.h"
 #include "files/file_store.h"
+#include "files/round_trip.h"
 #include "image/display_text.h"
 #include "image/value_tables.h"
 #include "memory/bank_layout.h"
@@ -111,6 +112,13 @@ void WarnOfNotes(const CloneImage& image, Console& console)
         Warn(console, "exported as CSV, a spreadsheet would run these notes as formulas:", formulas);
 }
 
+void WarnOfValues(std::string_view bytes, const CloneImage& image, Console& console)
+{
+    const std::vector<std::string> changed = ValuesReadOtherwise(bytes, image);
+    if (!changed.empty())
+        Warn(console, "the file says these values, but they are read otherwise:", changed);
+}
+
 }  // namespace
 
 Status RunCheck(const Arguments& arguments, Console& console)
@@ -126,6 +134,7 @@ Status RunCheck(const Arguments& arguments, Console& console)
     PrintContents(image, console.out);
     WarnOfForm(bytes, console);
     WarnOfDigits(bytes, console);
+    WarnOfValues(bytes, image, console);
     WarnOfNotes(image, console);
     return Status::Done;
 }

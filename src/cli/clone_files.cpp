@@ -4,11 +4,62 @@
 #include <QFileInfo>
 #include <ostream>
 
+#include "files/clone_file.h"
+#include "files/file_access.h"
 #include "files/file_store.h"
+#include "files/rescue.h"
 #include "image/display_text.h"
 #include "memory/start_image.h"
 
 namespace rqm5 {
+namespace {
+
+using Rows = std::vector<std::string>;
+
+/// The notes that keep the image's clone file from being opened.
+Rows NotesThatSpoil(const CloneImage& image)
+{
+    Rows lost = NotesThatDoNotSurvive(image);
+    CloneImage loaded;
+    const bool isOpenable = lost.empty() || !ParseCloneFile(FormatCloneFile(image), loaded);
+    return isOpenable ? Rows() : lost;
+}
+
+Status FailForRows(Console& console, const Problem& problem, const Rows& rows)
+{
+    Report(console, problem);
+    for (const std::string& row : rows)
+        console.err << "  " << VisibleText(row) << '\n';
+    return Status::Failed;
+}
+
+void WarnOfLinks(const std::string& path, Console& console)
+{
+    const int names = NameCount(PathOf(path));
+    if (names > 1)
+        Warn(console,
+             path + " is one of " + std::to_string(names) +
+                 " names of a file (hard links); the others keep the old contents",
+             {});
+}
+
+Status Tell(const std::string& path, const SaveOutcome& outcome, Console& console)
+{
+    if (!outcome.accessChanges.empty())
+        Warn(console, path + " is saved, but not all that belonged to the old file could be kept:",
+             outcome.accessChanges);
+    if (!outcome.changedValues.empty())
+        Warn(console,
+             "a clone file cannot hold these values; they read back otherwise:", outcome.changedValues);
+    if (outcome.lostNotes.empty())
+        return Status::Done;
+    return FailForRows(console,
+                       {kDataError, path + " is written, but the file cannot bring back these notes; take "
+                                           "commas and quotes out of them:"},
+                       outcome.lostNotes);
+}
+
+}  // namespace
 
 QString PathOf(const std::string& typed)
 {
@@ -39,7 +90,12 @@ bool AreSameFile(const std::string& a, const std::string& b)
 {
     const QFileInfo first(PathOf(a));
     const QFileInfo second(PathOf(b));
-    return first.exists() && first.canonicalFilePath() == second.canonicalFilePath();
+    if (!first.exists() || !second.exists())
+        return false;
+    const FileIdentity one = FileIdentity::Of(first.filePath());
+    const FileIdentity other = FileIdentity::Of(second.filePath());
+    return first.canonicalFilePath() == second.canonicalFilePath() ||
+           (one.number != 0 && one.number == other.number && one.device == other.device);
 }
 
 Problem SameFileProblem(const std::string& path)
@@ -48,19 +104,62 @@ Problem SameFileProblem(const std::string& path)
             path + ": both names are the same file, which would be replaced; give another name"};
 }
 
-Status Save(const std::string& path, const CloneImage& image, Console& console)
+std::optional<Problem> KeepOldFile(const std::string& path)
 {
+    const QString name = PathOf(path);
+    const QString kept = name + QLatin1Char('~');
+    std::string bytes;
+    auto problem = ReadWholeFile(name, bytes);
+    if (!problem)
+        problem = WriteWholeFile(kept, bytes);
+    // Who may not read the file may not read what is kept of it.
+    if (!problem)
+        QFile::setPermissions(kept, QFile::permissions(name));
+    return problem;
+}
+
+std::optional<Problem> ReplaceProblem(const Arguments& arguments, const std::string& path, FileKind kind)
+{
+    if (AreSameFile(arguments[0], path))
+        return SameFileProblem(path);
+    return arguments.Has("--force") ? std::nullopt : OtherKindProblem(PathOf(path), kind);
+}
+
+SaveEnd Save(const std::string& path, const CloneImage& image, Console& console, Unopenable unopenable)
+{
+    const Rows spoiling = unopenable == Unopenable::IsRefused ? NotesThatSpoil(image) : Rows();
+    if (!spoiling.empty())
+        return {FailForRows(console,
+                            {kDataError, path + " is as it was: with these notes it could not be opened any "
+                                                "more. --safe-notes stores them without commas and quotes, "
+                                                "--force as they are:"},
+                            spoiling),
+                false};
+    WarnOfLinks(path, console);
     const SaveOutcome outcome = SaveCloneFile(PathOf(path), image);
-    if (outcome.problem)
-        return Fail(console, *outcome.problem);
-    if (outcome.lostNotes.empty())
-        return Status::Done;
-    Report(console,
-           {kDataError, path + " is written, but the file cannot bring back these notes; take commas "
-                               "and quotes out of them:"});
-    for (const std::string& row : outcome.lostNotes)
-        console.err << "  " << VisibleText(row) << '\n';
-    return Status::Failed;
+    const Status status = outcome.problem ? Fail(console, *outcome.problem) : Tell(path, outcome, console);
+    return {status, !outcome.mark.isEmpty()};
+}
+
+Status SaveRead(const std::string& path, const CloneImage& image, Console& console,
+                const std::string& aftermath)
+{
+    const auto rescue = [&] {
+        const std::string kept = Rescue(image, QFileInfo(PathOf(path)).absoluteFilePath());
+        return aftermath.empty() ? kept : kept + ' ' + aftermath;
+    };
+    if (const Rows spoiling = NotesThatSpoil(image); !spoiling.empty())
+        return FailForRows(console,
+                           {kDataError,
+                            path + " is as it was: with the notes below it could not be opened any more; "
+                                   "take commas and quotes out of them.",
+                            rescue()},
+                           spoiling);
+    WarnOfLinks(path, console);
+    const SaveOutcome outcome = SaveCloneFile(PathOf(path), image);
+    if (!outcome.problem)
+        return Tell(path, outcome, console);
+    return Fail(console, {outcome.problem->text, outcome.problem->details, rescue()});
 }
 
 }  // namespace rqm5

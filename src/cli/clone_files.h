@@ -4,7 +4,9 @@
 #include <optional>
 #include <string>
 
+#include "cli/arguments.h"
 #include "cli/console.h"
+#include "files/file_kind.h"
 #include "image/clone_image.h"
 #include "image/problem.h"
 
@@ -20,14 +22,37 @@ std::optional<Problem> Load(const std::string& path, CloneImage& image);
 /// Loads the file, or makes the start-up image of region 0 when there is none.
 std::optional<Problem> LoadOrStart(const std::string& path, CloneImage& image);
 
-/// True when both names lead to the same file, however they are spelled.
+/// True when both names lead to the same file, however they are spelled; hard links are the same file.
 bool AreSameFile(const std::string& a, const std::string& b);
 
 /// That a command would replace the file that it reads.
 Problem SameFileProblem(const std::string& path);
 
-/// Saves the image. Notes that the file cannot bring back are named; the file is written and the status
-/// is that of a failure.
-Status Save(const std::string& path, const CloneImage& image, Console& console);
+/// Why a command may not replace a file: it is the one that it reads (FILE), or holds something else than the
+/// command writes and --force is not given.
+std::optional<Problem> ReplaceProblem(const Arguments& arguments, const std::string& path, FileKind kind);
+
+/// What becomes of a clone file that could not be opened again because of its notes.
+enum class Unopenable { IsRefused, IsWritten };
+
+struct SaveEnd
+{
+    Status status;
+    bool isWritten;
+};
+
+/// Saves the image. Notes that the file cannot bring back are named and the status is that of a failure.
+/// Warns of all else that the save changes: values that read back otherwise, who may use the file, other
+/// names of it.
+SaveEnd Save(const std::string& path, const CloneImage& image, Console& console,
+             Unopenable unopenable = Unopenable::IsWritten);
+
+/// Saves what was read from the receiver. Where that fails it is kept elsewhere, and the message says where.
+/// \param aftermath  what else the failure means
+Status SaveRead(const std::string& path, const CloneImage& image, Console& console,
+                const std::string& aftermath = {});
+
+/// Keeps the file as it is under its name with a "~" behind it, in the place of what was kept there before.
+std::optional<Problem> KeepOldFile(const std::string& path);
 
 }  // namespace rqm5

@@ -6,8 +6,7 @@
 
 #include "cli/arguments.h"
 #include "cli/console.h"
-#include "image/clone_image.h"
-#include "link/transfer_scope.h"
+#include "link/expected_memory.h"
 
 namespace rqm5 {
 
@@ -33,9 +32,9 @@ const Command* FindCommand(std::string_view name);
 
 class ReceiverSession;
 
-/// Lists each block that a write of this scope would not have left in the receiver.
+/// Lists each block that the receiver holds otherwise, and which of its bytes differ.
 /// \param aftermath  what it means when the comparison itself fails
-Status CompareWithReceiver(const CloneImage& image, const TransferScope& scope, ReceiverSession& session,
+Status CompareWithReceiver(const std::vector<ExpectedBlock>& expected, ReceiverSession& session,
                            Console& console, const std::string& aftermath);
 
 // The handlers.
@@ -48,6 +47,7 @@ Status RunImport(const Arguments& arguments, Console& console);
 Status RunPrint(const Arguments& arguments, Console& console);
 Status RunShow(const Arguments& arguments, Console& console);
 Status RunCheck(const Arguments& arguments, Console& console);
+Status RunRepair(const Arguments& arguments, Console& console);
 Status RunDiff(const Arguments& arguments, Console& console);
 Status RunPorts(const Arguments& arguments, Console& console);
 Status RunRaw(const Arguments& arguments, Console& console);

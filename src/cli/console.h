@@ -10,7 +10,12 @@
 namespace rqm5 {
 
 /// How a command ended; the number is the exit status of the program.
-enum class Status { Done = 0, Failed = 1, WrongUsage = 2 };
+enum class Status {
+    Done = 0,
+    Failed = 1,
+    WrongUsage = 2,
+    Interrupted = 130,  ///< by Ctrl+C, as shells count it
+};
 
 /// Where a command writes to.
 struct Console

@@ -27,10 +27,12 @@ CaughtSignal caughtSignals[] = {{SIGINT}, {SIGTERM}, {SIGHUP}};
 /// A signal handler can reach nothing but globals, and may do little more than write to a file.
 volatile std::sig_atomic_t wakeUpPipe = -1;
 
-void WakeUp(int /*signal*/)
+constexpr char kCtrlC = 1;
+
+void WakeUp(int signal)
 {
     const int oldError = errno;
-    const char byte = 0;
+    const char byte = signal == SIGINT ? kCtrlC : 0;
     [[maybe_unused]] const ssize_t written = write(wakeUpPipe, &byte, 1);
     errno = oldError;
 }
@@ -57,7 +59,7 @@ void Release()
 
 }  // namespace
 
-Interrupt::Interrupt(std::function<void()> onInterrupt)
+Interrupt::Interrupt(std::function<void(bool isCtrlC)> onInterrupt)
 {
     if (pipe(pipe_) != 0)
         return;
@@ -67,7 +69,8 @@ Interrupt::Interrupt(std::function<void()> onInterrupt)
     connect(notifier_.get(), &QSocketNotifier::activated, this,
             [this, call = std::move(onInterrupt)](QSocketDescriptor, QSocketNotifier::Type) {
                 notifier_->setEnabled(false);
-                call();
+                char byte = 0;
+                call(read(pipe_[0], &byte, 1) == 1 && byte == kCtrlC);
             });
     wakeUpPipe = pipe_[1];
     Catch();
@@ -85,7 +88,7 @@ Interrupt::~Interrupt()
 }
 #else
 // Elsewhere the system ends the program, and the file is untouched all the same: it is written last.
-Interrupt::Interrupt(std::function<void()> /*onInterrupt*/) {}
+Interrupt::Interrupt(std::function<void(bool isCtrlC)> /*onInterrupt*/) {}
 Interrupt::~Interrupt() = default;
 #endif
 

@@ -6,6 +6,7 @@
 
 #include "cli/program.h"
 #include "files/file_store.h"
+#include "files/plain_settings.h"
 
 #ifdef Q_OS_UNIX
 #include <sys/ioctl.h>
@@ -35,6 +36,7 @@ int ErrorColumns()
 int main(int argc, char* argv[])
 {
     rqm5::TurnFileSizeLimitIntoError();
+    rqm5::PassOverSettingsThatAreNoFiles();
     // A whole table in one piece: a reader such as head that leaves early does not cut a command short.
     static std::array<char, 1 << 16> buffer;
     std::ios::sync_with_stdio(false);

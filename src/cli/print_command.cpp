@@ -55,8 +55,9 @@ Status RunPrint(const Arguments& arguments, Console& console)
     CloneImage image;
     if (const auto problem = Load(arguments[0], image))
         return Fail(console, *problem);
-    if (arguments.Has("--pdf") && AreSameFile(arguments[0], arguments.Value("--pdf")))
-        return Fail(console, SameFileProblem(arguments[0]));
+    if (arguments.Has("--pdf"))
+        if (const auto problem = ReplaceProblem(arguments, arguments.Value("--pdf"), FileKind::Pdf))
+            return Fail(console, *problem);
     const Listing listing = BuildListing(image, ChoiceOf(arguments));
     if (arguments.Has("--pdf"))
         return WritePdf(arguments, listing, console);

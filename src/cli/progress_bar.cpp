@@ -68,7 +68,12 @@ void ProgressBar::BlockDone(int /*address*/, bool /*written*/)
 void ProgressBar::Message(const Problem& problem)
 {
     Clear();
-    Report(console_, problem);
+    Problem named = problem;
+    // A failure of the port itself begins with the device.
+    if (!portName_.empty())
+        named.details =
+            portName_ + ", " + (problem.text == kComPortError ? "" : portDevice_ + ": ") + problem.details;
+    Report(console_, named);
 }
 
 std::optional<std::chrono::seconds> ProgressBar::TimeLeft() const

@@ -25,6 +25,16 @@ class ProgressBar : public TransferObserver
     /// Another transfer begins: so many blocks, more or less.
     void Begin(int expectedBlocks);
 
+    /// Names the port in every message from now on: "COM 5", and the device behind it.
+    void NamePort(const std::string& name, const std::string& device)
+    {
+        portName_ = name;
+        portDevice_ = device;
+    }
+
+    /// How many blocks needed more than one attempt.
+    int Repeated() const { return repeated_; }
+
     void Cancel() { isCancelled_ = true; }
 
     /// Takes the line off the terminal.
@@ -33,6 +43,7 @@ class ProgressBar : public TransferObserver
     void ProgressStarted(int maximum) override { maximum_ = maximum; }
     void ProgressMoved(int value, int row) override;
     void BlockDone(int address, bool written) override;
+    void BlockRepeated(int /*address*/) override { ++repeated_; }
     void Message(const Problem& problem) override;
     bool IsCancelled() override { return isCancelled_; }
 
@@ -43,8 +54,11 @@ class ProgressBar : public TransferObserver
     void Draw();
 
     Console& console_;
+    std::string portName_;  ///< empty when messages need not name it
+    std::string portDevice_;
     int total_ = 0;
     int done_ = 0;
+    int repeated_ = 0;
     int maximum_ = 0;
     int row_ = -1;
     int drawnColumns_ = 0;

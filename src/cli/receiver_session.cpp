@@ -1,22 +1,35 @@
 #include "cli/receiver_session.h"
 
+#include <QFileInfo>
 #include <ostream>
 
 #include "cli/clone_files.h"
 #include "cli/values.h"
+#include "image/display_text.h"
 #include "link/com_ports.h"
+#include "link/line_notes.h"
 #include "link/port_file.h"
 
 namespace rqm5 {
 namespace {
 
-QString DeviceOf(const Arguments& arguments)
+int NumberFromFile(const Arguments& arguments)
+{
+    return arguments.Has("--port") ? 0 : ReadPortFile(PortFilePath(QCoreApplication::applicationDirPath()));
+}
+
+/// A device or link of the folder that the command runs in; a bare name is one of the system's first.
+QString DeviceHere(const QString& name)
+{
+    const bool isSystems = !name.contains(QLatin1Char('/')) && QFileInfo::exists(DeviceNode(name));
+    return !isSystems && QFileInfo::exists(name) ? QFileInfo(name).absoluteFilePath() : name;
+}
+
+QString DeviceOf(const Arguments& arguments, int numberFromFile)
 {
     const std::string port = arguments.Value("--port");
-    if (port.empty())
-        return DeviceOfComPort(ReadPortFile(PortFilePath(QCoreApplication::applicationDirPath())));
-    const auto number = ReadNumberIn(port, 1, kComPorts);
-    return number ? DeviceOfComPort(*number) : PathOf(port);
+    const int number = numberFromFile > 0 ? numberFromFile : ReadComNumber(port).value_or(0);
+    return number > 0 ? DeviceOfComPort(number) : DeviceHere(PathOf(port));
 }
 
 }  // namespace
@@ -28,11 +41,35 @@ EventLoopHost::EventLoopHost()
 }
 
 ReceiverSession::ReceiverSession(const Arguments& arguments, Console& console)
-    : console_(console), progress_(console), port_(DeviceOf(arguments)), link_(port_), interrupt_([this] {
+    : console_(console),
+      number_(NumberFromFile(arguments)),
+      progress_(console),
+      port_(DeviceOf(arguments, number_)),
+      link_(port_),
+      interrupt_([this](bool isCtrlC) {
+          isCtrlC_ = isCtrlC;
           progress_.Cancel();
           link_.Cancel();
       })
 {
+}
+
+void ReceiverSession::TellPort()
+{
+    if (number_ == 0)
+        return;
+    const std::string device = port_.Device().toStdString();
+    const std::string name = "COM " + std::to_string(number_);
+    console_.err << "Port: " << VisibleText(name + ", " + (device.empty() ? "no device" : device))
+                 << " (without --port, that of RQ-M5.ini)\n";
+    progress_.NamePort(name, device);
+}
+
+ReceiverSession::~ReceiverSession()
+{
+    progress_.Clear();
+    if (const std::string note = RepeatNote(progress_.Repeated()); !note.empty())
+        console_.err << note << '\n';
 }
 
 Status ReceiverSession::Finish(TransferResult result)
@@ -40,6 +77,8 @@ Status ReceiverSession::Finish(TransferResult result)
     progress_.Clear();
     if (result == TransferResult::Cancelled)
         console_.err << "Cancelled.\n";
+    if (result == TransferResult::Cancelled && isCtrlC_)
+        return Status::Interrupted;
     return result == TransferResult::Done ? Status::Done : Status::Failed;
 }
 

@@ -38,8 +38,16 @@ class ReceiverSession
     /// The port that --port or RQ-M5.ini says. It is opened by the first transfer.
     ReceiverSession(const Arguments& arguments, Console& console);
 
+    /// Says how many blocks needed more than one attempt.
+    ~ReceiverSession();
+    ReceiverSession(const ReceiverSession&) = delete;
+    ReceiverSession& operator=(const ReceiverSession&) = delete;
+
     RadioLink& Link() { return link_; }
     ProgressBar& Observer() { return progress_; }
+
+    /// Says which port was chosen when the command line names none, now and in every message of a transfer.
+    void TellPort();
 
     /// What the command ends with after a transfer. Says so when it was cancelled; failures were
     /// reported when they happened.
@@ -48,6 +56,8 @@ class ReceiverSession
   private:
     EventLoopHost host_;
     Console& console_;
+    const int number_;  ///< the COM number from RQ-M5.ini; 0 when --port says the port
+    bool isCtrlC_ = false;
     ProgressBar progress_;
     QtSerialPort port_;
     RadioLink link_;

@@ -5,9 +5,15 @@
 #include "cli/receiver_session.h"
 #include "cli/values.h"
 #include "files/file_store.h"
+#include "image/display_text.h"
+#include "link/forwarding_observer.h"
+#include "link/line_notes.h"
+#include "link/memory_map.h"
 #include "link/receiver_checks.h"
+#include "link/receiver_identity.h"
 #include "link/receiver_reader.h"
 #include "link/receiver_writer.h"
+#include "settings/settings_codec.h"
 
 namespace rqm5 {
 namespace {
@@ -20,27 +26,89 @@ std::optional<Problem> BackupObstacle(const std::string& path)
         return Problem{kFileOpenError, path +
                                            ": there is a file already, and a backup replaces none; "
                                            "choose another name"};
-    return path.empty() ? std::nullopt : SaveObstacle(PathOf(path));
+    return path.empty() ? std::nullopt : ReadingObstacle(PathOf(path));
 }
 
+/// Listens for the model of the receiver.
+class ModelListener : public ForwardingObserver
+{
+  public:
+    using ForwardingObserver::ForwardingObserver;
+
+    void BlockRead(int address, const MemoryBlock& block) override
+    {
+        if (address == AreaOf(Area::Settings).address)
+            model_ = ModelOf(block);
+    }
+
+    const std::optional<int>& Model() const { return model_; }
+
+  private:
+    std::optional<int> model_;
+};
+
+/// \param model  takes the model of the receiver, as far as the backup tells it
 Status KeepBackup(const CloneImage& image, const TransferScope& scope, const std::string& path,
-                  ReceiverSession& session, Console& console)
+                  ReceiverSession& session, Console& console, std::optional<int>& model)
 {
     CloneImage backup;
     session.Observer().Begin(BlocksToBackUp(image, scope));
-    const TransferResult result = ReadBackup(image, scope, session.Link(), session.Observer(), backup);
+    ModelListener listener(session.Observer());
+    const TransferResult result = ReadBackup(image, scope, session.Link(), listener, backup);
+    model = listener.Model();
     const Status status = session.Finish(result);
     if (result == TransferResult::Cancelled)
         console.err << NothingWritten() << '\n';
     if (status != Status::Done)
         return status;
-    const SaveOutcome outcome = SaveCloneFile(PathOf(path), backup);
-    if (!outcome.problem)
-        return Status::Done;
-    return Fail(console, {outcome.problem->text, outcome.problem->details, NothingWritten()});
+    return SaveRead(path, backup, console, NothingWritten());
 }
 
-Status Write(const CloneImage& image, const TransferScope& scope, ReceiverSession& session, Console& console)
+void List(const std::vector<std::string>& rows, Console& console)
+{
+    for (const std::string& row : rows)
+        console.err << "  " << VisibleText(row) << '\n';
+}
+
+/// Names the blocks that a second read brings otherwise. \param agrees  cleared when there is one
+Status ReadTwice(const ReceiverReader& reader, ReceiverSession& session, Console& console, bool& agrees)
+{
+    const std::vector<ExpectedBlock> first = reader.Blocks();
+    session.Observer().Begin(static_cast<int>(first.size()));
+    AftermathObserver observer(session.Observer(), NotReadTwice());
+    std::vector<BlockDifference> differences;
+    const TransferResult result = ReadBack(first, session.Link(), observer, differences);
+    const Status status = session.Finish(result);
+    if (result == TransferResult::Cancelled)
+        console.err << NotReadTwice() << '\n';
+    agrees = agrees && differences.empty();
+    if (differences.empty())
+        return status;
+    Report(console, {kCommunicationError, OtherwiseNote(static_cast<int>(differences.size())) + ":"});
+    std::vector<std::string> rows;
+    rows.reserve(differences.size());
+    for (const auto& [block, read] : differences)
+        rows.push_back(block.label + ": first " + block.contents.String() + ", then " + read.String());
+    List(rows, console);
+    return status;
+}
+
+/// Saves what is not for certain what the receiver holds; the file as it was is not lost by it.
+Status SaveDoubtful(const std::string& path, const CloneImage& image, Console& console)
+{
+    const bool replaces = Exists(path);
+    if (replaces)
+        if (const auto problem = KeepOldFile(path))
+            return Fail(console, {problem->text, problem->details, path + " is as it was."});
+    if (SaveRead(path, image, console) == Status::Done)
+        console.err << path << " is written with what came"
+                    << (replaces ? "; as it was it is kept as " + path + "~" : std::string())
+                    << ". Check the cable and read again.\n";
+    return Status::Failed;
+}
+
+Status Write(const CloneImage& image, const TransferScope& scope, bool isVerified, ReceiverSession& session,
+             Console& console)
 {
     ReceiverWriter writer(image, scope, session.Link(), session.Observer());
     session.Observer().Begin(writer.Plan().BlockCount());
@@ -48,7 +116,11 @@ Status Write(const CloneImage& image, const TransferScope& scope, ReceiverSessio
     const Status status = session.Finish(result);
     if (result == TransferResult::Cancelled)
         console.err << writer.Plan().Summary() << '\n';
-    return status;
+    if (const int flags = writer.OtherFlags(); flags > 0)
+        console.err << "Enable flags of other rows that differ from FILE: " << flags
+                    << "; the receiver keeps its own.\n";
+    // The comparison that follows finds out.
+    return writer.IsInDoubt() && !isVerified ? Fail(console, DoubtfulWrite()) : status;
 }
 
 }  // namespace
@@ -58,15 +130,28 @@ Status RunRead(const Arguments& arguments, Console& console)
     CloneImage image;
     auto problem = LoadOrStart(arguments[0], image);
     if (!problem)
-        problem = SaveObstacle(PathOf(arguments[0]));
+        problem = ReadingObstacle(PathOf(arguments[0]));
     if (problem)
         return Fail(console, *problem);
     const TransferScope scope = ScopeOf(arguments);
     ReceiverSession session(arguments, console);
+    session.TellPort();
     session.Observer().Begin(BlocksToBackUp(image, scope));
     ReceiverReader reader(image, session.Link(), session.Observer());
-    const Status status = session.Finish(reader.Read(scope));
-    return status == Status::Done ? Save(arguments[0], image, console) : status;
+    if (const Status status = session.Finish(reader.Read(scope)); status != Status::Done)
+        return status;
+    const std::vector<std::string> unreadable = reader.Unreadable();
+    if (!unreadable.empty()) {
+        Report(console, {kCommunicationError, UnreadableNote(static_cast<int>(unreadable.size())) + ":"});
+        List(unreadable, console);
+    }
+    bool agrees = unreadable.empty();
+    if (arguments.Has("--verify"))
+        if (const Status status = ReadTwice(reader, session, console, agrees); status != Status::Done)
+            return status;
+    if (agrees)
+        return SaveRead(arguments[0], image, console);
+    return SaveDoubtful(arguments[0], image, console);
 }
 
 Status RunWrite(const Arguments& arguments, Console& console)
@@ -79,13 +164,21 @@ Status RunWrite(const Arguments& arguments, Console& console)
         return Fail(console, {problem->text, problem->details, NothingWritten()});
     const TransferScope scope = ScopeOf(arguments);
     ReceiverSession session(arguments, console);
+    session.TellPort();
     Status status = Status::Done;
+    std::optional<int> model;
     if (!backup.empty())
-        status = KeepBackup(image, scope, backup, session, console);
+        status = KeepBackup(image, scope, backup, session, console, model);
+    const int wanted = image.Settings().model;
+    if (status == Status::Done && model.value_or(wanted) != wanted && !arguments.Has("--force"))
+        status = Fail(console, {kDataError,
+                                OtherModelText(*model, wanted) +
+                                    " If that is meant, repeat with --force. The backup is in " + backup,
+                                "Nothing was written."});
     if (status == Status::Done)
-        status = Write(image, scope, session, console);
+        status = Write(image, scope, arguments.Has("--verify"), session, console);
     if (status == Status::Done && arguments.Has("--verify"))
-        status = CompareWithReceiver(image, scope, session, console, NotVerified());
+        status = CompareWithReceiver(ExpectedAfterWrite(image, scope), session, console, NotVerified());
     return status;
 }
 

@@ -23,6 +23,17 @@ bool IsNumber(std::string_view text)
     return text.size() > sign && text.find_first_not_of("0123456789", sign) == std::string_view::npos;
 }
 
+/// What stands behind "COM" in any letters; a text that does not begin with it stays.
+std::string_view WithoutCom(std::string_view text)
+{
+    constexpr std::string_view kCom = "com";
+    const auto isSame = [](char a, char b) { return (a | 0x20) == b; };
+    if (!std::ranges::equal(text.substr(0, kCom.size()), kCom, isSame))
+        return text;
+    const std::size_t number = text.find_first_not_of(' ', kCom.size());
+    return number == std::string_view::npos ? text : text.substr(number);
+}
+
 }  // namespace
 
 std::optional<int> ReadNumberIn(std::string_view text, int lowest, int highest)
@@ -33,6 +44,11 @@ std::optional<int> ReadNumberIn(std::string_view text, int lowest, int highest)
     if (!isDigits || std::from_chars(text.data(), end, number).ec != std::errc())
         return std::nullopt;
     return number >= lowest && number <= highest ? std::optional<int>(number) : std::nullopt;
+}
+
+std::optional<int> ReadComNumber(std::string_view text)
+{
+    return ReadNumberIn(WithoutCom(text), 1, kComPorts);
 }
 
 std::optional<int> ReadSelector(std::string_view text)
@@ -50,7 +66,12 @@ std::string RegionFault(std::string_view text)
 
 std::string PortNumberFault(std::string_view text)
 {
-    const bool isTaken = !IsNumber(text) || ReadNumberIn(text, 1, kComPorts);
+#ifdef Q_OS_WIN
+    const std::string_view number = text;  // COM15 and so on are devices
+#else
+    const std::string_view number = WithoutCom(text);
+#endif
+    const bool isTaken = !IsNumber(number) || ReadComNumber(text);
     return isTaken ? "" : "port numbers are 1 to 14; a device path such as /dev/ttyUSB0 is taken too";
 }
 
@@ -87,7 +108,8 @@ std::string FileNameFault(std::string_view text)
 TransferScope ScopeOf(const Arguments& arguments)
 {
     const std::string only = arguments.Value("--only");
-    return {only != "memory", only != "settings", SelectorOf(arguments)};
+    const bool wantsSettings = only.empty() ? !arguments.Has("--bank") : only == "settings";
+    return {wantsSettings, only != "settings", SelectorOf(arguments)};
 }
 
 std::string ScopeConflict(const Arguments& arguments)
@@ -103,7 +125,7 @@ std::string PrintConflict(const Arguments& arguments)
     for (const char* option : {"--bank", "--empty"})
         if (arguments.Has(option) && !hasMemory)
             return std::string(option) + " is about channels, which are not printed; add --memory";
-    for (const char* option : {"--paper", "--landscape"})
+    for (const char* option : {"--paper", "--landscape", "--force"})
         if (arguments.Has(option) && !arguments.Has("--pdf"))
             return std::string(option) + " is about the pages of a PDF; add --pdf";
     return arguments.Has("--pdf") && arguments.Value("--pdf") == arguments[0]

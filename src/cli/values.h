@@ -12,6 +12,9 @@ namespace rqm5 {
 /// Digits only, as a number from lowest to highest.
 std::optional<int> ReadNumberIn(std::string_view text, int lowest, int highest);
 
+/// A COM number 1 to 14: "5", "COM5", "COM 5".
+std::optional<int> ReadComNumber(std::string_view text);
+
 /// A bank 0 to 49, "program-scan", "search-pass", "priority" or "all", as a selector index.
 std::optional<int> ReadSelector(std::string_view text);
 
@@ -23,7 +26,7 @@ std::string SelectorFault(std::string_view text);
 std::string PaperFault(std::string_view text);
 std::string FileNameFault(std::string_view text);
 
-/// What --only and --bank ask for.
+/// What --only and --bank ask for: a bank alone asks for the memory alone.
 TransferScope ScopeOf(const Arguments& arguments);
 
 /// A bank cannot be chosen when no memory is transferred.

@@ -5,6 +5,7 @@
 #include "cli/receiver_session.h"
 #include "cli/text_table.h"
 #include "cli/values.h"
+#include "link/byte_names.h"
 #include "link/forwarding_observer.h"
 #include "link/receiver_checks.h"
 
@@ -25,10 +26,9 @@ std::string ExpectedIn(const ExpectedBlock& block, const MemoryBlock& read)
 
 }  // namespace
 
-Status CompareWithReceiver(const CloneImage& image, const TransferScope& scope, ReceiverSession& session,
+Status CompareWithReceiver(const std::vector<ExpectedBlock>& expected, ReceiverSession& session,
                            Console& console, const std::string& aftermath)
 {
-    const std::vector<ExpectedBlock> expected = ExpectedAfterWrite(image, scope);
     session.Observer().Begin(static_cast<int>(expected.size()));
     std::vector<BlockDifference> differences;
     AftermathObserver observer(session.Observer(), aftermath);
@@ -39,9 +39,9 @@ Status CompareWithReceiver(const CloneImage& image, const TransferScope& scope, 
     TextTable table;
     for (const auto& [block, read] : differences)
         table.AddRow({HexAddress(block.address), block.label, "expected " + ExpectedIn(block, read),
-                      "receiver " + read.String()});
+                      "receiver " + read.String(), DifferingBytes(block, read)});
     table.Print(console.out);
-    return differences.empty() ? status : Status::Failed;
+    return differences.empty() || status == Status::Interrupted ? status : Status::Failed;
 }
 
 Status RunVerify(const Arguments& arguments, Console& console)
@@ -50,7 +50,8 @@ Status RunVerify(const Arguments& arguments, Console& console)
     if (const auto problem = Load(arguments[0], image))
         return Fail(console, *problem);
     ReceiverSession session(arguments, console);
-    return CompareWithReceiver(image, ScopeOf(arguments), session, console, {});
+    session.TellPort();
+    return CompareWithReceiver(ExpectedInReceiver(image, ScopeOf(arguments)), session, console, {});
 }
 
 }  // namespace rqm5

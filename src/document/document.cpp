@@ -5,11 +5,6 @@
 #include "document/step.h"
 
 namespace rqm5 {
-namespace {
-
-constexpr int kNoState = -1;
-
-}  // namespace
 
 Document::Document(CloneImage image, QObject* parent)
     : QObject(parent), image_(std::move(image)), history_(this)
@@ -42,8 +37,8 @@ void Document::Edit(const QString& name, const ChangeFunction& change, int run)
     ImageChange difference = Difference(image_, after);
     image_ = std::move(after);
     file_.isMarked = file_.isMarked || difference.IsEmpty();
+    Push(name, difference, run);
     Announce(difference);
-    Push(name, std::move(difference), run);
     emit StateChanged();
 }
 
@@ -77,15 +72,16 @@ void Document::Replace(CloneImage image, const QString& fileName, bool isSaved)
 
 void Document::MarkSaved(const QString& fileName)
 {
+    ForgetFile(fileName);
     file_ = {fileName, State()};
-    history_.setClean();
+    ShowSavedState();
     emit StateChanged();
 }
 
-void Document::Push(const QString& name, ImageChange change, int run)
+void Document::Push(const QString& name, const ImageChange& change, int run)
 {
     if (!change.IsEmpty())
-        PushStep(new Step(*this, name, std::move(change), run));
+        PushStep(new Step(*this, name, change, run));
 }
 
 void Document::PushStep(Step* step)
@@ -101,6 +97,8 @@ void Document::PushStep(Step* step)
     file_.isMarked = file_.isMarked || history_.index() < steps;
 }
 
+/// Called by the stack in the middle of its work: nobody is told before it has finished, because listeners
+/// may make an edit of what was typed meanwhile.
 void Document::TakeStep(const ImageChange& change, bool isUndone)
 {
     isStepping_ = true;
@@ -108,22 +106,39 @@ void Document::TakeStep(const ImageChange& change, bool isUndone)
         change.Revert(image_);
     else
         change.Apply(image_);
-    Announce(change);
-    emit Stepped(change);
+    stepped_.Join(isUndone ? Reversed(change) : change);
+}
+
+/// What a step remembers of a file is no longer true once the file has been written.
+void Document::ForgetFile(const QString& fileName)
+{
+    for (int i = 0; i < history_.count(); ++i)
+        const_cast<Step*>(static_cast<const Step*>(history_.command(i)))->ForgetFile(fileName);
 }
 
 /// The stack keeps its own mark of the saved state, for the view and so that a run does not go on across it.
-void Document::History_IndexChanged()
+void Document::ShowSavedState()
 {
+    const int marked = history_.cleanIndex();
+    const int markedState =
+        marked > 0 ? static_cast<const Step*>(history_.command(marked - 1))->Serial() : bottom_;
     if (State() == file_.saved)
         history_.setClean();
-    else if (history_.isClean())
+    else if (marked >= 0 && markedState != file_.saved)
         history_.resetClean();
+}
+
+void Document::History_IndexChanged()
+{
+    ShowSavedState();
     if (!std::exchange(isStepping_, false))
         return;
     if (State() == file_.saved)
         file_.isMarked = false;
+    const ImageChange change = std::exchange(stepped_, {});
+    Announce(change);
     emit StateChanged();
+    emit Stepped(change);
 }
 
 Transaction::Transaction(Document& document, const QString& name)

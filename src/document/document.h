@@ -69,25 +69,29 @@ class Document : public QObject
     /// The current file, or whether there are unsaved changes.
     void StateChanged();
 
-    /// A step was undone or redone.
+    /// Steps were undone or redone, one or several at once: what they changed together.
     void Stepped(const rqm5::ImageChange& change);
 
   private:
     friend class Step;
     friend class Transaction;
 
+    static constexpr int kNoState = -1;
+
     /// The current file, and which state of the image it holds.
     struct File
     {
         QString name;
-        int saved = 0;          ///< serial number of the state that is in the file, -1 for none
+        int saved = 0;          ///< serial number of the state that is in the file, kNoState for none
         bool isMarked = false;  ///< there is an unsaved change that is no step
     };
 
-    void Push(const QString& name, ImageChange change, int run);
+    void Push(const QString& name, const ImageChange& change, int run);
     void PushStep(Step* step);
     void Announce(const ImageChange& change);
     void TakeStep(const ImageChange& change, bool isUndone);
+    void ForgetFile(const QString& fileName);
+    void ShowSavedState();
     int State() const;
     void History_IndexChanged();
 
@@ -96,7 +100,8 @@ class Document : public QObject
     QUndoStack history_;
     int lastSerial_ = 0;
     int lastRun_ = 0;
-    int bottom_ = 0;  ///< the state below the first step: another one once steps were dropped
+    int bottom_ = 0;       ///< the state below the first step: another one once steps were dropped
+    ImageChange stepped_;  ///< what the steps that are being taken have changed so far
     bool isStepping_ = false;
 };
 

@@ -38,6 +38,12 @@ void Step::SwapFile()
         std::swap(*otherFile_, document_.file_);
 }
 
+void Step::ForgetFile(const QString& fileName)
+{
+    if (otherFile_ && otherFile_->name == fileName)
+        otherFile_->saved = Document::kNoState;
+}
+
 bool Step::mergeWith(const QUndoCommand* next)
 {
     const auto* step = static_cast<const Step*>(next);

@@ -16,6 +16,9 @@ class Step : public QUndoCommand
     /// Makes the step change the current file, too: to the document's of now from the one that was before.
     void TakeFile(const Document::File& before) { otherFile_ = before; }
 
+    /// The file has been written: what the step remembers of it is in it no longer.
+    void ForgetFile(const QString& fileName);
+
     /// The number of the state that the step leads to.
     int Serial() const { return serial_; }
 

@@ -2,10 +2,9 @@
 
 #include <algorithm>
 
-#include "files/clone_lines.h"
+#include "files/safe_notes.h"
 #include "image/channel_block.h"
 #include "image/flag_bits.h"
-#include "image/utf8.h"
 #include "image/value_tables.h"
 #include "memory/bank_layout.h"
 #include "memory/row_names.h"
@@ -40,12 +39,6 @@ void ForEachRow(const CloneImage& image, Use use)
         use(RowId{RowKind::Memory, row}, image.MemData(row));
 }
 
-bool Survives(const std::string& note)
-{
-    const std::string text = note + "\r\n";
-    return CloneLineReader(text).NextField() == note && IsValidUtf8(note);
-}
-
 }  // namespace
 
 std::string FormatCloneFile(const CloneImage& image)
@@ -70,7 +63,7 @@ std::vector<std::string> NotesThatDoNotSurvive(const CloneImage& image)
 {
     std::vector<std::string> names;
     ForEachRow(image, [&](RowId id, const Channel& row) {
-        if (!row.note.empty() && !Survives(row.note))
+        if (!NoteSurvives(row.note))
             names.push_back(RowName(image, id));
     });
     return names;

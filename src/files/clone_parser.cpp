@@ -51,13 +51,13 @@ ParseError WrongLength(int line, std::size_t characters)
 ParseError WrongEnd(const CloneLineReader& reader)
 {
     const int splitLine = reader.FirstSplitLine();
-    if (splitLine == 0)
+    if (splitLine == 0 || splitLine > kBankLine)
         return {kCloneLines, LineText(kEndLine) + " is not \"" + std::string(FileEnd) +
                                  "\": lines were added or the file is damaged. " + kRestore};
     return {splitLine,
             LineText(splitLine - 1) +
-                " holds a comma, which ends a note and shifts all that follows. Remove the comma in a "
-                "text editor."};
+                " holds a comma, which ends a note and shifts all that follows. File > Repair, or \"rq-m5 "
+                "repair\", replaces it."};
 }
 
 /// Splits the text and makes every check that can refuse it.

@@ -11,10 +11,16 @@ namespace rqm5 {
 /// The VFO rows and memory rows 0 to 1209 as CSV: a header and 1224 records.
 std::string FormatCsv(const CloneImage& image);
 
+/// What a CSV text gave.
+struct CsvTaken
+{
+    int rows = 0;
+    int movedCarriers = 0;  ///< rows whose carrier code is one above the one that an export wrote
+};
+
 /// Overwrites the rows that a CSV text names and leaves all others as they are. Never fails; a text that
 /// is not CSV changes nothing. The settings stay.
-/// \return how many records were taken
-int ParseCsv(std::string_view text, CloneImage& image);
+CsvTaken ParseCsv(std::string_view text, CloneImage& image);
 
 /// The rows whose notes a spreadsheet would run as a formula (they begin with "=", "+", "-", "@", tab).
 std::vector<std::string> NotesThatLookLikeFormulas(const CloneImage& image);

@@ -129,11 +129,11 @@ std::optional<RowId> ReadRow(CsvFieldReader& reader, const std::string& model)
 
 }  // namespace
 
-int ParseCsv(std::string_view text, CloneImage& image)
+CsvTaken ParseCsv(std::string_view text, CloneImage& image)
 {
     const std::string decoded = DecodeFileText(text);
     CsvFieldReader reader(decoded);
-    int taken = 0;
+    CsvTaken taken;
     while (const auto model = reader.Next()) {
         const auto id = ReadRow(reader, *model);
         if (!id)
@@ -141,8 +141,9 @@ int ParseCsv(std::string_view text, CloneImage& image)
         const auto record = ReadRecord(reader);
         if (!record)
             break;
-        StoreRecord(*record, id->kind, image.At(*id));
-        ++taken;
+        if (StoreRecord(*record, id->kind, image.At(*id)))
+            ++taken.movedCarriers;
+        ++taken.rows;
     }
     return taken;
 }

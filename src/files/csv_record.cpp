@@ -46,14 +46,15 @@ int SecretOr(int previous, std::string_view text)
     return code >= 0 && code < kSecretCodes ? code : previous;
 }
 
-int CarrierOr(int previous, std::string_view text)
+/// Nothing when there is no such carrier.
+std::optional<int> CarrierCode(std::string_view text)
 {
     if (text == "JR")
         return kCarrierJr;
     // Everything else reads and writes (code + 3) * 100, so an import moves each code up by one: the files
     // that owners keep count so.
     const int code = ReadInteger(text) / 100 - 2;
-    return code >= 0 && code < kCarrierJr ? code : previous;
+    return code >= 0 && code < kCarrierJr ? std::optional(code) : std::nullopt;
 }
 
 int ToneOr(int previous, std::string_view text)
@@ -90,7 +91,7 @@ ChannelContents Imported(const CsvRecord& record, const ChannelContents& previou
     row.step = Code(StepOr(previous.step, texts[kStep]));
     row.option = Code(OptionOr(previous.option, texts[kOption]) + (record.isSkipped ? kSkipBit : 0));
     row.secret = Code(SecretOr(previous.secret, texts[kSecret]));
-    row.carrier = Code(CarrierOr(previous.carrier, texts[kCarrier]));
+    row.carrier = Code(CarrierCode(texts[kCarrier]).value_or(previous.carrier));
     row.tone = Code(ToneOr(previous.tone, texts[kTone]));
     row.shift = Code(ShiftOf(texts[kShift]));
     row.shiftFrequency = static_cast<std::int32_t>(
@@ -111,12 +112,13 @@ std::string UpperCase(std::string_view text)
     return upper;
 }
 
-void StoreRecord(const CsvRecord& record, RowKind kind, Channel& row)
+bool StoreRecord(const CsvRecord& record, RowKind kind, Channel& row)
 {
     static_cast<ChannelContents&>(row) = Imported(record, row);
     row.note = PlainNote(record.texts[kNote]);
     if (kind == RowKind::Memory)
         row.enabled = record.isEnabled;
+    return row.HasChannel() && CarrierCode(record.texts[kCarrier]).value_or(kCarrierJr) != kCarrierJr;
 }
 
 }  // namespace rqm5

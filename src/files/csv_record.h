@@ -21,7 +21,8 @@ struct CsvRecord
 
 /// Writes a record into a row. A text that matches no value keeps what the row has; a frequency of 0 empties
 /// the row. The note is made a single line.
-void StoreRecord(const CsvRecord& record, RowKind kind, Channel& row);
+/// \return true when the carrier code is one above the one that an export wrote
+bool StoreRecord(const CsvRecord& record, RowKind kind, Channel& row);
 
 /// Upper-case letters of the plain alphabet.
 std::string UpperCase(std::string_view text);

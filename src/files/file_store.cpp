@@ -1,12 +1,11 @@
 #include "files/file_store.h"
 
+#include <QCryptographicHash>
 #include <QFileInfo>
 
 #include "files/clone_file.h"
-#include "files/csv_file.h"
+#include "files/round_trip.h"
 #include "image/display_text.h"
-#include "image/image_change.h"
-#include "memory/row_names.h"
 
 namespace rqm5 {
 namespace {
@@ -16,36 +15,47 @@ std::string NameOf(const QString& path)
     return VisibleText(QFileInfo(path).absoluteFilePath().toStdString());
 }
 
-Problem NotAsWritten(const QString& path)
+/// Why a file that was written is not the one that is there now.
+Problem NotAsWritten(const QString& path, const FileIdentity& written)
 {
+    if (FileIdentity::Of(path) != written)
+        return {kDataError, NameOf(path) +
+                                ": another program wrote this file right after it was saved, so it holds "
+                                "something else. Look at it, then save again or under another name."};
     return {kDataError,
             NameOf(path) +
                 ": the file does not hold what was written to it. The disk may be failing; save to "
                 "another one."};
 }
 
-/// The rows whose notes differ when the written text is loaded.
-std::vector<std::string> LostNotes(const CloneImage& image, const std::string& written)
+Problem Unreadable(const Problem& reading)
 {
-    CloneImage loaded;
-    if (ParseCloneFile(written, loaded))
-        return NotesThatDoNotSurvive(image);
-    const ImageChange change = Difference(image, loaded);
-    std::vector<std::string> names;
-    for (const auto& note : change.VFONotes)
-        names.push_back(VfoRowName(note.index));
-    for (const auto& note : change.MemNotes)
-        names.push_back(RowName(image, note.index));
-    return names;
+    return {reading.text, reading.details +
+                              " The new file is in place; only what it holds could not be compared with "
+                              "what was written."};
 }
 
 }  // namespace
 
-std::optional<Problem> LoadCloneFile(const QString& path, CloneImage& image)
+FileMark MarkOf(const std::string& bytes)
+{
+    return QCryptographicHash::hash(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())),
+                                    QCryptographicHash::Sha256);
+}
+
+FileMark MarkOfFile(const QString& path)
+{
+    std::string bytes;
+    return ReadWholeFile(path, bytes) ? FileMark() : MarkOf(bytes);
+}
+
+std::optional<Problem> LoadCloneFile(const QString& path, CloneImage& image, FileMark* mark)
 {
     std::string bytes;
     if (auto problem = ReadWholeFile(path, bytes))
         return problem;
+    if (mark != nullptr)
+        *mark = MarkOf(bytes);
     if (const auto error = ParseCloneFile(bytes, image))
         return Problem{kDataError, NameOf(path) + ": " + error->reason};
     return std::nullopt;
@@ -54,14 +64,27 @@ std::optional<Problem> LoadCloneFile(const QString& path, CloneImage& image)
 SaveOutcome SaveCloneFile(const QString& path, const CloneImage& image)
 {
     const std::string text = FormatCloneFile(image);
-    if (auto problem = WriteWholeFile(path, text))
-        return {std::move(problem), {}};
+    SaveOutcome outcome;
+    WriteReport report;
+    outcome.problem = WriteWholeFile(path, text, &report);
+    outcome.accessChanges = report.accessChanges;
+    if (report.isInPlace)
+        outcome.mark = MarkOf(text);
+    if (outcome.problem)
+        return outcome;
     std::string written;
-    if (auto problem = ReadWholeFile(path, written))
-        return {std::move(problem), {}};
-    if (written != text)
-        return {NotAsWritten(path), {}};
-    return {std::nullopt, LostNotes(image, written)};
+    if (const auto problem = ReadWholeFile(path, written)) {
+        outcome.problem = Unreadable(*problem);
+    } else if (written != text) {
+        outcome.problem = NotAsWritten(path, report.identity);
+        outcome.mark.clear();
+    } else {
+        CloneImage loaded;
+        const bool isReadable = !ParseCloneFile(written, loaded);
+        outcome.lostNotes = isReadable ? LostNotes(image, loaded) : NotesThatDoNotSurvive(image);
+        outcome.changedValues = ChangedValues(image, isReadable ? loaded : ReadBack(image));
+    }
+    return outcome;
 }
 
 std::optional<Problem> ExportCsv(const QString& path, const CloneImage& image)
@@ -69,12 +92,14 @@ std::optional<Problem> ExportCsv(const QString& path, const CloneImage& image)
     return WriteWholeFile(path, FormatCsv(image));
 }
 
-std::optional<Problem> ImportCsv(const QString& path, CloneImage& image, int& taken)
+std::optional<Problem> ImportCsv(const QString& path, CloneImage& image, CsvTaken& taken, FileMark* mark)
 {
-    taken = 0;
+    taken = {};
     std::string bytes;
     if (auto problem = ReadWholeFile(path, bytes))
         return problem;
+    if (mark != nullptr)
+        *mark = MarkOf(bytes);
     taken = ParseCsv(bytes, image);
     return std::nullopt;
 }

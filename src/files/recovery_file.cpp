@@ -3,11 +3,12 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
 #include <QUuid>
 #include <algorithm>
 
 #include "files/clone_file.h"
-#include "files/file_store.h"
+#include "files/safe_notes.h"
 #include "image/display_text.h"
 
 namespace rqm5 {
@@ -15,23 +16,49 @@ namespace {
 
 const QString kSuffix = QStringLiteral(".RQ5");
 
-QString NewPath(const QString& folder)
+const QString kPrefix = QStringLiteral("recovery-");
+const QString kReadPrefix = QStringLiteral("recovery-read-");
+
+constexpr int kMarkDigits = 64;
+
+QString NewPath(const QString& folder, RecoveryFile::Work work)
 {
-    return QDir(folder).filePath(QStringLiteral("recovery-") +
+    return QDir(folder).filePath((work == RecoveryFile::Work::Read ? kReadPrefix : kPrefix) +
                                  QUuid::createUuid().toString(QUuid::WithoutBraces) + kSuffix);
 }
 
-void MendNote(std::string& note)
+/// The path, and the mark on a line below.
+std::string OriginText(const RecoveryOrigin& origin)
 {
-    note = VisibleText(note);
-    std::replace(note.begin(), note.end(), ',', ';');
-    if (note.starts_with('"'))
-        std::replace(note.begin(), note.end(), '"', '\'');
+    const std::string mark = origin.mark.toHex().toStdString();
+    return origin.path.toStdString() + (mark.empty() ? "" : '\n' + mark);
+}
+
+/// A new folder is its owner's alone: files may come from where nobody else may look.
+void MakeFolder(const QString& path)
+{
+    constexpr auto kOwner = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
+    if (!QFileInfo::exists(path) && QDir().mkpath(path))
+        QFile::setPermissions(path, kOwner);
 }
 
 }  // namespace
 
-RecoveryFile::RecoveryFile(const QString& folder) : RecoveryFile(Existing{NewPath(folder)}) {}
+QString StateFolder()
+{
+#ifdef Q_OS_LINUX
+    const QString set = qEnvironmentVariable("XDG_STATE_HOME");
+    const QString base =
+        QDir::isAbsolutePath(set) ? set : QDir::home().filePath(QStringLiteral(".local/state"));
+    return QDir(base).filePath(QStringLiteral("rq-m5-clone"));
+#else
+    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+#endif
+}
+
+RecoveryFile::RecoveryFile(const QString& folder, Work work) : RecoveryFile(Existing{NewPath(folder, work)})
+{
+}
 
 RecoveryFile::RecoveryFile(const Existing& existing)
     : path_(existing.path), lock_(existing.path + QStringLiteral(".lock"))
@@ -54,7 +81,7 @@ bool RecoveryFile::Lock()
 std::vector<std::unique_ptr<RecoveryFile>> RecoveryFile::Abandoned(const QString& folder)
 {
     std::vector<std::unique_ptr<RecoveryFile>> files;
-    const QStringList patterns{QStringLiteral("recovery-*") + kSuffix};
+    const QStringList patterns{kPrefix + QLatin1Char('*') + kSuffix};
     for (const QFileInfo& info : QDir(folder).entryInfoList(patterns, QDir::Files, QDir::Time)) {
         std::unique_ptr<RecoveryFile> file(new RecoveryFile(Existing{info.filePath()}));
         // Another program may have removed it between the listing and the lock.
@@ -64,13 +91,13 @@ std::vector<std::unique_ptr<RecoveryFile>> RecoveryFile::Abandoned(const QString
     return files;
 }
 
-std::optional<Problem> RecoveryFile::Keep(const std::string& text, const QString& origin)
+std::optional<Problem> RecoveryFile::Keep(const std::string& text, const RecoveryOrigin& origin)
 {
-    QDir().mkpath(QFileInfo(path_).path());
+    MakeFolder(QFileInfo(path_).path());
     if (!Lock())
         return Problem{kFileOpenError, VisibleText(lock_.fileName().toStdString()) + ": cannot be made"};
     if (origin != Origin())
-        if (auto problem = WriteWholeFile(OriginPath(), origin.toStdString()))
+        if (auto problem = WriteWholeFile(OriginPath(), OriginText(origin)))
             return problem;
     return WriteWholeFile(path_, text);
 }
@@ -82,17 +109,27 @@ void RecoveryFile::Remove()
     lock_.unlock();
 }
 
+RecoveryFile::Work RecoveryFile::Holds() const
+{
+    return QFileInfo(path_).fileName().startsWith(kReadPrefix) ? Work::Read : Work::Edits;
+}
+
 QString RecoveryFile::OriginPath() const
 {
     return path_ + QStringLiteral(".origin");
 }
 
-QString RecoveryFile::Origin() const
+RecoveryOrigin RecoveryFile::Origin() const
 {
-    std::string origin;
-    return QFileInfo::exists(OriginPath()) && !ReadWholeFile(OriginPath(), origin)
-               ? QString::fromStdString(origin)
-               : QString();
+    std::string text;
+    if (!QFileInfo::exists(OriginPath()) || ReadWholeFile(OriginPath(), text))
+        return {};
+    // A name may hold line ends, and older programs kept no mark.
+    const std::size_t end = text.size() > kMarkDigits ? text.size() - kMarkDigits - 1 : 0;
+    const FileMark mark = FileMark::fromHex(QByteArray::fromStdString(text.substr(end)).trimmed());
+    if (text.empty() || text[end] != '\n' || mark.size() != kMarkDigits / 2)
+        return {QString::fromStdString(text), {}};
+    return {QString::fromStdString(text.substr(0, end)), mark};
 }
 
 QDateTime RecoveryFile::Time() const
@@ -102,14 +139,7 @@ QDateTime RecoveryFile::Time() const
 
 std::string RecoveryText(const CloneImage& image)
 {
-    if (NotesThatDoNotSurvive(image).empty())
-        return FormatCloneFile(image);
-    CloneImage mended = image;
-    for (int row = 0; row < kVfoRows; ++row)
-        MendNote(mended.VFOData(row).note);
-    for (int row = 0; row < kMemoryRows; ++row)
-        MendNote(mended.MemData(row).note);
-    return FormatCloneFile(mended);
+    return FormatCloneFile(NotesThatDoNotSurvive(image).empty() ? image : WithSafeNotes(image));
 }
 
 }  // namespace rqm5

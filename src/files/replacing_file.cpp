@@ -4,27 +4,21 @@
 #include <QDir>
 #include <QFileInfo>
 #include <algorithm>
-#include <filesystem>
+#include <cerrno>
+#include <cstdio>
+
+#include "files/file_access.h"
 
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include <cerrno>
+#else
+#include <filesystem>
 #endif
 
 namespace rqm5 {
 namespace {
-
-/// What a link, or a link to a link, points to; it need not exist.
-QString Target(QString path)
-{
-    constexpr int kMostLinks = 40;  // as many as the system follows
-    for (int i = 0; i < kMostLinks && QFileInfo(path).isSymLink(); ++i)
-        path = QFileInfo(path).symLinkTarget();
-    return path;
-}
 
 /// A younger one may belong to a program that is saving right now.
 void RemoveLeftovers(const QDir& folder)
@@ -38,105 +32,168 @@ void RemoveLeftovers(const QDir& folder)
             QFile::remove(file.filePath());
 }
 
-/// The permissions of the old file, or those that a new file gets.
-void SetPermissions(QFile& file, const QString& target)
+DiskFault SystemFault(int code)
 {
-    if (QFileInfo::exists(target)) {
-        file.setPermissions(QFile::permissions(target));
-        return;
-    }
-#ifdef Q_OS_UNIX
-    const mode_t masked = ::umask(0);
-    ::umask(masked);
-    // Where this fails the file is its owner's alone, which harms nobody.
-    [[maybe_unused]] const int failed = ::fchmod(file.handle(), 0666 & ~masked);
-#endif
+    return {qt_error_string(code), code, false};
 }
 
+#ifdef Q_OS_UNIX
+/// Some disks tell only when all has to be on them that they are full or broken. A file system that cannot
+/// be asked is no fault.
+std::optional<DiskFault> Flushed(int descriptor)
+{
+    if (::fsync(descriptor) != 0 && (errno == EIO || errno == ENOSPC || errno == EDQUOT))
+        return SystemFault(errno);
+    return std::nullopt;
+}
+#endif
+
 /// Without this the new name may be lost when the power fails, and the old contents come back. There is
-/// nothing to be done where a file system cannot do it.
-void FlushFolder([[maybe_unused]] const QString& file)
+/// nothing to be done where the folder cannot be opened for it.
+std::optional<DiskFault> FlushFolder([[maybe_unused]] const QString& file)
 {
 #ifdef Q_OS_UNIX
     const QByteArray name = QFile::encodeName(QFileInfo(file).absolutePath());
     const int folder = ::open(name.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (folder < 0)
-        return;
-    ::fsync(folder);
+        return std::nullopt;
+    auto fault = Flushed(folder);
     ::close(folder);
+    if (fault)
+        fault->isInPlace = true;
+    return fault;
+#else
+    return std::nullopt;
 #endif
 }
 
 }  // namespace
 
+QString LinkTarget(QString path)
+{
+    constexpr int kMostLinks = 40;  // as many as the system follows
+    for (int i = 0; i < kMostLinks && QFileInfo(path).isSymLink(); ++i)
+        path = QFileInfo(path).symLinkTarget();
+    return path;
+}
+
+FileIdentity FileIdentity::Of(const QString& path)
+{
+#ifdef Q_OS_UNIX
+    struct stat file = {};
+    if (::stat(QFile::encodeName(path).constData(), &file) != 0)
+        return {};
+#ifdef Q_OS_DARWIN
+    const timespec& time = file.st_mtimespec;
+#else
+    const timespec& time = file.st_mtim;
+#endif
+    constexpr qint64 kNanoseconds = 1'000'000'000;
+    return {static_cast<quint64>(file.st_dev), static_cast<quint64>(file.st_ino),
+            static_cast<qint64>(file.st_size), time.tv_sec * kNanoseconds + time.tv_nsec};
+#else
+    const QFileInfo info(path);
+    return {0, 0, info.size(), info.lastModified().toMSecsSinceEpoch()};
+#endif
+}
+
 ReplacingFile::ReplacingFile(const QString& path)
-    : target_(Target(path)), file_(QFileInfo(target_).absolutePath() + QStringLiteral("/.rq5-save-XXXXXX"))
+    : target_(LinkTarget(path)),
+      file_(QFileInfo(target_).absolutePath() + QStringLiteral("/.rq5-save-XXXXXX"))
 {
 }
 
-QString ReplacingFile::Open()
+std::optional<DiskFault> ReplacingFile::Open()
 {
     const QFileInfo old(target_);
     RemoveLeftovers(old.absoluteDir());
     // A rename would replace it all the same; its owner does not want that.
     if (old.exists() && !old.isWritable())
-        return QStringLiteral("Permission denied");
-    return file_.open() ? QString() : file_.errorString();
+        return DiskFault{QStringLiteral("Permission denied"), EACCES};
+    errno = 0;
+    if (file_.open())
+        return std::nullopt;
+    return DiskFault{file_.errorString(), errno};
 }
 
-QString ReplacingFile::Replace(const std::string& bytes)
+std::optional<DiskFault> ReplacingFile::Replace(const std::string& bytes)
 {
-    if (QString reason = Write(bytes); !reason.isEmpty())
-        return reason;
-    SetPermissions(file_, target_);
-    if (QString reason = Flush(); !reason.isEmpty())
-        return reason;
-    QString reason = Rename();
-    if (reason.isEmpty())
-        FlushFolder(target_);
-    return reason;
+    if (auto fault = Write(bytes))
+        return fault;
+    SetAccess();
+    if (auto fault = Flush())
+        return fault;
+    if (auto fault = Rename())
+        return fault;
+    return FlushFolder(target_);
 }
 
-QString ReplacingFile::Write(const std::string& bytes)
+std::optional<DiskFault> ReplacingFile::Write(const std::string& bytes)
 {
 #ifdef Q_OS_UNIX
     // A disk that is full takes a part first; only the next write says why it takes no more.
     for (std::size_t done = 0; done < bytes.size();) {
         const ssize_t written = ::write(file_.handle(), bytes.data() + done, bytes.size() - done);
         if (written < 0 && errno != EINTR)
-            return qt_error_string(errno);
+            return SystemFault(errno);
         done += static_cast<std::size_t>(std::max<ssize_t>(written, 0));
     }
-    return {};
+    return std::nullopt;
 #else
     const auto size = static_cast<qint64>(bytes.size());
-    return file_.write(bytes.data(), size) == size && file_.flush() ? QString() : file_.errorString();
+    if (file_.write(bytes.data(), size) == size && file_.flush())
+        return std::nullopt;
+    return DiskFault{file_.errorString()};
 #endif
 }
 
-/// Some disks tell only here that they are full or broken.
-QString ReplacingFile::Flush()
+/// Those of the old file, or those that a new file gets.
+void ReplacingFile::SetAccess()
 {
 #ifdef Q_OS_UNIX
-    if (::fsync(file_.handle()) != 0 && (errno == EIO || errno == ENOSPC || errno == EDQUOT))
-        return qt_error_string(errno);
+    if (QFileInfo::exists(target_)) {
+        accessChanges_ = CarryAccess(target_, file_.handle());
+        return;
+    }
+    const mode_t masked = ::umask(0);
+    ::umask(masked);
+    // Where this fails the file is its owner's alone, which harms nobody.
+    [[maybe_unused]] const int failed = ::fchmod(file_.handle(), 0666 & ~masked);
+#else
+    if (QFileInfo::exists(target_))
+        file_.setPermissions(QFile::permissions(target_));
 #endif
-    return {};
 }
 
-QString ReplacingFile::Rename()
+std::optional<DiskFault> ReplacingFile::Flush()
 {
+#ifdef Q_OS_UNIX
+    return Flushed(file_.handle());
+#else
+    return std::nullopt;
+#endif
+}
+
+std::optional<DiskFault> ReplacingFile::Rename()
+{
+    errno = 0;
     const QString name = file_.fileName();  // gives a nameless file its name
+    if (name.isEmpty() || !QFileInfo::exists(name))
+        return DiskFault{QStringLiteral("the new file gets no name here (%1)").arg(qt_error_string(errno)),
+                         errno};
+    identity_ = FileIdentity::Of(name);
     file_.close();
-    const auto path = [](const QString& text) {
-        return std::filesystem::path(QFile::encodeName(text).toStdString());
-    };
+#ifdef Q_OS_UNIX
+    if (std::rename(QFile::encodeName(name).constData(), QFile::encodeName(target_).constData()) != 0)
+        return SystemFault(errno);
+#else
     std::error_code error;
-    std::filesystem::rename(path(name), path(target_), error);
+    std::filesystem::rename(name.toStdWString(), target_.toStdWString(), error);
     if (error)
-        return QString::fromLocal8Bit(error.message().c_str());
+        return DiskFault{QString::fromLocal8Bit(error.message().c_str())};
+#endif
     file_.setAutoRemove(false);
-    return {};
+    return std::nullopt;
 }
 
 }  // namespace rqm5

@@ -1,6 +1,12 @@
 #include <QFile>
 #include <QFileInfo>
+#include <QStorageInfo>
 
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
+#include <cerrno>
 #include <csignal>
 
 #include "files/file_store.h"
@@ -46,6 +52,44 @@ QString OpenRemedy(const QFileInfo& file)
     return QStringLiteral("Check the name and the permissions of the folder, or save in another one.");
 }
 
+/// What helps against a fault of the disk. Only what the disk itself reports is blamed on it.
+QString Remedy(int code, const QFileInfo& file)
+{
+    switch (code) {
+        case ENOSPC:
+        case EFBIG:
+#ifdef Q_OS_UNIX
+        case EDQUOT:
+#endif
+            return QStringLiteral("Free some space on the disk or save on another one, then repeat.");
+        case ENAMETOOLONG:
+            return QStringLiteral("Give a shorter name.");
+        case EMFILE:
+        case ENFILE:
+            return QStringLiteral("Too many files are open; close other programs, then repeat.");
+        case EIO:
+            return QStringLiteral("The disk may be failing; save on another one.");
+        case EACCES:
+        case EPERM:
+        case EROFS:
+            return OpenRemedy(file);
+        default:
+            return QStringLiteral("Save in another folder or on another disk.");
+    }
+}
+
+/// \return the system's reason why no file can have this name, empty when one can
+QString NameFault([[maybe_unused]] const QFileInfo& file)
+{
+#ifdef Q_OS_UNIX
+    struct stat found = {};
+    const QByteArray path = QFile::encodeName(file.absoluteFilePath());
+    if (::lstat(path.constData(), &found) != 0 && errno == ENAMETOOLONG)
+        return qt_error_string(ENAMETOOLONG);
+#endif
+    return {};
+}
+
 std::optional<Obstacle> WriteObstacle(const QFileInfo& file)
 {
     if (auto obstacle = NotAFile(file))
@@ -56,6 +100,8 @@ std::optional<Obstacle> WriteObstacle(const QFileInfo& file)
     if (!folder.isDir())
         return Obstacle{QStringLiteral("the folder %1 does not exist").arg(folder.filePath()),
                         QStringLiteral("Make the folder or choose another one.")};
+    if (const QString fault = NameFault(target); !fault.isEmpty())
+        return Obstacle{fault, Remedy(ENAMETOOLONG, file)};
     if ((file.exists() && !file.isWritable()) || !folder.isWritable())
         return Obstacle{QStringLiteral("permission denied"), OpenRemedy(file)};
     return std::nullopt;
@@ -93,19 +139,40 @@ std::optional<Problem> SaveObstacle(const QString& path)
     return obstacle ? std::optional(ProblemWith(info, *obstacle)) : std::nullopt;
 }
 
-std::optional<Problem> WriteWholeFile(const QString& path, const std::string& bytes)
+std::optional<Problem> ReadingObstacle(const QString& path)
+{
+    constexpr qint64 kKilobyte = 1024;
+    constexpr qint64 kNeeded = 128;  // a clone file has 80
+    if (auto problem = SaveObstacle(path))
+        return problem;
+    const QFileInfo info(path);
+    // Less than 0 when the system does not tell.
+    const qint64 free = QStorageInfo(info.absolutePath()).bytesAvailable();
+    if (free < 0 || free >= kNeeded * kKilobyte)
+        return std::nullopt;
+    const QString reason = QStringLiteral("only %1 KiB are free on the disk, and the file needs %2")
+                               .arg(QString::number(free / kKilobyte), QString::number(kNeeded));
+    return ProblemWith(info, {reason, Remedy(ENOSPC, info)});
+}
+
+std::optional<Problem> WriteWholeFile(const QString& path, const std::string& bytes, WriteReport* report)
 {
     const QFileInfo info(path);
     if (auto problem = SaveObstacle(path))
         return problem;
     ReplacingFile file(path);
-    if (const QString reason = file.Open(); !reason.isEmpty())
-        return ProblemWith(info, {reason, OpenRemedy(info)});
-    if (const QString reason = file.Replace(bytes); !reason.isEmpty())
-        return ProblemWith(
-            info, {reason + QStringLiteral("; nothing was changed"),
-                   QStringLiteral("Free some space on the disk or save on another one, then repeat.")});
-    return std::nullopt;
+    if (const auto fault = file.Open())
+        return ProblemWith(info, {fault->reason, Remedy(fault->code, info)});
+    const auto fault = file.Replace(bytes);
+    if (report != nullptr)
+        *report = {file.AccessChanges(), file.Identity(), !fault || fault->isInPlace};
+    if (!fault)
+        return std::nullopt;
+    const QString state = fault->isInPlace ? QStringLiteral(
+                                                 "; the new file is in place, but it may be lost when the "
+                                                 "power fails")
+                                           : QStringLiteral("; nothing was changed");
+    return ProblemWith(info, {fault->reason + state, Remedy(fault->code, info)});
 }
 
 std::optional<Problem> ReadWholeFile(const QString& path, std::string& bytes)

@@ -7,6 +7,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "help/hit_delegate.h"
 #include "help/manual.h"
 #include "ui/form_texts.h"
 #include "ui/icons.h"
@@ -55,6 +56,8 @@ void frmHelp::Compose()
     txtSearch_->setClearButtonEnabled(true);
     lstPages_->setObjectName(QStringLiteral("lstPages"));
     lstPages_->setAccessibleName(tr("Pages"));
+    lstPages_->setItemDelegate(new HitDelegate(lstPages_));
+    lstPages_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 
     auto* left = new QWidget(this);
     auto* column = new QVBoxLayout(left);
@@ -121,7 +124,7 @@ void frmHelp::AddTools()
         txtSearch_->selectAll();
     });
     AddTool("mnuClose", tr("Close"), QStringLiteral("window-close"), {QKeySequence(Qt::Key_Escape)},
-            [this] { close(); });
+            [this] { LeaveOrClose(); });
 }
 
 void frmHelp::FillContents()
@@ -130,7 +133,8 @@ void frmHelp::FillContents()
     const bool isSearch = !QueryWords(query).isEmpty();
     lstPages_->clear();
     for (const ManualPage& page : isSearch ? SearchManual(query) : ManualPages()) {
-        auto* item = new QListWidgetItem(page.title, lstPages_);
+        const QString line = isSearch ? QLatin1Char('\n') + LineAround(page, QueryWords(query)) : QString();
+        auto* item = new QListWidgetItem(page.title + line, lstPages_);
         item->setData(Qt::UserRole, page.file);
     }
     if (lstPages_->count() == 0) {
@@ -164,7 +168,40 @@ void frmHelp::OpenItem(const QListWidgetItem* item)
 void frmHelp::txtSearch_Change()
 {
     FillContents();
-    brwPage_->MarkWords(QueryWords(txtSearch_->text()));
+    // A single letter stands nearly everywhere.
+    const bool isWord = txtSearch_->text().trimmed().size() > 1;
+    brwPage_->MarkWords(isWord ? QueryWords(txtSearch_->text()) : QStringList());
+    if (isWord)
+        OpenFirst();
+    if (txtSearch_->text().isEmpty())
+        searchPage_.clear();
+}
+
+/// Shows the first page found while its words are typed; Back leads to the page from before the search.
+void frmHelp::OpenFirst()
+{
+    const QString first = lstPages_->item(0)->data(Qt::UserRole).toString();
+    if (first.isEmpty())
+        return;
+    if (first == brwPage_->Page()) {
+        // The place found so far may go on with the letter that was typed now.
+        QTextCursor place = brwPage_->textCursor();
+        place.setPosition(place.selectionStart());
+        brwPage_->setTextCursor(place);
+        return FindWord();
+    }
+    if (brwPage_->Page() == searchPage_)
+        brwPage_->backward();
+    OpenItem(lstPages_->item(0));
+    searchPage_ = brwPage_->Page();
+}
+
+void frmHelp::LeaveOrClose()
+{
+    if (txtSearch_->hasFocus() && !txtSearch_->text().isEmpty())
+        txtSearch_->clear();
+    else
+        close();
 }
 
 void frmHelp::txtSearch_Enter()

@@ -34,13 +34,16 @@ class frmHelp : public QMainWindow
     void OpenItem(const QListWidgetItem* item);
     void txtSearch_Change();
     void txtSearch_Enter();
+    void OpenFirst();
     void FindWord();
+    void LeaveOrClose();
     void AskToOpen(const QUrl& link);
 
     Dialogs& dialogs_;
     PageView* brwPage_;
     QLineEdit* txtSearch_;
     QListWidget* lstPages_;
+    QString searchPage_;  ///< the page that the words typed so far have opened
 };
 
 }  // namespace rqm5

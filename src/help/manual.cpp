@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QRegularExpression>
+#include <QTextDocument>
 #include <algorithm>
 
 namespace rqm5 {
@@ -16,7 +17,10 @@ ManualPage LoadPage(const QString& fileName)
         return {};
     const QString text = QString::fromUtf8(file.readAll());
     static const QRegularExpression heading(QStringLiteral("^# (.+)$"), QRegularExpression::MultilineOption);
-    return {fileName, heading.match(text).captured(1), text};
+    QTextDocument page;
+    page.setMarkdown(text);
+    return {fileName, heading.match(text).captured(1), text,
+            page.toPlainText().section(QLatin1Char('\n'), 1)};
 }
 
 QList<ManualPage> LoadPages()
@@ -50,6 +54,29 @@ const QList<ManualPage>& ManualPages()
 {
     static const QList<ManualPage> pages = LoadPages();
     return pages;
+}
+
+QString LineAround(const ManualPage& page, const QStringList& words)
+{
+    constexpr qsizetype kBefore = 16;
+    constexpr qsizetype kLength = 70;
+    const QString& text = page.plain;
+    qsizetype place = text.size();
+    for (const QString& word : words)
+        if (const auto found = text.indexOf(word, 0, Qt::CaseInsensitive); found >= 0)
+            place = std::min(place, found);
+    if (place == text.size())
+        place = 0;
+    // Whole words of one paragraph. Pictures stand in the text as a character of their own.
+    const auto paragraph = place == 0 ? 0 : text.lastIndexOf(QLatin1Char('\n'), place - 1) + 1;
+    auto start = std::max(paragraph, place - kBefore);
+    if (start > paragraph)
+        start = std::min(place, text.indexOf(QLatin1Char(' '), start) + 1);
+    QString line =
+        text.mid(start, kLength).section(QLatin1Char('\n'), 0, 0).remove(QChar::ObjectReplacementCharacter);
+    if (line.size() == kLength)
+        line = line.left(line.lastIndexOf(QLatin1Char(' '))) + QStringLiteral(" …");
+    return (start > paragraph ? QStringLiteral("… ") : QString()) + line.simplified();
 }
 
 QStringList QueryWords(const QString& query)

@@ -11,7 +11,8 @@ struct ManualPage
 {
     QString file;  ///< "first-steps.md"
     QString title;
-    QString text;  ///< Markdown
+    QString text;   ///< Markdown
+    QString plain;  ///< the same without its marks, a paragraph a line, the title left out
 };
 
 /// Where the manual lies among the program's resources.
@@ -23,6 +24,10 @@ const QList<ManualPage>& ManualPages();
 /// The pages that hold every one of the words, in any letter case, those with a word in their title
 /// first, then those that use the words most. Empty for a query without a word.
 QList<ManualPage> SearchManual(const QString& query);
+
+/// A line of a page's text around the first place of one of the words; of a page that has them in its title
+/// alone, the beginning.
+QString LineAround(const ManualPage& page, const QStringList& words);
 
 /// The words of a query: what blanks separate.
 QStringList QueryWords(const QString& query);

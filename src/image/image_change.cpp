@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <set>
 #include <tuple>
+#include <utility>
 
 namespace rqm5 {
 namespace {
@@ -146,6 +147,15 @@ std::vector<int> ImageChange::VfoRows() const
     AddPlaces(VFOData, rows);
     AddPlaces(VFONotes, rows);
     return {rows.begin(), rows.end()};
+}
+
+ImageChange Reversed(ImageChange change)
+{
+    ForEachPart([&](const auto& part) {
+        for (auto& item : change.*part.items)
+            std::swap(item.before, item.after);
+    });
+    return change;
 }
 
 ImageChange Difference(const CloneImage& before, const CloneImage& after)

@@ -65,6 +65,9 @@ struct ImageChange
     friend bool operator==(const ImageChange&, const ImageChange&) = default;
 };
 
+/// The way back.
+ImageChange Reversed(ImageChange change);
+
 ImageChange Difference(const CloneImage& before, const CloneImage& after);
 
 }  // namespace rqm5

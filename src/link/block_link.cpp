@@ -31,16 +31,55 @@ template <typename Try>
 BlockResult BlockLink::Repeat(int address, bool written, Try attempt)
 {
     BlockResult block;
+    const bool isLineOpen = link_.MayStillReply();
     do {
+        // A cancel comes during an attempt, the pause behind it, or in between.
+        if (!observer_.IsCancelled())
+            block.outcome = Pause(block.attempts);
         if (observer_.IsCancelled()) {
             block.result = TransferResult::Cancelled;
             return block;
         }
+        if (block.outcome != ReplyOutcome::Good)
+            break;
         block.outcome = attempt();
-        ++block.attempts;
+        Watch(block.attempts++);
+        if (isLineOpen || block.outcome != ReplyOutcome::Good)
+            watch_.Begin();
     } while (block.outcome != ReplyOutcome::Good && !IsPortFailure(block.outcome) &&
              block.attempts < kAttempts);
+    Conclude(address, written, block);
+    return block;
+}
+
+/// Keeps the silence that an attempt needs before it. \return Good: it may be made
+ReplyOutcome BlockLink::Pause(int attempts)
+{
+    if (attempts == 0 && !link_.MayStillReply())
+        return ReplyOutcome::Good;
+    const Silence silence = attempts == 0 ? link_.Settle() : link_.Rest();
+    watch_.Heard(link_.LastHeard());
+    if (silence == Silence::PortFailed)
+        return HasGone(link_.Port()) ? ReplyOutcome::PortFailed : ReplyOutcome::NotOpened;
+    const bool isRestless = silence == Silence::Broken && attempts == 0;
+    return isRestless ? ReplyOutcome::Restless : ReplyOutcome::Good;
+}
+
+void BlockLink::Watch(int attempts)
+{
+    // What was thrown away before the first attempt came after the block before.
+    watch_.Heard(link_.LastDiscarded());
+    if (attempts == 0)
+        watch_.NextBlock();
+    watch_.Sent();
+    watch_.Heard(link_.LastReceived());
+}
+
+void BlockLink::Conclude(int address, bool written, BlockResult& block)
+{
     if (block.outcome == ReplyOutcome::Good) {
+        if (block.attempts > 1)
+            observer_.BlockRepeated(address);
         observer_.BlockDone(address, written);
     } else if (observer_.IsCancelled()) {
         // A cancel in the last wait looks like a failure from here.
@@ -51,7 +90,15 @@ BlockResult BlockLink::Repeat(int address, bool written, Try attempt)
                             ? ComPortProblem(link_.Port())
                             : CommunicationProblem(address, written, block.attempts, block.outcome);
     }
-    return block;
+}
+
+bool BlockLink::HaveRepliesShifted()
+{
+    if (!watch_.IsWatching())
+        return false;
+    link_.Listen();
+    watch_.Heard(link_.LastHeard());
+    return watch_.End();
 }
 
 }  // namespace rqm5

@@ -7,6 +7,7 @@
 #include "image/problem.h"
 #include "link/radio_link.h"
 #include "link/reply_outcome.h"
+#include "link/reply_watch.h"
 #include "link/transfer_observer.h"
 
 namespace rqm5 {
@@ -22,6 +23,9 @@ struct BlockResult
 
 /// Moves single blocks under the retry rule that all transfers share: a bad or missing reply is tried
 /// again, 10 attempts in all; a port failure ends the operation at once.
+///
+/// Around the rule the line falls silent: between attempts, and before a block while an earlier reply may
+/// still come. A block that goes well at once is not kept waiting.
 class BlockLink
 {
   public:
@@ -34,12 +38,28 @@ class BlockLink
 
     BlockResult Write(int address, const MemoryBlock& block);
 
+    /// True when a reply was missing in this operation, or in the one before it, so that from here on replies
+    /// may have shifted.
+    bool IsInDoubt() const { return watch_.IsWatching(); }
+
+    /// Ends a doubt: hears for one time-out whether a reply still comes. \return true when replies had
+    /// shifted. Takes no time when there is no doubt
+    bool HaveRepliesShifted();
+
+    /// Another operation begins, after one that broke off: what is in doubt there counts no more.
+    void BeginAnew() { watch_.End(); }
+
   private:
+    ReplyOutcome Pause(int attempts);
+    void Watch(int attempts);
+    void Conclude(int address, bool written, BlockResult& block);
+
     template <typename Try>
     BlockResult Repeat(int address, bool written, Try attempt);
 
     RadioLink& link_;
     TransferObserver& observer_;
+    ReplyWatch watch_;
 };
 
 }  // namespace rqm5

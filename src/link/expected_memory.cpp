@@ -67,6 +67,16 @@ std::vector<ExpectedBlock> ExpectedAfterWrite(const CloneImage& image, const Tra
     return blocks;
 }
 
+std::vector<ExpectedBlock> ExpectedInReceiver(const CloneImage& image, const TransferScope& scope)
+{
+    Blocks blocks = ExpectedAfterWrite(image, scope);
+    const int address = AreaOf(Area::Settings).AddressOf(kSettings2);
+    const auto settings = std::ranges::find(blocks, address, &ExpectedBlock::address);
+    if (!scope.memory && settings != blocks.end())
+        settings->mask.SetByte(kPassCountByte, 0);
+    return blocks;
+}
+
 bool Agrees(const ExpectedBlock& expected, const MemoryBlock& read)
 {
     for (int i = 0; i < kBlockBytes; ++i)

@@ -22,6 +22,10 @@ struct ExpectedBlock
 /// not among them: they are never read back.
 std::vector<ExpectedBlock> ExpectedAfterWrite(const CloneImage& image, const TransferScope& scope);
 
+/// The same for a receiver that was not just written: the count of Search Pass channels, which only a write
+/// of the memory sets, counts only where that is in the scope.
+std::vector<ExpectedBlock> ExpectedInReceiver(const CloneImage& image, const TransferScope& scope);
+
 /// True when a block read from the receiver is as expected where the mask says so.
 bool Agrees(const ExpectedBlock& expected, const MemoryBlock& read);
 

@@ -16,7 +16,9 @@ class ForwardingObserver : public TransferObserver
     void ProgressStarted(int maximum) override { next_.ProgressStarted(maximum); }
     void ProgressMoved(int value, int row) override { next_.ProgressMoved(value, row); }
     void ProgressEnded() override { next_.ProgressEnded(); }
+    void BlockRead(int address, const MemoryBlock& block) override { next_.BlockRead(address, block); }
     void BlockDone(int address, bool written) override { next_.BlockDone(address, written); }
+    void BlockRepeated(int address) override { next_.BlockRepeated(address); }
     void GroupChosen(int selector) override { next_.GroupChosen(selector); }
     void Stored() override { next_.Stored(); }
     void Message(const Problem& problem) override { next_.Message(problem); }

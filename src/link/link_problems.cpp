@@ -91,6 +91,13 @@ Problem ComPortProblem(const SerialPort& port)
 
 Problem CommunicationProblem(int address, bool written, int attempts, ReplyOutcome outcome)
 {
+    if (outcome == ReplyOutcome::Restless)
+        return {
+            kCommunicationError,
+            Translate("Block %1 was not asked for: replies had been missing, and then the line did not fall "
+                      "silent. Check the cable, and that nothing but the receiver is on the line.")
+                .arg(QString::fromStdString(HexAddress(address)))
+                .toStdString()};
     const QString what = written ? Translate("Block %1 could not be written in %2. %3 %4")
                                  : Translate("Block %1 could not be read in %2. %3 %4");
     const QString tries = attempts == 1 ? Translate("one attempt") : Translate("%1 attempts").arg(attempts);

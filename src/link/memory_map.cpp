@@ -11,6 +11,10 @@
 #include "settings/settings_codec.h"
 #include "vfo/region_presets.h"
 
+/// Marks a text for the translators' tools; rules know no Qt.
+#define QT_TRANSLATE_NOOP(context, text) text
+#define WORDS(text) QT_TRANSLATE_NOOP("WriteRecord", text)
+
 namespace rqm5 {
 namespace {
 
@@ -67,7 +71,7 @@ void DecodeChannel(CloneImage& image, int row, Blocks blocks)
 }
 
 const std::array<MemoryArea, 8> kMap = {{
-    {Area::Settings, 0x0040, 2, "settings block", "settings", 1,
+    {Area::Settings, 0x0040, 2, WORDS("settings block"), WORDS("settings"), 1,
      [](const CloneImage&, int index) { return Numbered("Settings", index + 1); },
      [](const CloneImage&, int index) { return Numbered("settings", index + 1); },
      [](const CloneImage& image, int index) { return index == 0 ? SetData1(image) : SetData2(image); },
@@ -75,32 +79,35 @@ const std::array<MemoryArea, 8> kMap = {{
          DecodeSettings(image, {blocks[0], blocks[1]});
      },
      false, std::nullopt},
-    {Area::BankSizes, 0x00C0, 7, "bank size block", "bank sizes", 1, BankSizesLabel, Shared<kBankSizesName>,
+    {Area::BankSizes, 0x00C0, 7, WORDS("bank size block"), WORDS("bank sizes"), 1, BankSizesLabel,
+     Shared<kBankSizesName>,
      [](const CloneImage& image, int index) { return BankData(image).at(static_cast<std::size_t>(index)); },
      [](CloneImage& image, int, Blocks blocks) { DecodeBankData(image, blocks); }, false, std::nullopt},
-    {Area::Flags, 0x01C0, 10, "enable flag block", "enable flags", 1, FlagsLabel, Shared<kFlagsName>,
-     FlagBlock, [](CloneImage& image, int, Blocks blocks) { DecodeExtraData(image, blocks); }, false,
-     std::nullopt},
-    {Area::Links, 0x0260, 1, "bank links", "bank links", 1, Shared<kLinksLabel>, Shared<kLinksName>,
-     [](const CloneImage& image, int) { return BankFlagData(image); },
+    {Area::Flags, 0x01C0, 10, WORDS("enable flag block"), WORDS("enable flags"), 1, FlagsLabel,
+     Shared<kFlagsName>, FlagBlock,
+     [](CloneImage& image, int, Blocks blocks) { DecodeExtraData(image, blocks); }, false, std::nullopt},
+    {Area::Links, 0x0260, 1, WORDS("bank links"), WORDS("bank links"), 1, Shared<kLinksLabel>,
+     Shared<kLinksName>, [](const CloneImage& image, int) { return BankFlagData(image); },
      [](CloneImage& image, int, Blocks blocks) { DecodeBankFlagData(image, blocks.front()); }, false,
      std::nullopt},
-    {Area::PassList, 0x0280, 7, "Search Pass list block", "Search Pass list", 1,
+    {Area::PassList, 0x0280, 7, WORDS("Search Pass list block"), WORDS("Search Pass list"), 1,
      [](const CloneImage&, int index) { return Numbered("Search Pass list", index + 1); },
      Shared<kPassListName>,
      [](const CloneImage& image, int index) { return PassData(image).at(static_cast<std::size_t>(index)); },
      nullptr, false, std::nullopt},
-    {Area::Presets, 0x0560, 74, "region preset", "region presets", 1, Shared<kPresetsName>,
+    {Area::Presets, 0x0560, 74, WORDS("region preset"), WORDS("region presets"), 1, Shared<kPresetsName>,
      Shared<kPresetsName>, EncodePreset, nullptr, false, std::nullopt},
-    {Area::Vfo, 0x0C00, kVfoRows, "VFO band", "VFO bands", 0,
+    {Area::Vfo, 0x0C00, kVfoRows, WORDS("VFO band"), WORDS("VFO bands"), 0,
      [](const CloneImage&, int index) { return Numbered("VFO", index); },
      [](const CloneImage&, int index) { return VfoRowName(index); }, EncodeVfoRow,
      [](CloneImage& image, int row, Blocks blocks) { DecodeVfoBlock(image, blocks.front(), row); }, true,
      RowKind::Vfo},
-    {Area::Channels, 0x1000, kRadioRows, "row", "rows", 0, RowLabel,
+    {Area::Channels, 0x1000, kRadioRows, WORDS("row"), WORDS("rows"), 0, RowLabel,
      [](const CloneImage& image, int row) { return RowName(image, row); }, EncodeMemoryRow, DecodeChannel,
      true, RowKind::Memory},
 }};
+
+#undef WORDS
 
 }  // namespace
 

@@ -14,10 +14,16 @@ namespace {
 const QString kFileName = QStringLiteral("RQ-M5.ini");
 constexpr qint64 kLongestNumber = 64;
 
+/// A pipe or a device could keep whoever opens it waiting for ever.
+bool IsOdd(const QFileInfo& file)
+{
+    return file.exists() && !file.isFile();
+}
+
 bool CanWrite(const QString& folder)
 {
     const QFileInfo file(QDir(folder).filePath(kFileName));
-    return file.exists() ? file.isWritable() : QFileInfo(folder).isWritable();
+    return file.exists() ? file.isWritable() && !IsOdd(file) : QFileInfo(folder).isWritable();
 }
 
 }  // namespace
@@ -39,7 +45,7 @@ int ReadPortFile(const QString& path)
     if (info.fileName() != kFileName || !info.dir().entryList(QDir::Files).contains(kFileName))
         return kFirstPort;
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (IsOdd(info) || !file.open(QIODevice::ReadOnly))
         return kFirstPort;
     const int number = ReadInteger(file.read(kLongestNumber).toStdString());
     return number >= 1 && number <= kComPorts ? number : kFirstPort;
@@ -49,7 +55,7 @@ bool WritePortFile(const QString& path, int number)
 {
     QFileInfo(path).dir().mkpath(QStringLiteral("."));
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+    if (IsOdd(QFileInfo(path)) || !file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         return false;
     const QByteArray line = QByteArray::number(number) + "\r\n";
     return file.write(line) == line.size() && file.flush();

@@ -1,5 +1,8 @@
 #include "link/radio_link.h"
 
+#include <QDeadlineTimer>
+#include <algorithm>
+
 #include "link/reply_frames.h"
 
 namespace rqm5 {
@@ -8,6 +11,18 @@ namespace {
 /// Only the end of the text is looked at; a line that never falls silent must not fill the memory.
 constexpr std::size_t kKeptAtLeast = 1024;
 constexpr std::size_t kKeptAtMost = 65536;
+
+/// Parts of the time-out: a pause within a frame is shorter than the first, two exchanges than the second.
+constexpr int kRestPart = 10;
+constexpr int kSettlePart = 5;
+constexpr int kMostReplies = 10;
+
+void Append(std::string& text, const std::string& more)
+{
+    text += more;
+    if (text.size() > kKeptAtMost)
+        text.erase(0, text.size() - kKeptAtLeast);
+}
 
 }  // namespace
 
@@ -20,9 +35,14 @@ RadioLink::RadioLink(SerialPort& port, QObject* parent) : QObject(parent), port_
         Collect();
         EndWait();
     });
+    quiet_.setSingleShot(true);
+    quiet_.setTimerType(Qt::PreciseTimer);
+    connect(&quiet_, &QTimer::timeout, &loop_, &QEventLoop::quit);
     connect(&port_, &SerialPort::Received, this, [this] {
         if (Timer1_.isActive())
             Collect();
+        else if (quiet_.isActive())
+            loop_.quit();
     });
     connect(&port_, &SerialPort::Failed, this, [this] {
         hasFailed_ = true;
@@ -32,19 +52,35 @@ RadioLink::RadioLink(SerialPort& port, QObject* parent) : QObject(parent), port_
 
 std::string RadioLink::SendReadCommand(const std::string& command)
 {
-    return Exchange(command, kFrameLength) ? ReadReply(accumulator_) : kReadPortFailed;
+    if (!Exchange(command, kFrameLength))
+        return kReadPortFailed;
+    std::string reply = ReadReply(accumulator_);
+    JudgeEnd(reply.size() == kFrameLength);
+    return reply;
 }
 
 int RadioLink::SendWriteCommand(const std::string& command)
 {
     // 46 characters are enough but do not end the wait; only one more does. An echo of 42 characters and the
     // answer make 48, so that fewer may still be a part of what is coming.
-    return Exchange(command, kAcknowledgementLength + 1) ? WriteReply(accumulator_) : kWritePortFailed;
+    if (!Exchange(command, kAcknowledgementLength + 1))
+        return kWritePortFailed;
+    const int code = WriteReply(accumulator_);
+    JudgeEnd(code == kWriteOk);
+    return code;
 }
 
 void RadioLink::Cancel()
 {
+    isStopped_ = true;
     EndWait();
+}
+
+/// A reply that ended, good or bad, does not come again.
+void RadioLink::JudgeEnd(bool isGood)
+{
+    if (!isGood && !EndsReply(accumulator_, endsFrom_))
+        mayStillReply_ = true;
 }
 
 /// Steps common to both commands. \return false when the port failed
@@ -61,12 +97,13 @@ bool RadioLink::Exchange(const std::string& command, std::size_t endsFrom)
 bool RadioLink::SendAndWait(const std::string& command, std::size_t endsFrom)
 {
     accumulator_.clear();
+    discarded_.clear();
     endsFrom_ = endsFrom;
     if (!port_.IsOpen() && !port_.Open())
         return false;
     hasFailed_ = false;
     // Late replies to earlier commands must not pass for the reply to this one.
-    port_.TakeReceived();
+    discarded_ = port_.TakeReceived();
     clock_.start();  // opening the port does not count
     if (hasFailed_ || !port_.Send(command))
         return false;
@@ -78,11 +115,58 @@ bool RadioLink::SendAndWait(const std::string& command, std::size_t endsFrom)
     return !hasFailed_;
 }
 
+std::chrono::milliseconds RadioLink::PartOfTimeOut(int divisor) const
+{
+    return std::max(Timer1_.intervalAsDuration() / divisor, std::chrono::milliseconds(1));
+}
+
+Silence RadioLink::Rest()
+{
+    return WaitForSilence(PartOfTimeOut(kRestPart), PartOfTimeOut(1));
+}
+
+Silence RadioLink::Settle()
+{
+    const Silence silence = WaitForSilence(PartOfTimeOut(kSettlePart), kMostReplies * PartOfTimeOut(1));
+    if (silence == Silence::Kept)
+        mayStillReply_ = false;
+    return silence;
+}
+
+Silence RadioLink::Listen()
+{
+    const Silence silence = WaitForSilence(PartOfTimeOut(1), kMostReplies * PartOfTimeOut(1));
+    if (silence == Silence::Kept)
+        mayStillReply_ = false;
+    return silence;
+}
+
+Silence RadioLink::WaitForSilence(std::chrono::milliseconds silence, std::chrono::milliseconds most)
+{
+    heard_.clear();
+    if (!port_.IsOpen() && !port_.Open())
+        return Silence::PortFailed;
+    hasFailed_ = isStopped_ = false;
+    const QDeadlineTimer latest(most, Qt::PreciseTimer);
+    Append(heard_, port_.TakeReceived());
+    while (!hasFailed_ && !latest.hasExpired()) {
+        quiet_.start(silence);
+        loop_.exec();
+        const bool hasElapsed = !quiet_.isActive();
+        quiet_.stop();
+        if (isStopped_)
+            return Silence::Stopped;
+        const std::string piece = port_.TakeReceived();
+        if (hasElapsed && piece.empty() && !hasFailed_)
+            return Silence::Kept;
+        Append(heard_, piece);
+    }
+    return hasFailed_ ? Silence::PortFailed : Silence::Broken;
+}
+
 void RadioLink::Collect()
 {
-    accumulator_ += port_.TakeReceived();
-    if (accumulator_.size() > kKeptAtMost)
-        accumulator_.erase(0, accumulator_.size() - kKeptAtLeast);
+    Append(accumulator_, port_.TakeReceived());
     if (EndsReply(accumulator_, endsFrom_))
         EndWait();
 }

@@ -10,8 +10,16 @@ namespace rqm5 {
 
 RawReply ReadRaw(RadioLink& link, int address)
 {
-    const std::string reply = link.SendReadCommand(ReadCommand(address));
     RawReply raw;
+    // What an earlier command left open must not pass for the reply to this one.
+    const Silence silence = link.MayStillReply() ? link.Settle() : Silence::Kept;
+    if (silence == Silence::Stopped || silence == Silence::PortFailed) {
+        raw.outcome = silence == Silence::Stopped ? ReplyOutcome::Nothing
+                      : HasGone(link.Port())      ? ReplyOutcome::PortFailed
+                                                  : ReplyOutcome::NotOpened;
+        return raw;
+    }
+    const std::string reply = link.SendReadCommand(ReadCommand(address));
     raw.received = link.LastReceived();
     raw.outcome = OutcomeOfRead(reply, raw.received, HasGone(link.Port()));
     raw.took = link.LastDuration();

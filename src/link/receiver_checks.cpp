@@ -5,6 +5,7 @@
 
 #include "link/block_link.h"
 #include "link/forwarding_observer.h"
+#include "link/line_notes.h"
 #include "link/memory_map.h"
 #include "link/receiver_reader.h"
 #include "memory/bank_layout.h"
@@ -14,6 +15,9 @@ namespace rqm5 {
 namespace {
 
 using enum TransferResult;
+
+constexpr int kMostShifts = 3;
+constexpr int kAsks = 3;
 
 /// The window goes on showing its own image while the backup is read into another one.
 class BackupObserver : public AftermathObserver
@@ -41,30 +45,98 @@ RowRange RowsToBackUp(const CloneImage& image, const CloneImage& backup, int sel
 TransferResult ReadGroup(ReceiverReader& reader, const CloneImage& image, const CloneImage& backup,
                          int selector)
 {
-    TransferResult result = reader.ReadFlags();
-    if (result == Done)
-        result = reader.ReadBankPage();
-    return result == Done ? reader.ReadChannels(RowsToBackUp(image, backup, selector)) : result;
+    return reader.Run([&] {
+        TransferResult result = reader.ReadFlags();
+        if (result == Done)
+            result = reader.ReadBankPage();
+        return result == Done ? reader.ReadChannels(RowsToBackUp(image, backup, selector)) : result;
+    });
 }
+
+/// A backup that is not what the receiver holds is none.
+TransferResult RefuseUnreadable(const ReceiverReader& reader, TransferObserver& observer)
+{
+    const std::vector<std::string> blocks = reader.Unreadable();
+    if (blocks.empty())
+        return Done;
+    observer.Message(UnreadableBlocks(blocks));
+    return Failed;
+}
+
+/// Reads blocks back, from a first one on again when replies had shifted.
+struct BackReader
+{
+    const std::vector<ExpectedBlock>& expected;
+    BlockLink blocks;
+    TransferObserver& observer;
+    std::vector<BlockDifference>& differences;
+    std::size_t doubtful = 0;        ///< from here on replies may have shifted
+    std::size_t differedBefore = 0;  ///< differences in front of it
+
+    TransferResult Run()
+    {
+        std::size_t begin = 0;
+        for (int shifts = 0; shifts <= kMostShifts; ++shifts) {
+            if (const TransferResult result = RunFrom(begin); result != Done)
+                return result;
+            if (!blocks.HaveRepliesShifted())
+                return observer.IsCancelled() ? Cancelled : AskAgain();
+            begin = doubtful;
+            differences.resize(differedBefore);
+        }
+        observer.Message(ShiftedReplies());
+        return Failed;
+    }
+
+    TransferResult RunFrom(std::size_t begin)
+    {
+        for (std::size_t i = begin; i < expected.size(); ++i) {
+            observer.ProgressMoved(static_cast<int>(i), MemoryRowAt(expected[i].address));
+            const bool wasInDoubt = blocks.IsInDoubt();
+            MemoryBlock read;
+            if (const TransferResult result = Read(expected[i].address, read); result != Done)
+                return result;
+            if (blocks.IsInDoubt() && !wasInDoubt) {
+                doubtful = i;
+                differedBefore = differences.size();
+            }
+            if (!Agrees(expected[i], read))
+                differences.push_back({expected[i], read});
+        }
+        return Done;
+    }
+
+    /// What came with characters that are no hex digits may only have been disturbed.
+    TransferResult AskAgain()
+    {
+        for (BlockDifference& difference : differences)
+            for (int ask = 0; ask < kAsks && !difference.read.IsHex(); ++ask)
+                if (const TransferResult result = Read(difference.expected.address, difference.read);
+                    result != Done)
+                    return result;
+        std::erase_if(differences, [](const BlockDifference& difference) {
+            return Agrees(difference.expected, difference.read);
+        });
+        return Done;
+    }
+
+    TransferResult Read(int address, MemoryBlock& read)
+    {
+        const BlockResult block = blocks.Read(address, read);
+        if (block.problem)
+            observer.Message(*block.problem);
+        return block.result;
+    }
+};
 
 }  // namespace
 
 TransferResult ReadBack(const std::vector<ExpectedBlock>& expected, RadioLink& link,
                         TransferObserver& observer, std::vector<BlockDifference>& differences)
 {
-    BlockLink blocks(link, observer);
-    TransferResult result = Done;
+    BackReader reader{expected, BlockLink(link, observer), observer, differences};
     observer.ProgressStarted(std::max(0, static_cast<int>(expected.size()) - 1));
-    for (std::size_t i = 0; i < expected.size() && result == Done; ++i) {
-        observer.ProgressMoved(static_cast<int>(i), MemoryRowAt(expected[i].address));
-        MemoryBlock read;
-        const BlockResult block = blocks.Read(expected[i].address, read);
-        if (block.problem)
-            observer.Message(*block.problem);
-        result = block.result;
-        if (result == Done && !Agrees(expected[i], read))
-            differences.push_back({expected[i], read});
-    }
+    const TransferResult result = reader.Run();
     observer.ProgressEnded();
     return result;
 }
@@ -83,7 +155,7 @@ TransferResult ReadBackup(const CloneImage& image, const TransferScope& scope, R
         result = ReadGroup(reader, image, backup, scope.selector);
     if (!scope.memory && scope.banks && result == Done)
         result = reader.ReadBankPage();
-    return result;
+    return result == Done ? RefuseUnreadable(reader, quiet) : result;
 }
 
 int BlocksToBackUp(const CloneImage& image, const TransferScope& scope)

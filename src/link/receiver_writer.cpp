@@ -2,11 +2,19 @@
 
 #include <algorithm>
 
+#include "link/line_notes.h"
 #include "memory/bank_layout.h"
 
 namespace rqm5 {
 
 using enum TransferResult;
+
+namespace {
+
+constexpr int kRounds = 4;
+constexpr int kAsks = 3;
+
+}  // namespace
 
 ReceiverWriter::ReceiverWriter(const CloneImage& image, const TransferScope& scope, RadioLink& link,
                                TransferObserver& observer)
@@ -22,6 +30,10 @@ TransferResult ReceiverWriter::Write()
         result = Run(section);
         if (result != Done)
             break;
+    }
+    if (result == Done) {
+        isInDoubt_ = blocks_.HaveRepliesShifted() || isInDoubt_;
+        result = observer_.IsCancelled() ? Cancelled : Done;
     }
     if (isInMemory_ && scope_.memory)
         observer_.ProgressEnded();
@@ -42,13 +54,47 @@ void ReceiverWriter::BeginPart(const WriteSection& section)
 
 TransferResult ReceiverWriter::Run(WriteSection& section)
 {
-    if (section.IsRead())
+    if (!section.IsRead())
+        return RunSteps(section);
+    // What is read here goes back to the receiver: it must be right before the next block is sent.
+    const bool wasInDoubt = blocks_.IsInDoubt();
+    for (int round = 0; round < kRounds; ++round) {
         read_.clear();
+        TransferResult result = RunSteps(section);
+        if (result == Done)
+            result = AskAgain(section);
+        if (result != Done)
+            return result;
+        if (!blocks_.HaveRepliesShifted()) {
+            if (section.area->id == Area::Flags)
+                MergeFlags();
+            return Done;
+        }
+        isInDoubt_ = isInDoubt_ || wasInDoubt;
+    }
+    Problem problem = ShiftedReplies();
+    problem.aftermath = plan_.Summary();
+    observer_.Message(problem);
+    return Failed;
+}
+
+TransferResult ReceiverWriter::RunSteps(WriteSection& section)
+{
     for (std::size_t step = 0; step < section.blocks.size(); ++step)
         if (const TransferResult result = Step(section, step); result != Done)
             return result;
-    if (section.IsRead() && section.area->id == Area::Flags)
-        MergeFlags();
+    return Done;
+}
+
+/// Asks up to three times for blocks with characters that are no hex digits.
+TransferResult ReceiverWriter::AskAgain(WriteSection& section)
+{
+    for (std::size_t step = 0; step < section.blocks.size(); ++step)
+        for (int ask = 0; ask < kAsks && !read_[step].IsHex(); ++ask) {
+            const BlockResult again = blocks_.Read(section.AddressOf(step), read_[step]);
+            if (const TransferResult result = Conclude(again, section.states[step]); result != Done)
+                return result;
+        }
     return Done;
 }
 
@@ -79,8 +125,11 @@ void ReceiverWriter::MergeFlags()
     CloneImage held = image_;
     AreaOf(Area::Flags).decode(held, 0, read_);
     for (int row = 0; row < kMemoryRows; ++row)
-        if (!rows.Contains(row))
+        if (!rows.Contains(row)) {
+            // Rows behind those of the receiver have flags, too, which nobody can see.
+            otherFlags_ += row < kRadioRows && image_.MemEnable(row) != held.MemEnable(row) ? 1 : 0;
             image_.MemData(row).enabled = held.MemEnable(row);
+        }
 }
 
 /// Keeps what became of a step, and tells of a failure with what the receiver holds then.
@@ -91,7 +140,8 @@ TransferResult ReceiverWriter::Conclude(BlockResult result, StepState& state)
     else if (result.result == Cancelled)
         state = result.attempts > 0 ? StepState::UnderWay : StepState::NotSent;
     else
-        state = result.outcome == ReplyOutcome::NotOpened ? StepState::NotSent : StepState::Refused;
+        state = result.attempts == 0 || result.outcome == ReplyOutcome::NotOpened ? StepState::NotSent
+                                                                                  : StepState::Refused;
     if (result.problem) {
         result.problem->aftermath = plan_.Summary();
         observer_.Message(*result.problem);

@@ -24,13 +24,22 @@ class ReceiverWriter
     /// Runs the plan once.
     TransferResult Write();
 
+    /// True when all was acknowledged, but replies had shifted: an OK may have been another block's, so what
+    /// was written must be verified or written again.
+    bool IsInDoubt() const { return isInDoubt_; }
+
     const WritePlan& Plan() const { return plan_; }
 
     /// The image as it was written: outside the group it holds the receiver's flags once they were read.
     const CloneImage& Written() const { return image_; }
 
+    /// How many rows outside the group had another flag in the image than in the receiver.
+    int OtherFlags() const { return otherFlags_; }
+
   private:
     TransferResult Run(WriteSection& section);
+    TransferResult RunSteps(WriteSection& section);
+    TransferResult AskAgain(WriteSection& section);
     TransferResult Step(WriteSection& section, std::size_t step);
     MemoryBlock ContentsOf(const WriteSection& section, std::size_t step) const;
     void MergeFlags();
@@ -44,6 +53,8 @@ class ReceiverWriter
     WritePlan plan_;
     std::vector<MemoryBlock> read_;  ///< the receiver's blocks of the last section that was read
     bool isInMemory_ = false;        ///< the memory part has begun
+    int otherFlags_ = 0;
+    bool isInDoubt_ = false;
 };
 
 }  // namespace rqm5

@@ -29,4 +29,7 @@ std::string ReadReply(std::string_view received);
 /// it does not, 2 when there are fewer than 46 characters.
 int WriteReply(std::string_view received);
 
+/// How many whole replies stand in a text, to either kind of command, echoes and noise between them.
+int CountReplies(std::string_view text);
+
 }  // namespace rqm5

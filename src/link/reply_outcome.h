@@ -13,6 +13,7 @@ enum class ReplyOutcome {
     NotOk,       ///< the receiver answered another word than OK
     NotOpened,   ///< the port could not be opened: nothing left the computer
     PortFailed,  ///< the port went away
+    Restless,    ///< not sent: the line did not fall silent after replies had been missing
 };
 
 inline bool IsPortFailure(ReplyOutcome outcome)

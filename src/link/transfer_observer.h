@@ -1,5 +1,6 @@
 #pragma once
 
+#include "image/memory_block.h"
 #include "image/problem.h"
 
 namespace rqm5 {
@@ -17,8 +18,14 @@ class TransferObserver
     virtual void ProgressMoved(int /*value*/, int /*row*/) {}
     virtual void ProgressEnded() {}
 
+    /// A block of the image was read from the receiver. Not told of what is read to check a write.
+    virtual void BlockRead(int /*address*/, const MemoryBlock& /*block*/) {}
+
     /// One block was read or acknowledged.
     virtual void BlockDone(int /*address*/, bool /*written*/) {}
+
+    /// A block is done that needed more than one attempt.
+    virtual void BlockRepeated(int /*address*/) {}
 
     /// The memory part of an "all" operation begins: the bank selector goes to this entry.
     virtual void GroupChosen(int /*selector*/) {}

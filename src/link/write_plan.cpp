@@ -10,7 +10,7 @@
 namespace rqm5 {
 namespace {
 
-constexpr char kCountName[] = "Search Pass count";
+constexpr char kCountName[] = QT_TRANSLATE_NOOP("WriteRecord", "Search Pass count");
 
 QString Translate(const char* text)
 {
@@ -91,6 +91,16 @@ int WritePlan::BlockCount() const
     for (const WriteSection& section : sections_)
         blocks += section.blocks.size();
     return static_cast<int>(blocks);
+}
+
+bool WritePlan::MayHaveSent(int address) const
+{
+    for (const WriteSection& section : sections_)
+        for (std::size_t step = 0; step < section.blocks.size(); ++step)
+            if (!section.IsRead() && section.AddressOf(step) == address &&
+                section.states[step] != StepState::NotSent)
+                return true;
+    return false;
 }
 
 bool WritePlan::HasBegun() const

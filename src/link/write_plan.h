@@ -47,6 +47,9 @@ class WritePlan
     /// True once something may have changed in the receiver.
     bool HasBegun() const;
 
+    /// True once this block may have changed in the receiver.
+    bool MayHaveSent(int address) const;
+
     /// Which blocks were sent, which was refused or is in doubt, which were not sent, and that repeating
     /// the write completes it: sentences on one line.
     std::string Summary() const;

@@ -8,6 +8,8 @@
 #include <QTimer>
 
 #include "memory/bank_layout.h"
+#include "memory/bank_move_offer.h"
+#include "memory/fill_bar.h"
 #include "ui/key_filter.h"
 #include "ui/leave_watch.h"
 #include "ui/tall_area.h"
@@ -17,12 +19,18 @@ namespace rqm5 {
 namespace {
 
 constexpr int kBanksPerColumn = 10;
+constexpr int kGap = 12;
 constexpr int kDigits = 9;  ///< more than any size, few enough to stay a number
 
 }  // namespace
 
 BankPage::BankPage(Document& document, Dialogs& dialogs, QWidget* parent)
-    : QWidget(parent), document_(document), dialogs_(dialogs), lblChannels_(new QLabel(this))
+    : QWidget(parent),
+      document_(document),
+      dialogs_(dialogs),
+      offer_(new BankMoveOffer(document, this)),
+      lblChannels_(new QLabel(this)),
+      lblNoBank_(new QLabel(this))
 {
     auto* boxes = new QWidget;
     auto* grid = new QGridLayout(boxes);
@@ -42,24 +50,29 @@ BankPage::BankPage(Document& document, Dialogs& dialogs, QWidget* parent)
     auto* area = new TallArea(boxes, this);
     area->ScrollSidewaysToo();
     page->addWidget(area, 1);
+    page->addWidget(offer_);
     page->addLayout(BuildBottomRow());
     connect(&document, &Document::Replaced, this, [this] {
         ShowBanks();
         ShowLinks();
+        ShowFills();
     });
     connect(&document, &Document::Changed, this, [this](const ImageChange& change) {
         if (!change.BankSize.empty())
             ShowBanks();
         if (!change.BankLink.empty())
             ShowLinks();
+        if (change.HasMemoryRows() || !change.BankSize.empty())
+            ShowFills();
     });
     ShowBanks();
     ShowLinks();
+    ShowFills();
 }
 
 void BankPage::BuildBank(QGridLayout& grid, int bank)
 {
-    constexpr int kCells = 4;  // label, size, link and a gap
+    constexpr int kCells = 5;  // label, size, how full it is, link and a gap
     const QString name = tr("Bank %1").arg(bank);
     auto* box = new QLineEdit;
     box->setObjectName(QStringLiteral("txtBank_%1").arg(bank));
@@ -75,6 +88,8 @@ void BankPage::BuildBank(QGridLayout& grid, int bank)
     link->setStatusTip(tr("Scan bank %1 together with the other linked banks").arg(bank));
     txtBank_.at(bank) = box;
     chkLink_.at(bank) = link;
+    barFill_.at(bank) = new FillBar;
+    barFill_.at(bank)->setObjectName(QStringLiteral("barFill_%1").arg(bank));
 
     new KeyFilter(*box, KeySet::Digits);
     box->installEventFilter(this);
@@ -84,18 +99,21 @@ void BankPage::BuildBank(QGridLayout& grid, int bank)
     const int row = bank % kBanksPerColumn + 1;  // the heads of the columns stand above
     const int column = bank / kBanksPerColumn * kCells;
     if (row == 1)
-        grid.addWidget(new QLabel(tr("Link")), 0, column + 2);
+        grid.addWidget(new QLabel(tr("Link")), 0, column + 3);
     grid.addWidget(label, row, column);
     grid.addWidget(box, row, column + 1);
-    grid.addWidget(link, row, column + 2);
+    grid.addWidget(barFill_.at(bank), row, column + 2);
+    grid.addWidget(link, row, column + 3);
     grid.setColumnStretch(column + 1, 1);
-    grid.setColumnMinimumWidth(column + 3, 6);
+    grid.setColumnMinimumWidth(column + 4, 6);
 }
 
 QLayout* BankPage::BuildBottomRow()
 {
     lblChannels_->setObjectName(QStringLiteral("lblChannels"));
     lblChannels_->setTextFormat(Qt::PlainText);
+    lblNoBank_->setObjectName(QStringLiteral("lblNoBank"));
+    lblNoBank_->setTextFormat(Qt::PlainText);
     const TransferButtons buttons("cmbReadBank", tr("Read Ban&k"), "cmbWriteBank", tr("Write &Bank"));
     buttons.read->setStatusTip(tr("Read bank sizes and links from the receiver"));
     buttons.write->setStatusTip(tr("Write bank sizes and links to the receiver"));
@@ -103,6 +121,8 @@ QLayout* BankPage::BuildBottomRow()
     connect(buttons.write, &QPushButton::clicked, this, &BankPage::WriteRequested);
     buttons.row->insertWidget(0, new QLabel(tr("Channels in all banks (1000 at most):")));
     buttons.row->insertWidget(1, lblChannels_);
+    buttons.row->insertSpacing(2, kGap);
+    buttons.row->insertWidget(3, lblNoBank_);
     return buttons.row;
 }
 
@@ -111,6 +131,15 @@ void BankPage::ShowBanks()
     for (int bank = 0; bank < kBanks; ++bank)
         ShowSize(bank);
     lblChannels_->setText(QString::number(TotalBankSize(document_.Image())));
+}
+
+void BankPage::ShowFills()
+{
+    const CloneImage& image = document_.Image();
+    for (int bank = 0; bank < kBanks; ++bank)
+        barFill_.at(bank)->Show(FillOf(image, GroupRows(image, bank)));
+    const Fill outside = FillOf(image, RowsInNoBank(image));
+    lblNoBank_->setText(tr("In no bank: %1 rows, %2 with a channel").arg(outside.rows).arg(outside.used));
 }
 
 void BankPage::ShowLinks()
@@ -127,14 +156,24 @@ void BankPage::ShowSize(int bank)
 bool BankPage::CommitPending()
 {
     for (int bank = 0; bank < kBanks; ++bank)
-        if (txtBank_.at(bank) == window()->focusWidget())
-            return txtBank_LostFocus(bank);
+        if (txtBank_.at(bank) == window()->focusWidget() && !txtBank_LostFocus(bank)) {
+            txtBank_.at(bank)->setFocus(Qt::OtherFocusReason);
+            txtBank_.at(bank)->selectAll();
+            return false;
+        }
     return true;
 }
 
 void BankPage::GoToBank(int bank)
 {
-    txtBank_.at(bank)->setFocus(Qt::OtherFocusReason);
+    if (bank < kBanks)
+        txtBank_.at(bank)->setFocus(Qt::OtherFocusReason);
+}
+
+void BankPage::GoToLink(int bank)
+{
+    if (bank < kBanks)
+        chkLink_.at(bank)->setFocus(Qt::OtherFocusReason);
 }
 
 bool BankPage::eventFilter(QObject* watched, QEvent* event)
@@ -180,13 +219,12 @@ bool BankPage::txtBank_LostFocus(int bank)
     const CloneImage& image = document_.Image();
     const CheckedBankSize typed = CheckBankSize(image, bank, txtBank_.at(bank)->text().toStdString());
     if (typed.entry == BankEntry::Accepted && typed.size != image.BankSize(bank))
-        document_.Edit(tr("Bank %1 size: %2").arg(bank).arg(typed.size),
-                       [&](CloneImage& changed) { changed.SetBankSize(bank, typed.size); });
+        offer_->SetSize(bank, typed.size);
     // A refused box is put right before the message comes up, which takes the focus from it once more.
     ShowSize(bank);
     if (typed.entry == BankEntry::TotalTooLarge)
         ShowTotalTooLarge();
-    return typed.entry == BankEntry::Accepted;
+    return typed.entry != BankEntry::TotalTooLarge;
 }
 
 void BankPage::ShowTotalTooLarge()

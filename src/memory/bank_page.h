@@ -6,6 +6,11 @@
 #include "document/document.h"
 #include "ui/dialogs.h"
 
+namespace rqm5 {
+class BankMoveOffer;
+class FillBar;
+}  // namespace rqm5
+
 class QCheckBox;
 class QGridLayout;
 class QLabel;
@@ -22,11 +27,16 @@ class BankPage : public QWidget
     BankPage(Document& document, Dialogs& dialogs, QWidget* parent);
 
     /// Checks the box that is being typed into as if the user had left it.
-    /// \return false when what was typed was refused; the box then holds its last accepted size
+    /// \return false when what was typed was refused with a message: what made the user leave the box shall
+    /// not
+    ///         go on then, and the box, which holds its last accepted size again, has the focus
     bool CommitPending();
 
     /// Gives the box of a bank's size the focus.
     void GoToBank(int bank);
+
+    /// The same with the box of its link.
+    void GoToLink(int bank);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -40,8 +50,10 @@ class BankPage : public QWidget
 
     /// Shows the sizes and their total.
     void ShowBanks();
+    void ShowFills();
     void ShowLinks();
 
+    /// \return false when the size was refused with a message
     bool txtBank_LostFocus(int bank);
     void txtBank_GotFocus(int bank, Qt::FocusReason reason);
     bool txtBank_KeyDown(int bank, int key);
@@ -53,7 +65,10 @@ class BankPage : public QWidget
     Dialogs& dialogs_;
     std::array<QLineEdit*, kBanks> txtBank_{};
     std::array<QCheckBox*, kLinkFlags> chkLink_{};
+    std::array<FillBar*, kBanks> barFill_{};
+    BankMoveOffer* offer_;
     QLabel* lblChannels_;
+    QLabel* lblNoBank_;
 };
 
 }  // namespace rqm5

@@ -1,16 +1,19 @@
 #include "memory/memory_page.h"
 
-#include <QComboBox>
 #include <QFocusEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "memory/bank_list.h"
+#include "memory/filter_box.h"
+#include "memory/find_bar.h"
 #include "memory/memory_table.h"
 #include "memory/operation_buttons.h"
 #include "memory/refusal_prompt.h"
 #include "memory/row_actions.h"
+#include "ui/fold_button.h"
 #include "ui/table_font.h"
 #include "ui/tall_area.h"
 #include "ui/transfer_buttons.h"
@@ -21,7 +24,9 @@ MemoryPage::MemoryPage(Document& document, Dialogs& dialogs, QWidget* parent)
     : QWidget(parent),
       document_(document),
       dialogs_(dialogs),
-      cbbBank_(new QComboBox(this)),
+      cbbBank_(new BankList(document, this)),
+      filter_(new FilterBox(this)),
+      finder_(new FindBar(document, this)),
       table_(new MemoryTable(document.Image(), this)),
       selection_(document, *cbbBank_, *table_),
       rows_(new RowCommands(selection_, dialogs, *this)),
@@ -33,14 +38,20 @@ MemoryPage::MemoryPage(Document& document, Dialogs& dialogs, QWidget* parent)
     middle->addWidget(table_, 1);
     auto* operations = new TallArea(new OperationButtons(*rows_), this);
     operations->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    auto* fold = new FoldButton(*operations, QStringLiteral("Memory/ButtonsFolded"), tr("operation buttons"));
+    fold->setObjectName(QStringLiteral("cmbFold"));
+    middle->addWidget(fold);
     middle->addWidget(operations);
     auto* page = new QVBoxLayout(this);
     page->addLayout(BuildSelectorRow());
     page->addLayout(middle, 1);
     page->addLayout(BuildTransferRow());
-    setTabOrder(cbbBank_, table_);
+    setTabOrder(finder_, table_);
 
     ConnectTable();
+    connect(filter_, &FilterBox::Changed, this, &MemoryPage::ShowFiltered);
+    connect(finder_, &FindBar::Found, this, &MemoryPage::GoToRow);
+    connect(finder_, &FindBar::Done, this, &MemoryPage::FocusTable);
     connect(&document, &Document::Replaced, this, &MemoryPage::ShowReplaced);
     connect(&document, &Document::Changed, this, &MemoryPage::ShowChange);
     ShowReplaced();
@@ -50,6 +61,8 @@ void MemoryPage::ConnectTable()
 {
     connect(table_, &MemoryTable::RowChosen, this, &MemoryPage::Modify);
     connect(actions_, &RowActions::ModifyRequested, this, &MemoryPage::Modify);
+    connect(table_, &MemoryTable::HintChanged, this, &MemoryPage::HintChanged);
+    connect(rows_, &RowCommands::Noted, this, &MemoryPage::Noted);
     connect(table_, &MemoryTable::InsertPressed, rows_, &RowCommands::cmbInsert_Click);
     connect(table_, &MemoryTable::DeletePressed, rows_, &RowCommands::cmbDelete_Click);
     connect(table_, &MemoryTable::TogglePressed, rows_, &RowCommands::Toggle);
@@ -87,32 +100,31 @@ void MemoryPage::changeEvent(QEvent* event)
 
 void MemoryPage::ShowReplaced()
 {
+    filter_->SwitchOff();
     GoToFirstRow();
     UpDateMemData();
 }
 
 void MemoryPage::ShowChange(const ImageChange& change)
 {
-    if (change.HasMemoryRows() || !change.BankSize.empty() || change.HasSetting(&ReceiverSettings::model))
-        table_->Refresh(Selector());
+    if (change.HasMemoryRows() || !change.BankSize.empty() || change.HasSetting(&ReceiverSettings::model)) {
+        table_->Refresh(Selector(), filter_->Filter());
+        ShowCount();
+    }
 }
 
 QLayout* MemoryPage::BuildSelectorRow()
 {
-    cbbBank_->setObjectName(QStringLiteral("cbbBank"));
-    cbbBank_->setStatusTip(tr("The group of channels that the table shows and a transfer moves"));
-    for (int selector = 0; selector < kSelectorEntries; ++selector)
-        cbbBank_->addItem(QString::fromStdString(SelectorText(selector)));
-    cbbBank_->setMaxVisibleItems(20);
     cbbBank_->installEventFilter(this);
-    connect(cbbBank_, &QComboBox::currentIndexChanged, this, &MemoryPage::UpDateMemData);
+    connect(cbbBank_, &QComboBox::currentIndexChanged, this, &MemoryPage::cbbBank_Click);
 
     auto* label = new QLabel(tr("Ban&k:"));
     label->setBuddy(cbbBank_);
     auto* row = new QHBoxLayout;
     row->addWidget(label);
     row->addWidget(cbbBank_);
-    row->addStretch();
+    row->addWidget(filter_);
+    row->addWidget(finder_, 1);
     return row;
 }
 
@@ -128,7 +140,13 @@ QLayout* MemoryPage::BuildTransferRow()
 
 void MemoryPage::UpDateMemData()
 {
-    table_->UpDateMemData(Selector());
+    table_->UpDateMemData(Selector(), filter_->Filter());
+    ShowCount();
+}
+
+void MemoryPage::ShowCount()
+{
+    filter_->ShowCount(static_cast<int>(table_->MemoryRows().size()), selection_.Group().count);
 }
 
 void MemoryPage::SelectGroup(int selector)
@@ -151,6 +169,26 @@ void MemoryPage::GoToFirstRow()
     table_->SelectTableRow(1);
 }
 
+bool MemoryPage::IsFiltered() const
+{
+    return filter_->IsOn();
+}
+
+/// What is gone to is shown, whatever the filter leaves.
+void MemoryPage::ShowAllIfHidden(const std::vector<int>& rows)
+{
+    const auto isShown = [this](int row) { return std::ranges::binary_search(table_->MemoryRows(), row); };
+    if (!std::ranges::all_of(rows, isShown))
+        filter_->SwitchOff();
+}
+
+void MemoryPage::GoToRow(int memoryRow)
+{
+    SelectGroup(SelectorOfRow(Image(), memoryRow));
+    ShowAllIfHidden({memoryRow});
+    table_->SelectMemoryRow(memoryRow);
+}
+
 void MemoryPage::GoToRows(const std::vector<int>& rows)
 {
     const auto holdsAll = [&](int selector) {
@@ -163,6 +201,7 @@ void MemoryPage::GoToRows(const std::vector<int>& rows)
         const int smallest = SelectorOfRow(Image(), rows.front());
         SelectGroup(holdsAll(smallest) ? smallest : kSelectAll);
     }
+    ShowAllIfHidden(rows);
     table_->SelectRows(rows, 0);
 }
 
@@ -171,12 +210,36 @@ void MemoryPage::FocusSelector()
     cbbBank_->setFocus(Qt::OtherFocusReason);
 }
 
+void MemoryPage::FocusTable()
+{
+    table_->setFocus(Qt::OtherFocusReason);
+}
+
 bool MemoryPage::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == cbbBank_ && event->type() == QEvent::FocusOut &&
         static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
         cbbBank_LostFocus();
     return QWidget::eventFilter(watched, event);
+}
+
+void MemoryPage::cbbBank_Click()
+{
+    UpDateMemData();
+    table_->scrollTo(table_->currentIndex());
+}
+
+void MemoryPage::ShowFiltered()
+{
+    const int row = selection_.Current();
+    const RowList rows = selection_.Rows();
+    UpDateMemData();
+    table_->SelectMemoryRow(row);
+    table_->SelectRows(rows, 0);
+    actions_->ShowStates();
+    // These two go by row numbers, whatever is shown.
+    for (const char* name : {"cmbInsert", "cmbDelete"})
+        findChild<QPushButton*>(QLatin1String(name))->setEnabled(!IsFiltered());
 }
 
 void MemoryPage::cbbBank_LostFocus()

@@ -11,7 +11,10 @@ class QMenu;
 
 namespace rqm5 {
 
+class BankList;
 class ClipboardCommands;
+class FilterBox;
+class FindBar;
 class MoveCommands;
 class RowActions;
 class RowCommands;
@@ -35,11 +38,20 @@ class MemoryPage : public QWidget
     int CurrentTableRow() const;
     void GoToFirstRow();
 
+    /// True while a filter hides rows of the group: what goes by table rows is off then.
+    bool IsFiltered() const;
+
     /// Selects memory rows: in the group shown when that holds all of them, else in the smallest group that
     /// does.
     void GoToRows(const std::vector<int>& rows);
 
+    /// Selects a memory row in its own bank or group.
+    void GoToRow(int memoryRow);
+
+    FindBar& Finder() { return *finder_; }
+
     void FocusSelector();
+    void FocusTable();
 
     /// Puts the items for the selected rows into a menu.
     void AddRowItems(QMenu& menu);
@@ -54,6 +66,10 @@ class MemoryPage : public QWidget
     void WriteRequested();
     void ModifyRequested(int memoryRow);  ///< memory row from 0
     void ModifySeveralRequested(const std::vector<int>& memoryRows);
+    void Noted(const QString& text);  ///< what an operation has done out of sight; empty for nothing
+
+    /// What the status bar says of the table with the focus is another text now.
+    void HintChanged();
 
   protected:
     void changeEvent(QEvent* event) override;
@@ -64,14 +80,21 @@ class MemoryPage : public QWidget
     void ShowChange(const ImageChange& change);
     QLayout* BuildSelectorRow();
     QLayout* BuildTransferRow();
+
+    void cbbBank_Click();
     void cbbBank_LostFocus();
     bool WriteCell(int row, Column column, const CellInput& input);
 
     const CloneImage& Image() const { return document_.Image(); }
+    void ShowFiltered();
+    void ShowCount();
+    void ShowAllIfHidden(const std::vector<int>& rows);
 
     Document& document_;
     Dialogs& dialogs_;
-    QComboBox* cbbBank_;
+    BankList* cbbBank_;
+    FilterBox* filter_;
+    FindBar* finder_;
     MemoryTable* table_;
     RowSelection selection_;
     RowCommands* rows_;

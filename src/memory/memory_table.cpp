@@ -5,46 +5,11 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "memory/channel_delegate.h"
 #include "memory/table_clipboard.h"
 #include "ui/table_font.h"
 
 namespace rqm5 {
-namespace {
-
-/// Two parts of the text's colour to one of its ground: paler than a text that is on, still to be read.
-QColor Paler(const QColor& text, const QColor& ground)
-{
-    const auto mix = [](int a, int b) { return (2 * a + b) / 3; };
-    return QColor(mix(text.red(), ground.red()), mix(text.green(), ground.green()),
-                  mix(text.blue(), ground.blue()));
-}
-
-/// Lets a disabled row look disabled while it is selected too: the selection has a text colour of its own,
-/// and the row that was just switched off is the selected one.
-class ChannelDelegate : public CellDelegate
-{
-  public:
-    ChannelDelegate(const CloneImage& image, const MemoryTableModel& model, QObject* parent)
-        : CellDelegate(image, model, parent), model_(model)
-    {
-    }
-
-  protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
-    {
-        CellDelegate::initStyleOption(option, index);
-        if (model_.IsEnabled(index.row()))
-            return;
-        const QColor text = option->palette.color(QPalette::HighlightedText);
-        const QColor ground = option->palette.color(QPalette::Highlight);
-        option->palette.setColor(QPalette::HighlightedText, Paler(text, ground));
-    }
-
-  private:
-    const MemoryTableModel& model_;
-};
-
-}  // namespace
 
 MemoryTable::MemoryTable(const CloneImage& image, QWidget* parent)
     : ChannelTable({400, 1035, 480, 705, 555, 390, 675, 705, 540, 870, 2055}, parent),
@@ -54,9 +19,8 @@ MemoryTable::MemoryTable(const CloneImage& image, QWidget* parent)
 {
     setObjectName(QStringLiteral("MSFlexGrid1"));
     setAccessibleName(tr("Memory channels"));
-    setStatusTip(
-        tr("Memory channels; grey ones are disabled. Enter or a double click edits the selected ones, "
-           "typing edits one cell."));
+    setMouseTracking(true);  // the status bar names what is under the pointer
+    ShowPlace();
     setModel(&model_);
     setItemDelegate(cells_);
     setSelectionMode(ExtendedSelection);
@@ -68,37 +32,79 @@ MemoryTable::MemoryTable(const CloneImage& image, QWidget* parent)
     ChangeFont(*this);
 }
 
-void MemoryTable::UpDateMemData(int selector)
+void MemoryTable::UpDateMemData(int selector, RowFilter filter)
 {
-    Refresh(selector);
+    Refresh(selector, filter);
     const QModelIndex current = currentIndex();
     if (current.isValid())
         selectionModel()->setCurrentIndex(current.siblingAtColumn(0), QItemSelectionModel::NoUpdate);
 }
 
-void MemoryTable::Refresh(int selector)
+void MemoryTable::Refresh(int selector, RowFilter filter)
 {
     // Another group keeps the place in the table. Of several rows it is the first: there the same rows begin.
     const std::vector<int> selected = SelectedTableRows();
+    const std::vector<int> before = model_.Rows();
     const bool isSameGroup = selector == model_.Selector();
     const int row = selected.size() > 1 && !isSameGroup ? selected.front() : CurrentTableRow();
-    model_.ShowGroup(selector);
-    const bool isSelected = isSameGroup && currentIndex().isValid() &&
+    model_.ShowGroup(selector, filter);
+    const bool isSelected = isSameGroup && before == model_.Rows() && currentIndex().isValid() &&
                             selectionModel()->isRowSelected(currentIndex().row(), QModelIndex());
     if (!isSelected)
         SelectTableRow(row);
+    ShowPlace();
+}
+
+/// The data row of a memory row, -1 when it is not shown.
+int MemoryTable::PlaceOf(int memoryRow) const
+{
+    const auto place = std::ranges::lower_bound(model_.Rows(), memoryRow);
+    const bool isShown = place != model_.Rows().end() && *place == memoryRow;
+    return isShown ? static_cast<int>(place - model_.Rows().begin()) : -1;
+}
+
+void MemoryTable::SelectMemoryRow(int memoryRow)
+{
+    if (const int place = PlaceOf(memoryRow); place >= 0)
+        SelectTableRow(place + 1);
+    scrollTo(currentIndex());
+}
+
+void MemoryTable::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    ChannelTable::currentChanged(current, previous);
+    ShowPlace();
+}
+
+void MemoryTable::ShowPlace()
+{
+    const int row = CurrentTableRow();
+    const QString place = row > 0 ? model_.Place(row - 1) : QString();
+    const QString hint =
+        tr("Memory channels; grey ones are disabled. Enter or a double click edits the selected ones, "
+           "typing edits one cell.");
+    const QString shown = place.isEmpty() ? hint : place;
+    if (shown == statusTip())
+        return;
+    setStatusTip(shown);
+    emit HintChanged();
 }
 
 void MemoryTable::SelectRows(const std::vector<int>& rows, int column)
 {
-    if (rows.empty() || model_.rowCount() == 0)
-        return;
-    const auto cell = [this, column](int row) { return model_.index(row - model_.MemoryRow(0), column); };
     QItemSelection selection;
-    for (const int row : rows)
-        if (cell(row).isValid())
-            selection.merge(QItemSelection(cell(row), cell(row)), QItemSelectionModel::Select);
-    const QModelIndex first = cell(rows.front());
+    QModelIndex first;
+    for (const int row : rows) {
+        const int place = PlaceOf(row);
+        if (place < 0)
+            continue;
+        const QModelIndex cell = model_.index(place, column);
+        selection.merge(QItemSelection(cell, cell), QItemSelectionModel::Select);
+        if (!first.isValid())
+            first = cell;
+    }
+    if (!first.isValid())
+        return;
     selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     scrollTo(first);
@@ -124,6 +130,8 @@ void MemoryTable::SetCellWriter(CellDelegate::Writer writer)
 
 void MemoryTable::MoveCell(int rows, int columns)
 {
+    if (model_.rowCount() == 0)
+        return;  // a filter may have taken the row away
     const int row = std::clamp(currentIndex().row() + rows, 0, model_.rowCount() - 1);
     const int column = std::clamp(currentIndex().column() + columns, 0, model_.columnCount() - 1);
     selectionModel()->setCurrentIndex(model_.index(row, column),
@@ -187,6 +195,9 @@ bool MemoryTable::IsOwnMove(const QDropEvent& event) const
 
 bool MemoryTable::CanTake(const QDropEvent& event) const
 {
+    // Rows that a filter hides would be moved or overwritten out of sight.
+    if (model_.Rows().empty() || model_.IsFiltered())
+        return false;
     // The view of all rows is no group in which rows could change their places.
     return IsOwnMove(event) ? model_.Selector() != kSelectAll : MayHoldChannels(*event.mimeData());
 }
@@ -196,7 +207,7 @@ int MemoryTable::RowAt(const QPoint& position) const
 {
     const QModelIndex index = indexAt(position);
     if (!index.isValid())
-        return model_.MemoryRow(model_.rowCount());
+        return model_.Rows().back() + 1;
     return model_.MemoryRow(index.row()) + (position.y() > visualRect(index).center().y() ? 1 : 0);
 }
 
@@ -218,7 +229,7 @@ void MemoryTable::dropEvent(QDropEvent* event)
     stopAutoScroll();
     setState(NoState);
     viewport()->update();
-    if (!CanTake(*event) || model_.rowCount() == 0) {
+    if (!CanTake(*event)) {
         event->ignore();
         return;
     }
@@ -229,7 +240,7 @@ void MemoryTable::dropEvent(QDropEvent* event)
     if (isMove)
         emit RowsDragged(row);
     else
-        emit Dropped(*event->mimeData(), std::min(row, model_.MemoryRow(model_.rowCount() - 1)));
+        emit Dropped(*event->mimeData(), std::min(row, model_.Rows().back()));
 }
 
 }  // namespace rqm5

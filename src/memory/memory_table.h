@@ -16,15 +16,24 @@ class MemoryTable : public ChannelTable
   public:
     MemoryTable(const CloneImage& image, QWidget* parent);
 
-    /// Shows a group's rows and labels anew; the current row stays where it was, cut to the group, and it is
-    /// selected from its first column on.
-    void UpDateMemData(int selector);
+    /// Shows the rows of a group that a filter leaves, and their labels, anew; the current row stays where it
+    /// was, cut to what is shown, and it is selected from its first column on.
+    void UpDateMemData(int selector, RowFilter filter);
 
     /// The same, but what is selected stays selected and the cell cursor stays where it is.
-    void Refresh(int selector);
+    void Refresh(int selector, RowFilter filter);
 
-    /// Selects memory rows of the group shown and makes the first of them current, with the cell cursor in a
-    /// column.
+    /// The memory rows shown, in order.
+    const std::vector<int>& MemoryRows() const { return model_.Rows(); }
+
+    /// True while a filter may hide rows of the group.
+    bool IsFiltered() const { return model_.IsFiltered(); }
+
+    /// Makes a memory row current, if it is shown, and brings the current row into sight.
+    void SelectMemoryRow(int memoryRow);
+
+    /// Selects those memory rows that are shown and makes the first of them current, with the cell cursor in
+    /// a column.
     void SelectRows(const std::vector<int>& rows, int column);
 
     /// The selected memory rows, rising, and the current one; -1 when the group is empty.
@@ -50,6 +59,9 @@ class MemoryTable : public ChannelTable
     /// Something with channels in it was dropped on a memory row.
     void Dropped(const QMimeData& data, int row);
 
+    /// The status tip says something else than before: in the view of all rows it names the current one.
+    void HintChanged();
+
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -57,8 +69,11 @@ class MemoryTable : public ChannelTable
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
   private:
+    int PlaceOf(int memoryRow) const;
+    void ShowPlace();
     void MoveCell(int rows, int columns);
     int RowAt(const QPoint& position) const;
     bool IsOwnMove(const QDropEvent& event) const;

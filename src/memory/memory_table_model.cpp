@@ -1,11 +1,15 @@
 #include "memory/memory_table_model.h"
 
 #include <QBrush>
+#include <QFont>
 #include <QGuiApplication>
 #include <QPalette>
+#include <utility>
 
 #include "memory/cell_edit.h"
+#include "memory/row_names.h"
 #include "memory/table_titles.h"
+#include "ui/off_colour.h"
 
 namespace rqm5 {
 
@@ -14,20 +18,46 @@ MemoryTableModel::MemoryTableModel(const CloneImage& image, QObject* parent)
 {
 }
 
-void MemoryTableModel::ShowGroup(int selector)
+void MemoryTableModel::ShowGroup(int selector, RowFilter filter)
 {
+    ShownRows shown = FilterGroup(image_, selector, filter);
+    rows_ = std::move(shown.rows);
     selector_ = selector;
-    rows_ = GroupRows(image_, selector);
-    ShowRows(BuildChannelLabels(image_, selector));
+    filter_ = filter;
+    ShowRows(std::move(shown.labels));
 }
 
 QVariant MemoryTableModel::data(const QModelIndex& index, int role) const
 {
-    if (role != Qt::ForegroundRole || !index.isValid())
-        return ChannelTableModel::data(index, role);
+    if (!index.isValid())
+        return {};
+    const auto offFont = [] {
+        QFont font;
+        font.setItalic(true);
+        return font;
+    };
+    switch (role) {
+        case Qt::ForegroundRole:
+            return TextColour(IsEnabled(index.row()));
+        case Qt::FontRole:
+            return IsEnabled(index.row()) ? QVariant() : offFont();
+        case Qt::ToolTipRole:
+        case Qt::StatusTipRole:
+            return Place(index.row());
+        default:
+            return ChannelTableModel::data(index, role);
+    }
+}
+
+QBrush MemoryTableModel::TextColour(bool isEnabled) const
+{
     const QPalette palette = QGuiApplication::palette();
-    return IsEnabled(index.row()) ? palette.brush(QPalette::Active, QPalette::WindowText)
-                                  : palette.brush(QPalette::Disabled, QPalette::WindowText);
+    if (isEnabled)
+        return palette.windowText();
+    // Every cell asks, and the answer takes some arithmetic.
+    if (std::exchange(paletteKey_, palette.cacheKey()) != palette.cacheKey())
+        offText_ = OffColour(palette, QPalette::Base);
+    return offText_;
 }
 
 Qt::ItemFlags MemoryTableModel::flags(const QModelIndex& index) const
@@ -53,6 +83,14 @@ QStringList MemoryTableModel::mimeTypes() const
 bool MemoryTableModel::IsEnabled(int row) const
 {
     return image_.MemEnable(MemoryRow(row));
+}
+
+QString MemoryTableModel::Place(int row) const
+{
+    if (selector_ != kSelectAll)
+        return {};
+    const std::string place = PlaceOfRow(image_, MemoryRow(row));
+    return place.empty() ? tr("In no bank") : QString::fromStdString(place);
 }
 
 std::string MemoryTableModel::Cell(int row, Column column) const

@@ -26,18 +26,24 @@ dlgModify::dlgModify(Document& document, Dialogs& dialogs, QWidget* parent)
       shift_{form_->txtShift(), &dlgModify::CheckOffsetBox, {}}
 {
     setObjectName(QStringLiteral("dlgModify"));
-    connect(new LeaveWatch(*frequency_.box), &LeaveWatch::Left, this, &dlgModify::txtFreq_LostFocus);
-    connect(new LeaveWatch(*shift_.box), &LeaveWatch::Left, this, &dlgModify::txtShift_LostFocus);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(new TallArea(form_, this));
+    // The check boxes and buttons stay in sight when the form has to scroll.
+    QBoxLayout* lastRow = form_->TakeLastRow();
+    layout->addLayout(lastRow);
     PreviousButton_ =
         AddStepButton("PreviousButton", tr("&Previous"), QKeySequence(Qt::ALT | Qt::Key_PageUp), -1);
     NextButton_ = AddStepButton("NextButton", tr("Ne&xt"), QKeySequence(Qt::ALT | Qt::Key_PageDown), 1);
+    // After the check boxes, which Tab reaches first then.
+    lastRow->addWidget(BuildButtons());
 
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(new TallArea(form_, this));
-    layout->addLayout(BuildButtons());
+    connect(new LeaveWatch(*frequency_.box), &LeaveWatch::Left, this, &dlgModify::txtFreq_LostFocus);
+    connect(new LeaveWatch(*shift_.box), &LeaveWatch::Left, this, &dlgModify::txtShift_LostFocus);
+    connect(frequency_.box, &QLineEdit::textEdited, this, &dlgModify::txtFreq_Change);
+    connect(form_->chkEnable(), &QCheckBox::clicked, this, [this] { mayTickEnable_ = false; });
 }
 
-QLayout* dlgModify::BuildButtons()
+QWidget* dlgModify::BuildButtons()
 {
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     QPushButton* ok = buttons->button(QDialogButtonBox::Ok);
@@ -59,10 +65,7 @@ QLayout* dlgModify::BuildButtons()
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
         connect(new QShortcut(QKeySequence(Qt::CTRL | key), this), &QShortcut::activated, OKNextButton_,
                 &QPushButton::click);
-    // The check boxes and buttons stay in sight when the form has to scroll.
-    QBoxLayout* lastRow = form_->TakeLastRow();
-    lastRow->addWidget(buttons);
-    return lastRow;
+    return buttons;
 }
 
 QPushButton* dlgModify::AddStepButton(const char* name, const QString& text, const QKeySequence& key,
@@ -103,6 +106,7 @@ bool dlgModify::OpenSeveral(const RowList& rows, int selector)
     row_ = {RowKind::Memory, rows.front()};
     rows_ = rows;
     isHeld_ = false;
+    mayTickEnable_ = false;
     ShowForm(tr("%1 channels").arg(rows.size()), LoadShared(document_.Image(), rows));
     return Run();
 }
@@ -124,7 +128,11 @@ void dlgModify::ShowRow(RowId row)
     ChannelFields& stored = row.IsMemory() ? Grid1Data_ : Grid2Data_;
     stored = LoadFields(image, row);
     isHeld_ = row.IsMemory() && form_->IsHeld() && confirmed_.has_value() && !image.At(row).HasChannel();
-    ShowForm(RowName(), {isHeld_ ? *confirmed_ : stored});
+    ChannelFields shown = isHeld_ ? *confirmed_ : stored;
+    shown.note = stored.note;  // what is noted of one channel is seldom true of another
+    ShowForm(RowName(), {shown});
+    // Held values were confirmed with their flag.
+    mayTickEnable_ = row.IsMemory() && !isHeld_ && !image.At(row).HasChannel();
     frequency_.checked = QString::fromStdString(stored.frequency);
     shift_.checked = QString::fromStdString(stored.shiftFrequency);
 }
@@ -225,6 +233,12 @@ void dlgModify::txtFreq_LostFocus()
 void dlgModify::txtShift_LostFocus()
 {
     LeaveBox(shift_);
+}
+
+void dlgModify::txtFreq_Change(const QString& typed)
+{
+    if (mayTickEnable_)
+        form_->chkEnable()->setChecked(!typed.isEmpty());
 }
 
 bool dlgModify::LeaveBox(Entry& entry)

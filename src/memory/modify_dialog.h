@@ -56,7 +56,6 @@ class dlgModify : public QDialog
         QString checked;
     };
 
-    QLayout* BuildButtons();
     QPushButton* AddStepButton(const char* name, const QString& text, const QKeySequence& key, int step);
 
     bool Run();
@@ -74,7 +73,9 @@ class dlgModify : public QDialog
     bool LeaveIfPending(Entry& entry);
     bool IsSeveral() const { return rows_.size() > 1; }
     QString RowName() const;
+    QWidget* BuildButtons();
     void FocusFrequency();
+    void txtFreq_Change(const QString& typed);
     void txtFreq_LostFocus();
     void txtShift_LostFocus();
     void OKButton_Click();
@@ -95,6 +96,7 @@ class dlgModify : public QDialog
     Entry frequency_;
     Entry shift_;
     std::optional<ChannelFields> confirmed_;  ///< what the last OK on a memory row stored
+    bool mayTickEnable_ = false;              ///< a frequency that is typed enables the row, which is empty
 };
 
 }  // namespace rqm5

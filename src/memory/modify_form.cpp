@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "image/value_tables.h"
+#include "memory/note_line.h"
 #include "ui/key_filter.h"
 
 namespace rqm5 {
@@ -80,7 +81,7 @@ ModifyForm::ModifyForm(QWidget* parent)
       cbbTxTone_(Named(new QComboBox, "cbbTxTone")),
       lblNote_(new QLabel(tr("&Note"))),
       txtNote_(Named(new QLineEdit, "txtNote")),
-      lblNoteHint_(PlainLabel("lblNoteHint")),
+      noteLine_(new NoteLine(*txtNote_)),
       chkSkip_(Named(new QCheckBox(tr("S&kip")), "chkSkip")),
       chkEnable_(Named(new QCheckBox(tr("&Enable")), "chkEnable"))
 {
@@ -171,15 +172,12 @@ QLayout* ModifyForm::BuildShift()
 QLayout* ModifyForm::BuildNote()
 {
     lblNote_->setBuddy(txtNote_);
-    lblNoteHint_->setText(tr("A comma or quotation mark in a note can spoil a saved clone file."));
-    connect(txtNote_, &QLineEdit::textChanged, this, &ModifyForm::txtNote_Change);
     auto* row = new QHBoxLayout;
     row->addWidget(lblNote_);
     row->addWidget(txtNote_, 1);
     auto* column = new QVBoxLayout;
     column->addLayout(row);
-    column->addWidget(lblNoteHint_);
-    txtNote_Change();
+    column->addWidget(noteLine_);
     return column;
 }
 
@@ -192,12 +190,6 @@ void ModifyForm::BuildChecks()
     lastRow_->addWidget(chkEnable_);
     lastRow_->addWidget(chkHold_);
     lastRow_->addStretch();
-}
-
-void ModifyForm::txtNote_Change()
-{
-    const QString note = txtNote_->text();
-    lblNoteHint_->setVisible(note.contains(u',') || note.contains(u'"'));
 }
 
 void ModifyForm::ShowFields(const ChannelFields& fields)
@@ -214,7 +206,7 @@ void ModifyForm::ShowFields(const ChannelFields& fields)
     // A note from a file may be longer than what may be typed; it must not lose its end here.
     const QString note = QString::fromStdString(fields.note);
     txtNote_->setMaxLength(std::max(kNoteLength, static_cast<int>(note.size())));
-    txtNote_->setText(note);
+    noteLine_->ShowNote(note);
     chkSkip_->setChecked(fields.skip);
     chkEnable_->setChecked(fields.enable);
 }
@@ -277,9 +269,7 @@ void ModifyForm::SetAvailable(bool isMemory, const Region& region)
          std::initializer_list<QWidget*>{lblNote_, txtNote_, chkSkip_, chkEnable_, chkHold_})
         control->setVisible(isMemory);
     // The hint comes and goes while somebody types; its place must be in sight then.
-    QSizePolicy place = lblNoteHint_->sizePolicy();
-    place.setRetainSizeWhenHidden(isMemory);
-    lblNoteHint_->setSizePolicy(place);
+    noteLine_->KeepPlace(isMemory);
     cbbSec_->setEnabled(region.hasSecretCode);
     cbbAir_->setEnabled(region.hasCarrier);
     opbTone_->Button(1)->setEnabled(region.hasSecretCode);

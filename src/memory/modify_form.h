@@ -13,6 +13,8 @@ class QLineEdit;
 
 namespace rqm5 {
 
+class NoteLine;
+
 /// The controls of the channel editor. What they hold goes in and out as ChannelFields.
 class ModifyForm : public QWidget
 {
@@ -36,6 +38,7 @@ class ModifyForm : public QWidget
 
     QLineEdit* txtFreq() const { return txtFreq_; }
     QLineEdit* txtShift() const { return txtShift_; }
+    QCheckBox* chkEnable() const { return chkEnable_; }
 
     /// Puts a button at the right end of the row's name.
     void AddToTitle(QWidget* button);
@@ -53,7 +56,6 @@ class ModifyForm : public QWidget
     QLayout* BuildShift();
     QLayout* BuildNote();
     void BuildChecks();
-    void txtNote_Change();
 
     QLabel* lblMode_;
     QLabel* lblCH_;
@@ -72,7 +74,7 @@ class ModifyForm : public QWidget
     QComboBox* cbbTxTone_;
     QLabel* lblNote_;
     QLineEdit* txtNote_;
-    QLabel* lblNoteHint_;
+    NoteLine* noteLine_;
     QCheckBox* chkSkip_;
     QCheckBox* chkEnable_;
 };

@@ -27,7 +27,7 @@ struct RowActions::Item
     const char* shortcut;
     const char* hint;
     Needs needs;
-    bool goesByRowNumber;
+    bool needsAllRows;  ///< off while a filter hides rows: it goes by row numbers or empties rows
     void (*run)(RowActions&);
 };
 
@@ -35,7 +35,7 @@ const std::vector<RowActions::Item>& RowActions::Items()
 {
     static const std::vector<Item> kItems = {
         {"mnuEditCut", TEXT("Cu&t"), "Ctrl+X", TEXT("Put the selected rows on the clipboard and clear them"),
-         Needs::Row, false, [](RowActions& to) { to.clipboard_.mnuEditCut_Click(); }},
+         Needs::Row, true, [](RowActions& to) { to.clipboard_.mnuEditCut_Click(); }},
         {"mnuEditCopy", TEXT("&Copy"), "Ctrl+C", TEXT("Put the selected rows on the clipboard"), Needs::Row,
          false, [](RowActions& to) { to.clipboard_.mnuEditCopy_Click(); }},
         {"mnuEditPaste", TEXT("&Paste"), "Ctrl+V",
@@ -59,7 +59,7 @@ const std::vector<RowActions::Item>& RowActions::Items()
         {"mnuEditFillSeries", TEXT("Fill &Series..."), "", TEXT("Make channels at even distances"),
          Needs::Row, true, [](RowActions& to) { to.clipboard_.mnuEditFillSeries_Click(); }},
         {"mnuEditFillDown", TEXT("Fill Do&wn..."), "Ctrl+D",
-         TEXT("Give the selected rows chosen columns of the first of them"), Needs::Rows, false,
+         TEXT("Give the selected rows chosen columns of the first of them"), Needs::Rows, true,
          [](RowActions& to) { to.clipboard_.mnuEditFillDown_Click(); }},
         {"", "", "", "", Needs::Row, false, nullptr},
         {"mnuEditMoveUp", TEXT("Move Up"), "Alt+Up", TEXT("Move the selected rows up by one"),
@@ -69,7 +69,7 @@ const std::vector<RowActions::Item>& RowActions::Items()
         {"mnuEditCopyToBank", TEXT("Copy to &Bank"), "",
          TEXT("Copy the selected channels into empty rows of a bank"), Needs::Channel, false, nullptr},
         {"mnuEditMoveToBank", TEXT("Move to Ban&k"), "",
-         TEXT("Move the selected channels into empty rows of a bank"), Needs::Channel, false, nullptr},
+         TEXT("Move the selected channels into empty rows of a bank"), Needs::Channel, true, nullptr},
         {"mnuEditInsertRow", TEXT("Insert Row &Here"), "",
          TEXT("Put an empty row here; the rows behind it in the group shown move down"), Needs::MovableRow,
          true, [](RowActions& to) { to.moves_.mnuEditInsertRow_Click(); }},
@@ -177,7 +177,7 @@ void RowActions::AddPasteKeyTo(QWidget& control)
 bool RowActions::IsPossible(const Item& item) const
 {
     const std::size_t rows = selection_.Rows().size();
-    if (rows == 0 || !page_.isEnabled() || (item.goesByRowNumber && !areRowNumbersValid_))
+    if (rows == 0 || !page_.isEnabled() || (item.needsAllRows && selection_.IsFiltered()))
         return false;
     switch (item.needs) {
         case Needs::Rows:
@@ -204,12 +204,6 @@ void RowActions::ShowStates()
 void RowActions::LookAtClipboard()
 {
     canPaste_ = ClipboardCommands::CanPaste();
-    ShowStates();
-}
-
-void RowActions::SetRowNumbersValid(bool areValid)
-{
-    areRowNumbersValid_ = areValid;
     ShowStates();
 }
 

@@ -29,9 +29,6 @@ class RowActions : public QObject
     /// Switches on what can be done with what is selected.
     void ShowStates();
 
-    /// Switches off what goes by row numbers, while the table does not show all rows of its group.
-    void SetRowNumbersValid(bool areValid);
-
   signals:
     void ModifyRequested();
 
@@ -56,7 +53,6 @@ class RowActions : public QObject
     QMenu* moveToBank_;
     QMenu* sort_;
     std::vector<QAction*> actions_;
-    bool areRowNumbersValid_ = true;
     bool canPaste_ = false;
 };
 

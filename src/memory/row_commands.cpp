@@ -4,6 +4,7 @@
 
 #include "memory/channel_operations.h"
 #include "memory/row_names.h"
+#include "memory/shift_note.h"
 
 namespace rqm5 {
 
@@ -15,7 +16,7 @@ RowCommands::RowCommands(const RowSelection& selection, Dialogs& dialogs, QWidge
 bool RowCommands::IsShiftable() const
 {
     const int tableRow = selection_.Table().CurrentTableRow();
-    return tableRow >= 1 && tableRow <= kShiftedRows;
+    return !selection_.IsFiltered() && tableRow >= 1 && tableRow <= kShiftedRows;
 }
 
 /// \param what  what will be hit, as a sentence
@@ -39,7 +40,7 @@ void RowCommands::EditRows(const QString& operation, RowsFunction change)
 
 void RowCommands::EditGroup(const QString& operation, RowsFunction change)
 {
-    const RowList rows = RowsOf(selection_.Group());
+    const RowList rows = selection_.Shown();
     if (rows.empty())
         return;
     selection_.Edit(tr("%1 (%2)").arg(operation, selection_.NameOfGroup()),
@@ -69,7 +70,7 @@ void RowCommands::cmbClear_Click()
 
 void RowCommands::cmbClAll_Click()
 {
-    if (selection_.Group().count > 0 &&
+    if (!selection_.Shown().empty() &&
         Confirm(tr("CLEAR OK"),
                 tr("Clear cannot be undone.\nAre you sure that you want to clear all memory?"),
                 tr("This clears %1.").arg(selection_.NameOfGroup())))
@@ -87,9 +88,11 @@ void RowCommands::cmbDelete_Click()
                  tr("Delete cannot be undone.\nAre you sure that you want to do the delete?"),
                  tr("This deletes %1, %2.").arg(name, selection_.ContentsOf(row))))
         return;
+    const QString note = DeleteNote(selection_.Image(), selection_.Group(), row + 1);
     selection_.Edit(tr("Delete (%1)").arg(name),
                     [row](CloneImage& image) { DeleteTableRow(image, row + 1); });
     HighlightCurrentRow();
+    emit Noted(note);
 }
 
 void RowCommands::cmbInsert_Click()
@@ -98,9 +101,11 @@ void RowCommands::cmbInsert_Click()
         return;
     const int tableRow = selection_.Table().CurrentTableRow();
     const QString name = QString::fromStdString(RowName(selection_.Image(), tableRow - 1));
+    const QString note = InsertNote(selection_.Image(), selection_.Group(), tableRow);
     selection_.Edit(tr("Insert (%1)").arg(name),
                     [tableRow](CloneImage& image) { InsertTableRow(image, tableRow); });
     HighlightCurrentRow();
+    emit Noted(note);
 }
 
 void RowCommands::cmbEnable_Click()

@@ -27,6 +27,9 @@ class RowCommands : public QObject
     /// Switches the selected channels off when all of them are on, else on.
     void Toggle();
 
+  signals:
+    void Noted(const QString& text);  ///< what an operation has done out of sight; empty for nothing
+
   private:
     using RowsFunction = void (*)(CloneImage&, const RowList&);
 

@@ -49,8 +49,13 @@ QString RowSelection::NameOfSelector() const
 
 QString RowSelection::NameOfGroup() const
 {
-    return Translated(QT_TRANSLATE_NOOP("rqm5::MemoryPage", "%1, %2 channels"))
+    if (!IsFiltered())
+        return Translated(QT_TRANSLATE_NOOP("rqm5::MemoryPage", "%1, %2 channels"))
+            .arg(NameOfSelector())
+            .arg(Group().count);
+    return Translated(QT_TRANSLATE_NOOP("rqm5::MemoryPage", "%1, the %2 channels shown of %3"))
         .arg(NameOfSelector())
+        .arg(Shown().size())
         .arg(Group().count);
 }
 

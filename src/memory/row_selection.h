@@ -24,6 +24,10 @@ class RowSelection
     /// The rows of the group shown.
     RowRange Group() const { return GroupRows(Image(), Selector()); }
 
+    /// The memory rows shown, which are those of the group unless a filter is on.
+    const RowList& Shown() const { return table_.MemoryRows(); }
+    bool IsFiltered() const { return table_.IsFiltered(); }
+
     /// The selected memory rows, rising; none in an empty group.
     RowList Rows() const { return table_.SelectedRows(); }
 
@@ -44,7 +48,7 @@ class RowSelection
     /// The same of one row, "Bank 2, 15 channels" of several.
     QString NameOf(const RowList& rows) const;
 
-    /// "Bank 2, 100 channels"
+    /// "Bank 2, 100 channels"; with a filter on "Bank 2, the 12 channels shown of 100"
     QString NameOfGroup() const;
 
     /// "Bank 2"

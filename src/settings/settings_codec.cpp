@@ -6,6 +6,7 @@ namespace rqm5 {
 namespace {
 
 constexpr int kBlockMarker = 0xA5;
+constexpr int kModelByte = 1;
 constexpr int kModeByte = 4;
 constexpr int kCountByte = 2;
 constexpr int kBatteryByte = 3;
@@ -22,9 +23,9 @@ struct ByteField
 };
 
 constexpr ByteField kByteFields[] = {
-    {1, 1, 4, 0x00, &ReceiverSettings::model},        {1, 14, 50, 0x1E, &ReceiverSettings::volume},
-    {1, 15, 9, 0x03, &ReceiverSettings::squelch},     {2, 4, 2, 0x01, &ReceiverSettings::lamp},
-    {2, 5, 3, 0x00, &ReceiverSettings::autoPowerOff}, {2, 6, 4, 0x02, &ReceiverSettings::bugLevel},
+    {1, kModelByte, 4, 0x00, &ReceiverSettings::model}, {1, 14, 50, 0x1E, &ReceiverSettings::volume},
+    {1, 15, 9, 0x03, &ReceiverSettings::squelch},       {2, 4, 2, 0x01, &ReceiverSettings::lamp},
+    {2, 5, 3, 0x00, &ReceiverSettings::autoPowerOff},   {2, 6, 4, 0x02, &ReceiverSettings::bugLevel},
 };
 
 /// A setting that is one bit of SetData2; bit position 1 is the most significant.
@@ -147,6 +148,32 @@ SettingsBlocks DecodeSettings(CloneImage& image, SettingsBlocks blocks)
     settings.passCount = blocks.SetData2.HasByte(kCountByte) ? blocks.SetData2.Byte(kCountByte) : kFixedCount;
     DecodeBits(blocks.SetData2, settings);
     return blocks;
+}
+
+std::optional<int> ModelOf(const MemoryBlock& SetData1)
+{
+    const bool isMarked = SetData1.HasByte(0) && SetData1.Byte(0) == kBlockMarker;
+    const int model = SetData1.HasByte(kModelByte) ? SetData1.Byte(kModelByte) : -1;
+    const bool isKnown = model >= 0 && model < static_cast<int>(ModelNames().size());
+    return isMarked && isKnown ? std::optional(model) : std::nullopt;
+}
+
+std::vector<int> SettingsIn(int block, int byte, int bits)
+{
+    std::vector<int> settings;
+    const auto add = [&](int ofBlock, int ofByte, int setting) {
+        if (block == ofBlock && byte == ofByte)
+            settings.push_back(setting);
+    };
+    for (const ByteField& field : kByteFields)
+        add(field.block, field.byte, SettingIndex(field.value));
+    add(1, kModeByte, SettingIndex(&ReceiverSettings::operatingMode));
+    add(2, kCountByte, SettingIndex(&ReceiverSettings::passCount));
+    add(2, kBatteryByte, SettingIndex(&ReceiverSettings::batterySave));
+    for (const BitField& field : kBitFields)
+        if ((bits & field.Mask()) != 0)
+            add(2, field.byte, field.flag != nullptr ? SettingIndex(field.flag) : SettingIndex(field.option));
+    return settings;
 }
 
 MemoryBlock SetData1(const CloneImage& image)

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <vector>
+
 #include "image/clone_image.h"
 #include "image/memory_block.h"
 
@@ -24,6 +27,12 @@ SettingsBlocks DecodeSettings(CloneImage& image, SettingsBlocks blocks);
 /// The blocks that the settings make.
 MemoryBlock SetData1(const CloneImage& image);
 MemoryBlock SetData2(const CloneImage& image);
+
+/// The model that the first block names; nothing when it is no settings block or names none that is known.
+std::optional<int> ModelOf(const MemoryBlock& SetData1);
+
+/// The settings that are kept in these bits of a byte of a block, 1 or 2, by their place in kSettingFields.
+std::vector<int> SettingsIn(int block, int byte, int bits);
 
 /// The default first block for a model option: region byte 0, 1 or 2 for these options, 3 for any other.
 MemoryBlock DefaultSetData1(int model);

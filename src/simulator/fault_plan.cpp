@@ -10,7 +10,8 @@ constexpr std::pair<std::string_view, FaultKind> kKinds[] = {
     {"no-echo", FaultKind::NoEcho}, {"drop", FaultKind::Drop},   {"cut", FaultKind::Cut},
     {"garble", FaultKind::Garble},  {"ng", FaultKind::Ng},       {"pieces", FaultKind::Pieces},
     {"late", FaultKind::Late},      {"noise", FaultKind::Noise}, {"hang-up", FaultKind::HangUp},
-    {"silent", FaultKind::Silent},
+    {"silent", FaultKind::Silent},  {"stall", FaultKind::Stall}, {"flip", FaultKind::Flip},
+    {"smear", FaultKind::Smear},
 };
 
 constexpr std::string_view kAfter = "after=";

@@ -18,6 +18,9 @@ enum class FaultKind {
     Ng,      ///< refused: "NG" in place of "OK" or of a frame
     Pieces,  ///< the reply comes in pieces, with pauses
     Late,    ///< the reply comes after the time-out; commands that come in between are not heard
+    Stall,   ///< stops for a while, but keeps what comes in meanwhile and answers all of it in order
+    Flip,    ///< a digit of a block that is read comes as another digit
+    Smear,   ///< it comes as a character that is no digit
     Noise,   ///< random characters before the reply
     HangUp,  ///< the line goes, as when the adapter is pulled out
     Silent,  ///< not heard at all: no echo, no reply, nothing obeyed

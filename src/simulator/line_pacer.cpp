@@ -15,7 +15,7 @@ LinePacer::LinePacer(int baud) : characterTime_(baud > 0 ? kBitsPerCharacter * k
 
 void LinePacer::Add(const Answer& answer, Clock::time_point start)
 {
-    start = std::max(start, lineFree_);
+    start = std::max(start, lineFree_) + answer.stall;
     AddGroups(answer.echo, start);
     lineFree_ = start + static_cast<std::int64_t>(answer.length) * characterTime_;
     for (const ReplyPiece& piece : answer.reply) {

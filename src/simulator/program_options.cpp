@@ -10,6 +10,8 @@ namespace {
 
 constexpr int kUsualBaud = 9600;
 constexpr int kHighestBaud = 4'000'000;
+constexpr int kUsualStall = 700;
+constexpr int kLongestStall = 60'000;
 
 void AddOptions(QCommandLineParser& parser)
 {
@@ -29,6 +31,7 @@ void AddOptions(QCommandLineParser& parser)
         "Do something wrong with COUNT commands (1), or with each at a PROBABILITY (0.1, 10%), after N good "
         "ones. May be repeated. Kinds: " +
             FaultKinds() + ".");
+    add("stall-ms", "N", "How long a stall lasts (700).");
     add("seed", "N", "Seed of what happens at random (1).");
     add("log", "FILE", "Append every command received to a file.");
     parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help.")});
@@ -67,12 +70,16 @@ QString ReadOptions(const QCommandLineParser& parser, ProgramOptions& options)
     options.session.link = parser.value(QStringLiteral("link")).toStdString();
     options.session.baud = kUsualBaud;
     int seed = 1;
+    int stall = kUsualStall;
     if (!ReadNumber(parser, QStringLiteral("region"), kRegions - 1, options.region))
         return QStringLiteral("--region is 0 to 3");
     if (!ReadNumber(parser, QStringLiteral("baud"), kHighestBaud, options.session.baud))
         return QStringLiteral("--baud is 0 to %1").arg(kHighestBaud);
     if (!ReadNumber(parser, QStringLiteral("seed"), std::numeric_limits<int>::max(), seed))
         return QStringLiteral("--seed is a number");
+    if (!ReadNumber(parser, QStringLiteral("stall-ms"), kLongestStall, stall))
+        return QStringLiteral("--stall-ms is 0 to %1").arg(kLongestStall);
+    options.session.stallTime = std::chrono::milliseconds(stall);
     options.session.seed = static_cast<unsigned>(seed);
     return ReadFaults(parser.values(QStringLiteral("fault")), options.session.faults);
 }

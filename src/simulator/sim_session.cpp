@@ -51,6 +51,7 @@ SimSession::SimSession(SimOptions options)
       pacer_(options_.baud)
 {
     receiver_.SetLateDelay(options_.lateDelay);
+    receiver_.SetStallTime(options_.stallTime);
     wakeUp_ = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
     if (Connect())
         thread_ = std::thread([this] { Run(); });
@@ -89,6 +90,12 @@ void SimSession::SetFaults(const std::vector<Fault>& faults)
 {
     const std::lock_guard lock(mutex_);
     receiver_.SetFaults(FaultPlan(faults, options_.seed));
+}
+
+void SimSession::SetStallTime(std::chrono::microseconds time)
+{
+    const std::lock_guard lock(mutex_);
+    receiver_.SetStallTime(time);
 }
 
 std::vector<std::string> SimSession::CommandLog() const

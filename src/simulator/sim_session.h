@@ -24,6 +24,7 @@ struct SimOptions
     unsigned seed = 1;
     std::string link{};  ///< a fixed name for the device, made as a symbolic link and removed at the end
     std::chrono::milliseconds lateDelay{600};
+    std::chrono::microseconds stallTime{std::chrono::milliseconds(700)};
     bool keepsLog = true;  ///< false for a session without end, whose log would never stop growing
 
     /// Called on the receiver's own thread: each command received (without its CR), and the new device
@@ -62,6 +63,9 @@ class SimSession
 
     /// Replaces the faults; commands are counted anew.
     void SetFaults(const std::vector<Fault>& faults);
+
+    /// How long the receiver stops at a stall.
+    void SetStallTime(std::chrono::microseconds time);
 
     /// Every command received since the start or the last clearing, in order, without its CR. Empty when the
     /// options keep no log.

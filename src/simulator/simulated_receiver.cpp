@@ -15,6 +15,7 @@ constexpr std::size_t kReadLength = kVerbAt + 1;
 constexpr std::size_t kWriteLength = kReadLength + kBlockChars;
 /// Noise without a CR must not fill the memory.
 constexpr std::size_t kLongestLine = 256;
+constexpr std::size_t kLineEndLength = 2;
 constexpr char kRefusal[] = "\r\nNG\r\n";
 constexpr milliseconds kPieceGap{15};
 
@@ -68,6 +69,8 @@ Answer SimulatedReceiver::AnswerTo(std::string line)
         answer.hangsUp = fault == FaultKind::HangUp;
         return answer;
     }
+    if (fault == FaultKind::Stall)
+        answer.stall = stallTime_;
     const std::string reply = Obey(answer.command, fault == FaultKind::Ng);
     if (!reply.empty())
         answer.reply = {{milliseconds(0), reply}};
@@ -115,12 +118,25 @@ void SimulatedReceiver::Spoil(FaultKind fault, Answer& answer)
             piece.pause = lateDelay_;
             answer.isDeaf = true;
             break;
+        case FaultKind::Flip:
+        case FaultKind::Smear:
+            if (piece.text.size() > kBlockChars)
+                SpoilDigit(piece.text, fault == FaultKind::Smear);
+            break;
         case FaultKind::Noise:
             piece.text.insert(0, Noise());
             break;
         default:
             break;
     }
+}
+
+void SimulatedReceiver::SpoilDigit(std::string& frame, bool isLost)
+{
+    const int place = faults_.Random(static_cast<int>(kBlockChars));
+    char& digit = frame.at(kLineEndLength + static_cast<std::size_t>(place));
+    const char other = digit == '0' ? '1' : '0';
+    digit = isLost ? '?' : other;
 }
 
 /// Some random characters, line ends excepted.

@@ -24,7 +24,8 @@ struct Answer
     std::size_t length;   ///< characters received, with everything before the command and the CR
     std::string echo;     ///< runs alongside the characters that come in
     std::vector<ReplyPiece> reply;
-    bool isDeaf = false;  ///< hears nothing before its reply is out
+    std::chrono::microseconds stall{0};  ///< before all of it
+    bool isDeaf = false;                 ///< hears nothing before its reply is out
     bool hangsUp = false;
 };
 
@@ -48,16 +49,19 @@ class SimulatedReceiver
     void SetMemory(const ReceiverMemory& memory) { memory_ = memory; }
     void SetFaults(FaultPlan faults) { faults_ = std::move(faults); }
     void SetLateDelay(std::chrono::milliseconds delay) { lateDelay_ = delay; }
+    void SetStallTime(std::chrono::microseconds time) { stallTime_ = time; }
 
   private:
     Answer AnswerTo(std::string line);
     std::string Obey(const std::string& command, bool refuses);
     void Spoil(FaultKind fault, Answer& answer);
+    void SpoilDigit(std::string& frame, bool isLost);
     std::string Noise();
 
     ReceiverMemory memory_;
     FaultPlan faults_;
     std::chrono::milliseconds lateDelay_{600};
+    std::chrono::microseconds stallTime_{std::chrono::milliseconds(700)};
     std::string pending_;
 };
 

@@ -5,6 +5,8 @@
 #include <QKeyEvent>
 #include <algorithm>
 
+#include "ui/column_widths.h"
+
 namespace rqm5 {
 namespace {
 
@@ -17,7 +19,7 @@ constexpr std::array<const char*, ChannelTable::kColumns> kLongestText = {
 }  // namespace
 
 ChannelTable::ChannelTable(const std::array<int, kColumns + 1>& twips, QWidget* parent)
-    : QTableView(parent), twips_(twips)
+    : QTableView(parent), twips_(twips), widths_(new ColumnWidths(*horizontalHeader(), kColumns))
 {
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
@@ -33,6 +35,11 @@ ChannelTable::ChannelTable(const std::array<int, kColumns + 1>& twips, QWidget* 
     verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
     connect(this, &QTableView::doubleClicked, this,
             [this](const QModelIndex& index) { emit RowChosen(index.row() + 1); });
+    connect(widths_, &ColumnWidths::Forgotten, this, &ChannelTable::FitToFont);
+    connect(widths_, &ColumnWidths::UserResized, this, [this](int column) {
+        if (column != kNoteColumn)
+            StretchNote();
+    });
 }
 
 int ChannelTable::CurrentTableRow() const
@@ -87,6 +94,7 @@ void ChannelTable::resizeEvent(QResizeEvent* event)
 
 void ChannelTable::showEvent(QShowEvent* event)
 {
+    widths_->Load();
     FitToFont();
     QTableView::showEvent(event);
 }
@@ -98,6 +106,8 @@ int ChannelTable::Pixels(int twips) const
 
 int ChannelTable::ColumnWidth(int column) const
 {
+    if (const int dragged = widths_->Dragged(column); dragged > 0)
+        return dragged;
     constexpr int kCellMargins = 10;
     const auto index = static_cast<std::size_t>(column);
     const int text = fontMetrics().horizontalAdvance(QLatin1String(kLongestText[index])) + kCellMargins;
@@ -114,7 +124,7 @@ void ChannelTable::FitToFont()
     verticalHeader()->setDefaultSectionSize(text + 6);
     verticalHeader()->setMinimumWidth(Pixels(twips_[0]));
     for (int column = 0; column < kNoteColumn; ++column)
-        setColumnWidth(column, ColumnWidth(column));
+        SetWidth(column, ColumnWidth(column));
     constexpr int kRowsInSight = 6;
     setMinimumHeight(horizontalHeader()->sizeHint().height() +
                      kRowsInSight * verticalHeader()->defaultSectionSize() + 2 * frameWidth());
@@ -125,8 +135,18 @@ void ChannelTable::StretchNote()
 {
     if (model() == nullptr)
         return;
-    const int others = horizontalHeader()->sectionPosition(kNoteColumn);
-    setColumnWidth(kNoteColumn, std::max(ColumnWidth(kNoteColumn), viewport()->width() - others));
+    const int left = viewport()->width() - horizontalHeader()->sectionPosition(kNoteColumn);
+    const int usual = ColumnWidth(kNoteColumn);
+    // Half of its usual width is enough to have the note in sight without scrolling.
+    const int least = widths_->Dragged(kNoteColumn) > 0 ? usual : usual / 2;
+    SetWidth(kNoteColumn, left >= least ? left : usual);
+}
+
+void ChannelTable::SetWidth(int column, int width)
+{
+    widths_->SetFitting(true);
+    setColumnWidth(column, width);
+    widths_->SetFitting(false);
 }
 
 }  // namespace rqm5

@@ -6,6 +6,8 @@
 
 namespace rqm5 {
 
+class ColumnWidths;
+
 /// The table of the memory channels or of the VFO bands: one row is current, and rows are
 /// selected whole.
 /// Table rows are counted from 1; row 0 is the title row.
@@ -44,8 +46,10 @@ class ChannelTable : public QTableView
     int ColumnWidth(int column) const;
     void FitToFont();
     void StretchNote();
+    void SetWidth(int column, int width);
 
     std::array<int, kColumns + 1> twips_;
+    ColumnWidths* widths_;
 };
 
 }  // namespace rqm5

@@ -25,6 +25,9 @@ int ChannelTableModel::columnCount(const QModelIndex& parent) const
 
 QVariant ChannelTableModel::data(const QModelIndex& index, int role) const
 {
+    // With as many digits behind it everywhere, the point stands in one line.
+    if (role == Qt::TextAlignmentRole && (index.column() == kFrequency || index.column() == kShiftFrequency))
+        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
     if (!index.isValid() || role != Qt::DisplayRole)
         return {};
     // Notes come from files: what they hold is shown, never obeyed, and no cell is wider than this.
@@ -35,6 +38,9 @@ QVariant ChannelTableModel::data(const QModelIndex& index, int role) const
 
 QVariant ChannelTableModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    if (role == Qt::TextAlignmentRole && orientation == Qt::Horizontal &&
+        (section == kFrequency || section == kShiftFrequency))
+        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
     if (role != Qt::DisplayRole)
         return {};
     if (orientation == Qt::Horizontal)

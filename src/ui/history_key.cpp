@@ -22,8 +22,8 @@ bool HistoryKey::eventFilter(QObject* watched, QEvent* event)
     // Ctrl+Y is a key of Redo in the menu whatever the desktop takes for one.
     const bool isRedo = key->matches(QKeySequence::Redo) ||
                         (key->key() == Qt::Key_Y && key->modifiers() == Qt::ControlModifier);
-    const bool isForHistory =
-        (key->matches(QKeySequence::Undo) && !box->isUndoAvailable()) || (isRedo && !box->isRedoAvailable());
+    const bool hasTyping = box->isUndoAvailable() || box->isRedoAvailable();
+    const bool isForHistory = (isRedo || key->matches(QKeySequence::Undo)) && !hasTyping;
     if (isForHistory)
         event->ignore();
     return isForHistory;

@@ -21,10 +21,17 @@ struct IconRow
 };
 
 constexpr IconRow kIcons[] = {
-    {"mnuFileNew", "document-new", "new"},    {"mnuFileOpen", "document-open", "open"},
-    {"mnuFileSave", "document-save", "save"}, {"mnuFilePrint", "document-print", "print"},
-    {"mnuHelpAbout", "help-about", "about"},  {"mnuHistoryUndo", "edit-undo", "undo"},
+    {"mnuFileNew", "document-new", "new"},
+    {"mnuFileOpen", "document-open", "open"},
+    {"mnuFileSave", "document-save", "save"},
+    {"mnuFilePrint", "document-print", "print"},
+    {"mnuHelpAbout", "help-about", "about"},
+    {"mnuHistoryUndo", "edit-undo", "undo"},
     {"mnuHistoryRedo", "edit-redo", "redo"},
+    {"mnuEditFind", "edit-find", "find"},
+    // No theme has these two.
+    {"mnuReAll", "", "read"},
+    {"mnuWrAll", "", "write"},
 };
 
 QString IconPath(const char* file)

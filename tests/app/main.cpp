@@ -6,6 +6,7 @@
 namespace rqm5 {
 /// Only the program that tests recovery has it: it is started once more to be killed.
 [[gnu::weak]] int EditUntilKilled(const QString& stateFolder, const QString& file);
+[[gnu::weak]] int EditUntilEnded(const QString& stateFolder, const QString& file);
 }  // namespace rqm5
 
 int main(int argc, char** argv)
@@ -25,5 +26,8 @@ int main(int argc, char** argv)
     if (rqm5::EditUntilKilled != nullptr && words.size() == 4 &&
         words[1] == QLatin1String("--edit-until-killed"))
         return rqm5::EditUntilKilled(words[2], words[3]);
+    if (rqm5::EditUntilEnded != nullptr && words.size() == 4 &&
+        words[1] == QLatin1String("--edit-until-ended"))
+        return rqm5::EditUntilEnded(words[2], words[3]);
     return RUN_ALL_TESTS();
 }

@@ -1,7 +1,12 @@
 #include <QComboBox>
+#include <QDialog>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMenu>
+#include <QSignalSpy>
+#include <QTableView>
 #include <QTranslator>
+#include <QTreeWidget>
 
 #include "files/file_store.h"
 #include "link/port_file.h"
@@ -24,6 +29,57 @@ TEST_F(WindowTest, StartsWithAnUnchangedImageOnTheFirstTab)
     EXPECT_EQ(Find<QComboBox>("cbbBank").count(), 54);
     for (const QWidget* other : QApplication::topLevelWidgets())
         EXPECT_FALSE(other->isVisible() && other != window_.get()) << "the splash window must be gone";
+}
+
+TEST_F(WindowTest, NeverComesBeforeTheSplashTime)
+{
+    for (int time = 101; time < 160; time += 11) {
+        options_.splashTime = std::chrono::milliseconds(time);
+        frmMain window(port_, dialogs_, options_);
+        QElapsedTimer clock;
+        clock.start();
+        window.Form_Load();
+        EXPECT_GE(clock.nsecsElapsed(), qint64{time} * 1'000'000) << "too early is a fault on any machine";
+    }
+}
+
+TEST_F(WindowTest, InsertAndDeleteOutOfSightAreToldInTheStatusBar)
+{
+    CloneImage image = StartUpImage(0);
+    for (const int row : {0, 6, 199, 205}) {
+        image.MemData(row).frequency = (100 + row) * 1'000'000;
+        image.MemData(row).enabled = true;
+    }
+    ASSERT_FALSE(SaveCloneFile(Path("radio.RQ5"), image).problem);
+    options_.commandFile = Path("radio.RQ5");
+    Start();
+    GoTo(Tab::Memory);
+    const struct
+    {
+        int group;
+        int row;
+        const char* button;
+        const char* note;
+    } cases[] = {
+        {kSelectPriority, 6, "cmbInsert",
+         "Rows 6 to 198 moved down; lost: 299.000000 MHz in row 199 (Bank 0, channel 199)."},
+        {1, 7, "cmbDelete", "Rows 8 to 199 moved up; lost: 106.000000 MHz in row 7 (Bank 0, channel 7)."},
+        {1, 3, "cmbDelete", "Rows 4 to 199 moved up; row 3 was empty, so nothing is lost."},
+        {kSelectAll, 198, "cmbInsert", "Row 198 moved down; row 199 was empty, so nothing is lost."},
+    };
+    for (const auto& test : cases) {
+        Find<QComboBox>("cbbBank").setCurrentIndex(test.group);
+        Find<QTableView>("MSFlexGrid1")
+            .setCurrentIndex(Find<QTableView>("MSFlexGrid1").model()->index(test.row, 0));
+        dialogs_.answers = {QMessageBox::Ok};
+        Click(test.button);
+        dialogs_.answers.clear();
+        EXPECT_EQ(StatusText("lblHint").toStdString(), test.note);
+    }
+    Find<QComboBox>("cbbBank").setCurrentIndex(0);
+    Click("cmbInsert");
+    EXPECT_FALSE(StatusText("lblHint").contains(QStringLiteral("moved")))
+        << "the table shows just these rows";
 }
 
 TEST_F(WindowTest, TakesThePortFromItsFileAndWritesItAtTheEnd)
@@ -129,7 +185,8 @@ TEST_F(WindowTest, ToolbarButtonsActByTheirKeys)
         buttons[keys.constLast()] = bar.widgetForAction(button);
     }
     EXPECT_EQ(keys.join(QLatin1Char(' ')),
-              QString::fromUtf8("新規作成 開く 上書き保存 | mnuHistoryUndo mnuHistoryRedo | 印刷 ﾍﾙﾌﾟ"));
+              QString::fromUtf8("新規作成 開く 上書き保存 | mnuHistoryUndo mnuHistoryRedo | mnuEditFind | "
+                                "tbReAll tbWrAll | 印刷 ﾍﾙﾌﾟ"));
 
     const auto press = [&](const char* key) {
         QTest::mouseClick(buttons.at(QString::fromUtf8(key)), Qt::LeftButton);
@@ -143,6 +200,79 @@ TEST_F(WindowTest, ToolbarButtonsActByTheirKeys)
         bar.tbToolBar_ButtonClick(QString::fromUtf8(other));
     EXPECT_EQ(dialogs_.choices.size(), 2U);
     EXPECT_EQ(dialogs_.runs, 1);
+}
+
+TEST_F(WindowTest, ToolTipsNameTheKeysAndNewButtonsAct)
+{
+    Start();
+    auto& bar = Find<ToolBar>("tbToolBar");
+    QStringList tips;
+    for (const QAction* button : bar.actions())
+        tips += button->isSeparator() ? QString() : button->toolTip();
+    tips.removeAll(QString());
+    EXPECT_EQ(tips.join(QLatin1Char('|')).toStdString(),
+              "New (Ctrl+N)|Open (Ctrl+O)|Save (Ctrl+S)|Undo (Ctrl+Z)|Redo (Ctrl+Shift+Z)|Find (Ctrl+F)|"
+              "Read ALL (Ctrl+R)|Write ALL (Ctrl+Shift+W)|Print (Ctrl+P)|About");
+    EditSomething();
+    EXPECT_TRUE(Item("mnuHistoryUndo").toolTip().endsWith(QLatin1String(" (Ctrl+Z)")));
+    QSignalSpy read(&Item("mnuReAll"), &QAction::triggered);
+    QTest::mouseClick(bar.widgetForAction(&Item("tbReAll")), Qt::LeftButton);
+    EXPECT_EQ(read.count(), 1);
+    Press(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(read.count(), 2);
+    QTest::mouseClick(bar.widgetForAction(&Item("mnuEditFind")), Qt::LeftButton);
+    EXPECT_TRUE(Find<QLineEdit>("txtFind").hasFocus());
+}
+
+TEST_F(WindowTest, CtrlPageKeysChangeTheTabAndEscLeavesASearchWhereItBegan)
+{
+    Start();
+    for (const int tab : {1, 2, 3, 0}) {
+        Press(Qt::Key_PageDown, Qt::ControlModifier);
+        EXPECT_EQ(Tabs().currentIndex(), tab);
+    }
+    auto& slider = Find<QWidget>("MSFlexGrid2");
+    slider.setFocus();
+    Press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(Tabs().currentIndex(), 2);
+    EXPECT_TRUE(Find<QLineEdit>("txtFind").hasFocus());
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(Tabs().currentIndex(), 0);
+    EXPECT_TRUE(slider.hasFocus());
+    Press(Qt::Key_F3);
+    EXPECT_TRUE(Find<QLineEdit>("txtFind").hasFocus()) << "there is nothing to go to yet";
+    Press(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(Tabs().currentIndex(), 1);
+}
+
+TEST_F(WindowTest, DuplicatesAreListedBesideTheWindowAndAClickGoesThere)
+{
+    CloneImage image = StartUpImage(0);
+    for (const int row : {3, 205, 206, 1201})
+        image.MemData(row).frequency = row == 206 ? 146'000'000 : 145'000'000;
+    options_.commandFile = Path("twice.RQ5");
+    ASSERT_FALSE(SaveCloneFile(options_.commandFile, image).problem);
+    Start();
+    Item("mnuToolsDuplicates").trigger();
+    auto& dialog = Find<QDialog>("dlgDuplicates");
+    EXPECT_FALSE(dialog.isModal());
+    auto& list = Find<QTreeWidget>("lstDuplicates");
+    ASSERT_EQ(list.topLevelItemCount(), 1);
+    QTreeWidgetItem& frequency = *list.topLevelItem(0);
+    EXPECT_EQ(frequency.text(0).toStdString(), "145.000000 MHz, 3 times");
+    ASSERT_EQ(frequency.childCount(), 3);
+    EXPECT_EQ(frequency.child(1)->text(0).toStdString(), "Bank 1, channel 5");
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(frequency.child(1)).center());
+    EXPECT_EQ(Tabs().currentIndex(), 2);
+    EXPECT_EQ(Find<QComboBox>("cbbBank").currentIndex(), 1);
+    EXPECT_EQ(Find<QTableView>("MSFlexGrid1").currentIndex().row(), 5);
+    QTest::keyClick(&list, Qt::Key_Down);
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_EQ(Find<QComboBox>("cbbBank").currentIndex(), kSelectPriority);
+    EXPECT_TRUE(dialog.isVisible());
+    dialogs_.answers = {QMessageBox::Ok};
+    Click("cmbClear");
+    EXPECT_EQ(list.topLevelItem(0)->childCount(), 2) << "it follows";
 }
 
 TEST_F(WindowTest, ModifyOpensTheEditorOnTheRowOfTheTab)
@@ -187,11 +317,33 @@ TEST_F(WindowTest, FollowsTheLanguageWhileItRuns)
     Brackets brackets;
     QApplication::installTranslator(&brackets);
     QCoreApplication::processEvents();
-    EXPECT_EQ(texts(), QStringLiteral("[&New][Read(&R)][Memory][The memory channels][New]"));
+    EXPECT_EQ(texts(), QStringLiteral("[&New][Read(&R)][Memory][The memory channels][New] (Ctrl+N)"));
+    EditSomething();
     QApplication::removeTranslator(&brackets);
     QCoreApplication::processEvents();
     EXPECT_EQ(texts(), designed);
+    EXPECT_EQ(Item("mnuHistoryUndo").text(), QStringLiteral("&Undo Scan Mode: Timer Scan"));
     EXPECT_EQ(window_->windowTitle(), kTitle);
+}
+
+TEST_F(WindowTest, TheStatusBarSaysWhatMattersMost)
+{
+    Start();
+    auto& bar = Find<StatusBar>("sbStatusBar");
+    Find<QWidget>("Slider1").setFocus();
+    const std::pair<std::function<void()>, const char*> cases[] = {
+        {[] {}, "Volume, 0 to 50"},
+        {[&] { bar.ShowWarning(QStringLiteral("a warning")); }, "a warning"},
+        {[&] { bar.ShowNote(QStringLiteral("a note")); }, "a note"},
+        {[&] { bar.ShowPointerHint(QStringLiteral("a hint")); }, "a hint"},
+        {[&] { bar.ShowNote(QStringLiteral("news")); }, "news"},
+        {[&] { bar.ShowNote({}); }, "a warning"},
+        {[&] { bar.ShowWarning({}); }, "Volume, 0 to 50"},
+    };
+    for (const auto& [happens, shown] : cases) {
+        happens();
+        EXPECT_EQ(StatusText("lblHint").toStdString(), shown);
+    }
 }
 
 TEST_F(WindowTest, PrintsWhatTheWindowShows)

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 
 #include "ui/error_prompt.h"
@@ -40,6 +41,24 @@ TEST(MessageDialogs, TakeTextsOfStrangersAsPlainText)
             EXPECT_TRUE(label->text().toStdString() != evil || label->textFormat() == Qt::PlainText);
     });
     MessageDialogs().Ask(nullptr, ErrorPrompt({kComPortError, evil}));
+}
+
+TEST(MessageDialogs, HaveTheDefaultButtonAndTheCaptionsThatAreWanted)
+{
+    Prompt prompt{.title = QStringLiteral("T"), .text = QStringLiteral("text")};
+    prompt.buttons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    prompt.captions = {{QMessageBox::Yes, QStringLiteral("Recover")}};
+    prompt.more = QStringLiteral("more");
+    for (const auto wanted : {QMessageBox::No, QMessageBox::Cancel}) {
+        prompt.defaultButton = wanted;
+        WhenShown<QMessageBox>([&](QMessageBox& box) {
+            EXPECT_EQ(box.standardButton(box.defaultButton()), wanted);
+            EXPECT_EQ(box.button(QMessageBox::Yes)->text(), prompt.captions[0].second);
+            EXPECT_EQ(box.detailedText(), prompt.more);
+            QTest::keyClick(&box, Qt::Key_Return);
+        });
+        EXPECT_EQ(MessageDialogs().Ask(nullptr, prompt), wanted);
+    }
 }
 
 TEST(MessageDialogs, CutNeitherTextNorTitle)

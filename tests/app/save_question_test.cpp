@@ -148,5 +148,21 @@ TEST_F(WindowTest, ImportOverwritesTheRowsItNamesWithoutAQuestion)
     EXPECT_EQ(StatusText("lblEnabled"), QStringLiteral("Channels enabled: 1"));
 }
 
+TEST_F(WindowTest, AnImportOfNothingIsSaidAndChangesNothing)
+{
+    std::ofstream(Path("in.csv").toStdString()) << "\"other\",\"MEMORY\",\"3\"\r\n";
+    Start();
+    EditSomething();
+    dialogs_.files = {Path("in.csv")};
+    Item("mnuFileImport").trigger();
+    EXPECT_TRUE(StatusText("lblHint").startsWith(QStringLiteral("Nothing was imported")));
+    EXPECT_FALSE(window_->windowTitle().contains(QStringLiteral("in.csv")));
+    EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("Changed"));
+    EXPECT_EQ(Item("mnuHistoryUndo").text(), QStringLiteral("&Undo Scan Mode: Timer Scan"));
+    Click("opbScanMode_0");
+    EXPECT_FALSE(StatusText("lblHint").startsWith(QStringLiteral("Nothing")))
+        << "it was about what came before";
+}
+
 }  // namespace
 }  // namespace rqm5

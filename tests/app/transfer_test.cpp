@@ -77,10 +77,17 @@ TEST_F(TransferTest, ReadAllShowsWhatTheReceiverHolds)
     QString counter;
     At(1200, [&] {
         EXPECT_EQ(Bar().maximum(), 1209);
+        EXPECT_EQ(StatusText("lblRegion"), QStringLiteral("RQ-M5 E")) << "what has arrived is shown";
         counter = Find<QLineEdit>("Text3").text();
         ExpectEverythingOff();
+        EXPECT_TRUE(Find<QPushButton>("cmbCancel").hasFocus());
+        const std::size_t sent = receiver_.CommandLog().size();
+        Find<TransferCommands>("").Run(Transfer::ReadBankPage, kSelectAll);
+        EXPECT_EQ(receiver_.CommandLog().size(), sent) << "one at a time";
     });
+    Find<QWidget>("Slider1").setFocus();
     Item("mnuReAll").trigger();
+    EXPECT_TRUE(Find<QWidget>("Slider1").hasFocus());
     EXPECT_EQ(counter, QStringLiteral("1200"));
     ExpectEverythingOn();
     EXPECT_TRUE(dialogs_.asked.empty());
@@ -157,6 +164,21 @@ TEST_F(TransferTest, CancelEndsItWithoutAMessageAndKeepsWhatCame)
     }
 }
 
+TEST_F(TransferTest, FlagsThatAWriteTakesOverAreShownButNeitherAStepNorUnsaved)
+{
+    Item("mnuReAll").trigger();
+    dialogs_.files = {Path("kept.RQ5")};
+    Item("mnuFileSaveAs").trigger();
+    const int enabled = StatusText("lblEnabled").section(u' ', -1).toInt();
+    demo_.MemData(200).enabled = !demo_.MemEnable(200);  // in bank 3
+    receiver_.SetMemory(MemoryFromImage(demo_));
+    Find<QComboBox>("cbbBank").setCurrentIndex(0);
+    Item("mnuWrMemory").trigger();
+    EXPECT_EQ(StatusText("lblEnabled").section(u' ', -1).toInt(), enabled + (demo_.MemEnable(200) ? 1 : -1));
+    EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("Saved"));
+    EXPECT_EQ(Item("mnuHistoryUndo").text(), QStringLiteral("&Undo Read ALL"));
+}
+
 TEST_F(TransferTest, WhatHasArrivedIsAnUnsavedChangeAlsoWhenItIsNothingNew)
 {
     struct
@@ -188,6 +210,35 @@ TEST_F(TransferTest, WhatHasArrivedIsAnUnsavedChangeAlsoWhenItIsNothingNew)
         EXPECT_EQ(dialogs_.asked.size(), row.failsAfter >= 0 ? 1U : 0U);
         EXPECT_EQ(Item("mnuHistoryUndo").text(), step) << "nothing has changed, so there is no step";
     }
+}
+
+TEST_F(TransferTest, ARefusedBankSizeStopsTheCommandThatLeavesItsBox)
+{
+    dialogs_.onAsk = nullptr;
+    const auto expectStopped = [this](const std::string& command, const std::function<void()>& act) {
+        TypeBankSize(49, "1000");
+        auto& box = Find<QLineEdit>("txtBank_49");
+        dialogs_.asked.clear();
+        receiver_.ClearCommandLog();
+        act();
+        ASSERT_EQ(dialogs_.asked.size(), 1U) << command;
+        EXPECT_TRUE(dialogs_.asked[0].text.startsWith(QStringLiteral("The total of the number"))) << command;
+        EXPECT_TRUE(receiver_.CommandLog().empty() && dialogs_.choices.empty() && dialogs_.runs == 0)
+            << command;
+        EXPECT_TRUE(window_->isVisible() && box.hasFocus() && box.selectedText() == QStringLiteral("0"))
+            << command;
+    };
+    EachItem([&](const QAction& item, const std::string& name) {
+        if (item.isEnabled() && !item.isCheckable() && !name.starts_with("mnuHistory"))
+            expectStopped(name, [&] { Item(name.c_str()).trigger(); });
+    });
+    expectStopped("close", [this] { window_->close(); });
+    expectStopped("Alt+B", [this] { Find<QAbstractButton>("cmbWriteBank").click(); });
+
+    TypeBankSize(49, "1001");  // goes back without a message, and nothing is stopped
+    dialogs_.asked.clear();
+    Trigger("mnuWrMemory");
+    EXPECT_TRUE(dialogs_.asked.empty() && !receiver_.CommandLog().empty());
 }
 
 TEST_F(TransferTest, ClosingDuringATransferCancelsItAndThenAsks)

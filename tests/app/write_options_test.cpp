@@ -1,7 +1,11 @@
 #include "app/write_options.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QPushButton>
+#include <QSignalSpy>
+#include <QStatusTipEvent>
+#include <QTableView>
 
 #include "app/receiver_window_fixture.h"
 
@@ -60,6 +64,83 @@ TEST_F(WriteOptionsTest, EachWriteKeepsABackupFirstAndReadsBackAfterwards)
     EXPECT_TRUE(dialogs_.asked.empty());
 }
 
+TEST_F(WriteOptionsTest, AskBeforeTheFirstWriteToAReceiverThatTellsToBeAnotherModel)
+{
+    const ReceiverMemory before = receiver_.Memory();
+    SaveWriteOptions({true, false, Path("backups")});
+    Item("mnuWrSettings").trigger();
+    ASSERT_EQ(dialogs_.asked.size(), 1U);
+    EXPECT_EQ(dialogs_.asked[0].defaultButton, QMessageBox::No);
+    EXPECT_EQ(dialogs_.asked[0].buttons, QMessageBox::Yes | QMessageBox::No);
+    EXPECT_EQ(dialogs_.asked[0].details,
+              QStringLiteral("The receiver is an RQ-M5 E, and what is to be written is for an RQ-M5 J."));
+    EXPECT_EQ(receiver_.Memory(), before);
+    EXPECT_EQ(StatusText("lblHint"), QStringLiteral("Nothing was written."));
+
+    SaveWriteOptions({false, false, Path("backups")});
+    dialogs_.answers = {QMessageBox::Yes};
+    for (const char* control : {"mnuWrMemory", "mnuWrSettings", "mnuWrSettings"}) {
+        receiver_.ClearCommandLog();
+        Trigger(control);
+        EXPECT_FALSE(receiver_.CommandLog().empty());
+        EXPECT_EQ(dialogs_.asked.size(), 2U) << "once for these two models: " << control;
+    }
+    Item("mnuReSettings").trigger();
+    GoTo(Tab::Settings1);
+    Click("opbModel_2");
+    Item("mnuWrMemory").trigger();
+    ASSERT_EQ(dialogs_.asked.size(), 3U);
+    EXPECT_TRUE(dialogs_.asked[2].details.contains(QStringLiteral("an RQ-M5 E, and")))
+        << "not what was written";
+}
+
+TEST_F(WriteOptionsTest, AGroupThatTakesFlagsFromTheReceiverSaysHowMany)
+{
+    GoTo(Tab::Memory);
+    Find<QComboBox>("cbbBank").setCurrentIndex(kSelectPriority);
+    int others = 0;
+    for (int row = 0; row < kRadioRows; ++row)
+        others += demo_.MemEnable(row) && !kPriority.rows.Contains(row) ? 1 : 0;
+    const QString note =
+        QStringLiteral("Enable flags of other rows replaced by the receiver's: %1.").arg(others);
+    QSignalSpy drawn(Find<QTableView>("MSFlexGrid1").model(), &QAbstractItemModel::dataChanged);
+    Click("cmbTxData");
+    EXPECT_EQ(StatusText("lblHint"), note);
+    EXPECT_FALSE(drawn.empty()) << "their colour";
+    EXPECT_EQ(StatusText("lblEnabled"), QStringLiteral("Channels enabled: %1").arg(others));
+
+    // It stays while the pointer passes over controls, and until the next click or key.
+    QStatusTipEvent tip(QStringLiteral("hint"));
+    QCoreApplication::sendEvent(window_.get(), &tip);
+    EXPECT_EQ(StatusText("lblHint"), note);
+    Press(Qt::Key_Shift);
+    EXPECT_EQ(StatusText("lblHint"), note);
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(StatusText("lblHint"), QStringLiteral("hint"));
+
+    Click("cmbTxData");
+    EXPECT_FALSE(StatusText("lblHint").contains(QStringLiteral("flags"))) << "they are the same now";
+    SaveWriteOptions({false, true, Path("backups")});
+    Find<QComboBox>("cbbBank").setCurrentIndex(kSelectSearchPass);
+    receiver_.SetMemory(MemoryFromImage(DemoImage(1)));
+    Item("mnuFileNew").trigger();
+    dialogs_.asked.clear();
+    Item("mnuWrMemory").trigger();
+    EXPECT_TRUE(StatusText("lblHint").startsWith(QStringLiteral("Written and verified: ")))
+        << "first of the two";
+}
+
+TEST_F(WriteOptionsTest, NoBackupReplacesAnother)
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    const QString first = NewBackupPath(folder_.path(), {}, now);
+    ASSERT_TRUE(QFile(first).open(QIODevice::WriteOnly));
+    const QString second = NewBackupPath(folder_.path(), {}, now);
+    ASSERT_TRUE(second != first && QFile(second).open(QIODevice::WriteOnly));
+    const QString third = NewBackupPath(folder_.path(), {}, now);
+    EXPECT_TRUE(third != first && third != second && !QFile::exists(third));
+}
+
 TEST_F(WriteOptionsTest, VerifyNamesTheRowsThatDiffer)
 {
     Item("mnuReAll").trigger();
@@ -84,6 +165,7 @@ TEST_F(WriteOptionsTest, VerifyNamesTheRowsThatDiffer)
 TEST_F(WriteOptionsTest, WithoutItsBackupNothingIsWrittenAndACancelTellsWhatWas)
 {
     const ReceiverMemory before = receiver_.Memory();
+    Item("mnuReSettings").trigger();
     SaveWriteOptions({true, false, Path("backups")});
     receiver_.SetFaults({{.kind = FaultKind::Garble, .count = 10, .after = 40}});
     Item("mnuWrAll").trigger();
@@ -92,7 +174,24 @@ TEST_F(WriteOptionsTest, WithoutItsBackupNothingIsWrittenAndACancelTellsWhatWas)
     EXPECT_EQ(receiver_.Memory(), before);
     EXPECT_TRUE(Backups().isEmpty());
 
+    // A folder that goes away meanwhile, and one that is none: a backup that cannot be saved is kept
+    // elsewhere.
     receiver_.SetFaults({});
+    qputenv("XDG_STATE_HOME", QFile::encodeName(Path("state")));
+    At(100, [this] {
+        QDir(Path("backups")).removeRecursively();
+        QFile(Path("backups")).open(QIODevice::WriteOnly);
+    });
+    for (const bool wasRead : {true, false}) {
+        dialogs_.asked.clear();
+        Item("mnuWrMemory").trigger();
+        ASSERT_EQ(dialogs_.asked.size(), 1U);
+        EXPECT_TRUE(dialogs_.asked[0].details.contains(QStringLiteral("nothing was written")));
+        EXPECT_EQ(dialogs_.asked[0].details.contains(Path("state/rq-m5-clone/recovery-read-")), wasRead);
+        EXPECT_EQ(receiver_.Memory(), before);
+    }
+    qunsetenv("XDG_STATE_HOME");
+    dialogs_.asked.resize(1);
     SaveWriteOptions({false, false, Path("backups")});
     At(20, [this] { Find<QPushButton>("cmbCancel").click(); });
     Item("mnuWrMemory").trigger();

@@ -93,9 +93,97 @@ TEST_F(FileCommands, ImportTakesRowsIntoAFileOrANewOneAndNamesNotesThatAreLost)
     ExpectFailure({"import", junk, file}, "Data Error: ", "no record");
     EXPECT_EQ(Bytes(file), before);
 
+    EXPECT_EQ(RunProgramFile({"import", csv, file}).out, "1 row taken from " + csv + "\n");
+    EXPECT_TRUE(Has(RunProgramFile({"import", csv, file}).err, "carrier code of 1 row moved one up"));
+    PutBytes(csv, CsvRecord("PRIORITY", 3, "145.5", "home\"\" sweet"));
+    EXPECT_EQ(RunProgramFile({"import", csv, file}).status, 0) << "quotes inside a note come back";
+}
+
+TEST_F(FileCommands, ImportSpoilsNoFile)
+{
+    const std::string csv = folder / "rows.csv";
+    const std::string full = folder / "none/new.RQ5";
     PutBytes(csv, CsvRecord("PRIORITY", 3, "145.5", "home, sweet"));
-    ExpectFailure({"import", csv, file}, "Data Error: ", "Pr3");
+    for (const bool isThere : {false, true}) {
+        const std::string before = isThere ? DemoFile() : "";
+        if (isThere)
+            PutBytes(file, before);
+        const RunResult refused = RunProgramFile({"import", csv, file});
+        EXPECT_EQ(refused.status, 1);
+        EXPECT_TRUE(Has(refused.err, "--safe-notes") &&
+                    Has(refused.err, "\n  memory row 1203 (Priority Pr3)\n"))
+            << refused.err;
+        EXPECT_TRUE(refused.out.empty() && Bytes(file) == before);
+    }
+    EXPECT_EQ(RunProgramFile({"import", csv, file, "--safe-notes"}).status, 0);
+    EXPECT_TRUE(Has(Bytes(file), "home; sweet\r\n"));
+    const RunResult forced = RunProgramFile({"import", csv, file, "--force"});
+    EXPECT_EQ(forced.status, 1);
+    EXPECT_TRUE(Has(forced.err, "is written, but") && Has(forced.err, "Pr3") &&
+                Has(forced.out, "1 row taken"));
     EXPECT_TRUE(Has(Bytes(file), "home, sweet\r\n"));
+    const RunResult failed = RunProgramFile({"import", csv, full, "--safe-notes"});
+    EXPECT_TRUE(failed.status == 1 && failed.out.empty()) << "nothing was taken: " << failed.out;
+
+    // A note that changes but does not keep the file from being opened is written, and named.
+    PutBytes(csv, CsvRecord("PRIORITY", 3, "145.5", "\"\"q\"\""));
+    PutBytes(file, DemoFile());
+    ExpectFailure({"import", csv, file}, "Data Error: ", "is written, but");
+}
+
+TEST_F(FileCommands, RepairShowsWhatItWouldChangeAndWritesOnlyWhenAsked)
+{
+    CloneImage image = DemoImage(0);
+    image.MemData(3).note = "a,b";
+    const std::string spoilt = FormatCloneFile(image);
+    const std::string repaired = folder / "repaired.RQ5";
+    PutBytes(file, spoilt);
+    ExpectFailure({"check", file}, "Data Error: ", "rq-m5 repair");
+    const RunResult shown = RunProgramFile({"repair", file});
+    EXPECT_EQ(shown.status, 0);
+    EXPECT_TRUE(shown.out.starts_with("line 1285, note of memory row 3: a,b -> a;b\n")) << shown.out;
+    EXPECT_EQ(RunProgramFile({"repair", file, "--to", repaired}).status, 0);
+    EXPECT_EQ(Bytes(file), spoilt);
+    image.MemData(3).note = "a;b";
+    EXPECT_EQ(Bytes(repaired), FormatCloneFile(image));
+    ExpectFailure({"repair", file, "--to", repaired}, "File Open Error: ", "choose another name");
+    EXPECT_EQ(RunProgramFile({"repair", file, "--in-place"}).status, 0);
+    EXPECT_EQ(Bytes(file), Bytes(repaired));
+    EXPECT_EQ(Bytes(file + "~"), spoilt);
+    EXPECT_TRUE(Has(RunProgramFile({"repair", file, "--in-place"}).out, "nothing to repair"));
+    EXPECT_EQ(Bytes(file + "~"), spoilt);
+    PutBytes(file, "no clone file");
+    ExpectFailure({"repair", file}, "Data Error: ", "line 1");
+}
+
+TEST_F(FileCommands, ExportAndPdfReplaceOnlyTheirOwnKind)
+{
+    const std::string link = folder / "hard link";
+    PutBytes(file, DemoFile());
+    ASSERT_EQ(::link(file.c_str(), link.c_str()), 0);
+    ExpectFailure({"export", file, link, "--force"}, "File Open Error: ", "the same file");
+    EXPECT_TRUE(Has(RunProgramFile({"new", link, "--force"}).err, "one of 2 names"));
+    EXPECT_EQ(Bytes(file), DemoFile());
+    const std::pair<Words, const char*> cases[] = {{{"export", file}, ""},
+                                                   {{"print", file, "--pdf"}, "%PDF"}};
+    for (const auto& [start, signature] : cases) {
+        const std::string out = folder / "out";
+        const auto with = [&start = start, &out](const char* option) {
+            Words words = start;
+            words.push_back(out);
+            if (*option != '\0')
+                words.emplace_back(option);
+            return words;
+        };
+        PutBytes(out, DemoFile());
+        ExpectFailure(with(""), "File Open Error: ", "this is a clone file");
+        PutBytes(out, "dear diary");
+        ExpectFailure(with(""), "File Open Error: ", "another kind");
+        EXPECT_EQ(Bytes(out), "dear diary");
+        EXPECT_EQ(RunProgramFile(with("--force")).status, 0);
+        EXPECT_TRUE(Bytes(out).starts_with(signature) && Bytes(out) != "dear diary");
+        EXPECT_EQ(RunProgramFile(with("")).status, 0) << "its own kind";
+    }
 }
 
 TEST_F(FileCommands, ShowPrintsTheTableOfAGroupInColumns)
@@ -132,6 +220,16 @@ TEST_F(FileCommands, CheckSaysWhatAFileHoldsAndWarns)
                              "\nBank 1        150   1         1   1        1\n"})
         EXPECT_TRUE(Has(run.out, part)) << run.out;
     EXPECT_TRUE(Has(run.err, "formulas:\n  memory row 205") && !Has(run.err, "LF")) << run.err;
+    EXPECT_FALSE(Has(run.err, "otherwise") || Has(run.err, "loses")) << run.err;
+    image.MemData(205).shiftFrequency = 50000;
+    image.MemData(206).note = "\"a, b\"";  // is read, and lost by the next save
+    PutBytes(file, FormatCloneFile(image));
+    const RunResult limits = RunProgramFile({"check", file});
+    EXPECT_EQ(limits.status, 0);
+    EXPECT_TRUE(Has(limits.err, "read otherwise:\n  memory row 205 (Bank 1, channel 5): Shift frequency"))
+        << limits.err;
+    EXPECT_TRUE(Has(limits.err, "loses these notes; take commas and quotes out of them:\n  memory row 206"))
+        << limits.err;
     EXPECT_TRUE(Has(RunProgramFile({"export", file, folder / "out.csv"}).err, "formulas:\n  memory row 205"));
 
     std::erase(bytes, '\r');

@@ -1,11 +1,17 @@
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
+#include <sys/stat.h>
+#include <QDir>
+#include <QFile>
+
+#include <QDir>
 #include <csignal>
+#include <filesystem>
 #include <future>
 
 #include "cli/command_run.h"
 #include "files/clone_file.h"
+#include "files/file_store.h"
 #include "memory/start_image.h"
 #include "simulator/demo_image.h"
 #include "simulator/sim_session.h"
@@ -68,8 +74,14 @@ TEST_F(Transfers, ReadChangeWriteAndVerifyTheWholeMemory)
     EXPECT_EQ(RunProgramFile({"import", csv, file}).status, 0);
     const RunResult differs = Transfer("verify", receiver, file);
     EXPECT_EQ(differs.status, 1);
-    EXPECT_TRUE(Has("\n" + differs.out, "\n5530  ") && Has(differs.out, "expected 0145625000"))
+    EXPECT_TRUE(Has("\n" + differs.out, "\n5530  ") && Has(differs.out, "expected 0145625000") &&
+                Has(differs.out, "Enable flags of rows 1024 to 1151"))
         << differs.out;
+    EXPECT_TRUE(Has(differs.out, "byte 10 (row 1107)\n") &&
+                Has(differs.out, "byte 2 (Search Pass count)\n") &&
+                Has(differs.out, "  bytes 0 to 3 (Frequency), byte 5 (Mode), "))
+        << differs.out;
+    EXPECT_EQ(Transfer("verify", receiver, file, {"--only=settings"}).out, "") << "the count is the memory's";
 
     EXPECT_EQ(Transfer("write", receiver, file).status, 0);
     EXPECT_EQ(receiver.Memory().At(0x5530).Text().substr(0, 10), "0145625000");
@@ -85,8 +97,14 @@ TEST_F(Transfers, MoveOnlyWhatIsAskedFor)
     PutBytes(file, FormatCloneFile(image));
     SimSession receiver(Demo());
     const ReceiverMemory before = receiver.Memory();
-    const Words priority = {"--only", "memory", "--bank", "priority"};
-    EXPECT_EQ(Transfer("write", receiver, file, priority).status, 0);
+    const Words priority = {"--bank", "priority"};
+    const RunResult write = Transfer("write", receiver, file, priority);
+    EXPECT_EQ(write.status, 0);
+    int others = 0;
+    for (int row = 0; row < kRadioRows - 10; ++row)
+        others += DemoImage(0).MemEnable(row) ? 1 : 0;
+    EXPECT_EQ(write.err, "Enable flags of other rows that differ from FILE: " + std::to_string(others) +
+                             "; the receiver keeps its own.\n");
     const ReceiverMemory after = receiver.Memory();
     EXPECT_TRUE(after.At(0x0040) == before.At(0x0040) && after.At(0x1000) == before.At(0x1000));
     EXPECT_EQ(after.At(0x5B00), MemoryFromImage(image).At(0x5B00));
@@ -94,6 +112,61 @@ TEST_F(Transfers, MoveOnlyWhatIsAskedFor)
     receiver.ClearCommandLog();
     EXPECT_EQ(Transfer("read", receiver, file, {"--only=settings"}).status, 0);
     EXPECT_EQ(receiver.CommandLog().size(), 16U);
+    for (const char* command : {"read", "write", "verify"}) {
+        receiver.ClearCommandLog();
+        EXPECT_EQ(Transfer(command, receiver, file, {"--bank=all"}).status, 0);
+        for (const std::string& sent : receiver.CommandLog())
+            EXPECT_FALSE(sent.starts_with("QT~F0040") || sent.starts_with("QT~F0C")) << command << sent;
+    }
+}
+
+/// What a read leaves in the user's state folder.
+QStringList Rescued(const QString& state)
+{
+    return QDir(state + QStringLiteral("/rq-m5-clone")).entryList({QStringLiteral("recovery-read-*.RQ5")});
+}
+
+TEST_F(Transfers, AReadThatCannotBeSavedIsKeptElsewhere)
+{
+    const QTemporaryDir state;
+    qputenv("XDG_STATE_HOME", QFile::encodeName(state.path()));
+    const std::string inside = folder / "folder/radio.RQ5";
+    EXPECT_EQ(RunProgramFile({"new", file}).status, 0);
+    for (const bool isBackup : {false, true}) {
+        ASSERT_TRUE(QDir().mkpath(QString::fromStdString(folder / "folder")));
+        SimOptions options = Demo();
+        int commands = 0;
+        options.onCommand = [&](const std::string&) {
+            if (++commands == 30)
+                QDir(QString::fromStdString(folder / "folder")).removeRecursively();
+        };
+        const SimSession receiver(options);
+        const ReceiverMemory before = receiver.Memory();
+        const RunResult run = isBackup ? Transfer("write", receiver, file, {"--backup", inside})
+                                       : Transfer("read", receiver, inside);
+        EXPECT_EQ(run.status, 1);
+        EXPECT_EQ(Has(run.err, "nothing was written"), isBackup) << run.err;
+        EXPECT_EQ(receiver.Memory(), before);
+        const QStringList kept = Rescued(state.path());
+        ASSERT_EQ(kept.size(), 1);
+        const QString path = state.path() + QStringLiteral("/rq-m5-clone/") + kept.constFirst();
+        EXPECT_TRUE(Has(run.err, path.toStdString())) << run.err;
+        CloneImage image;
+        ASSERT_FALSE(LoadCloneFile(path, image));
+        EXPECT_TRUE(image.MemData(0) == ImageFromMemory(receiver.Memory(), {}).MemData(0));
+        QFile::remove(path);
+    }
+    // A note between quotes may hold a comma that the next save would not survive.
+    CloneImage image = StartUpImage(0);
+    image.MemData(1203).note = "\"a, b\"";
+    PutBytes(file, FormatCloneFile(image));
+    const SimSession receiver(Demo());
+    const RunResult run = Transfer("read", receiver, file, {"--only=settings"});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_TRUE(Has(run.err, "is as it was") && Has(run.err, "memory row 1203")) << run.err;
+    EXPECT_EQ(Bytes(file), FormatCloneFile(image));
+    EXPECT_EQ(Rescued(state.path()).size(), 1);
+    qunsetenv("XDG_STATE_HOME");
 }
 
 using Write = Transfers;
@@ -104,7 +177,14 @@ TEST_F(Write, KeepsABackupAndReadsBackWhenItIsAskedTo)
     EXPECT_EQ(RunProgramFile({"new", "--region", "1", file}).status, 0);
     SimSession receiver(Demo());
     const ReceiverMemory before = receiver.Memory();
-    const RunResult run = Transfer("write", receiver, file, {"--backup", copy, "--verify"});
+    const RunResult other = Transfer("write", receiver, file, {"--backup", folder / "first.RQ5"});
+    ExpectOneLine(other,
+                  "Data Error: The receiver is an RQ-M5 J, and what is to be written is for an RQ-M5 E.");
+    EXPECT_EQ(receiver.Memory(), before) << "another model";
+    EXPECT_EQ(Transfer("write", receiver, file, {"--bank=3", "--backup", folder / "bank.RQ5"}).status, 0)
+        << "the model was not read";
+    receiver.SetMemory(before);
+    const RunResult run = Transfer("write", receiver, file, {"--backup", copy, "--verify", "--force"});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.out + run.err, "");
     EXPECT_NE(receiver.Memory(), before);
@@ -144,6 +224,110 @@ TEST_F(Write, ThatFailedIsNotVerified)
     EXPECT_EQ(receiver.CommandLog().size(), 17U);
 }
 
+TEST_F(Transfers, SayHowManyBlocksNeededMoreThanOneAttempt)
+{
+    EXPECT_EQ(RunProgramFile({"new", file}).status, 0);
+    const std::pair<Fault, const char*> cases[] = {
+        {{}, ""},
+        {{.kind = FaultKind::Garble, .after = 5}, "1 block needed more than one attempt\n"},
+        {{.kind = FaultKind::Garble, .count = 5}, "1 block needed more than one attempt\n"},
+    };
+    for (const auto& [fault, text] : cases)
+        for (const char* command : {"read", "write"}) {
+            const SimSession receiver(Demo({fault}));
+            const RunResult run = Transfer(command, receiver, file, {"--only=settings"});
+            EXPECT_EQ(run.status, 0);
+            EXPECT_EQ(run.out + run.err, text);
+        }
+    const Fault single{.kind = FaultKind::Garble};
+    const SimSession receiver(
+        Demo({single, {.kind = FaultKind::Garble, .after = 4}, {.kind = FaultKind::Garble, .after = 30}}));
+    EXPECT_EQ(Transfer("write", receiver, file, {"--only=settings", "--verify"}).err,
+              "3 blocks needed more than one attempt\n");
+}
+
+/// What a receiver holds whose line sends line ends and nothing else, or other signs in single blocks.
+SimOptions Disturbed(const std::vector<int>& addresses, const std::string& characters)
+{
+    SimOptions options = Demo();
+    for (const int address : addresses)
+        options.memory.At(address) = MemoryBlock(characters);
+    return options;
+}
+
+TEST_F(Transfers, NameWhatCameDisturbedAndKeepTheFileAsItWas)
+{
+    EXPECT_EQ(RunProgramFile({"new", file}).status, 0);
+    const std::string before = Bytes(file);
+    ASSERT_EQ(chmod(file.c_str(), S_IRUSR | S_IWUSR), 0);
+    const SimSession receiver(Disturbed({0x5B10, 0x5B90}, "01455000000000000000001000600Z00"));
+    const Words priority = {"--only", "memory", "--bank", "priority"};
+    RunResult run = Transfer("read", receiver, file, priority);
+    EXPECT_EQ(run.status, 1);
+    EXPECT_TRUE(run.err.starts_with(
+        "Communication Error: 2 blocks were read with characters that are no hex digits:\n"
+        "  Row 1201 (Priority Pr1)\n  Row 1209 (Priority Pr9)\n"))
+        << run.err;
+    EXPECT_TRUE(Has(run.err, "kept as " + file + "~")) << run.err;
+    EXPECT_EQ(Bytes(file + "~"), before);
+    EXPECT_NE(Bytes(file), before);
+    struct stat kept
+    {
+    };
+    ASSERT_EQ(stat((file + "~").c_str(), &kept), 0);
+    EXPECT_EQ(kept.st_mode & 0777U, 0600U);
+    EXPECT_EQ(receiver.CommandLog().size(), 28U + 2 * 3);
+
+    // Without a place for the old file it is not replaced.
+    const std::string now = Bytes(file);
+    ASSERT_TRUE(std::filesystem::remove(file + "~") && std::filesystem::create_directory(file + "~"));
+    run = Transfer("read", receiver, file, priority);
+    EXPECT_TRUE(run.status == 1 && Has(run.err, "is as it was")) << run.err;
+    EXPECT_EQ(Bytes(file), now);
+}
+
+TEST_F(Transfers, LineEndsAloneMakeNoFileThatIsWhole)
+{
+    std::vector<int> addresses;
+    for (int address = 0; address < 0x5BA0; address += 0x10)
+        addresses.push_back(address);
+    std::string lineEnds;
+    while (lineEnds.size() < kBlockChars)
+        lineEnds += "\r\n";
+    SimSession receiver(Demo());
+    EXPECT_EQ(Transfer("read", receiver, file).status, 0);
+    const std::string full = Bytes(file);
+    receiver.SetMemory(Disturbed(addresses, lineEnds).memory);
+    const RunResult run = Transfer("read", receiver, file);
+    EXPECT_EQ(run.status, 1);
+    EXPECT_TRUE(Has(run.err, "1244 blocks") && Has(run.err, "  Row 978 (")) << run.err.substr(0, 200);
+    EXPECT_EQ(Bytes(file + "~"), full);
+}
+
+TEST_F(Transfers, ReadTwiceOnRequestAndNameWhatCameOtherwise)
+{
+    const Words settings = {"--only=settings", "--verify"};
+    const SimSession sound(Demo());
+    RunResult run = Transfer("read", sound, file, settings);
+    EXPECT_TRUE(run.status == 0 && (run.out + run.err).empty()) << run.err;
+    EXPECT_EQ(sound.CommandLog().size(), 32U);
+    const std::string right = Bytes(file);
+    // The digit is wrong in the first read.
+    const SimSession receiver(Demo({{.kind = FaultKind::Flip, .after = 5}}));
+    run = Transfer("read", receiver, file, settings);
+    EXPECT_EQ(run.status, 1);
+    EXPECT_TRUE(
+        run.err.starts_with("Communication Error: 1 block came otherwise when it was read again:\n"
+                            "  VFO 3: first "))
+        << run.err;
+    EXPECT_EQ(Bytes(file + "~"), right);
+    // A second read that breaks off leaves nothing to be saved.
+    const SimSession broken(Demo({{.kind = FaultKind::HangUp, .after = 20}}));
+    run = Transfer("read", broken, folder / "new.RQ5", settings);
+    EXPECT_TRUE(run.status == 1 && Has(run.err, "not all of it could be read again")) << run.err;
+    EXPECT_FALSE(std::filesystem::exists(folder / "new.RQ5"));
+}
+
 TEST_F(Transfers, ComNumbersStandForDevices)
 {
     const SimSession receiver(Demo());
@@ -154,10 +338,43 @@ TEST_F(Transfers, ComNumbersStandForDevices)
     const std::string ports = RunProgramFile({"ports"}).out;
     EXPECT_TRUE(Has(ports, "COM 14  " + receiver.Device().toStdString())) << ports;
     EXPECT_TRUE(Has(ports, "can be opened") && Has(ports, pipe + "  not a serial port")) << ports;
-    EXPECT_EQ(RunProgramFile({"raw", "--port", "14", "1000"}).status, 0);
+    for (const char* number : {"14", "COM14", "COM 14", "com14"})
+        EXPECT_EQ(RunProgramFile({"raw", "--port", number, "1000"}).status, 0) << number;
     qunsetenv("RQM5_COM13");
     qunsetenv("RQM5_COM14");
-    EXPECT_EQ(receiver.CommandLog(), Words{"QT~F1000R"});
+    EXPECT_EQ(receiver.CommandLog(), Words(4, "QT~F1000R"));
+}
+
+TEST_F(Transfers, ADeviceOrLinkOfTheCurrentFolderGoesByItsName)
+{
+    const SimSession receiver(Demo());
+    ASSERT_TRUE(QDir().mkpath(QString::fromStdString(folder / "deep")));
+    for (const char* name : {"rx", "deep/rx"}) {
+        ASSERT_TRUE(QFile::link(receiver.Device(), QString::fromStdString(folder / name)));
+        QProcess process;
+        process.setWorkingDirectory(QString::fromStdString(folder / "."));
+        StartProgram(process, {"raw", "--port", name, "0040"});
+        EXPECT_EQ(FinishProgram(process).status, 0) << name;
+    }
+}
+
+TEST_F(Transfers, NameThePortThatTheyChoseThemselves)
+{
+    EXPECT_EQ(RunProgramFile({"new", file}).status, 0);
+    for (int number = 1; number <= 14; ++number)
+        qputenv(qPrintable(QStringLiteral("RQM5_COM%1").arg(number)), "/no/such");
+    for (const char* command : {"read", "write", "verify"}) {
+        const RunResult run = RunProgramFile({command, file});
+        EXPECT_EQ(run.status, 1);
+        EXPECT_TRUE(run.err.starts_with("Port: COM 1, /no/such (")) << run.err;
+        EXPECT_TRUE(Has(run.err, "\nCOM Port Error: COM 1, /no/such: no such device. ")) << run.err;
+    }
+    SimSession receiver(Demo({{FaultKind::Garble, 10, 0, 0}}));
+    qputenv("RQM5_COM1", receiver.Device().toLocal8Bit());
+    EXPECT_TRUE(Has(RunProgramFile({"read", file}).err,
+                    "\nCommunication Error: COM 1, " + receiver.Device().toStdString() + ": Block 0040"));
+    for (int number = 1; number <= 14; ++number)
+        qunsetenv(qPrintable(QStringLiteral("RQM5_COM%1").arg(number)));
 }
 
 TEST(RawCommand, ShowsTheReplyAndWhatItMeans)
@@ -195,7 +412,7 @@ TEST_F(Transfers, CtrlCEndsThemCleanly)
             isBusy.get_future().wait();
             kill(static_cast<pid_t>(process.processId()), signal);
             const RunResult run = FinishProgram(process);
-            EXPECT_EQ(run.status, 1) << command;
+            EXPECT_EQ(run.status, signal == SIGINT ? 130 : 1) << command;
             EXPECT_TRUE(run.err.starts_with("Cancelled.\n")) << run.err;
             EXPECT_EQ(Has(run.err, "Not sent: "), std::string_view(command) == "write") << run.err;
             EXPECT_EQ(Bytes(file), before) << command;

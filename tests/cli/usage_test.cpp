@@ -18,7 +18,9 @@ TEST(CommandLine, WrongUsageEndsWithStatusTwoAndAHint)
         {{"read", "--port", "3"}, "FILE is missing"}, {{"check", ""}, "FILE is empty"},
         {{"read", "--port", "3", "--port", "4", "x.RQ5"}, "given twice"},
         {{"read", "--only", "setting", "x.RQ5"}, "did you mean \"settings\""},
+        {{"read", "--port", "COM15", "x.RQ5"}, "port numbers are 1 to 14"},
         {{"read", "--only", "settings", "--bank", "3", "x.RQ5"}, "--bank chooses channels"},
+        {{"verify", "--only", "settings", "--bank", "all", "x.RQ5"}, "--bank chooses channels"},
         {{"show", "--bank", "50", "x.RQ5"}, "a bank 0 to 49"},
         {{"show", "--bank", "seach-pass", "x.RQ5"}, "did you mean \"search-pass\""},
         {{"new", "--region", "4", "x.RQ5"}, "regions are 0 to 3"},
@@ -27,7 +29,9 @@ TEST(CommandLine, WrongUsageEndsWithStatusTwoAndAHint)
         {{"print", "x.RQ5", "--settings", "--bank", "3"}, "add --memory"},
         {{"print", "x.RQ5", "--landscape"}, "add --pdf"},
         {{"print", "x.RQ5", "--pdf", "o.pdf", "--paper", "a5"}, "it is a4 or letter"},
-        {{"print", "x.RQ5", "--pdf", "x.RQ5"}, "the same file"},
+        {{"print", "x.RQ5", "--pdf", "x.RQ5"}, "the same file"}, {{"print", "x.RQ5", "--force"}, "add --pdf"},
+        {{"repair", "x.RQ5", "--in-place", "--to", "y"}, "choose one"}, {{"repair", "x.RQ5", "--to", ""}, "needs a value"},
+        {{"check", "--", "--", "x"}, "too many arguments"},
         {{"raw", "--port", "3", "1008"}, "last digit is 0"}, {{"raw", "--port", "3", "12G0"}, "hexadecimal"},
         {{"raw", "--port", "3", "10000"}, "highest address is FFF0"},
     };
@@ -44,8 +48,8 @@ TEST(CommandLine, HelpAndVersionAreOnStandardOutput)
     EXPECT_EQ(RunProgramFile({"--version"}).out, "rq-m5 " RQM5_VERSION "\n");
     const RunResult help = RunProgramFile({"--help"});
     EXPECT_EQ(help.status, 0);
-    for (const char* command :
-         {"new", "read", "write", "verify", "export", "import", "show", "check", "diff", "ports", "raw"}) {
+    for (const char* command : {"new", "read", "write", "verify", "export", "import", "show", "check",
+                                "repair", "diff", "ports", "raw"}) {
         EXPECT_TRUE(Has(help.out, std::string("\n  ") + command + ' ')) << command;
         const RunResult own = RunProgramFile({command, "--help"});
         EXPECT_EQ(own.status, 0) << command;

@@ -207,7 +207,9 @@ TEST_F(DocumentTest, ReplaceStartsANewHistory)
 TEST_F(DocumentTest, UndoTouchesOnlyWhatItsStepChanged)
 {
     document_.Edit({}, [](CloneImage& image) { image.MemData(3).frequency = 1; });
+    told_.clear();
     document_.Absorb([](CloneImage& image) { image.MemData(3).enabled = image.MemData(4).enabled = true; });
+    EXPECT_EQ(told_, "changed ");
     Do("undo");
     CloneImage expected;
     expected.MemData(3).enabled = expected.MemData(4).enabled = true;

@@ -62,7 +62,12 @@ TEST(Csv, AnExportImportsAgain)
 {
     const CloneImage image = DemoImage(1);
     CloneImage imported;
-    EXPECT_EQ(ParseCsv(FormatCsv(image), imported), 1224);
+    const CsvTaken taken = ParseCsv(FormatCsv(image), imported);
+    EXPECT_EQ(taken.rows, 1224);
+    int moved = 0;
+    for (int row = 0; row < kRadioRows; ++row)
+        moved += imported.MemData(row).carrier == image.MemData(row).carrier + 1 ? 1 : 0;
+    EXPECT_TRUE(moved > 0 && taken.movedCarriers == moved) << "3000Hz, JR and empty rows stay";
     for (int row = 0; row < kRadioRows; ++row) {
         EXPECT_EQ(imported.MemEnable(row), image.MemEnable(row)) << row;
         EXPECT_EQ(imported.MemText(row, kFrequency), image.MemText(row, kFrequency)) << row;
@@ -86,7 +91,7 @@ TEST(Csv, ImportFindsTheRowOfARecord)
     };
     for (const auto& [keys, row] : cases) {
         CloneImage image;
-        EXPECT_EQ(ParseCsv(Record(keys, kNote, ""), image), row == kPassedOver ? 0 : 1) << keys;
+        EXPECT_EQ(ParseCsv(Record(keys, kNote, ""), image).rows, row == kPassedOver ? 0 : 1) << keys;
         if (row != kPassedOver)
             ClearMemoryRow(image, row);
         EXPECT_TRUE(image == CloneImage()) << keys;
@@ -113,7 +118,7 @@ TEST(Csv, ImportTurnsTextsBackOrKeepsWhatTheRowHad)
     for (const auto& [column, text, number, shown] : cases) {
         CloneImage image;
         DecodeMemoryBlock(image, MemoryBlock("04332500000212380507092007600000"), 3);
-        ASSERT_EQ(ParseCsv(Record("RQ-M5,MEMORY,3,", column, text), image), 1);
+        ASSERT_EQ(ParseCsv(Record("RQ-M5,MEMORY,3,", column, text), image).rows, 1);
         EXPECT_EQ(NumberOf(image.MemData(3), column), number) << text;
         EXPECT_EQ(image.MemText(3, column), shown) << text;
     }
@@ -134,12 +139,12 @@ TEST(Csv, VfoRowsHaveTheirOwnOptionTextAndRowsWithoutFrequencyAreEmptied)
 {
     CloneImage image = DemoImage(1);
     image.MemData(13).enabled = false;
-    EXPECT_EQ(ParseCsv(Record("RQ-M5,VFO,13,", kOption, "Scrt"), image), 1);
+    EXPECT_EQ(ParseCsv(Record("RQ-M5,VFO,13,", kOption, "Scrt"), image).rows, 1);
     EXPECT_EQ(image.VFOText(13, kOption) + image.VFOText(13, kNote), "SCRTnote");
     EXPECT_EQ(image.VFOData(13).option, 16);
     EXPECT_FALSE(image.MemEnable(13) || image.VFOData(13).enabled);
 
-    EXPECT_EQ(ParseCsv(Record("RQ-M5,MEMORY,7,", kFrequency, ""), image), 1);
+    EXPECT_EQ(ParseCsv(Record("RQ-M5,MEMORY,7,", kFrequency, ""), image).rows, 1);
     EXPECT_EQ(EncodeMemoryRow(image, 7).Text(), std::string(32, '0'));
     EXPECT_EQ(TextsOf(image.MemData(7)), (Texts{"", "", "", "", "", "", "", "", "", "note"}));
     EXPECT_TRUE(image.MemEnable(7));
@@ -155,7 +160,7 @@ TEST(Csv, NotesComeInAsOneLine)
     };
     for (const auto& [field, note] : cases) {
         CloneImage image;
-        ASSERT_EQ(ParseCsv(Record("RQ-M5,MEMORY,0,", kNote, field), image), 1) << field;
+        ASSERT_EQ(ParseCsv(Record("RQ-M5,MEMORY,0,", kNote, field), image).rows, 1) << field;
         EXPECT_EQ(image.MemText(0, kNote), note);
     }
 }
@@ -169,7 +174,7 @@ TEST(Csv, WhatIsNoRecordChangesNothing)
     const std::string texts[] = {"", "\"", "\xEF\xBB\xBF", header, "RQ-M5,MEMORY", cut};
     for (const std::string& text : texts) {
         CloneImage image = before;
-        EXPECT_EQ(ParseCsv(text, image), 0) << text;
+        EXPECT_EQ(ParseCsv(text, image).rows, 0) << text;
         EXPECT_TRUE(image == before) << text;
     }
 }
@@ -178,11 +183,12 @@ TEST(Csv, NamesTheNotesThatASpreadsheetWouldRun)
 {
     CloneImage image = StartUpImage(0);
     image.VFOData(13).note = "=1+1";
-    for (int row = 0; const char* note : {"+1", "-1", "@x", "\tx", "＝1", "＋1", "－1", "＠x", " =1", "1=1"})
+    for (int row = 0;
+         const char* note : {"+1", "-1", "@x", "\tx", "\rx", "＝1", "＋1", "－1", "＠x", " =1", "1=1"})
         image.MemData(row++).note = note;
     image.MemData(1209).note = image.MemData(1210).note = "=";  // no CSV holds the second
     const Texts names = NotesThatLookLikeFormulas(image);
-    ASSERT_EQ(names.size(), 10U);
+    ASSERT_EQ(names.size(), 11U);
     EXPECT_EQ(names.front() + ", " + names.back(), "VFO row 13, memory row 1209 (Priority Pr9)");
 }
 

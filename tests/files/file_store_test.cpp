@@ -15,6 +15,7 @@
 
 #include "files/clone_file.h"
 #include "files/csv_file.h"
+#include "files/file_kind.h"
 #include "memory/start_image.h"
 #include "simulator/demo_image.h"
 
@@ -64,14 +65,14 @@ TEST_F(FileStore, WhatIsSavedIsLoadedAndWhatIsExportedImported)
     EXPECT_FALSE(LoadCloneFile(Path("a.RQ5"), loaded));
     EXPECT_TRUE(loaded == image);
 
-    int taken = 0;
+    CsvTaken taken;
     EXPECT_FALSE(ExportCsv(Path("a.csv"), image));
     EXPECT_EQ(Read(Path("a.csv")), FormatCsv(image));
-    EXPECT_TRUE(!ImportCsv(Path("a.csv"), imported, taken) && taken == 1224);
+    EXPECT_TRUE(!ImportCsv(Path("a.csv"), imported, taken) && taken.rows == 1224);
     ParseCsv(FormatCsv(image), expected);
     EXPECT_TRUE(imported == expected);
     ExpectProblem(ImportCsv(Path("no.csv"), imported, taken), "File Open Error", "no such file");
-    EXPECT_TRUE(taken == 0 && imported == expected);
+    EXPECT_TRUE(taken.rows == 0 && imported == expected);
     EXPECT_EQ(FileCount(), 2);
 }
 
@@ -125,6 +126,61 @@ TEST_F(FileStore, WhatCannotBeWrittenLeavesEverythingAsItWas)
         ExpectProblem(SaveCloneFile(Path(name), image).problem, "File Open Error", reason);
     ExpectProblem(SaveCloneFile(QString(), image).problem, "File Open Error", "no file name");
     EXPECT_TRUE(Read(Path("file")) == "old" && FileCount() == 1);
+}
+
+TEST_F(FileStore, ANameThatIsTooLongIsFoundOutBeforeAnyWork)
+{
+    const QString path = Path((std::string(300, 'n') + ".RQ5").c_str());
+    ExpectProblem(ReadingObstacle(path), "File Open Error", "File name too long. Give a shorter name.");
+    ExpectProblem(SaveCloneFile(path, StartUpImage(0)).problem, "File Open Error", "Give a shorter name.");
+}
+
+TEST_F(FileStore, WhatASaveChangesIsNamed)
+{
+    CloneImage image = DemoImage(0);
+    image.VFOData(3).shiftFrequency = 1060000;
+    const SaveOutcome outcome = SaveCloneFile(Path("a.RQ5"), image);
+    const std::vector<std::string> expected = {"VFO row 3: Shift frequency 1.060000 -> 1.600000"};
+    EXPECT_EQ(outcome.changedValues, expected);
+    EXPECT_FALSE(outcome.problem);
+    EXPECT_EQ(outcome.mark, MarkOf(FormatCloneFile(image)));
+}
+
+TEST_F(FileStore, KindsOfFilesAndTheOneThatIsKept)
+{
+    const CloneImage image = StartUpImage(0);
+    Write(Path("clone"), FormatCloneFile(image));
+    Write(Path("csv"), FormatCsv(image));
+    Write(Path("bare.csv"), "\xEF\xBB\xBFMODEL,BANK\r\n");
+    Write(Path("pdf"), "%PDF-1.4\n");
+    Write(Path("contacts.csv"), "Name,Phone\n");
+    Write(Path("empty"), "");
+    ASSERT_EQ(mkfifo(QFile::encodeName(Path("pipe")).constData(), 0600), 0);
+    const std::pair<const char*, FileKind> cases[] = {
+        {"none", FileKind::None},          {"empty", FileKind::Empty},
+        {"clone", FileKind::Clone},        {"csv", FileKind::Csv},
+        {"bare.csv", FileKind::Csv},       {"pdf", FileKind::Pdf},
+        {"contacts.csv", FileKind::Other}, {"pipe", FileKind::Other},
+    };
+    for (const auto& [name, kind] : cases) {
+        EXPECT_EQ(KindOf(Path(name)), kind) << name;
+        EXPECT_EQ(OtherKindProblem(Path(name), FileKind::Csv).has_value(),
+                  kind == FileKind::Clone || kind == FileKind::Pdf || kind == FileKind::Other)
+            << name;
+    }
+    QString kept;
+    ASSERT_TRUE(QFile::link(QStringLiteral("csv"), Path("link")));
+    for (const char* name : {"csv", "link"}) {
+        Write(Path("csv~"), "an older one");
+        EXPECT_FALSE(KeepOldFile(Path(name), kept));
+        EXPECT_EQ(kept, Path("csv~"));
+        EXPECT_EQ(Read(kept), FormatCsv(image));
+        EXPECT_FALSE(WriteWholeFile(Path(name), "new"));
+        EXPECT_EQ(Read(kept), FormatCsv(image)) << "it is another file now";
+        Write(Path("csv"), FormatCsv(image));
+    }
+    QDir(folder_.path()).mkdir(QStringLiteral("pdf~"));
+    ExpectProblem(KeepOldFile(Path("pdf"), kept), "File Open Error", "nothing was changed");
 }
 
 TEST_F(FileStore, AFullDiskLeavesTheOldFile)

@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QDesktopServices>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QScrollBar>
+#include <QTextBrowser>
 
 #include "app/window_fixture.h"
 
@@ -103,15 +107,49 @@ TEST_F(HelpBrowserTest, FollowsLinksGoesBackAndForwardAndSearches)
     EXPECT_EQ(Source(), "files-and-csv.md") << "the first page that a search finds";
 }
 
+TEST_F(HelpBrowserTest, TheFirstHitOpensWhileTypingAndEscClearsFirst)
+{
+    OpenHelp();
+    FollowLink("ports.md");
+    QTest::keyClick(&Page(), Qt::Key_F, Qt::ControlModifier);
+    auto& search = *Help().findChild<QLineEdit*>(QStringLiteral("txtSearch"));
+    auto& pages = *Help().findChild<QListWidget*>(QStringLiteral("lstPages"));
+    const int all = pages.count();
+    QTest::keyClicks(&search, QStringLiteral("undo"));
+    EXPECT_EQ(Source(), "undo.md");
+    EXPECT_TRUE(search.hasFocus());
+    for (int i = 0; i < pages.count(); ++i)
+        EXPECT_TRUE(pages.item(i)
+                        ->text()
+                        .section(QLatin1Char('\n'), 1)
+                        .contains(QLatin1String("undo"), Qt::CaseInsensitive))
+            << qPrintable(pages.item(i)->text());
+    QTest::keyClick(&search, Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(Source(), "ports.md") << "one step back from the search, however many letters were typed";
+    QTest::keyClick(&search, Qt::Key_Escape);
+    EXPECT_TRUE(Help().isVisible() && search.text().isEmpty());
+    EXPECT_EQ(pages.count(), all);
+    QTest::keyClick(&search, Qt::Key_Escape);
+    EXPECT_FALSE(Help().isVisible());
+}
+
 TEST_F(HelpBrowserTest, AsksBeforeItLeavesTheManual)
 {
     OpenHelp();
     const std::string before = Source();
-    dialogs_.answers = {QMessageBox::No};
-    FollowLink("https://example.org/<b>");
-    ASSERT_EQ(dialogs_.asked.size(), 1U);
+    QTextBrowser browser;  // in the place of the desktop's
+    QDesktopServices::setUrlHandler(QStringLiteral("https"), &browser, "setSource");
+    for (const auto& [answer, isOpened] :
+         {std::pair(QMessageBox::No, false), std::pair(QMessageBox::Yes, true)}) {
+        dialogs_.answers = {answer};
+        FollowLink("https://example.org/<b>");
+        EXPECT_EQ(browser.source().host() == QLatin1String("example.org"), isOpened);
+        EXPECT_EQ(Source(), before);
+    }
+    QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
+    ASSERT_EQ(dialogs_.asked.size(), 2U);
     EXPECT_TRUE(dialogs_.asked[0].details.contains(QLatin1String("example.org")));
-    EXPECT_EQ(Source(), before);
+    EXPECT_EQ(dialogs_.asked[0].defaultButton, QMessageBox::No);
 }
 
 }  // namespace

@@ -78,8 +78,12 @@ TEST(Manual, EveryHelpTopicAndMessageHasItsPlace)
     const auto pages = LinksOfAllPages();
     QStringList topics = HelpTopics();
     for (const char* message :
-         {"COM Port Error", "Communication Error", "Data Error", "File Open Error",
-          "The write was cancelled.", "Save changes to settings?",
+         {"COM Port Error",
+          "Communication Error",
+          "Data Error",
+          "File Open Error",
+          "The write was cancelled.",
+          "Save changes to settings?",
           "Clear cannot be undone.\nAre you sure that you want to do the clear?",
           "Delete cannot be undone.\nAre you sure that you want to do the delete?",
           "The total of the number of channels exceeds 1000.\nPlease set for the total",
@@ -87,8 +91,15 @@ TEST(Manual, EveryHelpTopicAndMessageHasItsPlace)
           "The same frequency as other channels cannot be set in Search Pass bank.",
           "The file is saved, but a clone file cannot hold notes with a comma or quotes. While",
           "The file is written. A spreadsheet may run these notes as formulas.",
-          "The listing was not printed.", "The program ended before your changes were saved. They were kept.",
+          "The file was changed by another program.",
+          "The file was removed or renamed by another program.",
+          "The file has more than one name.",
+          "These notes keep the file from being opened.",
+          "What was read from the receiver could not be saved. It was kept.",
+          "The listing was not printed.",
+          "The program ended before your changes were saved. They were kept.",
           "The receiver does not hold what was written. Write again.",
+          "The receiver is another model. Write to it all the same?",
           "This link leads out of the manual. Open it in the web browser?"})
         topics << MessageTopic(QString::fromLatin1(message));
     for (const QString& topic : topics)

@@ -51,7 +51,7 @@ TEST(CellText, WordsTellHowAValueCameIn)
     EXPECT_EQ(words(), "Scrt 1000Hz");
     StoreFields(image, kRow, LoadFields(image, kRow));
     EXPECT_EQ(words(), "SCRT 1000Hz");
-    ASSERT_EQ(ParseCsv("RQ-M5,MEMORY,0,145.5,FM,9KHz,SCRT,0,900Hz,67.0Hz,OFF,0,,,", image), 1);
+    ASSERT_EQ(ParseCsv("RQ-M5,MEMORY,0,145.5,FM,9KHz,SCRT,0,900Hz,67.0Hz,OFF,0,,,", image).rows, 1);
     EXPECT_EQ(words(), "Scrt 900Hz");
     EXPECT_EQ(image.MemData(0).carrier, 7);
     // The editor of a region without a carrier leaves it alone, wording included.
@@ -61,7 +61,7 @@ TEST(CellText, WordsTellHowAValueCameIn)
     image.Settings().model = 0;
     StoreFields(image, kRow, LoadFields(image, kRow));
     EXPECT_EQ(words(), "SCRT 1000Hz");
-    ASSERT_EQ(ParseCsv("RQ-M5,MEMORY,0,145.5,FM,9KHz,OFF,0,JR,67.0Hz,OFF,0,,,", image), 1);
+    ASSERT_EQ(ParseCsv("RQ-M5,MEMORY,0,145.5,FM,9KHz,OFF,0,JR,67.0Hz,OFF,0,,,", image).rows, 1);
     EXPECT_EQ(words(), "OFF JR");
 }
 

@@ -2,10 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
+#include <QDir>
 #include <QFile>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <fstream>
 
+#include "files/plain_settings.h"
 #include "link/port_file.h"
 
 namespace rqm5 {
@@ -52,6 +57,31 @@ TEST(PortFile, HoldsANumberFromOneToFourteenInTheProgramsFolderOrElseTheUsers)
     const QString own = PortFilePath(QStringLiteral("/no/such/folder"));
     EXPECT_EQ(own, folder.filePath(QStringLiteral("Tervan/RQ-M5.ini")));
     EXPECT_TRUE(WritePortFile(own, 5) && ReadPortFile(own) == 5);
+
+    // A pipe would keep whoever opens it waiting for ever.
+    QFile::remove(path);
+    ASSERT_EQ(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    EXPECT_EQ(ReadPortFile(path), 1);
+    EXPECT_FALSE(WritePortFile(path, 5));
+    EXPECT_EQ(PortFilePath(folder.path()), own);
+}
+
+TEST(Settings, APipeInTheirPlaceIsPassedOver)
+{
+    const QTemporaryDir folder;
+    const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder.path()));
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("Tervan")));
+    const QString file = folder.filePath(QStringLiteral("Tervan/Tervan RQ-M5 Clone Utility.conf"));
+    ASSERT_EQ(mkfifo(QFile::encodeName(file).constData(), 0600), 0);
+    PassOverSettingsThatAreNoFiles();
+    {
+        QSettings settings(QStringLiteral("Tervan"), QStringLiteral("Tervan RQ-M5 Clone Utility"));
+        settings.setValue(QStringLiteral("x"), 1);
+        EXPECT_NE(settings.fileName(), file);
+    }
+    qputenv("XDG_CONFIG_HOME", before);
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QString::fromLocal8Bit(before));
 }
 
 }  // namespace

@@ -5,7 +5,9 @@
 #include <QTimer>
 #include <functional>
 
+#include "link/block_link.h"
 #include "link/receiver_reader.h"
+#include "link/receiver_writer.h"
 #include "link/recording_observer.h"
 
 namespace rqm5 {
@@ -149,6 +151,9 @@ TEST(RetryRule, TriesABlockTenTimesUnlessItIsCancelled)
     EXPECT_EQ(ReceiverReader(image, port.link, observer).ReadBankPage(), TransferResult::Cancelled);
     EXPECT_TRUE(port.sent.size() == 1 && observer.problems.empty());
 
+    // A pause after the cancel would last six seconds here.
+    EXPECT_TRUE(port.link.MayStillReply());
+
     Link silent({}, 2ms);
     RecordingObserver impatient;
     silent.answers = [&](std::size_t attempt) {
@@ -157,6 +162,101 @@ TEST(RetryRule, TriesABlockTenTimesUnlessItIsCancelled)
     };
     EXPECT_EQ(ReceiverReader(image, silent.link, impatient).ReadBankPage(), TransferResult::Cancelled);
     EXPECT_TRUE(silent.sent.size() == 10 && impatient.problems.empty());
+}
+
+/// A frame whose block tells by its first byte to which command it belongs.
+std::string FrameOf(std::size_t number)
+{
+    MemoryBlock block;
+    block.SetByte(0, static_cast<int>(number));
+    return "\r\n" + block.String() + "\r\n";
+}
+
+// Of the first block a bad reply comes, and then replies that are late: they belong to it, whenever they
+// come.
+TEST(QuietLine, LateRepliesAreHeardOutBeforeTheNextCommand)
+{
+    const std::string garbled = std::string(40, '~') + "\r\n";
+    const std::pair<const char*, std::vector<Pieces>> kCases[] = {
+        {"after a failed attempt", {{garbled, FrameOf(0)}, {FrameOf(0)}}},
+        {"after a missing reply", {{"short"}, {FrameOf(0), FrameOf(0)}}},
+    };
+    for (const auto& [what, script] : kCases) {
+        Link port({}, 200ms);
+        port.answers = [&script](std::size_t number) {
+            return number <= script.size() ? script[number - 1] : Pieces{FrameOf(number - 2)};
+        };
+        RecordingObserver observer;
+        BlockLink blocks(port.link, observer);
+        for (int number = 0; number < 3; ++number) {
+            MemoryBlock block;
+            EXPECT_EQ(blocks.Read(0x1000 + number * 0x10, block).result, TransferResult::Done) << what;
+            EXPECT_EQ(block.Byte(0), number) << what;
+        }
+        EXPECT_EQ(port.sent.size(), 4U) << what;
+        EXPECT_EQ(observer.repeated, 1) << what;
+        EXPECT_FALSE(blocks.HaveRepliesShifted()) << what;
+    }
+}
+
+TEST(QuietLine, EndsAnOperationWhenThePortFailsOrTheUserCancelsOrItNeverFallsSilent)
+{
+    for (const char* what : {"port", "cancel", "noise"}) {
+        Link port({}, 40ms);
+        RecordingObserver observer;
+        BlockLink blocks(port.link, observer);
+        MemoryBlock block;
+        port.link.SendReadCommand(kRead);  // its reply may still come
+        QTimer trouble;
+        QObject::connect(&trouble, &QTimer::timeout, &port, [&] {
+            if (what == std::string("port"))
+                emit port.Failed();
+            observer.cancelled = what == std::string("cancel");
+            if (observer.cancelled)
+                port.link.Cancel();
+            port.pending = "noise";
+            emit port.Received();
+        });
+        trouble.start(0ms);
+        const BlockResult result = blocks.Read(0x1000, block);
+        EXPECT_EQ(result.result,
+                  what == std::string("cancel") ? TransferResult::Cancelled : TransferResult::Failed);
+        EXPECT_EQ(result.attempts, 0) << what;
+        EXPECT_EQ(port.sent.size(), 1U) << what;
+        EXPECT_TRUE(port.link.MayStillReply()) << what;
+    }
+}
+
+TEST(QuietLine, AWriteWhoseRepliesShiftIsInDoubt)
+{
+    for (const bool isMissing : {true, false}) {
+        Link port({}, 20ms);
+        port.answers = [isMissing](std::size_t number) {
+            const Pieces twice = {kWrite + kOk + kWrite + kOk};
+            return number == 4 ? twice : number == 2 && isMissing ? Pieces{} : Pieces{kWrite + kOk};
+        };
+        RecordingObserver observer;
+        ReceiverWriter writer({}, {.settings = false, .memory = false, .banks = true}, port.link, observer);
+        EXPECT_EQ(writer.Write(), TransferResult::Done);
+        EXPECT_EQ(writer.IsInDoubt(), isMissing) << "without a missing reply it is noise";
+        EXPECT_EQ(port.sent.size(), isMissing ? 9U : 8U);
+    }
+}
+
+TEST(ReplyFrames, AreCountedAmongEchoesAndNoise)
+{
+    const std::pair<std::string, int> kCases[] = {
+        {"", 0},
+        {kRead + kFrame, 1},
+        {kRead + kFrame + kRead + kFrame, 2},
+        {kFrame + kFrame + kOk + "\r\nNG\r\n", 4},
+        {kFrame.substr(20) + kFrame, 1},
+        {kFrame.substr(0, 35), 0},
+        {std::string("\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n"), 0},
+        {"\r\nO\r\n\r\nOKK\r\n", 0},
+    };
+    for (const auto& [text, replies] : kCases)
+        EXPECT_EQ(CountReplies(text), replies) << text;
 }
 
 }  // namespace

@@ -21,6 +21,7 @@ struct RecordingObserver : TransferObserver
         if (++done == changeAfter)
             afterBlock();
     }
+    void BlockRepeated(int /*address*/) override { ++repeated; }
     void GroupChosen(int selector) override { groups.push_back(selector); }
     void Stored() override { ++stores; }
     void Message(const Problem& problem) override { problems.push_back(problem); }
@@ -31,6 +32,7 @@ struct RecordingObserver : TransferObserver
     std::vector<std::pair<int, int>> moves;
     std::vector<Problem> problems;
     int ends = 0;
+    int repeated = 0;      ///< blocks that needed more than one attempt
     int stores = 0;        ///< parts of what was read that could be shown
     int done = 0;          ///< blocks
     int cancelAfter = -1;  ///< blocks

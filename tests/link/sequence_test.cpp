@@ -57,9 +57,12 @@ TEST(WriteSequence, SendsTheBlocksOfAGroupInOrder)
         line.image = DemoImage(0);
         // Flags outside the group stay the receiver's, and so does its settings block but for the count.
         CloneImage merged = line.image;
+        int others = 0;
         for (int row = 0; row < kMemoryRows; ++row)
-            if (row < (first - 0x1000) / 0x10 || row >= (first - 0x1000) / 0x10 + count)
+            if (row < (first - 0x1000) / 0x10 || row >= (first - 0x1000) / 0x10 + count) {
+                others += row < kRadioRows && merged.MemEnable(row) != held.MemEnable(row) ? 1 : 0;
                 merged.MemData(row).enabled = held.MemEnable(row);
+            }
         ReceiverMemory sent = MemoryFromImage(merged);
         sent.At(0x0050) = line.receiver.Memory().At(0x0050);
         sent.At(0x0050).SetByte(2, SearchPassCount(merged));
@@ -74,6 +77,7 @@ TEST(WriteSequence, SendsTheBlocksOfAGroupInOrder)
         EXPECT_EQ(line.receiver.CommandLog(), expected) << selector;
         EXPECT_EQ(writer.Plan().BlockCount(), static_cast<int>(expected.size())) << selector;
         EXPECT_TRUE(writer.Written() == merged) << selector;
+        EXPECT_EQ(writer.OtherFlags(), others) << selector;
     }
 }
 

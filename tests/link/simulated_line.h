@@ -43,13 +43,16 @@ struct SimulatedLine
         link.SetTimeOut(timeOut);
     }
 
-    /// Silences the receiver for ten attempts once so many blocks are through. Only then is the time-out
-    /// short, so that a busy machine does not fail blocks that are to go well.
-    void SilenceAfter(int blocks)
+    /// The same once so many blocks are through. Only then is the time-out short, so that a busy machine does
+    /// not fail blocks that are to go well.
+    void SpoilAfter(int blocks, std::string_view fault, std::chrono::milliseconds timeOut)
     {
         observer.changeAfter = blocks;
-        observer.afterBlock = [this] { Spoil("silent:10", std::chrono::milliseconds(5)); };
+        observer.afterBlock = [this, fault, timeOut] { Spoil(fault, timeOut); };
     }
+
+    /// Silences the receiver for ten attempts.
+    void SilenceAfter(int blocks) { SpoilAfter(blocks, "silent:10", std::chrono::milliseconds(5)); }
 
     TransferResult Write(const TransferScope& scope)
     {

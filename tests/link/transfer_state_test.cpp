@@ -150,6 +150,7 @@ TEST(AllOperations, AReadGoesOnAfterFailedSettingsAWriteDoesNotAndACancelEndsBot
         EXPECT_EQ(line.observer.written.size(), 0U);
 
         line.observer = {};
+        line.link.SetTimeOut(RadioLink::kTimeOut);
         EXPECT_EQ(all(), TransferResult::Done);
         EXPECT_EQ(line.observer.groups, std::vector{kSelectAll});
         EXPECT_EQ(line.observer.maxima.back(), 1209);

@@ -17,21 +17,22 @@ TEST(WritePlan, TellsWhichBlocksWereSentAndWhichWereNot)
     const struct
     {
         TransferScope scope;
+        int soundBlocks;
         const char* fault;
         std::string aftermath;
     } kCases[] = {
-        {MemoryOf(kSelectSearchPass), "ng:10:after=36",
+        {MemoryOf(kSelectSearchPass), 36, "ng:10",
          "Sent: bank sizes, bank links, enable flags, Search Pass list. Refused: Search Pass count" + kDoubt +
              "Not sent: rows 1100 to 1199." + kRepeat},
-        {MemoryOf(kSelectPriority), "garble:10:after=12",  // reads the flags that it must not change
+        {MemoryOf(kSelectPriority), 12, "garble:10",  // reads the flags that it must not change
          "Sent: bank sizes, bank links. Not sent: enable flags, rows 1200 to 1209." + kRepeat},
-        {MemoryOf(kSelectPriority), "ng:10:after=30",
+        {MemoryOf(kSelectPriority), 30, "ng:10",
          "Sent: bank sizes, bank links, enable flags, rows 1200 to 1201. Refused: row 1202" + kDoubt +
              "Not sent: rows 1203 to 1209." + kRepeat},
-        {kSettingsOnly, "ng:10:after=20",
+        {kSettingsOnly, 20, "ng:10",
          "Sent: settings, VFO bands, region presets 1 to 4. Refused: region preset 5" + kDoubt +
              "Not sent: region presets 6 to 68." + kRepeat},
-        {kEverything, "ng:10:after=3",
+        {kEverything, 3, "ng:10",
          "Sent: settings, VFO band 0. Refused: VFO band 1" + kDoubt +
              "Not sent: VFO bands 2 to 13, region presets, bank sizes, bank links, enable flags, "
              "Search Pass list, Search Pass count, rows 0 to 1209." +
@@ -40,7 +41,7 @@ TEST(WritePlan, TellsWhichBlocksWereSentAndWhichWereNot)
     for (const auto& test : kCases) {
         SimulatedLine line(DemoImage(0));
         line.image = DemoImage(0);
-        line.Spoil(test.fault, std::chrono::milliseconds(20));
+        line.SpoilAfter(test.soundBlocks, test.fault, std::chrono::milliseconds(20));
         EXPECT_EQ(line.Write(test.scope), TransferResult::Failed);
         ASSERT_EQ(line.observer.problems.size(), 1U);
         EXPECT_EQ(line.observer.problems[0].aftermath, test.aftermath);

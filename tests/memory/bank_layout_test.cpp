@@ -22,6 +22,8 @@ TEST(BankLayout, SelectionMapsToRows)
         EXPECT_EQ(TransferRows(image, selector),
                   selector == 49 ? (RowRange{0, 1}) : (RowRange{first, count}));
     }
+    for (const int none : {-1, kSelectorEntries})
+        EXPECT_EQ(GroupRows(image, none), RowRange{}) << none;
 }
 
 TEST(BankLayout, LabelsCountFromOneAloneAndFromZeroTogether)

@@ -111,5 +111,60 @@ TEST_F(BankPageTest, ShowsWhatChangesElsewhere)
     EXPECT_FALSE(link.isChecked());
 }
 
+TEST_F(BankPageTest, OffersToMoveChannelsThatASizePutsIntoAnotherBank)
+{
+    PutChannels({0, 300}, 100);
+    auto& offer = Find<QWidget>(page_, QStringLiteral("frmBankMove"));
+    const auto& text = Find<QLabel>(page_, QStringLiteral("lblBankMove"));
+    const auto row = [this](int index) { return image_.MemText(index, kFrequency); };
+    Enter(9, "40");
+    EXPECT_FALSE(offer.isVisible()) << "no bank behind it";
+    Enter(0, "190");
+    ASSERT_TRUE(offer.isVisible());
+    EXPECT_EQ(text.text().toStdString(),
+              "Channels that change their bank with these sizes: 10. Others that change their number: 100.");
+    EXPECT_EQ(row(190), "290.000000") << "the rows stay where they are";
+    Enter(1, "160");
+    EXPECT_TRUE(offer.isVisible()) << "two sizes, one plan";
+    Click(page_, "cmbBankMove");
+    EXPECT_FALSE(offer.isVisible());
+    EXPECT_EQ(Steps(), 4);
+    EXPECT_EQ(row(190), "300.000000");
+    EXPECT_EQ(row(990), "290.000000") << "what bank 0 has no room for";
+    document_.History().undo();
+    EXPECT_EQ(row(190), "290.000000");
+
+    Enter(0, "195");
+    ASSERT_TRUE(offer.isVisible());
+    EXPECT_EQ(text.text().toStdString(),
+              "Channels that change their bank with these sizes: 5. Others that change their number: 105.");
+    Click(page_, "cmbBankLeave");
+    EXPECT_FALSE(offer.isVisible());
+    Enter(0, "194");
+    EXPECT_EQ(text.text().toStdString(),
+              "Channels that change their bank with these sizes: 1. Others that change their number: 105.");
+    document_.History().undo();
+    EXPECT_FALSE(offer.isVisible());
+}
+
+TEST_F(BankPageTest, BarsAndTheLastLineTellWhatBanksHold)
+{
+    const auto fill = [this](int bank) {
+        return Find<QWidget>(page_, QStringLiteral("barFill_%1").arg(bank)).toolTip().toStdString();
+    };
+    PutChannels({0, 201}, 100);
+    PutChannels({999, 1}, 100);
+    EXPECT_EQ(fill(0), "200 of 200 rows hold a channel");
+    EXPECT_EQ(fill(1), "1 of 150 rows hold a channel");
+    EXPECT_EQ(fill(10), "no rows");
+    Enter(9, "40");
+    EXPECT_EQ(Find<QLabel>(page_, QStringLiteral("lblNoBank")).text().toStdString(),
+              "In no bank: 10 rows, 1 with a channel");
+    auto& bar = Find<QWidget>(page_, QStringLiteral("barFill_1"));
+    const QImage before = bar.grab().toImage();
+    PutChannels({200, 100}, 100);
+    EXPECT_NE(bar.grab().toImage(), before);
+}
+
 }  // namespace
 }  // namespace rqm5

@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 
 #include "image/row_texts.h"
 #include "ui/page_test.h"
@@ -64,13 +65,25 @@ TEST_F(ModifyDialogTest, ShowsWhatItEditsAndSelectsTheFrequency)
     const auto look = [this] {
         ExpectLabels("Modify Memory", "Bank 0  CH 0", "(0.1-1299.995MHz)");
         EXPECT_EQ(Frequency().selectedText(), QStringLiteral("100.000000"));
-        EXPECT_TRUE(Get<QComboBox>("cbbAir").isEnabled() && !Get<QComboBox>("cbbSec").isEnabled());
     };
     Act(look).OpenMemory(0, 0);
     Vfo(13, [this] { ExpectLabels("Modify VFO", "Band 13", "(960.000-1299.995MHz)"); });
     SetModel(2);
     EXPECT_FALSE(dialog_.OpenVfo(8));
     EXPECT_EQ(dialogs_.runs, 2);
+}
+
+TEST_F(ModifyDialogTest, OffersWhatTheRegionHas)
+{
+    for (int region = 0; region < kRegions; ++region) {
+        SetModel(region);
+        Memory(0, [this, region] {
+            for (const char* secret : {"cbbSec", "opbTone_1"})
+                EXPECT_EQ(Get<QWidget>(secret).isEnabled(), region == 1) << region << secret;
+            for (const char* carrier : {"cbbAir", "opbTone_2"})
+                EXPECT_EQ(Get<QWidget>(carrier).isEnabled(), region == 0) << region << carrier;
+        });
+    }
 }
 
 TEST_F(ModifyDialogTest, TabReachesAGroupWhoseChoiceTheRegionLacks)
@@ -85,6 +98,73 @@ TEST_F(ModifyDialogTest, TabReachesAGroupWhoseChoiceTheRegionLacks)
         }
         EXPECT_TRUE(isReached);
     });
+}
+
+TEST_F(ModifyDialogTest, TabFollowsTheEye)
+{
+    const std::string order =
+        "txtFreq opbWave_0 opbStep_1 opbTone_0 cbbAir cbbTxTone opbSift_0 txtShift txtNote chkSkip chkEnable "
+        "chkHold "
+        "OKButton CancelButton txtFreq ";
+    document_.Absorb([](CloneImage& image) { image.MemData(0).step = 1; });
+    Memory(0, [&] {
+        std::string reached;
+        while (reached.size() < order.size()) {
+            reached += dialog_.focusWidget()->objectName().toStdString() + ' ';
+            QTest::keyClick(dialog_.focusWidget(), Qt::Key_Tab);
+        }
+        EXPECT_EQ(reached, order);
+    });
+}
+
+TEST_F(ModifyDialogTest, AFrequencyTypedIntoAnEmptyRowEnablesItUnlessTheUserDecides)
+{
+    auto& enable = Get<QCheckBox>("chkEnable");
+    EXPECT_TRUE(Memory(500, [&] {
+        EXPECT_FALSE(enable.isChecked());
+        Type(Frequency(), "88.8");
+        EXPECT_TRUE(enable.isChecked());
+        QTest::keyClick(&Frequency(), Qt::Key_Return);
+    }));
+    EXPECT_TRUE(image_.MemEnable(500));
+    EXPECT_TRUE(Memory(501, [&] {
+        Click(dialog_, "chkEnable");
+        Click(dialog_, "chkEnable");
+        Type(Frequency(), "88.9");
+        EXPECT_FALSE(enable.isChecked()) << "the user has set it";
+        PressEnter();
+    }));
+    EXPECT_FALSE(image_.MemEnable(501));
+    Memory(501, [&] {
+        Type(Frequency(), "90");
+        EXPECT_FALSE(enable.isChecked()) << "a channel that is off stays off";
+        Click(dialog_, "CancelButton");
+    });
+    EXPECT_FALSE(Vfo(3, [&] { Type(Frequency(), "8"); }));
+}
+
+TEST_F(ModifyDialogTest, AnythingRefusedKeepsTheDialogOpen)
+{
+    SetModel(2);
+    Memory(0, [this] {
+        Type(Get<QLineEdit>("txtShift"), "100");
+        PressEnter();
+        EXPECT_TRUE(dialog_.isVisible() && Get<QLineEdit>("txtShift").hasFocus());
+        EXPECT_EQ(Get<QLineEdit>("txtShift").text(), QStringLiteral("0"));
+        Type(Frequency(), "830");
+        auto& wave = Get<QAbstractButton>("opbWave_2");
+        QTest::mousePress(&wave, Qt::LeftButton, {}, {8, wave.height() / 2});
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(dialogs_.asked.size() == 1 && !wave.isDown()) << "the message took the release";
+    });
+}
+
+TEST_F(ModifyDialogTest, ALongNoteFromAFileStaysWhole)
+{
+    const std::string note(300, 'n');
+    document_.Absorb([&](CloneImage& image) { image.MemData(0).note = note; });
+    EXPECT_TRUE(Memory(0, [this] { PressEnter(); }));
+    EXPECT_EQ(image_.MemText(0, kNote), note);
 }
 
 TEST_F(ModifyDialogTest, AnOkThatChangesNothingIsAnUnsavedChangeButNoStep)
@@ -151,6 +231,36 @@ TEST_F(ModifyDialogTest, CancelChangesNothingAndAsksNothing)
     EXPECT_TRUE(image_ == before && !document_.DataChanged() && dialogs_.asked.empty());
 }
 
+TEST_F(ModifyDialogTest, TheFileSafeFormOfANoteIsOfferedAndTheChoiceRemembered)
+{
+    const auto note = [this] { return Get<QLineEdit>("txtNote").text(); };
+    Memory(0, [&] {
+        Type(Get<QLineEdit>("txtNote"), "a,b");
+        EXPECT_EQ(note(), QStringLiteral("a,b"));
+        Click(dialog_, "cmbSafeNote");
+        EXPECT_EQ(note(), QStringLiteral("a;b"));
+        QTest::keyClicks(&Get<QLineEdit>("txtNote"), QStringLiteral(",c"));
+        EXPECT_EQ(note(), QStringLiteral("a;b;c")) << "the cursor stays where it is";
+        Type(Get<QLineEdit>("txtNote"), "\"q\"");
+        EXPECT_EQ(note(), QStringLiteral("'q'"));
+        QApplication::clipboard()->setText(QStringLiteral("x, y"));
+        Get<QLineEdit>("txtNote").selectAll();
+        Get<QLineEdit>("txtNote").paste();
+        EXPECT_EQ(note(), QStringLiteral("x; y"));
+        EXPECT_TRUE(Get<QLabel>("lblNoteHint").isVisible()) << "what was replaced is said";
+    });
+    EXPECT_TRUE(Find<QPushButton>(*std::make_unique<dlgModify>(document_, dialogs_, &mainWindow_),
+                                  QStringLiteral("cmbSafeNote"))
+                    .isChecked());
+    Memory(0, [&] {
+        EXPECT_FALSE(Get<QLabel>("lblNoteHint").isVisible());
+        Type(Get<QLineEdit>("txtNote"), "a,");
+        Click(dialog_, "cmbSafeNote");
+        Type(Get<QLineEdit>("txtNote"), "a,b");
+        EXPECT_EQ(note(), QStringLiteral("a,b")) << "the choice was taken back";
+    });
+}
+
 TEST_F(ModifyDialogTest, OkStoresWhatTheControlsHold)
 {
     EXPECT_TRUE(Memory(0, [this] {
@@ -160,6 +270,9 @@ TEST_F(ModifyDialogTest, OkStoresWhatTheControlsHold)
         Type(Get<QLineEdit>("txtShift"), "0.6");
         Type(Get<QLineEdit>("txtNote"), "a,b");
         EXPECT_TRUE(Get<QLabel>("lblNoteHint").isVisible());
+        Type(Get<QLineEdit>("txtNote"), "5\" rod");
+        EXPECT_FALSE(Get<QLabel>("lblNoteHint").isVisible()) << "such quotes come back";
+        Type(Get<QLineEdit>("txtNote"), "a,b");
         Click(dialog_, "OKButton");
     }));
     const Channel& row = image_.MemData(0);
@@ -260,7 +373,7 @@ TEST_F(ModifyDialogTest, EverythingIsInSightOnASmallScreen)
     });
 }
 
-TEST_F(ModifyDialogTest, HoldStartsEmptyRowsWithTheLastConfirmedValues)
+TEST_F(ModifyDialogTest, HoldStartsEmptyRowsWithTheLastConfirmedValuesButTheNote)
 {
     EXPECT_TRUE(Memory(500, [this] {
         EXPECT_EQ(Frequency().text(), QString());
@@ -273,7 +386,9 @@ TEST_F(ModifyDialogTest, HoldStartsEmptyRowsWithTheLastConfirmedValues)
     }));
     Memory(0, [this] { EXPECT_EQ(Get<QLineEdit>("txtNote").text(), QString()); });
     EXPECT_TRUE(Memory(501, [this] { PressEnter(); }));
-    EXPECT_TRUE(image_.MemData(501) == image_.MemData(500) && image_.MemEnable(501));
+    Channel held = image_.MemData(500);
+    held.note.clear();
+    EXPECT_TRUE(image_.MemData(501) == held && held.enabled);
 }
 
 }  // namespace

@@ -68,6 +68,29 @@ TEST_F(PrintDialog, SaysWhyNothingWasPrintedAndStaysOpen)
     Click("opbPrintTo_1");
     Click("cmbPrint");
     EXPECT_TRUE(dialogs.asked.size() == 1 && dialog->isVisible()) << "a cancelled choice is no failure";
+    dialogs.files = {folder.filePath(QStringLiteral("none/out.pdf"))};
+    Click("cmbPrint");
+    EXPECT_TRUE(dialogs.asked.size() == 2 && dialog->isVisible());
+}
+
+TEST_F(PrintDialog, OffersWhatTheChoiceLeavesToDo)
+{
+    Open({QStringLiteral("A printer")});
+    const auto offered = [this] {
+        std::string names;
+        for (const char* name : {"cmbPreview", "cmbPrint", "cbbPrintGroup", "chkSkipEmpty", "cbbPrinter"})
+            if (dialog->findChild<QWidget*>(QLatin1String(name))->isEnabled())
+                names += std::string(name) + " ";
+        return names;
+    };
+    Click("opbPrintTo_0");
+    EXPECT_EQ(offered(), "cmbPreview cmbPrint cbbPrintGroup chkSkipEmpty cbbPrinter ");
+    Click("opbPrintTo_1");
+    Click("chkPrintMemory");
+    EXPECT_EQ(offered(), "cmbPreview cmbPrint ");
+    Click("chkPrintSettings");
+    Click("chkPrintVfo");
+    EXPECT_EQ(offered(), "");
 }
 
 TEST_F(PrintDialog, PreviewShowsThePagesAndPrintsAsTheDialogWould)

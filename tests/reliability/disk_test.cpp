@@ -161,7 +161,7 @@ TEST(Disk, PermissionsCount)
     EXPECT_EQ(FilesIn(folder).size(), 1);
 }
 
-TEST(Disk, WhatHappensToTheFolderMeanwhileIsTold)
+TEST(Disk, WhatHappensToTheFolderMeanwhileIsToldAndTheImageKept)
 {
     const QTemporaryDir parent;
     const QDir dir(parent.path());

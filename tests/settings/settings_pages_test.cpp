@@ -92,7 +92,7 @@ TEST_F(SettingsPagesTest, AnOptionThatNobodyCanChooseIsShownAndKept)
     EXPECT_EQ(image_.Settings().model, 4);
 }
 
-TEST_F(SettingsPagesTest, ARegionChangeRedrawsTheVfoTableAndRebuildsNoRow)
+TEST_F(SettingsPagesTest, TheVfoTableFollowsAndARegionChangeRebuildsNoRow)
 {
     const auto& table = Find<QTableView>(one_, QStringLiteral("MSFlexGrid2"));
     QSignalSpy drawn(table.model(), &QAbstractItemModel::dataChanged);
@@ -103,6 +103,9 @@ TEST_F(SettingsPagesTest, ARegionChangeRedrawsTheVfoTableAndRebuildsNoRow)
     CloneImage expected = before;
     expected.Settings().model = 2;
     EXPECT_TRUE(image_ == expected);
+    document_.Replace(StartUpImage(0), {});
+    document_.Absorb([](CloneImage& image) { image.VFOData(3).mode = 2; });
+    EXPECT_EQ(drawn.count(), 3);
 }
 
 }  // namespace

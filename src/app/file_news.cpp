@@ -1,0 +1,59 @@
+#include "app/file_news.h"
+
+#include <QFileInfo>
+
+#include "files/file_kind.h"
+#include "ui/plain_text.h"
+
+namespace rqm5 {
+namespace {
+
+const QString kKey = QStringLiteral("file");
+
+}  // namespace
+
+FileNews::FileNews(const Document& document, CurrentFile& file, FileCommands& commands, MessageBar& bar)
+    : QObject(&bar), document_(document), file_(file), commands_(commands), bar_(bar)
+{
+    connect(&file, &CurrentFile::Seen, this, &FileNews::Tell);
+    connect(&bar, &MessageBar::Closed, this, &FileNews::Closed);
+    // What is offered depends on whether there are unsaved changes.
+    connect(&document, &Document::StateChanged, this, [this] {
+        if (bar_.Has(kKey))
+            Tell(file_.Look());
+    });
+}
+
+void FileNews::Tell(CurrentFile::State state)
+{
+    const QString& path = document_.FileName();
+    if (state == CurrentFile::State::AsKnown) {
+        closedFor_.clear();
+        bar_.Withdraw(kKey);
+        return;
+    }
+    const FileMark mark = MarkOfFile(path) + '.';  // a removed file has one of its own, too
+    if (mark == closedFor_)
+        return;
+    const QString name = VisibleText(QFileInfo(path).fileName());
+    MessageBar::Message message{kKey, {}, {}};
+    if (state == CurrentFile::State::Removed) {
+        message.text = tr("%1 was removed or renamed by another program. Save will ask first.").arg(name);
+    } else if (document_.DataChanged()) {
+        message.text =
+            tr("%1 was changed by another program. You have unsaved changes; Save will ask first.").arg(name);
+    } else {
+        message.text = tr("%1 was changed by another program.").arg(name);
+        if (KindOf(path) == FileKind::Clone)
+            message.buttons = {{tr("&Load Again"), [this] { commands_.LoadAgain(); }}};
+    }
+    bar_.Show(std::move(message));
+}
+
+void FileNews::Closed(const QString& key)
+{
+    if (key == kKey)
+        closedFor_ = MarkOfFile(document_.FileName()) + '.';
+}
+
+}  // namespace rqm5

@@ -1,0 +1,67 @@
+#include <ostream>
+
+#include "cli/clone_files.h"
+#include "cli/command.h"
+#include "files/file_kind.h"
+#include "files/file_store.h"
+#include "files/note_repair.h"
+#include "image/display_text.h"
+
+namespace rqm5 {
+namespace {
+
+std::optional<Problem> Write(const std::string& path, const std::string& text, Console& console)
+{
+    WriteReport report;
+    const auto problem = WriteWholeFile(PathOf(path), text, &report);
+    if (!report.accessChanges.empty())
+        Warn(console, path + " is saved, but not all that belonged to the old file could be kept:",
+             report.accessChanges);
+    return problem;
+}
+
+std::optional<Problem> WriteInPlace(const std::string& path, const std::string& text, Console& console)
+{
+    QString kept;
+    if (auto problem = KeepOldFile(PathOf(path), kept))
+        return problem;
+    console.out << "The old file is kept as " << VisibleText(kept.toStdString()) << ".\n";
+    return Write(path, text, console);
+}
+
+std::optional<Problem> WriteRepaired(const Arguments& arguments, const std::string& text, Console& console)
+{
+    if (arguments.Has("--in-place"))
+        return WriteInPlace(arguments[0], text, console);
+    const std::string path = arguments.Value("--to");
+    if (path.empty()) {
+        console.out << "Nothing was written: add --to NEW or --in-place.\n";
+        return std::nullopt;
+    }
+    if (Exists(path))
+        return Problem{kFileOpenError, path + ": there is a file already; choose another name"};
+    return Write(path, text, console);
+}
+
+}  // namespace
+
+Status RunRepair(const Arguments& arguments, Console& console)
+{
+    std::string bytes;
+    if (const auto problem = ReadWholeFile(PathOf(arguments[0]), bytes))
+        return Fail(console, *problem);
+    const auto result = RepairNotes(bytes);
+    if (const auto* error = std::get_if<ParseError>(&result))
+        return Fail(console, {kDataError, arguments[0] + ": " + error->reason});
+    const auto& repair = std::get<NoteRepair>(result);
+    if (repair.notes.empty()) {
+        console.out << VisibleText(arguments[0]) << " can be opened; there is nothing to repair.\n";
+        return Status::Done;
+    }
+    for (const RepairedNote& note : repair.notes)
+        console.out << RepairText(note) << '\n';
+    const auto problem = WriteRepaired(arguments, repair.text, console);
+    return problem ? Fail(console, *problem) : Status::Done;
+}
+
+}  // namespace rqm5

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "image/problem.h"
+
+namespace rqm5 {
+
+/// "3 blocks needed more than one attempt"; empty for none.
+std::string RepeatNote(int blocks);
+
+/// "2 blocks were read with characters that are no hex digits"; empty for none.
+std::string UnreadableNote(int blocks);
+
+/// "2 blocks came otherwise when they were read again"; empty for none.
+std::string OtherwiseNote(int blocks);
+
+/// That a read cannot be relied on for these blocks, of which the first is named.
+Problem UnreadableBlocks(const std::vector<std::string>& names);
+
+/// That the replies to a read cannot be told apart, however often it is repeated.
+Problem ShiftedReplies();
+
+/// That an OK of a write may have been another block's.
+Problem DoubtfulWrite();
+
+/// What a second read that breaks off means for the first one.
+std::string NotReadTwice();
+
+}  // namespace rqm5

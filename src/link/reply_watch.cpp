@@ -1,0 +1,25 @@
+#include "link/reply_watch.h"
+
+#include <utility>
+
+#include "link/reply_frames.h"
+
+namespace rqm5 {
+
+void ReplyWatch::NextBlock()
+{
+    // What comes before the first command is late by right: it is what an earlier operation left.
+    if (isWatching_ && commands_ > 0 && CountReplies(heard_) > commands_)
+        hasShifted_ = true;
+    commands_ = 0;
+    heard_.clear();
+}
+
+bool ReplyWatch::End()
+{
+    NextBlock();
+    isWatching_ = false;
+    return std::exchange(hasShifted_, false);
+}
+
+}  // namespace rqm5

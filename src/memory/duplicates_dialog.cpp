@@ -1,0 +1,123 @@
+#include "memory/duplicates_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QEvent>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include "image/display_text.h"
+#include "image/number_text.h"
+#include "memory/duplicates.h"
+#include "memory/row_names.h"
+#include "ui/form_texts.h"
+
+namespace rqm5 {
+namespace {
+
+enum TreeColumn { kPlace, kTreeMode, kState, kTreeNote };
+
+constexpr int kLongestNote = 200;
+
+}  // namespace
+
+dlgDuplicates::dlgDuplicates(const Document& document, QWidget* parent)
+    : QDialog(parent),
+      document_(document),
+      lblDuplicates_(new QLabel(this)),
+      lstDuplicates_(new QTreeWidget(this))
+{
+    setObjectName(QStringLiteral("dlgDuplicates"));
+    setWindowTitle(tr("Duplicates"));
+    Build();
+    connect(lstDuplicates_, &QTreeWidget::itemClicked, this,
+            [this](const QTreeWidgetItem* item) { emit PlaceChosen(item->data(0, Qt::UserRole).toInt()); });
+    connect(lstDuplicates_, &QTreeWidget::itemActivated, this,
+            [this](const QTreeWidgetItem* item) { emit PlaceChosen(item->data(0, Qt::UserRole).toInt()); });
+    connect(&document, &Document::Replaced, this, [this] {
+        if (isVisible())
+            ShowDuplicates();
+    });
+    connect(&document, &Document::Changed, this, [this](const ImageChange& change) {
+        if (isVisible() && (change.HasMemoryRows() || !change.BankSize.empty()))
+            ShowDuplicates();
+    });
+    SetFormTexts(*this);
+}
+
+void dlgDuplicates::Build()
+{
+    constexpr int kLetters = 70;
+    lblDuplicates_->setObjectName(QStringLiteral("lblDuplicates"));
+    lblDuplicates_->setTextFormat(Qt::PlainText);
+    lstDuplicates_->setObjectName(QStringLiteral("lstDuplicates"));
+    lstDuplicates_->setAccessibleName(tr("Frequencies that are stored more than once"));
+    lstDuplicates_->setHeaderLabels({tr("Frequency and place"), tr("Mode"), tr("State"), tr("Note")});
+    lstDuplicates_->setUniformRowHeights(true);
+    // A second click is for the row it goes to.
+    lstDuplicates_->setExpandsOnDoubleClick(false);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    // Enter goes to a place.
+    buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(lblDuplicates_);
+    column->addWidget(lstDuplicates_, 1);
+    column->addWidget(buttons);
+    lstDuplicates_->setFocus();
+    const int letter = fontMetrics().averageCharWidth();
+    resize(letter * kLetters, fontMetrics().height() * 24);
+    const int widths[] = {32, 7, 7};
+    for (int i = 0; i < 3; ++i)
+        lstDuplicates_->setColumnWidth(i, letter * widths[i]);
+}
+
+void dlgDuplicates::ShowDuplicates()
+{
+    const CloneImage& image = document_.Image();
+    const std::vector<RepeatedFrequency> repeated = RepeatedFrequencies(image);
+    const int scrolled = lstDuplicates_->verticalScrollBar()->value();
+    lstDuplicates_->clear();
+    for (const RepeatedFrequency& entry : repeated) {
+        auto* frequency = new QTreeWidgetItem(lstDuplicates_);
+        frequency->setText(kPlace, tr("%1 MHz, %2 times")
+                                       .arg(QString::fromStdString(FormatMegahertz(entry.frequency)))
+                                       .arg(entry.rows.size()));
+        frequency->setData(0, Qt::UserRole, entry.rows.front());
+        for (const int row : entry.rows) {
+            const std::string place = PlaceOfRow(image, row);
+            auto* item = new QTreeWidgetItem(frequency);
+            item->setText(kPlace, QString::fromStdString(place.empty() ? RowLabel(image, row) : place));
+            item->setText(kTreeMode, QString::fromStdString(image.MemText(row, kMode)));
+            item->setText(kState, image.MemEnable(row) ? tr("on") : tr("off"));
+            item->setText(kTreeNote, QString::fromStdString(
+                                         VisibleText(CutToWidth(image.MemData(row).note, kLongestNote))));
+            item->setData(0, Qt::UserRole, row);
+        }
+    }
+    lstDuplicates_->expandAll();
+    lstDuplicates_->verticalScrollBar()->setValue(scrolled);
+    lblDuplicates_->setText(
+        repeated.empty() ? tr("No frequency is stored more than once.")
+        : repeated.size() == 1
+            ? tr("1 frequency is stored more than once. A click goes to a place.")
+            : tr("%1 frequencies are stored more than once. A click goes to a place.").arg(repeated.size()));
+}
+
+void dlgDuplicates::Present()
+{
+    ShowDuplicates();
+    isMinimized() ? showNormal() : show();
+    raise();
+    activateWindow();
+}
+
+void dlgDuplicates::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        SetFormTexts(*this);
+    QDialog::changeEvent(event);
+}
+
+}  // namespace rqm5
