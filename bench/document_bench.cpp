@@ -4,8 +4,11 @@
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 
+#include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <cstdio>
+#include <memory>
 
 #include "app/pages.h"
 #include "document/document.h"
@@ -77,6 +80,86 @@ void UndoARead(benchmark::State& state)
     }
 }
 BENCHMARK(UndoARead)->Unit(benchmark::kMillisecond);
+
+/// Shows a dialog for as long as it takes to draw it, and accepts it.
+class QuickDialogs : public MessageDialogs
+{
+  public:
+    int Run(QDialog& dialog) override
+    {
+        dialog.show();
+        QCoreApplication::processEvents();
+        return QDialog::Accepted;
+    }
+};
+
+/// A thousand lines of a spreadsheet pasted over a thousand channels: read, planned, previewed, written and
+/// shown; or taken back and shown.
+class Paste : public benchmark::Fixture
+{
+  public:
+    void SetUp(const benchmark::State& /*state*/) override
+    {
+        QString text = QStringLiteral("Name\tMHz\tMode\tTone\n");
+        for (int row = 0; row < kBankRows; ++row)
+            text += QStringLiteral("Station %1\t%2\tFM\t88.5\n").arg(row).arg(430 + row * 0.0125);
+        QGuiApplication::clipboard()->setText(text);
+        document = std::make_unique<Document>(FullImage());
+        window = std::make_unique<QWidget>();
+        auto* pages = new Pages(*document, dialogs, window.get());
+        pages->Tabs().Select(Tab::Memory);
+        pages->Memory().SelectGroup(kSelectAll);
+        window->resize(1000, 680);
+        window->show();
+        paste = pages->Memory().findChild<QAction*>(QStringLiteral("mnuEditPaste"));
+        QCoreApplication::processEvents();
+    }
+
+    void TearDown(const benchmark::State& /*state*/) override
+    {
+        window.reset();
+        document.reset();
+    }
+
+    void Run() const
+    {
+        paste->trigger();
+        QCoreApplication::processEvents();
+    }
+
+    void Undo() const
+    {
+        document->History().undo();
+        QCoreApplication::processEvents();
+    }
+
+    QuickDialogs dialogs;
+    std::unique_ptr<Document> document;
+    std::unique_ptr<QWidget> window;
+    QAction* paste = nullptr;
+};
+
+BENCHMARK_DEFINE_F(Paste, OfAThousandRows)(benchmark::State& state)
+{
+    for (auto step : state) {
+        Run();
+        state.PauseTiming();
+        Undo();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK_REGISTER_F(Paste, OfAThousandRows)->Unit(benchmark::kMillisecond);
+
+BENCHMARK_DEFINE_F(Paste, TakenBack)(benchmark::State& state)
+{
+    for (auto step : state) {
+        state.PauseTiming();
+        Run();
+        state.ResumeTiming();
+        Undo();
+    }
+}
+BENCHMARK_REGISTER_F(Paste, TakenBack)->Unit(benchmark::kMillisecond);
 
 std::size_t MemoryInUse()
 {

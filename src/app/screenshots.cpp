@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QDir>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -84,6 +85,13 @@ void SavePages(PictureDialogs& dialogs, QWidget& window)
     tabs.setCurrentIndex(2);
 }
 
+void SavePaste(QWidget& window)
+{
+    QGuiApplication::clipboard()->setText(
+        QStringLiteral("Name\tMHz\tMode\nTower\t118,1\tAM\nHF\t14.2\tUSB\nGround\t121,9\tAM\n"));
+    Trigger(window, "mnuEditPaste");
+}
+
 /// Channels found while somebody types, and frequencies that are stored twice.
 void SaveFinds(PictureDialogs& dialogs, QWidget& window)
 {
@@ -161,6 +169,8 @@ int main(int argc, char** argv)
     SaveFinds(dialogs, *window);
     SaveBankMove(dialogs, *window);
     Trigger(*window, "mnuEditUndo");
+    Trigger(*window, "mnuEditFillSeries");
+    SavePaste(*window);
     Trigger(*window, "mnuToolsOptions");
     Trigger(*window, "mnuFilePrint");
     SaveDiagnostics(dialogs, *window);

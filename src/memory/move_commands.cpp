@@ -46,11 +46,13 @@ void MoveCommands::mnuEditInsertRow_Click()
     const MoveGroup group = selection_.Movable();
     CloneImage after = selection_.Image();
     if (!InsertRow(after, group, row)) {
-        dialogs_.Ask(&page_,
-                     {.title = tr("Insert Row Here"),
-                      .text = tr("There is no empty row behind it in %1.").arg(selection_.NameOfSelector()),
-                      .details = tr("Clear a channel there, or make the bank larger on the Bank page."),
-                      .icon = QMessageBox::Information});
+        const QString remedy =
+            tr("Every row of %1 from here on holds a channel or a note. Clear one, or make the "
+               "bank larger on the Bank page.");
+        dialogs_.Ask(&page_, {.title = tr("Insert Row Here"),
+                              .text = tr("There is no empty row behind it."),
+                              .details = remedy.arg(selection_.NameOfSelector()),
+                              .icon = QMessageBox::Information});
         return;
     }
     selection_.Edit(tr("Insert Row (%1)").arg(selection_.NameOf(row)),

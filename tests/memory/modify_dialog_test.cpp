@@ -295,6 +295,84 @@ TEST_F(ModifyDialogTest, ARowOutsideItsBandCanBeEditedAsLongAsItsFrequencyStays)
     EXPECT_EQ(image_.VFOText(2, kMode), "WFM");
 }
 
+TEST_F(ModifyDialogTest, SeveralRowsShowWhatTheyShareAndTakeWhatIsTouched)
+{
+    PutChannels({0, 15}, 100);
+    CloneImage expected = image_;
+    for (int row = 0; row < 15; ++row)
+        expected.MemData(row).mode = 1;
+    const RowList rows = RowsOf({0, 15});
+    Act([this] {
+        ExpectLabels("Modify Memory", "15 channels", "(0.1-1299.995MHz)");
+        EXPECT_TRUE(Frequency().text().isEmpty() && Get<QAbstractButton>("opbStep_0").isChecked());
+        EXPECT_FALSE(Get<QAbstractButton>("OKNextButton").isVisible() ||
+                     Get<QAbstractButton>("chkHold").isVisible());
+        Type(Frequency(), "1300");
+        PressEnter();
+        EXPECT_TRUE(dialog_.isVisible() && Frequency().text().isEmpty()) << "refused: blank again";
+        Click(dialog_, "opbWave_1");
+        PressEnter();
+    });
+    EXPECT_TRUE(dialog_.OpenSeveral(rows, 0));
+    EXPECT_TRUE(image_ == expected);
+    EXPECT_EQ(document_.History().undoText(), QStringLiteral("Modify (Bank 0, 15 channels)"));
+    EXPECT_EQ(Steps(), 1);
+
+    document_.Absorb([](CloneImage& image) { image.MemData(3).option = 8; });
+    Act([this] {
+        EXPECT_EQ(Get<QCheckBox>("chkSkip").checkState(), Qt::PartiallyChecked);
+        Click(dialog_, "OKButton");
+    });
+    dialog_.OpenSeveral(rows, 0);
+    EXPECT_TRUE(image_.MemData(3).IsSkipped() && !image_.MemData(4).IsSkipped() && Steps() == 1);
+}
+
+TEST_F(ModifyDialogTest, PreviousAndNextStoreWhatWasChangedAndGoOn)
+{
+    PutChannels({0, 2}, 100);
+    QSignalSpy shown(&dialog_, &dlgModify::RowShown);
+    Act([this] {
+        EXPECT_FALSE(Get<QWidget>("PreviousButton").isEnabled());
+        QTest::keyClick(&Frequency(), Qt::Key_PageDown, Qt::AltModifier);
+        EXPECT_EQ(Frequency().selectedText(), QStringLiteral("101.000000"));
+        EXPECT_TRUE(Steps() == 0 && !document_.DataChanged()) << "looking is no edit";
+        Type(Frequency(), "88");
+        Click(dialog_, "PreviousButton");
+        EXPECT_EQ(image_.MemText(1, kFrequency), "88.000000");
+        Type(Frequency(), "1300");
+        QTest::keyClick(&Frequency(), Qt::Key_Return, Qt::ControlModifier);
+        EXPECT_EQ(Get<QLabel>("lblCH").text(), QStringLiteral("Bank 0  CH 0")) << "refused: stays";
+        for (int i = 0; i < 2; ++i)
+            QTest::keyClick(&Frequency(), Qt::Key_Return, Qt::ControlModifier);
+        QTest::keyClick(&Frequency(), Qt::Key_Return, Qt::ControlModifier);
+        EXPECT_EQ(Frequency().text(), QStringLiteral("145.000000")) << "OK of an empty row is refused";
+        Click(dialog_, "NextButton");
+        Click(dialog_, "CancelButton");
+    });
+    dialog_.OpenMemory(0, 0);
+    EXPECT_EQ(shown.count(), 5);
+    EXPECT_EQ(image_.MemText(2, kFrequency), "145.000000");
+    Vfo(13, [this] { EXPECT_FALSE(Get<QWidget>("NextButton").isEnabled()); });
+}
+
+TEST_F(ModifyDialogTest, TheViewOfAllRowsNamesTheBankToo)
+{
+    const std::pair<int, const char*> cases[] = {{201, "Bank 1  CH 1"}, {1003, "Program Scan  CH 1B"}};
+    for (const auto& [row, name] : cases)
+        Memory(row, [this, label = name] { ExpectLabels("Modify Memory", label, "(0.1-1299.995MHz)"); });
+}
+
+TEST_F(ModifyDialogTest, EverythingIsInSightOnASmallScreen)
+{
+    Memory(0, [this] {
+        Type(Get<QLineEdit>("txtNote"), "a,b");
+        EXPECT_LE(dialog_.sizeHint().height(), 480);
+        for (const QLabel* label : dialog_.findChildren<QLabel*>())
+            EXPECT_TRUE(!label->isVisible() || label->width() >= label->sizeHint().width())
+                << label->text().toStdString();
+    });
+}
+
 TEST_F(ModifyDialogTest, HoldStartsEmptyRowsWithTheLastConfirmedValuesButTheNote)
 {
     EXPECT_TRUE(Memory(500, [this] {
