@@ -224,7 +224,8 @@ void ModifyForm::ShowShared(const SharedFields& shared, bool isSeveral)
     const bool isNoteMixed = isSeveral && shared.fields.note.empty();
     txtNote_->setPlaceholderText(isNoteMixed ? tr("What is blank stays as it is in each channel")
                                              : QString());
-    chkHold_->setVisible(chkHold_->isVisibleTo(this) && !isSeveral);
+    if (isSeveral)
+        chkHold_->hide();
 }
 
 SharedFields ModifyForm::Shared() const

@@ -198,6 +198,10 @@ void RowActions::ShowStates()
     for (std::size_t i = 0; i < actions_.size(); ++i)
         if (!actions_[i]->isSeparator())
             actions_[i]->setEnabled(IsPossible(Items()[i]));
+    for (const QAction* action : actions_)
+        for (QAction* item :
+             action->menu() != nullptr && action->menu() == sort_ ? sort_->actions() : QList<QAction*>())
+            item->setEnabled(action->isEnabled());
 }
 
 /// Another program's clipboard is asked once and not with every selection: it takes its time.

@@ -335,9 +335,10 @@ TEST_F(WindowTest, TheStatusBarSaysWhatMattersMost)
         {[] {}, "Volume, 0 to 50"},
         {[&] { bar.ShowWarning(QStringLiteral("a warning")); }, "a warning"},
         {[&] { bar.ShowNote(QStringLiteral("a note")); }, "a note"},
-        {[&] { bar.ShowPointerHint(QStringLiteral("a hint")); }, "a hint"},
+        {[&] { bar.ShowPointerHint(QStringLiteral("a hint")); }, "a note"},
         {[&] { bar.ShowNote(QStringLiteral("news")); }, "news"},
-        {[&] { bar.ShowNote({}); }, "a warning"},
+        {[&] { bar.ShowNote({}); }, "a hint"},
+        {[&] { bar.ShowPointerHint({}); }, "a warning"},
         {[&] { bar.ShowWarning({}); }, "Volume, 0 to 50"},
     };
     for (const auto& [happens, shown] : cases) {

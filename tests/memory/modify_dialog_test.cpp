@@ -105,7 +105,7 @@ TEST_F(ModifyDialogTest, TabFollowsTheEye)
     const std::string order =
         "txtFreq opbWave_0 opbStep_1 opbTone_0 cbbAir cbbTxTone opbSift_0 txtShift txtNote chkSkip chkEnable "
         "chkHold "
-        "OKButton CancelButton txtFreq ";
+        "NextButton OKButton OKNextButton CancelButton txtFreq ";
     document_.Absorb([](CloneImage& image) { image.MemData(0).step = 1; });
     Memory(0, [&] {
         std::string reached;
