@@ -56,7 +56,7 @@ TEST_F(HelpBrowserTest, F1OpensThePageForWhatHasTheFocus)
     const std::tuple<int, const char*, const char*> cases[] = {
         {0, "opbModel_0", "vfo-and-regions.md#choosing-the-model-region"},
         {1, "cmbTxData2", "reading-and-writing.md"},
-        {2, "MSFlexGrid1", "channels-and-banks.md#the-memory-page"},
+        {2, "MSFlexGrid1", "editing-channels.md"},
         {2, "cmbInsert", "channels-and-banks.md#the-operation-buttons"},
         {3, "txtBank_12", "channels-and-banks.md#the-bank-page"},
     };

@@ -54,6 +54,14 @@ class WindowFaults : public ReceiverWindowTest, public testing::WithParamInterfa
         EXPECT_FALSE(Bar().isVisible());
     }
 
+    /// With a short time-out a busy machine may see nothing of a reply of which something was on its way.
+    static bool Names(const QString& details, const char* message)
+    {
+        const bool isCut = std::string_view(message) == "too short";
+        return details.contains(QLatin1String(message)) ||
+               (isCut && details.contains(QLatin1String("sent nothing")));
+    }
+
     void Try(const Operation& operation, const FaultCase& fault)
     {
         SCOPED_TRACE(std::string(operation.control) + ", " + fault.text);
@@ -72,7 +80,7 @@ class WindowFaults : public ReceiverWindowTest, public testing::WithParamInterfa
         for (const Prompt& box : dialogs_.asked) {
             EXPECT_TRUE(box.title == QLatin1String("ERROR") && box.icon == QMessageBox::Critical);
             EXPECT_EQ(box.text.toStdString(), fault.TakesTheLine() ? kComPortError : kCommunicationError);
-            EXPECT_TRUE(fault.TakesTheLine() || box.details.contains(QLatin1String(message)));
+            EXPECT_TRUE(fault.TakesTheLine() || Names(box.details, message)) << qPrintable(box.details);
             EXPECT_EQ(box.details.contains(QLatin1String("Sent: ")), operation.writes);
         }
         EXPECT_TRUE(operation.writes || receiver_.Memory() == before);
