@@ -83,7 +83,7 @@ void frmMain::Compose()
     writeOptions_ = new WriteOptionItems(*menus_, dialogs_, *this);
     transfers_ = new TransferCommands(document_, link_, dialogs_, *this);
     shell_ = new TransferShell(*transfers_, *menus_, *pages_, *history_, *transferBar_, *sbStatusBar_, *this);
-    sides_ = new SideWindows(document_, link_, *transfers_, dialogs_, *ports_, options_, *this);
+    sides_ = new SideWindows(document_, link_, *transfers_, dialogs_, *ports_, *pages_, options_, *this);
     recovery_ = new Recovery(document_, options_.stateFolder, options_.recoveryDelay, this);
     recovery_->SetMark([this] { return currentFile_->KnownMark(); });
 }
@@ -159,7 +159,11 @@ void frmMain::ConnectOtherMenus()
     ConnectMenu("mnuToolsOptions", [this] { ports_->mnuToolsOptions_Click(); });
     ConnectMenu("mnuHelpContents", [this] { sides_->mnuHelpContents_Click(); });
     ConnectMenu("mnuHelpAbout", [this] { sides_->mnuHelpAbout_Click(); });
-    sides_->ConnectDiagnostics(menus_->Item("mnuViewDiagnostics"));
+    ConnectMenu("mnuViewDiagnostics",
+                [this] { sides_->mnuViewDiagnostics_Click(menus_->Item("mnuViewDiagnostics").isChecked()); });
+    ConnectMenu("mnuViewHistory",
+                [this] { history_->mnuViewHistory_Click(menus_->Item("mnuViewHistory").isChecked()); });
+    sides_->MarkDiagnostics(menus_->Item("mnuViewDiagnostics"));
     connect(&pages_->Tabs(), &TabStrip::Switched, this, &frmMain::TabStrip1_Click);
     connect(&pages_->Memory(), &MemoryPage::HintChanged, sbStatusBar_, [this] {
         // What the keyboard has just gone to, wherever the pointer rests.
