@@ -82,7 +82,7 @@ void FileCommands::mnuFileOpen_Click()
         Load(path);
 }
 
-void FileCommands::OpenDropped(const QString& path)
+void FileCommands::OpenAnother(const QString& path)
 {
     if (MayLoseChanges())
         Load(path);
@@ -92,10 +92,13 @@ bool FileCommands::Load(const QString& path)
 {
     CloneImage image = document_.Image();
     FileMark mark;
-    if (!Report(LoadCloneFile(path, image, &mark)))
+    if (!Report(LoadCloneFile(path, image, &mark))) {
+        emit Refused(Absolute(path));
         return false;
+    }
     currentFile_.Know(Absolute(path), mark);
     document_.Replace(std::move(image), Absolute(path));
+    emit Used(Absolute(path));
     return true;
 }
 
@@ -169,6 +172,7 @@ bool FileCommands::SaveTo(const QString& chosen)
     if (!Report(outcome.problem))
         return false;
     document_.MarkSaved(path);
+    emit Used(path);
     TellOfSave(path, outcome, kept);
     return true;
 }

@@ -111,6 +111,13 @@ void frmMain::ConnectFileMenus()
     ConnectMenu("mnuFileRepair", [this] { files_->mnuFileRepair_Click(); });
     ConnectMenu("mnuFilePrint", [this] { sides_->mnuFilePrint_Click(); });
     ConnectMenu("mnuFileExit", [this] { close(); });
+    recentFiles_ = new RecentFiles(menus_->Menu("mnuFile"), this);
+    connect(files_, &FileCommands::Used, recentFiles_, &RecentFiles::Add);
+    connect(files_, &FileCommands::Refused, recentFiles_, &RecentFiles::Remove);
+    connect(recentFiles_, &RecentFiles::Chosen, files_, [this](const QString& path) {
+        if (pages_->Banks().CommitPending())
+            files_->OpenAnother(path);
+    });
     connect(files_, &FileCommands::Asking, this, &frmMain::Asking);
     connect(files_, &FileCommands::Noted, sbStatusBar_, &StatusBar::ShowNote);
     connect(files_, &FileCommands::NotesLost, this,
@@ -133,9 +140,13 @@ void frmMain::ConnectTransferMenus()
     ConnectMenu("mnuWrBackup", [this] { writeOptions_->Keep(); });
     ConnectMenu("mnuWrVerify", [this] { writeOptions_->Keep(); });
     ConnectMenu("mnuWrBackupFolder", [this] { writeOptions_->mnuWrBackupFolder_Click(); });
-    connect(transfers_, &TransferCommands::Started, messageBar_, [this] { messageBar_->setEnabled(false); });
+    connect(transfers_, &TransferCommands::Started, messageBar_, [this] {
+        messageBar_->setEnabled(false);
+        recentFiles_->SetTransferRunning(true);
+    });
     connect(transfers_, &TransferCommands::Ended, this, [this] {
         messageBar_->setEnabled(true);
+        recentFiles_->SetTransferRunning(false);
         if (std::exchange(isClosePending_, false))
             QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
     });
@@ -171,7 +182,7 @@ void frmMain::ConnectOtherMenus()
         sbStatusBar_->ShowHintOf(focusWidget());
     });
     connect(new CloneDrop(*this, menus_->Item("mnuFileOpen")), &CloneDrop::Dropped, files_,
-            &FileCommands::OpenDropped);
+            &FileCommands::OpenAnother);
     connect(ports_, &PortCommands::PortChosen, sbStatusBar_, &StatusBar::ShowPort);
 }
 

@@ -13,6 +13,7 @@
 #include "app/pages.h"
 #include "app/port_commands.h"
 #include "app/read_option_items.h"
+#include "app/recent_files.h"
 #include "app/recovery.h"
 #include "app/side_windows.h"
 #include "app/standing_warnings.h"
@@ -106,6 +107,7 @@ class frmMain : public QMainWindow
     TransferShell* shell_ = nullptr;
     SideWindows* sides_ = nullptr;
     Recovery* recovery_ = nullptr;
+    RecentFiles* recentFiles_ = nullptr;
 };
 
 }  // namespace rqm5

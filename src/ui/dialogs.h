@@ -16,6 +16,7 @@ struct Prompt
     QString text;
     QString details = {};  ///< shown as informative text: device, reason, remedy, line number
     QString more = {};     ///< behind a "Show Details" button: what would be too long below the message
+    QString command = {};  ///< for a terminal; a button copies it
     QMessageBox::Icon icon = QMessageBox::Critical;
     QMessageBox::StandardButtons buttons = QMessageBox::Ok;
     QMessageBox::StandardButton defaultButton = QMessageBox::NoButton;

@@ -1,9 +1,12 @@
 #include "ui/message_dialogs.h"
 
 #include <QAbstractButton>
+#include <QClipboard>
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QGuiApplication>
 #include <QLabel>
+#include <QPushButton>
 #include <algorithm>
 
 namespace rqm5 {
@@ -69,7 +72,16 @@ QMessageBox::StandardButton MessageDialogs::Ask(QWidget* parent, const Prompt& p
                                                 label->fontMetrics().size(0, prompt.details).width()));
             }
     }
-    return static_cast<QMessageBox::StandardButton>(box.exec());
+    QPushButton* copy = prompt.command.isEmpty()
+                            ? nullptr
+                            : box.addButton(Translated("&Copy Command"), QMessageBox::ActionRole);
+    if (copy != nullptr)
+        copy->setObjectName(QStringLiteral("cmbCopyCommand"));
+    const int answer = box.exec();
+    if (copy == nullptr || box.clickedButton() != copy)
+        return static_cast<QMessageBox::StandardButton>(answer);
+    QGuiApplication::clipboard()->setText(prompt.command);
+    return QMessageBox::Ok;
 }
 
 QString MessageDialogs::ChooseFile(QWidget* parent, FileChoice choice, const QString& suggested)
