@@ -14,10 +14,17 @@
 
 namespace rqm5 {
 
-Closing::Closing(const WindowParts& parts, QMainWindow& window)
-    : QObject(&window), parts_(parts), window_(window)
+Closing::Closing(Pages& pages, FileCommands& files, PortCommands& ports, Recovery& recovery,
+                 TransferCommands& transfers, QMainWindow& window)
+    : QObject(&window),
+      pages_(pages),
+      files_(files),
+      ports_(ports),
+      recovery_(recovery),
+      transfers_(transfers),
+      window_(window)
 {
-    connect(parts.transfers, &TransferCommands::Ended, this, [this] {
+    connect(&transfers, &TransferCommands::Ended, this, [this] {
         if (std::exchange(isClosePending_, false))
             QMetaObject::invokeMethod(&window_, &QWidget::close, Qt::QueuedConnection);
     });
@@ -25,10 +32,10 @@ Closing::Closing(const WindowParts& parts, QMainWindow& window)
 
 bool Closing::MayClose()
 {
-    if (parts_.transfers->IsRunning()) {
+    if (transfers_.IsRunning()) {
         // The transfer ends first; the question comes when its last event has been handled.
         isClosePending_ = true;
-        parts_.transfers->Cancel();
+        transfers_.Cancel();
         return false;
     }
     if (isSessionEnding_) {
@@ -43,9 +50,9 @@ bool Closing::MayClose()
 
 void Closing::KeepWork()
 {
-    parts_.recovery->KeepNow();
-    parts_.ports->Save();
-    parts_.transfers->Cancel();
+    recovery_.KeepNow();
+    ports_.Save();
+    transfers_.Cancel();
 }
 
 void Closing::EndSession()
@@ -68,13 +75,13 @@ bool Closing::eventFilter(QObject* /*watched*/, QEvent* event)
 
 bool Closing::Form_QueryUnload()
 {
-    return parts_.pages->Banks().CommitPending() && parts_.files->MayLoseChanges();
+    return pages_.Banks().CommitPending() && files_.MayLoseChanges();
 }
 
 void Closing::Form_Unload()
 {
-    parts_.recovery->End();
-    parts_.ports->Save();
+    recovery_.End();
+    ports_.Save();
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (auto window = windows.rbegin(); window != windows.rend(); ++window)
         if (*window != &window_ && (*window)->isVisible())

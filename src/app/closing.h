@@ -3,9 +3,13 @@
 #include <QMainWindow>
 #include <QObject>
 
-#include "app/window_parts.h"
-
 namespace rqm5 {
+
+class FileCommands;
+class Pages;
+class PortCommands;
+class Recovery;
+class TransferCommands;
 
 /// The end of the main window: what is asked, kept and closed before it goes.
 class Closing : public QObject
@@ -13,7 +17,8 @@ class Closing : public QObject
     Q_OBJECT
 
   public:
-    Closing(const WindowParts& parts, QMainWindow& window);
+    Closing(Pages& pages, FileCommands& files, PortCommands& ports, Recovery& recovery,
+            TransferCommands& transfers, QMainWindow& window);
 
     /// Asks about unsaved changes and puts everything in order. \return false when the window has to stay: a
     /// transfer runs, which is cancelled and followed by another try, or somebody chose to stay
@@ -33,7 +38,11 @@ class Closing : public QObject
     bool Form_QueryUnload();
     void Form_Unload();
 
-    WindowParts parts_;
+    Pages& pages_;
+    FileCommands& files_;
+    PortCommands& ports_;
+    Recovery& recovery_;
+    TransferCommands& transfers_;
     QMainWindow& window_;
     bool isClosePending_ = false;
     bool isSessionEnding_ = false;

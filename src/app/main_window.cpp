@@ -42,12 +42,14 @@ frmMain::frmMain(SerialPort& port, Dialogs& dialogs, const StartOptions& options
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowIcon(ProgramIcon());
-    setContextMenuPolicy(Qt::NoContextMenu);  // it would hide the toolbar behind the View menu's back
+    setContextMenuPolicy(
+        Qt::NoContextMenu);  // its own menu could hide the toolbar, and View > Toolbar would stay checked
     Timer1_.setSingleShot(true);
     Timer1_.setTimerType(Qt::PreciseTimer);
     parts_ = MakeWindowParts(document_, link_, dialogs_, options_, *this);
     new MenuCommands(document_, parts_, *this);
-    closing_ = new Closing(parts_, *this);
+    closing_ =
+        new Closing(*parts_.pages, *parts_.files, *parts_.ports, *parts_.recovery, *parts_.transfers, *this);
     ConnectDocument();
     ConnectQuestions();
     resize(kUsualSize.boundedTo(screen()->availableSize() - kWindowFrame));
@@ -86,7 +88,7 @@ void frmMain::ConnectDocument()
     connect(&document_, &Document::Stepped, this, [this](const ImageChange& change) {
         const QPointer<QWidget> focus = focusWidget();
         parts_.pages->GoTo(change);
-        // Whoever walks through the list of steps goes on walking.
+        // Going to the rows takes the focus; the arrow keys of the list shall go on working.
         if (focus && focus->objectName() == QLatin1String("lstHistory"))
             focus->setFocus();
     });

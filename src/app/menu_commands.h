@@ -14,6 +14,7 @@ class MenuCommands : public QObject
     Q_OBJECT
 
   public:
+    /// \param parts  those of the window, which outlive this
     MenuCommands(Document& document, const WindowParts& parts, QMainWindow& window);
 
   private:
@@ -25,7 +26,7 @@ class MenuCommands : public QObject
     void ConnectNews();
 
     Document& document_;
-    WindowParts parts_;
+    const WindowParts& parts_;
     QMainWindow& window_;
 };
 

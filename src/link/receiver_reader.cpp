@@ -146,7 +146,7 @@ TransferResult ReceiverReader::Read(const TransferScope& scope)
     auto result = Done;
     if (scope.settings)
         result = ReadSettings();
-    // What is kept of a whole read only gains nothing by going on after a failure.
+    // The caller keeps only a read that is complete, so going on after a failure is of no use.
     if (scope.memory && result == Done)
         result = ReadMemory(scope.selector);
     if (!scope.memory && scope.banks && result == Done)

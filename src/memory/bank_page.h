@@ -28,8 +28,7 @@ class BankPage : public QWidget
 
     /// Checks the box that is being typed into as if the user had left it.
     /// \return false when what was typed was refused with a message: what made the user leave the box shall
-    /// not
-    ///         go on then, and the box, which holds its last accepted size again, has the focus
+    /// not go on then, and the box, which holds its last accepted size again, has the focus
     bool CommitPending();
 
     /// Gives the box of a bank's size the focus.
