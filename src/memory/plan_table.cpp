@@ -120,9 +120,9 @@ QTableView* MakePlanTable(PlanTableModel& model, QWidget* parent)
     table->horizontalHeader()->setStretchLastSection(true);
     table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     const int letter = table->fontMetrics().averageCharWidth();
-    table->setColumnWidth(kTarget, 24 * letter);
-    table->setColumnWidth(kPresent, 34 * letter);
-    table->setColumnWidth(kComing, 34 * letter);
+    table->setColumnWidth(kTarget, 21 * letter);
+    table->setColumnWidth(kPresent, 30 * letter);
+    table->setColumnWidth(kComing, 32 * letter);
     return table;
 }
 
@@ -135,7 +135,8 @@ QString PlanSummary(const CloneImage& image, const PastePlan& plan)
     const auto refused = static_cast<std::ptrdiff_t>(plan.size()) - taken;
     QString text = PlanTableModel::tr("Rows that are written: %1").arg(taken);
     if (over > 0)
-        text += PlanTableModel::tr(", of which %1 hold a channel now").arg(over);
+        text += over == 1 ? PlanTableModel::tr(", of which 1 holds a channel now")
+                          : PlanTableModel::tr(", of which %1 hold a channel now").arg(over);
     return refused > 0 ? text + PlanTableModel::tr("; refused: %1").arg(refused) : text;
 }
 
