@@ -7,6 +7,7 @@
 #include <QPalette>
 #include <QTableView>
 #include <algorithm>
+#include <utility>
 
 #include "image/display_text.h"
 #include "memory/row_names.h"
@@ -20,6 +21,21 @@ constexpr const char* kTitles[kPlanColumns] = {QT_TRANSLATE_NOOP("rqm5::PlanTabl
                                                QT_TRANSLATE_NOOP("rqm5::PlanTableModel", "Holds now"),
                                                QT_TRANSLATE_NOOP("rqm5::PlanTableModel", "What comes"),
                                                QT_TRANSLATE_NOOP("rqm5::PlanTableModel", "Remark")};
+
+constexpr int kRowsMeasured = 100;
+
+/// The columns in front are as wide as what stands in them, within bounds: reasons are long, and get the
+/// rest.
+void FitColumns(QTableView& table)
+{
+    const int letter = table.fontMetrics().averageCharWidth();
+    const QAbstractItemView& cells = table;
+    for (const auto& [column, mostLetters] : {std::pair(kTarget, 24), {kPresent, 34}, {kComing, 34}}) {
+        const int title = table.horizontalHeader()->sectionSizeHint(column);
+        const int wanted = std::max(title, cells.sizeHintForColumn(column));
+        table.setColumnWidth(column, std::min(wanted, mostLetters * letter));
+    }
+}
 
 }  // namespace
 
@@ -119,10 +135,9 @@ QTableView* MakePlanTable(PlanTableModel& model, QWidget* parent)
     table->verticalHeader()->setDefaultSectionSize(line + 6);
     table->horizontalHeader()->setStretchLastSection(true);
     table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    const int letter = table->fontMetrics().averageCharWidth();
-    table->setColumnWidth(kTarget, 21 * letter);
-    table->setColumnWidth(kPresent, 30 * letter);
-    table->setColumnWidth(kComing, 32 * letter);
+    table->horizontalHeader()->setResizeContentsPrecision(kRowsMeasured);
+    QObject::connect(&model, &QAbstractItemModel::modelReset, table, [table] { FitColumns(*table); });
+    FitColumns(*table);
     return table;
 }
 
