@@ -41,7 +41,8 @@ class PictureDialogs : public rqm5::Dialogs
     int Run(QDialog& dialog) override
     {
         dialog.show();
-        dialog.resize(dialog.sizeHint());  // the screen without a display is small
+        // The screen without a display is small.
+        dialog.resize(dialog.sizeHint().expandedTo(dialog.size()));
         Save(dialog, dialog.objectName());
         dialog.close();
         return QDialog::Rejected;

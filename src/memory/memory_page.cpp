@@ -169,9 +169,9 @@ void MemoryPage::GoToFirstRow()
     table_->SelectTableRow(1);
 }
 
-bool MemoryPage::IsFiltered() const
+RowFilter MemoryPage::Filter() const
 {
-    return filter_->IsOn();
+    return filter_->Filter();
 }
 
 /// What is gone to is shown, whatever the filter leaves.
@@ -197,12 +197,15 @@ void MemoryPage::GoToRows(const std::vector<int>& rows)
     };
     if (rows.empty())
         return;
-    if (!holdsAll(Selector())) {
+    if (!selection_.Group().Contains(rows.front())) {
         const int smallest = SelectorOfRow(Image(), rows.front());
         SelectGroup(holdsAll(smallest) ? smallest : kSelectAll);
     }
-    ShowAllIfHidden(rows);
-    table_->SelectRows(rows, 0);
+    RowList here;
+    std::ranges::copy_if(rows, std::back_inserter(here),
+                         [group = selection_.Group()](int row) { return group.Contains(row); });
+    ShowAllIfHidden(here);
+    table_->SelectRows(here, 0);
 }
 
 void MemoryPage::FocusSelector()

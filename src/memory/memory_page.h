@@ -39,10 +39,11 @@ class MemoryPage : public QWidget
     void GoToFirstRow();
 
     /// True while a filter hides rows of the group: what goes by table rows is off then.
-    bool IsFiltered() const;
+    bool IsFiltered() const { return Filter() != RowFilter::All; }
+    RowFilter Filter() const;
 
-    /// Selects memory rows: in the group shown when that holds all of them, else in the smallest group that
-    /// does.
+    /// Selects memory rows: in the group shown when that holds the first of them, else in the smallest group
+    /// that holds all.
     void GoToRows(const std::vector<int>& rows);
 
     /// Selects a memory row in its own bank or group.

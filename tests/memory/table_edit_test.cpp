@@ -9,7 +9,9 @@
 #include <QMimeData>
 #include <QTableView>
 #include <QTemporaryFile>
+#include <QTimer>
 #include <QUrl>
+#include <QWindow>
 
 #include "memory/memory_page.h"
 #include "ui/page_test.h"
@@ -55,6 +57,23 @@ class TableEditTest : public PageTest
         // The first key opens the cell, which gets the others.
         for (const char key : text)
             QTest::keyClick(QApplication::focusWidget(), key);
+    }
+
+    /// Drags from a table row to before another one, both counted from 1, with the mouse.
+    void Drag(int from, int before)
+    {
+        QWindow* window = page_.windowHandle();
+        const auto place = [this](int row) {
+            return Table().viewport()->mapTo(&page_, QPoint(60, Table().rowViewportPosition(row - 1) + 4));
+        };
+        // A drag has an event loop of its own.
+        QTimer::singleShot(0, window, [=] {
+            QTest::mouseMove(window, place(before));
+            QTest::mouseRelease(window, Qt::LeftButton, {}, place(before));
+        });
+        QTest::mousePress(window, Qt::LeftButton, {}, place(from));
+        for (const int by : {1, 3 * QApplication::startDragDistance()})
+            QTest::mouseMove(window, place(from) + QPoint(0, by));
     }
 
     std::string Selected()
@@ -250,6 +269,35 @@ TEST_F(TableEditTest, RowsMoveByKeysAndMenus)
     EXPECT_FALSE(Item("mnuEditCopy").isEnabled());
 }
 
+TEST_F(TableEditTest, ADragMovesTheSelectedRows)
+{
+    SelectRows(3, 4);
+    Drag(4, 8);
+    EXPECT_TRUE(Frequency(2) == "104.000000" && Frequency(5) == "102.000000" && Frequency(7) == "107.000000");
+    EXPECT_TRUE(LastStep() == "Move (Bank 0, 2 channels)" && Selected() == "5 6 ");
+}
+
+TEST_F(TableEditTest, WithAFilterOnTheSelectionFollowsItsRows)
+{
+    document_.Absorb([](CloneImage& image) {
+        for (const int row : {2, 4, 6, 8})
+            image.MemData(row).note = "x";
+    });
+    Find<QComboBox>(page_, QStringLiteral("cbbFilter")).setCurrentText(QStringLiteral("With a note"));
+    SelectRows(2, 4);
+    document_.Edit({}, [](CloneImage& image) { image.MemData(4).note.clear(); });
+    EXPECT_TRUE(Selected() == "1 2 " && Cursor() == std::pair(2, 0)) << "rows 6 and 8";
+    ClickCell(1, 9);
+    Press(Qt::Key_F2);
+    Press(Qt::Key_Backspace);
+    Press(Qt::Key_Return);
+    EXPECT_TRUE(image_.MemText(2, kNote).empty() && Cursor() == std::pair(0, 9)) << "row 6 stands there";
+    Press(Qt::Key_V, Qt::ControlModifier);
+    for (const char* item : {"mnuEditPaste", "mnuEditMoveUp", "mnuEditSort", "mnuEditCut"})
+        EXPECT_FALSE(Item(item).isEnabled()) << item;
+    EXPECT_TRUE(Item("mnuEditCopy").isEnabled() && Steps() == 2);
+}
+
 TEST_F(TableEditTest, TypingEditsTheCellUnderTheCursor)
 {
     ClickCell(101, 0);
@@ -328,6 +376,7 @@ TEST_F(TableEditTest, AListOrRowsThatAreDroppedArePasted)
     dialogs_.act = [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); };
     QCoreApplication::sendEvent(Table().viewport(), &drop);
     EXPECT_TRUE(drop.isAccepted());
+    QCoreApplication::processEvents();
     EXPECT_TRUE(Frequency(9) == "118.100000" && Frequency(10) == "121.900000");
 }
 
