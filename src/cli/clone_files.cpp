@@ -35,7 +35,8 @@ Status FailForRows(Console& console, const Problem& problem, const Rows& rows)
 
 void WarnOfLinks(const std::string& path, Console& console)
 {
-    const int names = NameCount(PathOf(path));
+    // The name under which the old file has just been kept is no loss.
+    const int names = NameCount(PathOf(path)) - (AreSameFile(path, path + '~') ? 1 : 0);
     if (names > 1)
         Warn(console,
              path + " is one of " + std::to_string(names) +
@@ -102,20 +103,6 @@ Problem SameFileProblem(const std::string& path)
 {
     return {kFileOpenError,
             path + ": both names are the same file, which would be replaced; give another name"};
-}
-
-std::optional<Problem> KeepOldFile(const std::string& path)
-{
-    const QString name = PathOf(path);
-    const QString kept = name + QLatin1Char('~');
-    std::string bytes;
-    auto problem = ReadWholeFile(name, bytes);
-    if (!problem)
-        problem = WriteWholeFile(kept, bytes);
-    // Who may not read the file may not read what is kept of it.
-    if (!problem)
-        QFile::setPermissions(kept, QFile::permissions(name));
-    return problem;
 }
 
 std::optional<Problem> ReplaceProblem(const Arguments& arguments, const std::string& path, FileKind kind)

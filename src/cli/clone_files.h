@@ -52,7 +52,4 @@ SaveEnd Save(const std::string& path, const CloneImage& image, Console& console,
 Status SaveRead(const std::string& path, const CloneImage& image, Console& console,
                 const std::string& aftermath = {});
 
-/// Keeps the file as it is under its name with a "~" behind it, in the place of what was kept there before.
-std::optional<Problem> KeepOldFile(const std::string& path);
-
 }  // namespace rqm5

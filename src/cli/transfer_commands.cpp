@@ -4,6 +4,7 @@
 #include "cli/command.h"
 #include "cli/receiver_session.h"
 #include "cli/values.h"
+#include "files/file_kind.h"
 #include "files/file_store.h"
 #include "image/display_text.h"
 #include "link/forwarding_observer.h"
@@ -96,13 +97,13 @@ Status ReadTwice(const ReceiverReader& reader, ReceiverSession& session, Console
 /// Saves what is not for certain what the receiver holds; the file as it was is not lost by it.
 Status SaveDoubtful(const std::string& path, const CloneImage& image, Console& console)
 {
-    const bool replaces = Exists(path);
-    if (replaces)
-        if (const auto problem = KeepOldFile(path))
+    QString kept;
+    if (Exists(path))
+        if (const auto problem = KeepOldFile(PathOf(path), kept))
             return Fail(console, {problem->text, problem->details, path + " is as it was."});
     if (SaveRead(path, image, console) == Status::Done)
         console.err << path << " is written with what came"
-                    << (replaces ? "; as it was it is kept as " + path + "~" : std::string())
+                    << (kept.isEmpty() ? "" : "; as it was it is kept as " + kept.toStdString())
                     << ". Check the cable and read again.\n";
     return Status::Failed;
 }

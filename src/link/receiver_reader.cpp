@@ -234,8 +234,10 @@ TransferResult ReceiverReader::AskAgain(std::set<int>& asked, bool& hasMended)
     }
     if (blocks_.HaveRepliesShifted())
         return Done;  // it cannot be told what came right
-    for (const auto& [i, block] : mended)
+    for (const auto& [i, block] : mended) {
         read_[i].block = block;
+        observer_.BlockRead(read_[i].Address(), block);
+    }
     hasMended = !mended.empty();
     return Done;
 }

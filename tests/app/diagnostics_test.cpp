@@ -5,6 +5,7 @@
 #include <QTableView>
 
 #include "app/diagnostics/diagnostics_panel.h"
+#include "app/diagnostics/exchange_log.h"
 #include "app/receiver_window_fixture.h"
 #include "image/channel_block.h"
 
@@ -105,6 +106,15 @@ TEST_F(DiagnosticsTest, LogKeepsExchangesAndSavesThem)
                                                     HasSubstr("\tQT~F1000R\\r\t"), EndsWith("\\r\\n\n")));
     Click("cmbSaveLog");
     EXPECT_EQ(dialogs_.asked.size(), 1U);
+    const QAbstractItemModel& log = *Find<QTableView>("tblExchanges").model();
+    EXPECT_TRUE(log.index(0, ExchangeLog::kReply)
+                    .data(Qt::ToolTipRole)
+                    .toString()
+                    .startsWith(QStringLiteral("<p>QT~F")));
+    for (std::size_t i = 0; i < ExchangeLog::kKept + 5; ++i)
+        emit window_->findChild<RadioLink*>()->Exchanged("<b>", false);
+    ASSERT_TRUE(QTest::qWaitFor([&log] { return log.rowCount() > 1; }));
+    EXPECT_EQ(log.rowCount(), static_cast<int>(ExchangeLog::kKept));
     Click("cmbClearLog");
     EXPECT_EQ(Find<QTableView>("tblExchanges").model()->rowCount(), 0);
 }

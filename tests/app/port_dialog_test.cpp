@@ -41,7 +41,7 @@ TEST_F(WindowTest, PortDialogKeepsNumberAndDeviceOnOkOnly)
             EXPECT_TRUE(path.isEnabled());
             EXPECT_EQ(found.isEnabled(), found.count() > 0);
             path.selectAll();
-            QTest::keyClicks(&path, QStringLiteral("/dev/null"));
+            QTest::keyClicks(&path, QStringLiteral(" /dev/null "));
             EXPECT_EQ(In<QLabel>(dialog, "lblDevice_2").text(), QStringLiteral("/dev/null"));
             QTest::mouseClick(&In<QPushButton>(dialog, button), Qt::LeftButton);
         };

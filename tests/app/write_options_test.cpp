@@ -160,6 +160,11 @@ TEST_F(WriteOptionsTest, VerifyNamesTheRowsThatDiffer)
     EXPECT_EQ(lines.constFirst(), QStringLiteral("Row 0 (Bank 0, channel 0)"));
     EXPECT_EQ(lines.constLast(), QStringLiteral("and 10 more"));
     EXPECT_TRUE(dialogs_.asked[0].more.endsWith(QStringLiteral("\nRow 29 (Bank 0, channel 29)")));
+
+    receiver_.SetFaults({{.kind = FaultKind::Ng, .count = 10, .after = 2}});
+    receiver_.ClearCommandLog();
+    Item("mnuWrSettings").trigger();
+    EXPECT_EQ(receiver_.CommandLog().size(), 12U) << "a write that failed is not verified";
 }
 
 TEST_F(WriteOptionsTest, WithoutItsBackupNothingIsWrittenAndACancelTellsWhatWas)

@@ -162,6 +162,7 @@ TEST_F(FileCommands, ExportAndPdfReplaceOnlyTheirOwnKind)
     PutBytes(file, DemoFile());
     ASSERT_EQ(::link(file.c_str(), link.c_str()), 0);
     ExpectFailure({"export", file, link, "--force"}, "File Open Error: ", "the same file");
+    ExpectFailure({"print", file, "--force", "--pdf", link}, "File Open Error: ", "the same file");
     EXPECT_TRUE(Has(RunProgramFile({"new", link, "--force"}).err, "one of 2 names"));
     EXPECT_EQ(Bytes(file), DemoFile());
     const std::pair<Words, const char*> cases[] = {{{"export", file}, ""},

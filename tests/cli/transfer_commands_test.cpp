@@ -8,6 +8,7 @@
 #include <csignal>
 #include <filesystem>
 #include <future>
+#include <mutex>
 
 #include "cli/command_run.h"
 #include "files/clone_file.h"
@@ -418,6 +419,33 @@ TEST_F(Transfers, CtrlCEndsThemCleanly)
             EXPECT_EQ(Bytes(file), before) << command;
             EXPECT_LT(receiver.CommandLog().size(), 100U) << command;
         }
+}
+
+TEST_F(Transfers, ASignalEndsARawReadAndUnderNohupNoRead)
+{
+    const std::tuple<int, Words, FaultKind, int, const char*> cases[] = {
+        {SIGINT, {"raw", "0040"}, FaultKind::Silent, 130, "Cancelled.\n"},
+        {SIGHUP, {"read", file, "--only=settings"}, FaultKind::None, 0, ""},
+    };
+    for (const auto& [signal, words, fault, status, text] : cases) {
+        std::promise<void> isBusy;
+        std::once_flag isFirst;
+        SimOptions options = Demo({{.kind = fault}});
+        options.baud = 9600;
+        options.onCommand = [&](const std::string&) { std::call_once(isFirst, [&] { isBusy.set_value(); }); };
+        const SimSession receiver(options);
+        QProcess process;
+        process.setChildProcessModifier([] { std::signal(SIGHUP, SIG_IGN); });
+        Words all = words;
+        all.insert(all.end(), {"--port", receiver.Device().toStdString()});
+        StartProgram(process, all);
+        ASSERT_TRUE(process.waitForStarted());
+        isBusy.get_future().wait();
+        kill(static_cast<pid_t>(process.processId()), signal);
+        const RunResult run = FinishProgram(process);
+        EXPECT_EQ(run.status, status) << words[0];
+        EXPECT_EQ(run.err, text);
+    }
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <QMap>
 #include <QTextBlock>
 
+#include "help/about_facts.h"
 #include "help/heading_anchors.h"
 #include "help/help_topics.h"
 
@@ -104,6 +105,18 @@ TEST(Manual, EveryHelpTopicAndMessageHasItsPlace)
         topics << MessageTopic(QString::fromLatin1(message));
     for (const QString& topic : topics)
         EXPECT_TRUE(LeadsSomewhere(pages, {}, topic)) << qPrintable(topic);
+}
+
+TEST(Manual, ASearchWantsAllItsWordsAndPutsTitlesFirst)
+{
+    EXPECT_EQ(SearchManual(QStringLiteral("DIAGNOSTIC")).constFirst().file, QStringLiteral("diagnostics.md"));
+    EXPECT_TRUE(SearchManual(QStringLiteral("print nosuchword")).isEmpty());
+}
+
+TEST(AboutFacts, NameThePort)
+{
+    for (const auto& [device, text] : {std::pair("/dev/x", "COM 3, /dev/x"), {"", "COM 3 (no device)"}})
+        EXPECT_EQ(AboutFacts({}, 3, QLatin1String(device)).constLast().value, QLatin1String(text));
 }
 
 }  // namespace
