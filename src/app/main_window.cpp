@@ -84,6 +84,8 @@ void frmMain::Compose()
     transfers_ = new TransferCommands(document_, link_, dialogs_, *this);
     shell_ = new TransferShell(*transfers_, *menus_, *pages_, *history_, *transferBar_, *sbStatusBar_, *this);
     sides_ = new SideWindows(document_, link_, *transfers_, dialogs_, *ports_, options_, *this);
+    compare_ = new CompareCommands(document_, link_, *transfers_, dialogs_, *pages_, *this);
+    backups_ = new BackupCommands(document_, *files_, *transfers_, *compare_, dialogs_, *this);
     recovery_ = new Recovery(document_, options_.stateFolder, options_.recoveryDelay, this);
     recovery_->SetMark([this] { return currentFile_->KnownMark(); });
 }
@@ -109,6 +111,7 @@ void frmMain::ConnectFileMenus()
     ConnectMenu("mnuFileImport", [this] { files_->mnuFileImport_Click(); });
     ConnectMenu("mnuFileExport", [this] { files_->mnuFileExport_Click(); });
     ConnectMenu("mnuFileRepair", [this] { files_->mnuFileRepair_Click(); });
+    ConnectMenu("mnuFileBackups", [this] { backups_->mnuFileBackups_Click(); });
     ConnectMenu("mnuFilePrint", [this] { sides_->mnuFilePrint_Click(); });
     ConnectMenu("mnuFileExit", [this] { close(); });
     connect(files_, &FileCommands::Asking, this, &frmMain::Asking);
@@ -150,6 +153,7 @@ void frmMain::ConnectOtherMenus()
     ConnectMenu("mnuEditFindNext", [this] { finds_->mnuEditFindNext_Click(); });
     ConnectMenu("mnuEditFindPrevious", [this] { finds_->mnuEditFindPrevious_Click(); });
     ConnectMenu("mnuToolsDuplicates", [this] { finds_->mnuToolsDuplicates_Click(); });
+    ConnectMenu("mnuToolsCompare", [this] { compare_->mnuToolsCompare_Click(); });
     ConnectMenu("mnuViewToolbar",
                 [this] { tbToolBar_->setVisible(menus_->Item("mnuViewToolbar").isChecked()); });
     ConnectMenu("mnuStatusBar", [this] {

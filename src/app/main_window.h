@@ -4,6 +4,8 @@
 #include <QTimer>
 #include <functional>
 
+#include "app/backup_commands.h"
+#include "app/compare_commands.h"
 #include "app/current_file.h"
 #include "app/edit_commands.h"
 #include "app/file_commands.h"
@@ -105,6 +107,8 @@ class frmMain : public QMainWindow
     TransferCommands* transfers_ = nullptr;
     TransferShell* shell_ = nullptr;
     SideWindows* sides_ = nullptr;
+    CompareCommands* compare_ = nullptr;
+    BackupCommands* backups_ = nullptr;
     Recovery* recovery_ = nullptr;
 };
 
