@@ -46,11 +46,10 @@ QSettings Store()
 
 std::optional<BackupFile> BackupOfPath(const QString& path)
 {
-    static const QRegularExpression pattern(QStringLiteral(
-        R"(^RQ-M5 (\d{4}-\d{2}-\d{2} \d{2}-\d{2}-\d{2}) (.+?)(?: \(\d+\))?\.RQ5$)"));
+    static const QRegularExpression pattern(
+        QStringLiteral(R"(^RQ-M5 (\d{4}-\d{2}-\d{2} \d{2}-\d{2}-\d{2}) (.+?)(?: \(\d+\))?\.RQ5$)"));
     const QRegularExpressionMatch match = pattern.match(QFileInfo(path).fileName());
-    const QDateTime time =
-        QDateTime::fromString(match.captured(1), QStringLiteral("yyyy-MM-dd HH-mm-ss"));
+    const QDateTime time = QDateTime::fromString(match.captured(1), QStringLiteral("yyyy-MM-dd HH-mm-ss"));
     const auto scope = ScopeOfName(match.captured(2));
     if (!match.hasMatch() || !time.isValid() || !scope)
         return std::nullopt;

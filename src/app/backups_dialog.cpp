@@ -64,7 +64,7 @@ dlgBackups::dlgBackups(const CloneImage& open, const QString& folder, Dialogs& d
     setWindowTitle(tr("Backups"));
     Build();
     connect(lstBackups_, &QTreeWidget::itemSelectionChanged, this, &dlgBackups::ShowButtons);
-    connect(lstBackups_, &QTreeWidget::itemActivated, this, [this] { Choose(Action::Compare); });
+    connect(lstBackups_, &QTreeWidget::itemDoubleClicked, this, [this] { Choose(Action::Compare); });
     connect(&reading_, &QTimer::timeout, this, &dlgBackups::ShowNext);
     ListBackups();
     SetFormTexts(*this);
@@ -75,8 +75,8 @@ void dlgBackups::Build()
 {
     lstBackups_->setObjectName(QStringLiteral("lstBackups"));
     lstBackups_->setAccessibleName(tr("Backups"));
-    lstBackups_->setHeaderLabels({tr("Kept"), tr("Holds"), tr("Model"), tr("Channels"),
-                                  tr("What differs from the open image")});
+    lstBackups_->setHeaderLabels(
+        {tr("Kept"), tr("Holds"), tr("Model"), tr("Channels"), tr("What differs from the open image")});
     lstBackups_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     lstBackups_->setRootIsDecorated(false);
     lstBackups_->setUniformRowHeights(true);
@@ -141,7 +141,6 @@ QPushButton* dlgBackups::AddButton(QLayout& row, const char* name, const QString
     auto* button = new QPushButton(text, this);
     button->setObjectName(QLatin1String(name));
     button->setToolTip(hint);
-    // Enter compares with the current backup.
     button->setAutoDefault(false);
     row.addWidget(button);
     return button;
@@ -156,9 +155,11 @@ QLayout* dlgBackups::BuildButtons()
     cmbBackupWrite_ =
         AddButton(*row, "cmbBackupWrite", tr("&Write Back..."),
                   tr("Write what the backup holds to the receiver; the open image stays as it is"));
-    cmbBackupDelete_ = AddButton(*row, "cmbBackupDelete", tr("&Delete..."), tr("Delete the selected backups"));
+    cmbBackupDelete_ =
+        AddButton(*row, "cmbBackupDelete", tr("&Delete..."), tr("Delete the selected backups"));
     row->addStretch(1);
     auto* close = AddButton(*row, "cmbBackupClose", tr("Close"), {});
+    cmbBackupCompare_->setDefault(true);
     connect(cmbBackupOpen_, &QPushButton::clicked, this, [this] { Choose(Action::Open); });
     connect(cmbBackupCompare_, &QPushButton::clicked, this, [this] { Choose(Action::Compare); });
     connect(cmbBackupWrite_, &QPushButton::clicked, this, [this] { Choose(Action::WriteBack); });
@@ -261,12 +262,14 @@ void dlgBackups::Delete()
     std::vector<std::string> left;
     for (const BackupFile& backup : selected)
         if (QFile file(backup.path); !file.remove())
-            left.push_back((VisibleText(backup.path) + QStringLiteral(": ") + file.errorString()).toStdString());
+            left.push_back(
+                (VisibleText(backup.path) + QStringLiteral(": ") + file.errorString()).toStdString());
     if (!left.empty())
-        dialogs_.Ask(this, {.title = tr("Backups"),
-                            .text = tr("Not every backup could be deleted. Look who may write to the folder."),
-                            .details = RowList(left, kNamed),
-                            .icon = QMessageBox::Warning});
+        dialogs_.Ask(this,
+                     {.title = tr("Backups"),
+                      .text = tr("Not every backup could be deleted. Look who may write to the folder."),
+                      .details = RowList(left, kNamed),
+                      .icon = QMessageBox::Warning});
     ListBackups();
 }
 

@@ -125,8 +125,8 @@ void CompareCommands::CompareWithLastRead()
 {
     if (const auto last = transfers_.LastFullRead())
         CompareWith({tr("the last read"),
-                     tr("Other side: the receiver as it was read at %1").arg(ShortTime(last->time)), last->image,
-                     kReceiverParts});
+                     tr("Other side: the receiver as it was read at %1").arg(ShortTime(last->time)),
+                     last->image, kReceiverParts});
 }
 
 void CompareCommands::CompareWithReceiver()
@@ -141,10 +141,10 @@ void CompareCommands::CompareWithReceiver()
     });
     if (result != TransferResult::Done)
         return;
-    CompareWith({tr("the receiver"),
-                 tr("Other side: the receiver, read just now (%1)")
-                     .arg(ShortTime(transfers_.LastFullRead()->time)),
-                 std::move(image), kReceiverParts});
+    CompareWith(
+        {tr("the receiver"),
+         tr("Other side: the receiver, read just now (%1)").arg(ShortTime(transfers_.LastFullRead()->time)),
+         std::move(image), kReceiverParts});
 }
 
 void CompareCommands::GoTo(ItemId id)

@@ -276,8 +276,7 @@ TransferResult TransferCommands::Verify(const TransferScope& scope)
 {
     std::vector<BlockDifference> differences;
     AftermathObserver observer(*this, NotVerified());
-    const TransferResult result =
-        ReadBack(ExpectedAfterWrite(Source(), scope), link_, observer, differences);
+    const TransferResult result = ReadBack(ExpectedAfterWrite(Source(), scope), link_, observer, differences);
     if (result == TransferResult::Cancelled)
         notes_ << QString::fromStdString(NotVerified());
     if (!differences.empty())

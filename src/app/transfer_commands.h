@@ -106,10 +106,10 @@ class TransferCommands : public QObject, private TransferObserver
     RadioLink& link_;
     Dialogs& dialogs_;
     QWidget& window_;
-    Transaction* reading_ = nullptr;  ///< of the read that runs
+    Transaction* reading_ = nullptr;   ///< of the read that runs
     std::optional<CloneImage> other_;  ///< what is written in the place of the open image
     std::optional<LastRead> lastRead_;
-    QStringList notes_;               ///< sentences for the end of the transfer
+    QStringList notes_;  ///< sentences for the end of the transfer
     ReceiverIdentity receiver_;
     std::pair<int, int> agreed_;  ///< models of receiver and image that the user has said yes to
     int repeated_ = 0;            ///< blocks that needed more than one attempt

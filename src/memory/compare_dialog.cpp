@@ -151,8 +151,7 @@ void dlgCompare::CompareSoon()
 void dlgCompare::CompareAgain()
 {
     soon_.stop();
-    comparison_ =
-        source_ ? rqm5::Compare(document_.Image(), source_->image, source_->parts) : Comparison();
+    comparison_ = source_ ? rqm5::Compare(document_.Image(), source_->image, source_->parts) : Comparison();
     lblCompareSource_->setText(source_ ? source_->title
                                        : tr("Choose above what the open image is compared with."));
     ListGroups();
@@ -161,8 +160,8 @@ void dlgCompare::CompareAgain()
 
 void dlgCompare::ListGroups()
 {
-    const int chosen = cbbCompareGroup_->count() > 0 ? cbbCompareGroup_->currentData().toInt()
-                                                     : CompareTree::kAllGroups;
+    const int chosen =
+        cbbCompareGroup_->count() > 0 ? cbbCompareGroup_->currentData().toInt() : CompareTree::kAllGroups;
     cbbCompareGroup_->clear();
     cbbCompareGroup_->addItem(tr("All groups"), CompareTree::kAllGroups);
     for (const DifferentItem& item : comparison_)
@@ -183,9 +182,8 @@ void dlgCompare::ShowDifferences()
     const std::size_t shown = lstCompare_->ShownItems().size();
     lblCompareCount_->setText(!source_              ? QString()
                               : comparison_.empty() ? tr("Nothing differs.")
-                              : IsFiltered()
-                                  ? tr("%1 of %2 differences").arg(shown).arg(comparison_.size())
-                                  : tr("Differences: %1").arg(shown));
+                              : IsFiltered() ? tr("%1 of %2 differences").arg(shown).arg(comparison_.size())
+                                             : tr("Differences: %1").arg(shown));
     cmbTakeAll_->setText(IsFiltered() ? tr("Take &All Shown") : tr("Take &All"));
     ShowButtons();
 }

@@ -12,8 +12,8 @@
 
 namespace rqm5 {
 
-/// Tools > Compare: what differs between the open image and another one, and the way to take it. It stays open
-/// beside the main window and follows what changes there.
+/// Tools > Compare: what differs between the open image and another one, and the way to take it. It stays
+/// open beside the main window and follows what changes there.
 class dlgCompare : public QDialog
 {
     Q_OBJECT

@@ -1,6 +1,7 @@
 #include "memory/compare_tree.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QScrollBar>
 #include <algorithm>
 
@@ -21,7 +22,7 @@ QString Text(std::string_view text)
 /// The sign before a place, for a quick eye; the words are in the last column.
 QString SignOf(const DifferentItem& item)
 {
-    return item.IsMoved()                  ? QStringLiteral("↔ ")
+    return item.IsMoved()                 ? QStringLiteral("↔ ")
            : item.isHere && !item.isThere ? QStringLiteral("− ")
            : !item.isHere && item.isThere ? QStringLiteral("+ ")
                                           : QStringLiteral("≠ ");
@@ -79,7 +80,8 @@ CompareTree::CompareTree(QWidget* parent) : QTreeWidget(parent)
     for (int i = 0; i < kWhat; ++i)
         setColumnWidth(i, letter * widths[i]);
     connect(this, &QTreeWidget::itemExpanded, this, &CompareTree::ShowFields);
-    connect(this, &QTreeWidget::itemActivated, this, &CompareTree::Activate);
+    // Not itemActivated: on some desktops that is a single click.
+    connect(this, &QTreeWidget::itemDoubleClicked, this, &CompareTree::Activate);
 }
 
 void CompareTree::ShowItems(const Comparison& comparison, int group, int filter)
@@ -135,8 +137,8 @@ void CompareTree::ShowFields(QTreeWidgetItem* item)
             continue;
         const FieldPair& pair = difference->fields.at(static_cast<std::size_t>(field));
         auto* line = new QTreeWidgetItem(item);
-        line->setText(kPlace,
-                      (pair.differs ? QStringLiteral("≠ ") : QStringLiteral("   ")) + Text(RowFieldName(field)));
+        line->setText(kPlace, (pair.differs ? QStringLiteral("≠ ") : QStringLiteral("   ")) +
+                                  Text(RowFieldName(field)));
         line->setText(kHere, Text(pair.first));
         line->setText(kThere, Text(pair.second));
         line->setData(kPlace, kIndexRole, item->data(kPlace, kIndexRole));
@@ -157,6 +159,15 @@ std::optional<ItemId> CompareTree::IdOf(const QTreeWidgetItem* item) const
 {
     const DifferentItem* difference = item != nullptr ? ItemAt(item) : nullptr;
     return difference != nullptr ? std::optional(difference->id) : std::nullopt;
+}
+
+void CompareTree::keyPressEvent(QKeyEvent* event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && currentItem() != nullptr)
+        Activate(currentItem());
+    else
+        QTreeWidget::keyPressEvent(event);
 }
 
 void CompareTree::Activate(QTreeWidgetItem* item)

@@ -39,6 +39,9 @@ class CompareTree : public QTreeWidget
     /// Double click or Enter on a row or on one of its fields.
     void PlaceChosen(rqm5::ItemId id);
 
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
   private:
     void AddGroup(const Comparison& shown, std::size_t first, std::size_t last);
     void ShowFields(QTreeWidgetItem* item);

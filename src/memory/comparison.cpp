@@ -63,7 +63,11 @@ class Comparer
 {
   public:
     Comparer(const CloneImage& here, const CloneImage& there, const ComparedParts& parts)
-        : here_(here), there_(there), parts_(parts), placesHere_(PlacesOf(here)), placesThere_(PlacesOf(there))
+        : here_(here),
+          there_(there),
+          parts_(parts),
+          placesHere_(PlacesOf(here)),
+          placesThere_(PlacesOf(there))
     {
     }
 

@@ -34,7 +34,8 @@ struct ItemId
     friend auto operator<=>(const ItemId&, const ItemId&) = default;
 };
 
-/// Groups that have no entry in the bank selector. Banks, Program Scan, Search Pass and Priority go by theirs.
+/// Groups that have no entry in the bank selector. Banks, Program Scan, Search Pass and Priority go by
+/// theirs.
 enum ComparedGroup {
     kInNoBank = kSelectPriority + 1,
     kNotInReceiver,

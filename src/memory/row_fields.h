@@ -8,8 +8,8 @@
 
 namespace rqm5 {
 
-/// The fields of a row as they are compared: its columns up to the shift frequency, whether scanning skips it,
-/// its note and its flag.
+/// The fields of a row as they are compared: its columns up to the shift frequency, whether scanning skips
+/// it, its note and its flag.
 enum RowField { kSkipField = kTextColumns, kEnabledField, kRowFields };
 
 /// What a field is called: "Mode", "Skip", "Enabled".
