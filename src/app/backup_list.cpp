@@ -3,11 +3,11 @@
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
-#include <QSettings>
 #include <algorithm>
 
 #include "app/write_options.h"
 #include "memory/bank_layout.h"
+#include "ui/settings_store.h"
 
 namespace rqm5 {
 namespace {
@@ -35,11 +35,6 @@ bool HasOthers(const CloneImage& image, RowRange rows)
         if (!rows.Contains(row) && image.MemData(row).HasChannel())
             return true;
     return false;
-}
-
-QSettings Store()
-{
-    return QSettings(QStringLiteral("Tervan"), QStringLiteral("Tervan RQ-M5 Clone Utility"));
 }
 
 }  // namespace
@@ -84,13 +79,13 @@ ComparedParts PartsHeld(const TransferScope& scope, const CloneImage& image)
 
 BackupLimit LoadBackupLimit()
 {
-    const QSettings store = Store();
+    const QSettings store = SettingsStore();
     return {std::max(0, store.value(kMost).toInt()), std::max(0, store.value(kDays).toInt())};
 }
 
 void SaveBackupLimit(const BackupLimit& limit)
 {
-    QSettings store = Store();
+    QSettings store = SettingsStore();
     store.setValue(kMost, limit.most);
     store.setValue(kDays, limit.days);
 }

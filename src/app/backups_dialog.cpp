@@ -127,9 +127,9 @@ QWidget* dlgBackups::BuildLimit()
     constexpr int kUsualNumber = 50;
     constexpr int kUsualDays = 365;
     constexpr int kMost = 9999;
-    add(chkBackupNumber_, spnBackupNumber_, "Number", tr("Keep no more &than"), tr(" backups"), limit.most,
+    add(chkBackupNumber_, spnBackupNumber_, "Number", tr("Keep no &more than"), tr(" backups"), limit.most,
         kUsualNumber, kMost);
-    add(chkBackupAge_, spnBackupAge_, "Age", tr("Keep no l&onger than"), tr(" days"), limit.days, kUsualDays,
+    add(chkBackupAge_, spnBackupAge_, "Age", tr("Keep no &longer than"), tr(" days"), limit.days, kUsualDays,
         kMost);
     row->addStretch(1);
     part->setToolTip(tr("The oldest are deleted when the next backup has been kept"));

@@ -144,7 +144,8 @@ void dlgCompare::ShowSource(Source source)
 
 void dlgCompare::CompareSoon()
 {
-    if (isVisible() && !soon_.isActive())
+    // A read changes the document all the time; what it came to is compared once.
+    if (isVisible() && !isTransferRunning_ && !soon_.isActive())
         soon_.start(0);
 }
 
@@ -230,6 +231,7 @@ void dlgCompare::SetLastRead(bool isThere)
 void dlgCompare::SetTransferRunning(bool isRunning)
 {
     isTransferRunning_ = isRunning;
+    CompareSoon();
     ShowButtons();
 }
 

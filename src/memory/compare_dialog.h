@@ -72,7 +72,7 @@ class dlgCompare : public QDialog
     Comparison comparison_;
     bool hasLastRead_ = false;
     bool isTransferRunning_ = false;
-    QTimer soon_;  ///< a read changes the document many times
+    QTimer soon_;  ///< several changes at once are one comparison
 
     CompareTree* lstCompare_;
     QLabel* lblCompareSource_;

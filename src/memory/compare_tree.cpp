@@ -43,11 +43,11 @@ QString Remark(const DifferentItem& item)
         return {};
     QStringList remarks;
     if (!item.movedTo.empty())
-        remarks << CompareTree::tr("Moved: there it is at %1").arg(Text(item.movedTo));
+        remarks << CompareTree::tr("Moved: there at %1").arg(Text(item.movedTo));
     else if (item.isHere && !item.isThere)
         remarks << CompareTree::tr("Only here");
     if (!item.movedFrom.empty())
-        remarks << CompareTree::tr("There: what is at %1 here").arg(Text(item.movedFrom));
+        remarks << CompareTree::tr("Moved: the one there is at %1 here").arg(Text(item.movedFrom));
     else if (!item.isHere && item.isThere)
         remarks << CompareTree::tr("Only there");
     if (remarks.isEmpty() || (!item.IsMoved() && item.isHere && item.isThere))

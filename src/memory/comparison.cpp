@@ -114,6 +114,8 @@ class Comparer
     {
         const Channel& mine = here_.At(id);
         const Channel& other = there_.At(id);
+        if (mine == other)
+            return false;
         Channel there = HeldRow(there_, id);
         // Nobody sees the flag of an empty row, and a read does not bring it.
         if (!mine.HasChannel() && !other.HasChannel() && !parts_.notes)
@@ -252,7 +254,7 @@ bool IsShown(const DifferentItem& item, int filter)
         default:
             break;
     }
-    return item.isHere && item.isThere && !item.IsMoved() &&
+    return item.id.IsRow() && item.isHere && item.isThere && !item.IsMoved() &&
            item.fields.at(static_cast<std::size_t>(filter - kFieldDiffers)).differs;
 }
 

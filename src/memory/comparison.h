@@ -56,7 +56,7 @@ struct DifferentItem
     std::string name;  ///< "Bank 0, channel 12", "Lamp"
     std::string here;  ///< in short
     std::string there;
-    FieldPairs fields = {};  ///< of a row: here and there
+    FieldPairs fields = {};  ///< of a row: here and there; empty for anything else
     bool isHere = true;      ///< a memory row holds a channel
     bool isThere = true;
     std::string movedTo = {};    ///< where there has the channel that is here, in words

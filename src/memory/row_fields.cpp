@@ -50,7 +50,7 @@ std::string OnOff(bool value)
 
 FieldPairs CompareFields(const Channel& first, const Channel& second, RowKind kind)
 {
-    FieldPairs pairs;
+    FieldPairs pairs(kRowFields);
     for (const Column column : kColumns)
         pairs[column] = ColumnPair(first, second, kind, column);
     pairs[kSkipField] = PairOf(OnOff(first.IsSkipped()), OnOff(second.IsSkipped()));

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "image/channel.h"
 
@@ -23,7 +23,7 @@ struct FieldPair
     bool differs = false;
 };
 
-using FieldPairs = std::array<FieldPair, kRowFields>;
+using FieldPairs = std::vector<FieldPair>;
 
 /// The fields of two rows, by their numbers. The texts are visible ones.
 FieldPairs CompareFields(const Channel& first, const Channel& second, RowKind kind);

@@ -34,7 +34,7 @@ CloneImage SomeImage()
 std::string Line(const DifferentItem& item)
 {
     std::string line = ComparedGroupName(item.group) + " > " + item.name + ":";
-    for (int field = 0; field < kRowFields && item.isHere && item.isThere; ++field)
+    for (int field = 0; field < kRowFields && item.id.IsRow() && item.isHere && item.isThere; ++field)
         if (item.fields.at(static_cast<std::size_t>(field)).differs)
             line += " " + std::string(RowFieldName(field));
     if (!item.id.IsRow() || item.isHere != item.isThere)
