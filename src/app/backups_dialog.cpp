@@ -31,6 +31,14 @@ int ChannelsIn(const CloneImage& image, RowRange rows)
     return channels;
 }
 
+/// A path below the user's home as a shell writes it.
+QString ShortPath(const QString& path)
+{
+    const QString home = QDir::homePath() + QLatin1Char('/');
+    return path.startsWith(home) ? QStringLiteral("~/") + path.mid(home.size())
+                                 : QDir::toNativeSeparators(path);
+}
+
 QString DifferencesText(const DifferenceCounts& counts)
 {
     QStringList parts;
@@ -83,12 +91,12 @@ void dlgBackups::Build()
     lstBackups_->setAllColumnsShowFocus(true);
     lstBackups_->setAlternatingRowColors(true);
     const int letter = fontMetrics().averageCharWidth();
-    const int widths[] = {20, 26, 12, 11};
+    const int widths[] = {25, 26, 12, 11};
     for (int i = 0; i < kDiffers; ++i)
         lstBackups_->setColumnWidth(i, letter * widths[i]);
     auto* folder = new ElidedLabel(Qt::ElideMiddle, this);
     folder->setTextFormat(Qt::PlainText);
-    folder->setText(tr("Folder: %1").arg(VisibleText(QDir::toNativeSeparators(folder_))));
+    folder->setText(tr("Folder: %1").arg(VisibleText(ShortPath(folder_))));
     auto* column = new QVBoxLayout(this);
     column->addWidget(folder);
     column->addWidget(lstBackups_, 1);

@@ -116,8 +116,8 @@ void CompareCommands::CompareWithFile()
     }
     const QFileInfo file(path);
     CompareWith({VisibleText(file.fileName()),
-                 tr("Other side: %1, saved %2")
-                     .arg(VisibleText(file.absoluteFilePath()), ShortTime(file.lastModified())),
+                 tr("Other side: the file %1, saved %2")
+                     .arg(VisibleText(file.fileName()), ShortTime(file.lastModified())),
                  std::move(image), ComparedParts()});
 }
 

@@ -50,7 +50,12 @@ class PictureDialogs : public rqm5::Dialogs
     int Run(QDialog& dialog) override
     {
         dialog.show();
-        dialog.resize(dialog.sizeHint());  // the screen without a display is small
+        const bool isList = dialog.objectName() == QLatin1String("dlgBackups");
+        if (!isList)
+            dialog.resize(dialog.sizeHint());  // the screen without a display is small
+        constexpr int kFiles = 9;
+        for (int i = 0; isList && i < kFiles; ++i)
+            QCoreApplication::processEvents();  // a list fills itself
         Save(dialog, dialog.objectName());
         dialog.close();
         return QDialog::Rejected;
@@ -127,20 +132,28 @@ void SaveCompare(PictureDialogs& dialogs, QWidget& window, const QTemporaryDir& 
     other.Settings().volume = 20;
     const QString file = folder.filePath(QStringLiteral("club.RQ5"));
     rqm5::SaveCloneFile(file, other);
+    const QDateTime day(QDate(2026, 1, 31), QTime(18, 5, 10));
+    QFile saved(file);
+    if (!saved.open(QIODevice::ReadWrite) || !saved.setFileTime(day, QFileDevice::FileModificationTime))
+        qFatal("no %s", qPrintable(file));
+    saved.close();
     dialogs.NextFile(file);
     Trigger(window, "mnuToolsCompare");
     auto& compare = Find<QWidget>(window, "dlgCompare");
     Find<QAbstractButton>(compare, "cmbCompareFile").click();
     auto& tree = Find<QTreeWidget>(compare, "lstCompare");
     tree.topLevelItem(0)->child(3)->setExpanded(true);
+    compare.resize(1000, 460);
     dialogs.Save(compare, QStringLiteral("compare"));
     compare.close();
 
-    rqm5::SaveWriteOptions({false, false, folder.path()});
-    const QDateTime day(QDate(2026, 1, 31), QTime(18, 5, 10));
-    rqm5::SaveCloneFile(rqm5::NewBackupPath(folder.path(), {}, day), other);
-    rqm5::SaveCloneFile(rqm5::NewBackupPath(folder.path(), {.memory = false}, day.addDays(2)), older);
-    rqm5::SaveCloneFile(rqm5::NewBackupPath(folder.path(), {}, day.addDays(9)), older);
+    const QString kept = folder.filePath(QStringLiteral("RQ-M5 backups"));
+    if (!QDir().mkpath(kept))
+        qFatal("no %s", qPrintable(kept));
+    rqm5::SaveWriteOptions({false, false, kept});
+    rqm5::SaveCloneFile(rqm5::NewBackupPath(kept, {}, day), other);
+    rqm5::SaveCloneFile(rqm5::NewBackupPath(kept, {.memory = false}, day.addDays(2)), older);
+    rqm5::SaveCloneFile(rqm5::NewBackupPath(kept, {}, day.addDays(9)), older);
     Trigger(window, "mnuFileBackups");
 }
 
@@ -180,6 +193,7 @@ int main(int argc, char** argv)
 {
     const QTemporaryDir settings;
     qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
+    qputenv("HOME", settings.path().toUtf8());
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1])))

@@ -49,7 +49,7 @@ dlgCompare::dlgCompare(Document& document, Dialogs& dialogs, QWidget* parent)
     connect(&soon_, &QTimer::timeout, this, &dlgCompare::CompareAgain);
     connect(&document, &Document::Changed, this, &dlgCompare::CompareSoon);
     connect(&document, &Document::Replaced, this, &dlgCompare::CompareSoon);
-    constexpr int kLetters = 130;
+    constexpr int kLetters = 150;
     constexpr int kLines = 32;
     resize(QSize(fontMetrics().averageCharWidth() * kLetters, fontMetrics().height() * kLines)
                .boundedTo(screen()->availableSize() - kWindowFrame));

@@ -76,7 +76,7 @@ CompareTree::CompareTree(QWidget* parent) : QTreeWidget(parent)
     // A double click goes to the row.
     setExpandsOnDoubleClick(false);
     const int letter = fontMetrics().averageCharWidth();
-    const int widths[] = {34, 30, 30};
+    const int widths[] = {34, 32, 32};
     for (int i = 0; i < kWhat; ++i)
         setColumnWidth(i, letter * widths[i]);
     connect(this, &QTreeWidget::itemExpanded, this, &CompareTree::ShowFields);

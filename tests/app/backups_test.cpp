@@ -7,6 +7,7 @@
 #include "app/receiver_window_fixture.h"
 #include "app/write_options.h"
 #include "files/file_store.h"
+#include "memory/start_image.h"
 
 namespace rqm5 {
 namespace {
