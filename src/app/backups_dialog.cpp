@@ -102,7 +102,7 @@ void dlgBackups::Build()
     column->addWidget(lstBackups_, 1);
     column->addWidget(BuildLimit());
     column->addLayout(BuildButtons());
-    constexpr int kLetters = 112;
+    constexpr int kLetters = 130;
     constexpr int kLines = 24;
     resize(QSize(letter * kLetters, fontMetrics().height() * kLines)
                .boundedTo(screen()->availableSize() - kWindowFrame));

@@ -47,7 +47,9 @@ QString Remark(const DifferentItem& item)
     else if (item.isHere && !item.isThere)
         remarks << CompareTree::tr("Only here");
     if (!item.movedFrom.empty())
-        remarks << CompareTree::tr("Moved: the one there is at %1 here").arg(Text(item.movedFrom));
+        remarks << (item.movedTo.empty() ? CompareTree::tr("Moved: the one there is at %1 here")
+                                         : CompareTree::tr("the one there is at %1 here"))
+                       .arg(Text(item.movedFrom));
     else if (!item.isHere && item.isThere)
         remarks << CompareTree::tr("Only there");
     if (remarks.isEmpty() || (!item.IsMoved() && item.isHere && item.isThere))

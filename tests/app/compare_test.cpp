@@ -33,7 +33,7 @@ TEST_F(CompareTest, ShowsBothSidesAndTakesRowsGroupsAndEverything)
 {
     Item("mnuReAll").trigger();
     CloneImage other = demo_;
-    other.MemData(0).mode = 1;
+    other.MemData(0).mode = 2;
     other.MemData(3).note = "Tower";
     other.MemData(201) = other.MemData(4);
     other.Settings().volume = 7;
@@ -48,10 +48,11 @@ TEST_F(CompareTest, ShowsBothSidesAndTakesRowsGroupsAndEverything)
     EXPECT_TRUE(mode->font(0).bold());
     EXPECT_FALSE(Row(0, 0).child(0)->font(0).bold());
 
+    Find<QComboBox>("cbbBank").setCurrentIndex(0);
     // A double click goes to the row in its group.
     emit Tree().itemDoubleClicked(&Row(1, 0), 0);
     EXPECT_EQ(Tabs().currentIndex(), static_cast<int>(Tab::Memory));
-    EXPECT_EQ(Find<QComboBox>("cbbBank").currentIndex(), 1);
+    EXPECT_EQ(Find<QComboBox>("cbbBank").currentIndex(), 3);
     emit Tree().itemDoubleClicked(&Row(2, 0), 0);
     EXPECT_EQ(Tabs().currentIndex(), static_cast<int>(Tab::Settings1));
 
@@ -90,7 +91,7 @@ TEST_F(CompareTest, ComparesWithTheReceiverAndItsLastReadWithoutTouchingTheImage
     });
     Button("cmbCompareReceiver").click();
     EXPECT_EQ(StepName(), untouched);
-    EXPECT_EQ(StatusText("lblFileState"), QString());
+    EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("New"));
     EXPECT_GT(Tree().topLevelItemCount(), 3);
     Button("cmbTakeAll").click();
     EXPECT_EQ(Count(), QStringLiteral("Nothing differs."));
