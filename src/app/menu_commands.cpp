@@ -1,6 +1,8 @@
 #include "app/menu_commands.h"
 
+#include "app/backup_commands.h"
 #include "app/clone_drop.h"
+#include "app/compare_commands.h"
 #include "app/edit_commands.h"
 #include "app/file_commands.h"
 #include "app/find_commands.h"
@@ -51,6 +53,7 @@ void MenuCommands::ConnectFileMenu()
     Connect("mnuFileImport", [this] { parts_.files->mnuFileImport_Click(); });
     Connect("mnuFileExport", [this] { parts_.files->mnuFileExport_Click(); });
     Connect("mnuFileRepair", [this] { parts_.files->mnuFileRepair_Click(); });
+    Connect("mnuFileBackups", [this] { parts_.backups->mnuFileBackups_Click(); });
     Connect("mnuFilePrint", [this] { parts_.sides->mnuFilePrint_Click(); });
     Connect("mnuFileExit", [this] { window_.close(); });
 }
@@ -78,6 +81,7 @@ void MenuCommands::ConnectOtherMenus()
     Connect("mnuEditFindNext", [this] { parts_.finds->mnuEditFindNext_Click(); });
     Connect("mnuEditFindPrevious", [this] { parts_.finds->mnuEditFindPrevious_Click(); });
     Connect("mnuToolsDuplicates", [this] { parts_.finds->mnuToolsDuplicates_Click(); });
+    Connect("mnuToolsCompare", [this] { parts_.compare->mnuToolsCompare_Click(); });
     Connect("mnuViewToolbar",
             [this] { parts_.toolBar->setVisible(parts_.menus->Item("mnuViewToolbar").isChecked()); });
     Connect("mnuStatusBar", [this] {

@@ -46,6 +46,8 @@ inline constexpr MenuItem kMenuItems[] = {
      During::Off},
     {"mnuFile", "mnuFileRepair", TEXT("&Repair..."), "",
      TEXT("Open a clone file that is refused because of its notes"), During::Off},
+    {"mnuFile", "mnuFileBackups", TEXT("&Backups..."), "",
+     TEXT("List the backups: open, compare, write back or delete them"), During::Off},
     {"mnuFile", "", "", "", "", During::Stays},
     {"mnuFile", "mnuFilePrint", TEXT("&Print..."), "Ctrl+P", TEXT("Print settings, VFO bands and channels"),
      During::Off},
@@ -99,6 +101,8 @@ inline constexpr MenuItem kMenuItems[] = {
 
     {"mnuTools", "mnuToolsDuplicates", TEXT("&Duplicates..."), "",
      TEXT("List every frequency that is stored more than once"), During::Off},
+    {"mnuTools", "mnuToolsCompare", TEXT("Com&pare..."), "Ctrl+Shift+D",
+     TEXT("Show what differs from a file, a backup or the receiver, and take it"), During::Off},
     {"mnuTools", "mnuToolsOptions", TEXT("COM Port Setup(&C)"), "",
      TEXT("Choose the serial port of the receiver's cable"), During::Off},
 

@@ -2,6 +2,7 @@
 
 #include <QDir>
 
+#include "app/backup_list.h"
 #include "app/read_option_items.h"
 #include "app/write_options.h"
 #include "files/file_store.h"
@@ -68,11 +69,21 @@ void TransferCommands::RunOther(const std::function<void()>& work)
     });
 }
 
+void TransferCommands::WriteBack(const CloneImage& image, const TransferScope& scope)
+{
+    Occupy([&] {
+        other_ = image;
+        const TransferResult result = Write(scope);
+        other_.reset();
+        return result;
+    });
+}
+
 TransferResult TransferCommands::RunOperation(Transfer transfer, int selector)
 {
     switch (transfer) {
         case Transfer::ReadAll:
-            return Read(tr("Read ALL"), [](ReceiverReader& reader) { return reader.ReadAll(); });
+            return ReadAll();
         case Transfer::ReadMemory:
             return Read(tr("Read Memory (%1)").arg(QString::fromStdString(SelectorText(selector))),
                         [selector](ReceiverReader& reader) { return reader.ReadMemory(selector); });
@@ -90,6 +101,20 @@ TransferResult TransferCommands::RunOperation(Transfer transfer, int selector)
             return Write({.settings = false, .memory = false, .banks = true});
     }
     return TransferResult::Failed;
+}
+
+TransferResult TransferCommands::ReadAll()
+{
+    const TransferResult result =
+        Read(tr("Read ALL"), [](ReceiverReader& reader) { return reader.ReadAll(); });
+    if (result == TransferResult::Done)
+        KeepLastRead(document_.Image());
+    return result;
+}
+
+void TransferCommands::KeepLastRead(const CloneImage& image)
+{
+    lastRead_ = {image, QDateTime::currentDateTime()};
 }
 
 TransferResult TransferCommands::Read(const QString& name,
@@ -177,12 +202,16 @@ TransferResult TransferCommands::KeepBackup(const TransferScope& scope, const QS
         return TransferResult::Failed;
     }
     CloneImage backup;
-    const TransferResult result = ReadBackup(document_.Image(), scope, link_, *this, backup);
+    const TransferResult result = ReadBackup(Source(), scope, link_, *this, backup);
     if (result == TransferResult::Cancelled)
         notes_ << QString::fromStdString(NothingWritten());
     if (result != TransferResult::Done)
         return result;
-    return SaveBackup(path, backup) ? TransferResult::Done : TransferResult::Failed;
+    if (!SaveBackup(path, backup))
+        return TransferResult::Failed;
+    if (const int deleted = DeleteBeyondLimit(folder, path); deleted > 0)
+        notes_ << tr("Old backups deleted: %1.").arg(deleted);
+    return TransferResult::Done;
 }
 
 bool TransferCommands::SaveBackup(const QString& path, const CloneImage& backup)
@@ -202,7 +231,7 @@ void TransferCommands::BlockRead(int address, const MemoryBlock& block)
 /// Asks before the first write to a receiver that has told to be another model.
 bool TransferCommands::MayWriteToThisModel()
 {
-    const int wanted = document_.Image().Settings().model;
+    const int wanted = Source().Settings().model;
     const int known = receiver_.Model(link_.Port().Device()).value_or(wanted);
     const std::pair models(known, wanted);
     if (known == wanted || models == agreed_)
@@ -223,9 +252,12 @@ bool TransferCommands::MayWriteToThisModel()
 
 TransferResult TransferCommands::WriteBlocks(const TransferScope& scope, bool isVerified)
 {
-    ReceiverWriter writer(document_.Image(), scope, link_, *this);
+    ReceiverWriter writer(Source(), scope, link_, *this);
     const TransferResult result = writer.Write();
-    document_.Absorb([&writer](CloneImage& image) { image = writer.Written(); });
+    if (other_)
+        other_ = writer.Written();
+    else
+        document_.Absorb([&writer](CloneImage& image) { image = writer.Written(); });
     if (writer.Plan().MayHaveSent(AreaOf(Area::Settings).address))
         receiver_.Written(writer.Written().Settings().model, link_.Port().Device());
     if (const int flags = writer.OtherFlags(); flags > 0)
@@ -244,8 +276,7 @@ TransferResult TransferCommands::Verify(const TransferScope& scope)
 {
     std::vector<BlockDifference> differences;
     AftermathObserver observer(*this, NotVerified());
-    const TransferResult result =
-        ReadBack(ExpectedAfterWrite(document_.Image(), scope), link_, observer, differences);
+    const TransferResult result = ReadBack(ExpectedAfterWrite(Source(), scope), link_, observer, differences);
     if (result == TransferResult::Cancelled)
         notes_ << QString::fromStdString(NotVerified());
     if (!differences.empty())

@@ -4,9 +4,11 @@
 #include <QStringList>
 #include <QWidget>
 #include <functional>
+#include <optional>
 #include <utility>
 
 #include "document/document.h"
+#include "link/last_read.h"
 #include "link/radio_link.h"
 #include "link/receiver_identity.h"
 #include "link/receiver_reader.h"
@@ -43,6 +45,13 @@ class TransferCommands : public QObject, private TransferObserver
     /// Cancel ends it. Does nothing while a transfer runs.
     void RunOther(const std::function<void()>& work);
 
+    /// Writes another image than the open one, which stays as it is.
+    void WriteBack(const CloneImage& image, const TransferScope& scope);
+
+    /// What the receiver held when all of it was last read in this run, if it was.
+    std::optional<LastRead> LastFullRead() const { return lastRead_; }
+    void KeepLastRead(const CloneImage& image);
+
     /// How far other work is: it begins, up to a maximum, and comes to a value.
     void ShowProgress(int maximum) { emit ProgressBegan(maximum); }
     void MoveProgress(int value) { emit ProgressAdvanced(value, value); }
@@ -70,10 +79,12 @@ class TransferCommands : public QObject, private TransferObserver
   private:
     void Occupy(const std::function<TransferResult()>& work);
     TransferResult RunOperation(Transfer transfer, int selector);
+    TransferResult ReadAll();
     TransferResult Read(const QString& name, const std::function<TransferResult(ReceiverReader&)>& read);
     TransferResult ReadTwice(const std::vector<ExpectedBlock>& blocks);
     void NameUnreadable(const std::vector<std::string>& names);
     TransferResult Write(const TransferScope& scope);
+    const CloneImage& Source() const { return other_ ? *other_ : document_.Image(); }
     TransferResult KeepBackup(const TransferScope& scope, const QString& folder);
     bool MayWriteToThisModel();
     TransferResult WriteBlocks(const TransferScope& scope, bool isVerified);
@@ -95,8 +106,10 @@ class TransferCommands : public QObject, private TransferObserver
     RadioLink& link_;
     Dialogs& dialogs_;
     QWidget& window_;
-    Transaction* reading_ = nullptr;  ///< of the read that runs
-    QStringList notes_;               ///< sentences for the end of the transfer
+    Transaction* reading_ = nullptr;   ///< of the read that runs
+    std::optional<CloneImage> other_;  ///< what is written in the place of the open image
+    std::optional<LastRead> lastRead_;
+    QStringList notes_;  ///< sentences for the end of the transfer
     ReceiverIdentity receiver_;
     std::pair<int, int> agreed_;  ///< models of receiver and image that the user has said yes to
     int repeated_ = 0;            ///< blocks that needed more than one attempt

@@ -3,6 +3,8 @@
 #include <QMenuBar>
 #include <QVBoxLayout>
 
+#include "app/backup_commands.h"
+#include "app/compare_commands.h"
 #include "app/current_file.h"
 #include "app/edit_commands.h"
 #include "app/file_commands.h"
@@ -67,6 +69,9 @@ void MakeCommands(Document& document, RadioLink& link, Dialogs& dialogs, const S
                                     *parts.transferBar, *parts.statusBar, window);
     parts.sides = new SideWindows(document, link, *parts.transfers, dialogs, *parts.ports, *parts.pages,
                                   options, window);
+    parts.compare = new CompareCommands(document, link, *parts.transfers, dialogs, *parts.pages, window);
+    parts.backups =
+        new BackupCommands(document, *parts.files, *parts.transfers, *parts.compare, dialogs, window);
     parts.recovery = new Recovery(document, options.stateFolder, options.recoveryDelay, &window);
     parts.recovery->SetMark([files = parts.currentFile] { return files->KnownMark(); });
     parts.recentFiles = new RecentFiles(parts.menus->Menu("mnuFile"), &window);

@@ -9,6 +9,8 @@
 
 namespace rqm5 {
 
+class BackupCommands;
+class CompareCommands;
 class CurrentFile;
 class EditCommands;
 class FileCommands;
@@ -51,6 +53,8 @@ struct WindowParts
     TransferCommands* transfers = nullptr;
     TransferShell* shell = nullptr;
     SideWindows* sides = nullptr;
+    CompareCommands* compare = nullptr;
+    BackupCommands* backups = nullptr;
     Recovery* recovery = nullptr;
     RecentFiles* recentFiles = nullptr;
 };

@@ -25,7 +25,9 @@ QString UsualFolder()
         .filePath(QStringLiteral("RQ-M5 backups"));
 }
 
-QString NameOf(const TransferScope& scope)
+}  // namespace
+
+QString NameOfScope(const TransferScope& scope)
 {
     if (scope.settings)
         return scope.memory ? QStringLiteral("all") : QStringLiteral("settings");
@@ -33,8 +35,6 @@ QString NameOf(const TransferScope& scope)
         return QStringLiteral("banks");
     return QStringLiteral("memory ") + QString::fromStdString(SelectorText(scope.selector)).toLower();
 }
-
-}  // namespace
 
 WriteOptions LoadWriteOptions()
 {
@@ -54,8 +54,8 @@ void SaveWriteOptions(const WriteOptions& options)
 
 QString NewBackupPath(const QString& folder, const TransferScope& scope, const QDateTime& now)
 {
-    const QString name =
-        QStringLiteral("RQ-M5 %1 %2").arg(now.toString(QStringLiteral("yyyy-MM-dd HH-mm-ss")), NameOf(scope));
+    const QString name = QStringLiteral("RQ-M5 %1 %2")
+                             .arg(now.toString(QStringLiteral("yyyy-MM-dd HH-mm-ss")), NameOfScope(scope));
     QString path = QDir(folder).filePath(name + QStringLiteral(".RQ5"));
     for (int copy = 2; QFileInfo::exists(path); ++copy)
         path = QDir(folder).filePath(QStringLiteral("%1 (%2).RQ5").arg(name).arg(copy));

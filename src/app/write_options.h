@@ -18,6 +18,9 @@ struct WriteOptions
 WriteOptions LoadWriteOptions();
 void SaveWriteOptions(const WriteOptions& options);
 
+/// What a backup of a scope holds, as it stands in its name: "all", "settings", "banks", "memory bank 3".
+QString NameOfScope(const TransferScope& scope);
+
 /// The path of a new backup: date, time and what it holds are in its name. No file of that name exists.
 QString NewBackupPath(const QString& folder, const TransferScope& scope, const QDateTime& now);
 

@@ -30,6 +30,8 @@ constexpr Topic kTopics[] = {
     {"MSFlexGrid1", "editing-channels.md"},
     {"txtFind", "finding-channels.md#the-find-box"},
     {"cbbFilter", "finding-channels.md#showing-some-of-the-rows"},
+    {"dlgCompare", "comparing.md"},
+    {"dlgBackups", "backups-and-recovery.md#the-list-of-backups"},
     {"dlgDuplicates", "finding-channels.md#duplicates"},
     {"frmBankMove", "channels-and-banks.md#when-a-new-size-moves-channels"},
     {"cbbBank", "channels-and-banks.md#how-the-memory-is-divided"},

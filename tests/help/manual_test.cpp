@@ -101,6 +101,10 @@ TEST(Manual, EveryHelpTopicAndMessageHasItsPlace)
           "The program ended before your changes were saved. They were kept.",
           "The receiver does not hold what was written. Write again.",
           "The receiver is another model. Write to it all the same?",
+          "Write this backup to the receiver?",
+          "Delete the selected backups? They",
+          "Not every backup could be deleted.",
+          "The banks would hold more than 1000 channels together.",
           "This link leads out of the manual. Open it in the web browser?"})
         topics << MessageTopic(QString::fromLatin1(message));
     for (const QString& topic : topics)

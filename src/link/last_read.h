@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QDateTime>
+
+#include "image/clone_image.h"
+
+namespace rqm5 {
+
+/// What the receiver held when all of it was last read in this run.
+struct LastRead
+{
+    CloneImage image;
+    QDateTime time;
+};
+
+}  // namespace rqm5
