@@ -42,7 +42,6 @@ class FileCommands : public QObject
     void OpenDropped(const QString& path);
     bool mnuFileSave_Click();    ///< \return true when the file was written
     bool mnuFileSaveAs_Click();  ///< \return true when the file was written
-    void mnuFileImport_Click();
     void mnuFileExport_Click();
     void mnuFileRepair_Click();
 
@@ -51,10 +50,9 @@ class FileCommands : public QObject
 
   signals:
     void NewDone();
-    void NothingImported();  ///< the file held no record of this receiver; nothing has changed
-    void Asking();           ///< a message or question is about to be shown
+    void Asking();  ///< a message or question is about to be shown
 
-    /// What there is to say of a save or an import that went well.
+    /// What there is to say of a save that went well.
     void Noted(const QString& text);
 
     /// The current file cannot bring back notes, or, with an empty text, it can again.

@@ -15,6 +15,7 @@
 #include "app/clone_drop.h"
 #include "app/file_news.h"
 #include "app/placement.h"
+#include "app/range_news.h"
 #include "memory/start_image.h"
 #include "ui/form_texts.h"
 #include "ui/icons.h"
@@ -74,6 +75,7 @@ void frmMain::Compose()
     warnings_ = new StandingWarnings(*sbStatusBar_, *messageBar_);
     currentFile_ = new CurrentFile(document_, this);
     files_ = new FileCommands(document_, *currentFile_, dialogs_, *this);
+    imports_ = new ImportCommands(document_, *currentFile_, dialogs_, *this);
     new FileNews(document_, *currentFile_, *files_, *messageBar_);
     edits_ = new EditCommands(document_, dialogs_, *pages_, *this);
     history_ = new HistoryCommands(document_, *menus_, *this);
@@ -106,8 +108,9 @@ void frmMain::ConnectFileMenus()
     ConnectMenu("mnuFileOpen", [this] { files_->mnuFileOpen_Click(); });
     ConnectMenu("mnuFileSave", [this] { files_->mnuFileSave_Click(); });
     ConnectMenu("mnuFileSaveAs", [this] { files_->mnuFileSaveAs_Click(); });
-    ConnectMenu("mnuFileImport", [this] { files_->mnuFileImport_Click(); });
+    ConnectMenu("mnuFileImport", [this] { imports_->mnuFileImport_Click(); });
     ConnectMenu("mnuFileExport", [this] { files_->mnuFileExport_Click(); });
+    ConnectMenu("mnuFileExportList", [this] { imports_->mnuFileExportList_Click(); });
     ConnectMenu("mnuFileRepair", [this] { files_->mnuFileRepair_Click(); });
     ConnectMenu("mnuFilePrint", [this] { sides_->mnuFilePrint_Click(); });
     ConnectMenu("mnuFileExit", [this] { close(); });
@@ -116,9 +119,8 @@ void frmMain::ConnectFileMenus()
     connect(files_, &FileCommands::NotesLost, this,
             [this](const QString& text) { warnings_->Set(StandingWarnings::Kind::Notes, text); });
     connect(files_, &FileCommands::NewDone, this, [this] { pages_->Memory().SelectGroup(kSelectAll); });
-    connect(files_, &FileCommands::NothingImported, this, [this] {
-        sbStatusBar_->ShowNote(tr("Nothing was imported: the file holds no record of this receiver."));
-    });
+    connect(imports_, &ImportCommands::Asking, this, &frmMain::Asking);
+    ConnectImportNotes(*imports_, *sbStatusBar_, *messageBar_);
 }
 
 void frmMain::ConnectTransferMenus()
@@ -133,6 +135,8 @@ void frmMain::ConnectTransferMenus()
     ConnectMenu("mnuWrBackup", [this] { writeOptions_->Keep(); });
     ConnectMenu("mnuWrVerify", [this] { writeOptions_->Keep(); });
     ConnectMenu("mnuWrBackupFolder", [this] { writeOptions_->mnuWrBackupFolder_Click(); });
+    connect(transfers_, &TransferCommands::OutOfRange, messageBar_,
+            [this](const QStringList& rows) { TellOutOfRange(rows, *messageBar_); });
     connect(transfers_, &TransferCommands::Started, messageBar_, [this] { messageBar_->setEnabled(false); });
     connect(transfers_, &TransferCommands::Ended, this, [this] {
         messageBar_->setEnabled(true);

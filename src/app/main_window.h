@@ -9,6 +9,7 @@
 #include "app/file_commands.h"
 #include "app/find_commands.h"
 #include "app/history_commands.h"
+#include "app/import_commands.h"
 #include "app/menus.h"
 #include "app/pages.h"
 #include "app/port_commands.h"
@@ -96,6 +97,7 @@ class frmMain : public QMainWindow
     CurrentFile* currentFile_ = nullptr;
     StandingWarnings* warnings_ = nullptr;
     FileCommands* files_ = nullptr;
+    ImportCommands* imports_ = nullptr;
     EditCommands* edits_ = nullptr;
     HistoryCommands* history_ = nullptr;
     FindCommands* finds_ = nullptr;

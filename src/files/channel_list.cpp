@@ -38,7 +38,7 @@ bool HasExponent(const std::string& text)
 class RecordReader
 {
   public:
-    explicit RecordReader(const ChannelTable& table) : table_(table), columns_(table.columns) {}
+    explicit RecordReader(const ListTable& table) : table_(table), columns_(table.columns) {}
 
     /// \return nothing for a record without any channel, such as an empty row of a table
     std::optional<ListedChannel> Read(const ListRecord& record);
@@ -53,7 +53,7 @@ class RecordReader
     void TakePlace(int part, const std::string& text);
     void LeaveOut(int part, const std::string& text);
 
-    const ChannelTable& table_;
+    const ListTable& table_;
     const std::vector<ListColumn>& columns_;
     ListedChannel row_;
     bool saysSomething_ = false;
@@ -236,10 +236,10 @@ std::vector<ListedChannel> Refused(const std::vector<ListRecord>& records, const
 
 }  // namespace
 
-ChannelTable ReadTable(std::string_view bytes, const ListForm& form)
+ListTable ReadTable(std::string_view bytes, const ListForm& form)
 {
     DecodedList decoded = DecodeList(bytes, form.encoding);
-    ChannelTable table = FindColumns(decoded.text, kMostRecords, form);
+    ListTable table = FindColumns(decoded.text, kMostRecords, form);
     table.encoding = std::move(decoded.encoding);
     return table;
 }
@@ -251,7 +251,7 @@ bool MayBeList(std::string_view bytes)
            text.find_first_not_of(" \t\r\n,;\"") != std::string::npos;
 }
 
-ListForm FormOf(const ChannelTable& table)
+ListForm FormOf(const ListTable& table)
 {
     ListForm form;
     form.encoding = table.encoding;
@@ -268,7 +268,7 @@ ListForm FormOf(const ChannelTable& table)
     return form;
 }
 
-std::vector<ListedChannel> ReadChannels(const ChannelTable& table)
+std::vector<ListedChannel> ReadChannels(const ListTable& table)
 {
     std::vector<ListedChannel> rows;
     if (!table.problem.empty()) {

@@ -31,7 +31,7 @@ struct ListedChannel
 };
 
 /// The channels of a table. A row that is no channel comes with the reason.
-std::vector<ListedChannel> ReadChannels(const ChannelTable& table);
+std::vector<ListedChannel> ReadChannels(const ListTable& table);
 
 /// Reads channels out of the text of a spreadsheet, a web page or a file: fields separated by tabs,
 /// semicolons or commas, under titles in any order or without; or frequencies alone, one a line. In any

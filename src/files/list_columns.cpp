@@ -141,7 +141,7 @@ bool HasTwoKindsOfComma(const std::vector<ListRecord>& records, const std::vecto
 }
 
 /// The sign that begins decimals in the columns of frequencies, where they agree.
-DecimalSign LikelyDecimals(const ChannelTable& table)
+DecimalSign LikelyDecimals(const ListTable& table)
 {
     DecimalSign sign = DecimalSign::Unknown;
     for (const ListRecord& record : table.records)
@@ -164,7 +164,7 @@ bool AreCsvRecords(const std::vector<ListRecord>& records)
     return first.size() == kCsvTitles.size() && first.front() == kCsvModel;
 }
 
-std::vector<ListColumn> FoundColumns(const ChannelTable& table)
+std::vector<ListColumn> FoundColumns(const ListTable& table)
 {
     if (table.hasTitles)
         return ColumnsUnder(table.titles);
@@ -176,7 +176,7 @@ std::vector<ListColumn> FoundColumns(const ChannelTable& table)
 }
 
 /// The place of a column that somebody names by its title or its number.
-std::size_t PlaceOf(const ChannelTable& table, const std::string& name)
+std::size_t PlaceOf(const ListTable& table, const std::string& name)
 {
     const auto found = std::ranges::find(table.titles, name);
     if (found != table.titles.end())
@@ -188,7 +188,7 @@ std::size_t PlaceOf(const ChannelTable& table, const std::string& name)
 }
 
 /// What somebody says of columns goes before what was found out, there and for other columns of that kind.
-void Assign(const ListForm& form, ChannelTable& table)
+void Assign(const ListForm& form, ListTable& table)
 {
     for (const ColumnWish& wish : form.columns) {
         const std::size_t place = PlaceOf(table, wish.name);
@@ -203,7 +203,7 @@ void Assign(const ListForm& form, ChannelTable& table)
     }
 }
 
-void TakeTitles(const ListForm& form, ChannelTable& table)
+void TakeTitles(const ListForm& form, ListTable& table)
 {
     table.hasTitles =
         !table.records.empty() && form.hasTitles.value_or(AreTitles(table.records.front().fields));
@@ -214,7 +214,7 @@ void TakeTitles(const ListForm& form, ChannelTable& table)
     table.records.erase(table.records.begin());
 }
 
-std::string ProblemOf(const ChannelTable& table)
+std::string ProblemOf(const ListTable& table)
 {
     if (!table.hasTitles && table.delimiter == ',' && HasTwoKindsOfComma(table.records, table.columns))
         return "commas stand for decimals and between fields; separate the fields by tabs";
@@ -230,9 +230,9 @@ bool HasColumn(const std::vector<ListColumn>& columns, int part)
     return FindColumn(columns, part) != columns.end();
 }
 
-ChannelTable FindColumns(std::string_view text, std::size_t mostRecords, const ListForm& form)
+ListTable FindColumns(std::string_view text, std::size_t mostRecords, const ListForm& form)
 {
-    ChannelTable table;
+    ListTable table;
     table.delimiter = form.delimiter.value_or(DelimiterOf(text));
     table.records = SplitList(text, table.delimiter, mostRecords + 1);
     if (table.records.size() > mostRecords) {

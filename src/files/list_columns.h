@@ -9,7 +9,7 @@ namespace rqm5 {
 
 /// Finds out how the text of a list is written.
 /// \param mostRecords  records behind that many are not looked at
-ChannelTable FindColumns(std::string_view text, std::size_t mostRecords, const ListForm& form);
+ListTable FindColumns(std::string_view text, std::size_t mostRecords, const ListForm& form);
 
 bool HasColumn(const std::vector<ListColumn>& columns, int part);
 

@@ -28,7 +28,7 @@ struct ListForm
 };
 
 /// A list cut into records, without its titles, and how it is written.
-struct ChannelTable
+struct ListTable
 {
     std::string encoding;
     char delimiter = '\0';
@@ -48,13 +48,13 @@ inline constexpr std::size_t kMostColumns = 64;
 
 /// Cuts a list and finds out how it is written: by its titles, else by what most of a column looks like.
 /// Never fails.
-ChannelTable ReadTable(std::string_view bytes, const ListForm& form = {});
+ListTable ReadTable(std::string_view bytes, const ListForm& form = {});
 
 /// True when a file may be a list at all: a text with something in it, and no clone file.
 bool MayBeList(std::string_view bytes);
 
 /// The form that says of a table everything that was found out; another list of its kind is read the same
 /// way with it.
-ListForm FormOf(const ChannelTable& table);
+ListForm FormOf(const ListTable& table);
 
 }  // namespace rqm5

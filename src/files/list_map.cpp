@@ -198,7 +198,7 @@ std::string_view DecimalName(DecimalSign sign)
     return sign == DecimalSign::Unknown ? "each number by itself" : NameOf(kDecimals, sign);
 }
 
-std::string DescribeTable(const ChannelTable& table)
+std::string DescribeTable(const ListTable& table)
 {
     std::string text = table.encoding + "; fields: " + std::string(DelimiterName(table.delimiter)) +
                        "; decimals: " + std::string(DecimalName(table.decimals));

@@ -28,6 +28,6 @@ std::string_view DelimiterName(char delimiter);
 std::string_view DecimalName(DecimalSign sign);
 
 /// One sentence: the encoding, the delimiter, the decimal sign, and what each column was taken for.
-std::string DescribeTable(const ChannelTable& table);
+std::string DescribeTable(const ListTable& table);
 
 }  // namespace rqm5

@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
@@ -100,6 +101,14 @@ dlgImport::dlgImport(const CloneImage& image, const QString& fileName, std::stri
     ReadList();
     resize(kUsualSize.boundedTo(screen()->availableSize() - kWindowFrame));
     ok_->setFocus();
+}
+
+/// Enter behind the name of a mapping keeps it; it does not import at once.
+void dlgImport::keyPressEvent(QKeyEvent* event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isEnter || !form_->isAncestorOf(focusWidget()))
+        QDialog::keyPressEvent(event);
 }
 
 QTableView* dlgImport::MakeSourceTable()

@@ -28,6 +28,9 @@ class dlgImport : public QDialog
 
     const PastePlan& Plan() const { return plan_; }
 
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
   private:
     QTableView* MakeSourceTable();
     void ReadList();
@@ -38,7 +41,7 @@ class dlgImport : public QDialog
 
     const CloneImage& image_;
     std::string bytes_;
-    ChannelTable table_;
+    ListTable table_;
     std::vector<ListedChannel> channels_;
     PastePlan plan_;
     ListTableModel source_;

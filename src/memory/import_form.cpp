@@ -6,6 +6,7 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
 
@@ -130,6 +131,7 @@ ImportForm::ImportForm(QWidget* parent)
     });
     connect(cbbImportMapping_, &QComboBox::activated, this, &ImportForm::cbbImportMapping_Click);
     connect(cbbImportMapping_, &QComboBox::editTextChanged, this, &ImportForm::ShowMappingState);
+    connect(cbbImportMapping_->lineEdit(), &QLineEdit::returnPressed, cmbImportKeep_, &QPushButton::click);
     connect(cmbImportKeep_, &QPushButton::clicked, this, &ImportForm::cmbImportKeep_Click);
     connect(cmbImportForget_, &QPushButton::clicked, this, &ImportForm::cmbImportForget_Click);
 }
@@ -151,7 +153,8 @@ void ImportForm::ShowMappingState()
     cmbImportForget_->setEnabled(!name.isEmpty() && cbbImportMapping_->findText(name) > 0);
 }
 
-/// Another encoding leaves the columns where they are; other fields do not.
+/// In another encoding titles read otherwise, and other delimiters make other fields: what was said of the
+/// columns is no longer about them.
 void ImportForm::TakeChoices()
 {
     form_.encoding = cbbImportEncoding_->currentIndex() > 0 ? cbbImportEncoding_->currentText().toStdString()
@@ -174,7 +177,7 @@ void ImportForm::Assign(const std::vector<ColumnWish>& columns)
     emit Changed();
 }
 
-void ImportForm::ShowTable(const ChannelTable& table)
+void ImportForm::ShowTable(const ListTable& table)
 {
     found_ = FormOf(table);
     cbbImportEncoding_->setCurrentIndex(

@@ -25,7 +25,7 @@ class ImportForm : public QWidget
     void Assign(const std::vector<ColumnWish>& columns);
 
     /// Shows how a list was read with the form.
-    void ShowTable(const ChannelTable& table);
+    void ShowTable(const ListTable& table);
 
   signals:
     void Changed();  ///< the list is to be read again

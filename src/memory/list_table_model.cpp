@@ -4,7 +4,7 @@
 
 namespace rqm5 {
 
-QString ColumnTitle(const ChannelTable& table, int column)
+QString ColumnTitle(const ListTable& table, int column)
 {
     const auto place = static_cast<std::size_t>(column);
     return place < table.titles.size() && !table.titles[place].empty()
@@ -12,7 +12,7 @@ QString ColumnTitle(const ChannelTable& table, int column)
                : ListTableModel::tr("Column %1").arg(column + 1);
 }
 
-void ListTableModel::ShowTable(const ChannelTable& table)
+void ListTableModel::ShowTable(const ListTable& table)
 {
     beginResetModel();
     table_ = table;

@@ -14,7 +14,7 @@ class ListTableModel : public QAbstractTableModel
   public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    void ShowTable(const ChannelTable& table);
+    void ShowTable(const ListTable& table);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -22,10 +22,10 @@ class ListTableModel : public QAbstractTableModel
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   private:
-    ChannelTable table_;
+    ListTable table_;
 };
 
 /// The title of a column, or its number where the list has none.
-QString ColumnTitle(const ChannelTable& table, int column);
+QString ColumnTitle(const ListTable& table, int column);
 
 }  // namespace rqm5
