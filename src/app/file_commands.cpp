@@ -202,26 +202,6 @@ void FileCommands::mnuFileExport_Click()
                 NotesThatLookLikeFormulas(document_.Image()));
 }
 
-void FileCommands::mnuFileImport_Click()
-{
-    const QString path = dialogs_.ChooseFile(&window_, FileChoice::OpenCsv, QString());
-    if (path.isEmpty())
-        return;
-    CloneImage image = document_.Image();
-    CsvTaken taken;
-    FileMark mark;
-    if (!Report(ImportCsv(path, image, taken, &mark)))
-        return;
-    if (taken.rows == 0) {
-        emit NothingImported();
-        return;
-    }
-    currentFile_.Know(Absolute(path), mark);
-    document_.Import(tr("Import (%1)").arg(VisibleText(QFileInfo(path).fileName())), image, Absolute(path));
-    if (const QString note = ImportNote(NotesThatDoNotSurvive(image)); !note.isEmpty())
-        emit Noted(note);
-}
-
 void FileCommands::mnuFileRepair_Click()
 {
     if (!MayLoseChanges())

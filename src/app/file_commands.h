@@ -42,7 +42,6 @@ class FileCommands : public QObject
     void OpenAnother(const QString& path);
     bool mnuFileSave_Click();    ///< \return true when the file was written
     bool mnuFileSaveAs_Click();  ///< \return true when the file was written
-    void mnuFileImport_Click();
     void mnuFileExport_Click();
     void mnuFileRepair_Click();
 
@@ -53,10 +52,9 @@ class FileCommands : public QObject
     void NewDone();
     void Used(const QString& path);     ///< this clone file has been opened or saved
     void Refused(const QString& path);  ///< this file could not be opened
-    void NothingImported();             ///< the file held no record of this receiver; nothing has changed
     void Asking();                      ///< a message or question is about to be shown
 
-    /// What there is to say of a save or an import that went well.
+    /// What there is to say of a save that went well.
     void Noted(const QString& text);
 
     /// The current file cannot bring back notes, or, with an empty text, it can again.

@@ -12,6 +12,7 @@
 #include "app/edit_commands.h"
 #include "app/file_commands.h"
 #include "app/history_commands.h"
+#include "app/import_commands.h"
 #include "app/menu_commands.h"
 #include "app/menus.h"
 #include "app/pages.h"
@@ -104,6 +105,7 @@ void frmMain::ConnectQuestions()
 {
     connect(&parts_.pages->Tabs(), &TabStrip::Switched, this, &frmMain::TabStrip1_Click);
     connect(parts_.files, &FileCommands::Asking, this, &frmMain::Asking);
+    connect(parts_.imports, &ImportCommands::Asking, this, &frmMain::Asking);
     connect(parts_.recovery, &Recovery::Asking, this, &frmMain::Asking);
     connect(parts_.transfers, &TransferCommands::Started, this, [this] { SetTransferRunning(true); });
     connect(parts_.transfers, &TransferCommands::Ended, this, [this] { SetTransferRunning(false); });

@@ -7,9 +7,11 @@
 #include "app/file_commands.h"
 #include "app/find_commands.h"
 #include "app/history_commands.h"
+#include "app/import_commands.h"
 #include "app/menus.h"
 #include "app/pages.h"
 #include "app/port_commands.h"
+#include "app/range_news.h"
 #include "app/read_option_items.h"
 #include "app/recent_files.h"
 #include "app/side_windows.h"
@@ -50,8 +52,9 @@ void MenuCommands::ConnectFileMenu()
     Connect("mnuFileOpen", [this] { parts_.files->mnuFileOpen_Click(); });
     Connect("mnuFileSave", [this] { parts_.files->mnuFileSave_Click(); });
     Connect("mnuFileSaveAs", [this] { parts_.files->mnuFileSaveAs_Click(); });
-    Connect("mnuFileImport", [this] { parts_.files->mnuFileImport_Click(); });
+    Connect("mnuFileImport", [this] { parts_.imports->mnuFileImport_Click(); });
     Connect("mnuFileExport", [this] { parts_.files->mnuFileExport_Click(); });
+    Connect("mnuFileExportList", [this] { parts_.imports->mnuFileExportList_Click(); });
     Connect("mnuFileRepair", [this] { parts_.files->mnuFileRepair_Click(); });
     Connect("mnuFileBackups", [this] { parts_.backups->mnuFileBackups_Click(); });
     Connect("mnuFilePrint", [this] { parts_.sides->mnuFilePrint_Click(); });
@@ -112,13 +115,13 @@ void MenuCommands::ConnectFiles()
             [this](const QString& text) { parts_.warnings->Set(StandingWarnings::Kind::Notes, text); });
     connect(parts_.files, &FileCommands::NewDone, this,
             [this] { parts_.pages->Memory().SelectGroup(kSelectAll); });
-    connect(parts_.files, &FileCommands::NothingImported, this, [this] {
-        parts_.statusBar->ShowNote(tr("Nothing was imported: the file holds no record of this receiver."));
-    });
+    ConnectImportNotes(*parts_.imports, *parts_.statusBar, *parts_.messageBar);
 }
 
 void MenuCommands::ConnectNews()
 {
+    connect(parts_.transfers, &TransferCommands::OutOfRange, parts_.messageBar,
+            [this](const QStringList& rows) { TellOutOfRange(rows, *parts_.messageBar); });
     parts_.sides->MarkDiagnostics(parts_.menus->Item("mnuViewDiagnostics"));
     connect(&parts_.pages->Memory(), &MemoryPage::HintChanged, parts_.statusBar, [this] {
         // What the keyboard has just gone to, wherever the pointer rests.

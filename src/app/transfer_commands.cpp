@@ -10,6 +10,7 @@
 #include "link/forwarding_observer.h"
 #include "link/line_notes.h"
 #include "link/memory_map.h"
+#include "link/range_check.h"
 #include "link/receiver_checks.h"
 #include "link/receiver_writer.h"
 #include "memory/bank_layout.h"
@@ -182,6 +183,10 @@ TransferResult TransferCommands::Write(const TransferScope& scope)
 {
     const WriteOptions options = LoadWriteOptions();
     auto result = TransferResult::Done;
+    QStringList outside;
+    for (const std::string& row : RowsWrittenOutOfRange(document_.Image(), scope))
+        outside << QString::fromStdString(row);
+    emit OutOfRange(outside);
     if (options.keepsBackup)
         result = KeepBackup(scope, options.backupFolder);
     if (result == TransferResult::Done && !MayWriteToThisModel())

@@ -72,6 +72,9 @@ class TransferCommands : public QObject, private TransferObserver
     void ProgressAdvanced(int value, int row);
     void GroupWanted(int selector);  ///< an "all" operation moves the bank selector
 
+    /// A write begins that sends frequencies outside the receiver's range: the rows, one each.
+    void OutOfRange(const QStringList& rows);
+
     /// What there is to say about a transfer without a message, once it has ended: that nothing was written,
     /// that the receiver was read back and agrees.
     void Noted(const QString& text);

@@ -11,6 +11,7 @@
 #include "app/file_news.h"
 #include "app/find_commands.h"
 #include "app/history_commands.h"
+#include "app/import_commands.h"
 #include "app/menus.h"
 #include "app/pages.h"
 #include "app/port_commands.h"
@@ -57,6 +58,7 @@ void MakeCommands(Document& document, RadioLink& link, Dialogs& dialogs, const S
     parts.warnings = new StandingWarnings(*parts.statusBar, *parts.messageBar);
     parts.currentFile = new CurrentFile(document, &window);
     parts.files = new FileCommands(document, *parts.currentFile, dialogs, window);
+    parts.imports = new ImportCommands(document, *parts.currentFile, dialogs, window);
     new FileNews(document, *parts.currentFile, *parts.files, *parts.messageBar);
     parts.edits = new EditCommands(document, dialogs, *parts.pages, window);
     parts.history = new HistoryCommands(document, *parts.menus, window);

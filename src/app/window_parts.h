@@ -16,6 +16,7 @@ class EditCommands;
 class FileCommands;
 class FindCommands;
 class HistoryCommands;
+class ImportCommands;
 class Menus;
 class MessageBar;
 class Pages;
@@ -44,6 +45,7 @@ struct WindowParts
     CurrentFile* currentFile = nullptr;
     StandingWarnings* warnings = nullptr;
     FileCommands* files = nullptr;
+    ImportCommands* imports = nullptr;
     EditCommands* edits = nullptr;
     HistoryCommands* history = nullptr;
     FindCommands* finds = nullptr;

@@ -12,6 +12,7 @@
 #include "image/display_text.h"
 #include "image/value_tables.h"
 #include "memory/bank_layout.h"
+#include "memory/receiver_range.h"
 #include "settings/setting_texts.h"
 
 namespace rqm5 {
@@ -119,6 +120,16 @@ void WarnOfValues(std::string_view bytes, const CloneImage& image, Console& cons
         Warn(console, "the file says these values, but they are read otherwise:", changed);
 }
 
+void WarnOfRange(const CloneImage& image, Console& console)
+{
+    std::vector<std::string> rows = VfoRowsOutOfRange(image);
+    for (std::string& row : RowsOutOfRange(image, {0, kRadioRows}))
+        rows.push_back(std::move(row));
+    if (!rows.empty())
+        Warn(console,
+             "these rows are outside the receiver's range (" + std::string(kReceiverRangeText) + "):", rows);
+}
+
 }  // namespace
 
 Status RunCheck(const Arguments& arguments, Console& console)
@@ -135,6 +146,7 @@ Status RunCheck(const Arguments& arguments, Console& console)
     WarnOfForm(bytes, console);
     WarnOfDigits(bytes, console);
     WarnOfValues(bytes, image, console);
+    WarnOfRange(image, console);
     WarnOfNotes(image, console);
     return Status::Done;
 }

@@ -2,6 +2,7 @@
 #include <array>
 
 #include "cli/command.h"
+#include "cli/list_import.h"
 #include "cli/values.h"
 #include "link/block_address.h"
 
@@ -56,6 +57,15 @@ constexpr Option kPrintOptions[] = {
 };
 constexpr Option kExportOptions[] = {{"--force", "", "replace OUT.csv whatever it holds"}};
 constexpr Option kImportOptions[] = {
+    {"--decimal-comma", "", "read 145,5 as 145.5"},
+    {"--map", "COLUMN=FIELD,...",
+     "what the columns of a list are, by title or number; such as \"Freq=frequency:kHz,3=note\"", MapFault},
+    {"--from-row", "ROW",
+     "where a list goes: from memory row 0 to 1209 on, or from BANK:CHANNEL, program-scan, search-pass or "
+     "priority on; without it to the rows that it names",
+     FromRowFault},
+    {"--dry-run", "", "show what would change and write nothing"},
+    {"--keep", "", "keep FILE as it was as FILE~"},
     {"--safe-notes", "", "store notes without commas and quotes, which a clone file cannot hold"},
     {"--force", "", "write FILE even if its notes keep it from being opened again"},
 };
@@ -104,9 +114,11 @@ constexpr Command kCommands[] = {
      "The file holds the channels and VFO bands, for a spreadsheet. OUT.csv may be missing, empty or an "
      "older export.",
      kExportFiles, kExportOptions, RunExport, SameFileConflict},
-    {"import", "take the rows of a CSV file into FILE",
+    {"import", "take the rows of a CSV file or of a list into FILE",
      "Rows that IN.csv does not name stay as they are. FILE is made when it does not exist. Notes with which "
-     "FILE could not be opened again keep it from being written. Carrier codes move one up.",
+     "FILE could not be opened again keep it from being written. Carrier codes of an export move one up. A "
+     "file "
+     "of another program is read as a list: how it is read is said, and what is not taken is listed by line.",
      kImportFiles, kImportOptions, RunImport, SameFileConflict},
     {"show", "print the channels of FILE in columns", "A \"-\" in front of a label marks a row that is off.",
      kFile, kShowOptions, RunShow},

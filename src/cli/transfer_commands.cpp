@@ -10,10 +10,12 @@
 #include "link/forwarding_observer.h"
 #include "link/line_notes.h"
 #include "link/memory_map.h"
+#include "link/range_check.h"
 #include "link/receiver_checks.h"
 #include "link/receiver_identity.h"
 #include "link/receiver_reader.h"
 #include "link/receiver_writer.h"
+#include "memory/receiver_range.h"
 #include "settings/settings_codec.h"
 
 namespace rqm5 {
@@ -164,6 +166,11 @@ Status RunWrite(const Arguments& arguments, Console& console)
     if (const auto problem = BackupObstacle(backup))
         return Fail(console, {problem->text, problem->details, NothingWritten()});
     const TransferScope scope = ScopeOf(arguments);
+    if (const auto rows = RowsWrittenOutOfRange(image, scope); !rows.empty())
+        Warn(console,
+             "these rows are outside the receiver's range (" + std::string(kReceiverRangeText) +
+                 ") and are written as they are:",
+             rows);
     ReceiverSession session(arguments, console);
     session.TellPort();
     Status status = Status::Done;

@@ -32,6 +32,7 @@ constexpr FileChoiceRow kFileChoices[] = {
     {FileChoice::SaveClone, QT_TRANSLATE_NOOP("MessageDialogs", "Save As"), kCloneFilters, "RQ5"},
     {FileChoice::OpenCsv, QT_TRANSLATE_NOOP("MessageDialogs", "Import"), kCsvFilters, ""},
     {FileChoice::SaveCsv, QT_TRANSLATE_NOOP("MessageDialogs", "Export"), kCsvFilters, "csv"},
+    {FileChoice::SaveList, QT_TRANSLATE_NOOP("MessageDialogs", "Export List"), kCsvFilters, "csv"},
     {FileChoice::SavePdf, QT_TRANSLATE_NOOP("MessageDialogs", "Save as PDF"), kPdfFilters, "pdf"},
     {FileChoice::SaveText, QT_TRANSLATE_NOOP("MessageDialogs", "Save as Text"), kTextFilters, "txt"},
 };

@@ -99,6 +99,36 @@ TEST_F(FileCommands, ImportTakesRowsIntoAFileOrANewOneAndNamesNotesThatAreLost)
     EXPECT_EQ(RunProgramFile({"import", csv, file}).status, 0) << "quotes inside a note come back";
 }
 
+TEST_F(FileCommands, ImportTakesListsOfOtherPrograms)
+{
+    const std::string list = folder / "list.csv";
+    PutBytes(list, "Frequenz;Name\n145,500;Ulm\n2400;Funk\n433,5;Ost\n");
+    ExpectFailure({"import", list, file}, "Data Error: ", "--from-row");
+    ExpectFailure({"import", list, file, "--map", "Ort=note", "--from-row", "0"},
+                  "Data Error: ", "no column \"Ort\"");
+    const RunResult dry = RunProgramFile({"import", list, file, "--from-row", "0:3", "--dry-run"});
+    EXPECT_TRUE(dry.status == 0 && Has(dry.out, "2 rows would be taken") && Has(dry.out, "145.500000"))
+        << dry.out;
+    EXPECT_TRUE(Bytes(file).empty()) << "nothing is written";
+    PutBytes(file, DemoFile());
+    const RunResult run = RunProgramFile({"import", list, file, "--from-row=3", "--keep", "--map=Name=none"});
+    EXPECT_TRUE(run.status == 0 && Has(run.out, "semicolon") && Has(run.out, "2 rows taken")) << run.out;
+    EXPECT_TRUE(Has(run.err, "Line 3: The receiver takes 0.1 to 1299.995 MHz.")) << run.err;
+    EXPECT_EQ(Bytes(file + "~"), DemoFile());
+    CloneImage image;
+    EXPECT_FALSE(ParseCloneFile(Bytes(file), image));
+    EXPECT_EQ(image.MemData(3).frequency, 145'500'000);
+    EXPECT_EQ(image.MemData(4).frequency, 433'500'000);
+
+    // A file of this program keeps its rules, but not in silence.
+    PutBytes(list, CsvRecord("MEMORY", 7, "2400,5", ""));
+    const RunResult own = RunProgramFile({"import", list, file});
+    EXPECT_TRUE(Has(own.err, "Line 1: memory row 7")) << own.err;
+    EXPECT_TRUE(Has(RunProgramFile({"check", file}).err, "0.1 to 1299.995 MHz):\n  memory row 7"));
+    EXPECT_TRUE(Has(RunProgramFile({"write", "--port", "/dev/no", file}).err,
+                    "are written as they are:\n  memory row 7"));
+}
+
 TEST_F(FileCommands, ImportSpoilsNoFile)
 {
     const std::string csv = folder / "rows.csv";
