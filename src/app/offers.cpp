@@ -27,15 +27,15 @@ void Offers::ShowFirstLook()
         return;
     bar_.Show({kFirstLook,
                tr("Connect the receiver and choose Read > ALL (Ctrl+R), or open a file."),
-               {{tr("&Read ALL"), [this] { menus_.Item("mnuReAll").trigger(); }},
-                {tr("&Open..."), [this] { menus_.Item("mnuFileOpen").trigger(); }}}});
+               {{tr("Read ALL"), [this] { menus_.Item("mnuReAll").trigger(); }},
+                {tr("Open..."), [this] { menus_.Item("mnuFileOpen").trigger(); }}}});
 }
 
 void Offers::OfferWriteOptions()
 {
     if (!TakeWriteOffer())
         return;
-    bar_.Show({kWriteOptions, tr("Backup and verify are off."), {{tr("&Turn Them On"), [this] {
+    bar_.Show({kWriteOptions, tr("Backup and verify are off."), {{tr("Turn Them On"), [this] {
                                                                       options_.TurnOn();
                                                                       bar_.Withdraw(kWriteOptions);
                                                                   }}}});

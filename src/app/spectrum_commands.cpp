@@ -31,6 +31,8 @@ void SpectrumCommands::GoTo(int row)
         return;
     pages_.BringToFront(Tab::Memory);
     pages_.Memory().GoToRow(row);
+    // Whoever goes from channel to channel there goes on.
+    dock_->View().setFocus();
 }
 
 void SpectrumCommands::ShowSelection()

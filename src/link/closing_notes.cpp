@@ -40,26 +40,27 @@ std::string TimeText(std::chrono::seconds time)
 std::string ReadNote(std::chrono::seconds took, bool isVerified, const TransferScope& scope,
                      const CloneImage& image, const ImageChange& change)
 {
+    QStringList changed;
+    AddCounted(changed, change.MemoryRows().size(), QT_TRANSLATE_NOOP("ClosingNote", "1 row"),
+               QT_TRANSLATE_NOOP("ClosingNote", "%1 rows"));
+    AddCounted(changed, change.BankSize.size(), QT_TRANSLATE_NOOP("ClosingNote", "1 bank size"),
+               QT_TRANSLATE_NOOP("ClosingNote", "%1 bank sizes"));
+    AddCounted(changed, change.BankLink.size(), QT_TRANSLATE_NOOP("ClosingNote", "1 link"),
+               QT_TRANSLATE_NOOP("ClosingNote", "%1 links"));
+    AddCounted(changed, change.Settings.size(), QT_TRANSLATE_NOOP("ClosingNote", "1 setting"),
+               QT_TRANSLATE_NOOP("ClosingNote", "%1 settings"));
+    AddCounted(changed, change.VfoRows().size(), QT_TRANSLATE_NOOP("ClosingNote", "1 VFO band"),
+               QT_TRANSLATE_NOOP("ClosingNote", "%1 VFO bands"));
+    const QString comma = QStringLiteral(", ");
     QStringList parts;
     if (scope.memory)
         parts << ChannelsOn(image);
-    const qsizetype before = parts.size();
-    AddCounted(parts, change.MemoryRows().size(), QT_TRANSLATE_NOOP("ClosingNote", "1 row changed"),
-               QT_TRANSLATE_NOOP("ClosingNote", "%1 rows changed"));
-    AddCounted(parts, change.BankSize.size() + change.BankLink.size(),
-               QT_TRANSLATE_NOOP("ClosingNote", "1 bank size or link changed"),
-               QT_TRANSLATE_NOOP("ClosingNote", "%1 bank sizes and links changed"));
-    AddCounted(parts, change.Settings.size(), QT_TRANSLATE_NOOP("ClosingNote", "1 setting changed"),
-               QT_TRANSLATE_NOOP("ClosingNote", "%1 settings changed"));
-    AddCounted(parts, change.VfoRows().size(), QT_TRANSLATE_NOOP("ClosingNote", "1 VFO band changed"),
-               QT_TRANSLATE_NOOP("ClosingNote", "%1 VFO bands changed"));
-    if (parts.size() == before)
-        parts << Translate(QT_TRANSLATE_NOOP("ClosingNote", "nothing changed"));
+    parts << (changed.isEmpty()
+                  ? Translate(QT_TRANSLATE_NOOP("ClosingNote", "nothing changed"))
+                  : Translate(QT_TRANSLATE_NOOP("ClosingNote", "%1 changed")).arg(changed.join(comma)));
     const char* const text = isVerified ? QT_TRANSLATE_NOOP("ClosingNote", "Read in %1 and verified: %2")
                                         : QT_TRANSLATE_NOOP("ClosingNote", "Read in %1: %2");
-    return Translate(text)
-        .arg(QString::fromStdString(TimeText(took)), parts.join(QStringLiteral(", ")))
-        .toStdString();
+    return Translate(text).arg(QString::fromStdString(TimeText(took)), parts.join(comma)).toStdString();
 }
 
 std::string WrittenNote(std::chrono::seconds took, bool isVerified)

@@ -264,7 +264,7 @@ class SpectrumPainter
 
     void PaintLegend()
     {
-        const double middle = area_.bottom() - metrics_.height() * 0.75;
+        const double middle = at_.Plot().bottom() + metrics_.height() * 2.4;
         double x = at_.Plot().left() + metrics_.height() / 2;
         const auto entry = [&](const QString& text, const auto& draw) {
             const double width = metrics_.height() * 1.1 + metrics_.horizontalAdvance(text);

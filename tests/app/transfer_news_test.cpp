@@ -76,9 +76,8 @@ TEST_F(TransferNews, TheClosingNoteTellsWhatCameOfItAndWhetherUndoHelps)
 {
     SaveWriteOptions({false, false, Path("backups")});
     Item("mnuReAll").trigger();
-    EXPECT_THAT(
-        Note(),
-        ContainsRegex("^Read in [0-9]+:[0-9][0-9]: [0-9]+ channels on, [0-9]+ rows changed, .*changed[.]$"));
+    EXPECT_THAT(Note(),
+                ContainsRegex("^Read in [0-9]+:[0-9][0-9]: [0-9]+ channels on, [0-9]+ rows, .* changed[.]$"));
     Find<Document>("").MarkSaved(Path("a.RQ5"));
     Find<Document>("").Edit(QStringLiteral("x"),
                             [](CloneImage& image) { image.MemData(7).frequency += 5000; });
