@@ -15,6 +15,7 @@
 #include "app/import_commands.h"
 #include "app/menu_commands.h"
 #include "app/menus.h"
+#include "app/offers.h"
 #include "app/pages.h"
 #include "app/port_commands.h"
 #include "app/recent_files.h"
@@ -130,6 +131,7 @@ void frmMain::Form_Load()
     const bool isRecovered = RecoverWork();
     if (!isRecovered && !wanted.isEmpty())
         parts_.files->Load(wanted);
+    parts_.offers->ShowFirstLook();
     if (isRecovered && !wanted.isEmpty() && QFileInfo(wanted).absoluteFilePath() != document_.FileName())
         parts_.statusBar->ShowNote(
             tr("Recovered changes came first; not opened: %1").arg(VisibleText(wanted)));

@@ -52,6 +52,10 @@ void TransferCommands::Occupy(const std::function<TransferResult()>& work)
     isCancelled_ = false;
     notes_.clear();
     repeated_ = 0;
+    isReadTwice_ = isVerified_ = false;
+    progress_ = {};
+    begin_ = std::chrono::steady_clock::now();
+    asked_ = {};
     emit Started();
     const TransferResult result = work();
     if (repeated_ > 0)
@@ -87,11 +91,14 @@ TransferResult TransferCommands::RunOperation(Transfer transfer, int selector)
             return ReadAll();
         case Transfer::ReadMemory:
             return Read(tr("Read Memory (%1)").arg(QString::fromStdString(SelectorText(selector))),
+                        {.settings = false, .selector = selector},
                         [selector](ReceiverReader& reader) { return reader.ReadMemory(selector); });
         case Transfer::ReadSettings:
-            return Read(tr("Read Settings"), [](ReceiverReader& reader) { return reader.ReadSettings(); });
+            return Read(tr("Read Settings"), {.memory = false},
+                        [](ReceiverReader& reader) { return reader.ReadSettings(); });
         case Transfer::ReadBankPage:
-            return Read(tr("Read Bank"), [](ReceiverReader& reader) { return reader.ReadBankPage(); });
+            return Read(tr("Read Bank"), {.settings = false, .memory = false, .banks = true},
+                        [](ReceiverReader& reader) { return reader.ReadBankPage(); });
         case Transfer::WriteAll:
             return Write({});
         case Transfer::WriteMemory:
@@ -107,7 +114,7 @@ TransferResult TransferCommands::RunOperation(Transfer transfer, int selector)
 TransferResult TransferCommands::ReadAll()
 {
     const TransferResult result =
-        Read(tr("Read ALL"), [](ReceiverReader& reader) { return reader.ReadAll(); });
+        Read(tr("Read ALL"), {}, [](ReceiverReader& reader) { return reader.ReadAll(); });
     if (result == TransferResult::Done)
         KeepLastRead(document_.Image());
     return result;
@@ -118,9 +125,12 @@ void TransferCommands::KeepLastRead(const CloneImage& image)
     lastRead_ = {image, QDateTime::currentDateTime()};
 }
 
-TransferResult TransferCommands::Read(const QString& name,
+TransferResult TransferCommands::Read(const QString& name, const TransferScope& scope,
                                       const std::function<TransferResult(ReceiverReader&)>& read)
 {
+    const CloneImage before = document_.Image();
+    const bool hadUnsavedChanges = document_.DataChanged();
+    BeginReading(scope);
     std::vector<std::string> unreadable;
     std::vector<ExpectedBlock> blocks;
     auto result = TransferResult::Done;
@@ -140,6 +150,7 @@ TransferResult TransferCommands::Read(const QString& name,
         NameUnreadable(unreadable);
     if (result == TransferResult::Done && LoadReadTwice())
         result = ReadTwice(blocks);
+    NoteRead(result, scope, before, hadUnsavedChanges);
     return result;
 }
 
@@ -159,6 +170,7 @@ void TransferCommands::NameUnreadable(const std::vector<std::string>& names)
 TransferResult TransferCommands::ReadTwice(const std::vector<ExpectedBlock>& blocks)
 {
     std::vector<BlockDifference> differences;
+    BeginPart();
     AftermathObserver observer(*this, NotReadTwice());
     const TransferResult result = ReadBack(blocks, link_, observer, differences);
     if (result == TransferResult::Cancelled)
@@ -168,8 +180,7 @@ TransferResult TransferCommands::ReadTwice(const std::vector<ExpectedBlock>& blo
                      tr("%1. Check the cable, then read again.")
                          .arg(QString::fromStdString(OtherwiseNote(static_cast<int>(differences.size())))),
                      LabelsOf(differences));
-    else if (result == TransferResult::Done)
-        notes_.prepend(tr("Read and verified: a second read brought the same."));
+    isReadTwice_ = result == TransferResult::Done && differences.empty();
     return result;
 }
 
@@ -182,6 +193,7 @@ void TransferCommands::Stored()
 TransferResult TransferCommands::Write(const TransferScope& scope)
 {
     const WriteOptions options = LoadWriteOptions();
+    BeginWriting(scope, options.keepsBackup, options.verifies);
     auto result = TransferResult::Done;
     QStringList outside;
     for (const std::string& row : RowsWrittenOutOfRange(document_.Image(), scope))
@@ -195,6 +207,7 @@ TransferResult TransferCommands::Write(const TransferScope& scope)
         result = WriteBlocks(scope, options.verifies);
     if (result == TransferResult::Done && options.verifies)
         result = Verify(scope);
+    NoteWritten(result, options.verifies);
     return result;
 }
 
@@ -207,6 +220,7 @@ TransferResult TransferCommands::KeepBackup(const TransferScope& scope, const QS
         return TransferResult::Failed;
     }
     CloneImage backup;
+    BeginPart();
     const TransferResult result = ReadBackup(Source(), scope, link_, *this, backup);
     if (result == TransferResult::Cancelled)
         notes_ << QString::fromStdString(NothingWritten());
@@ -241,13 +255,12 @@ bool TransferCommands::MayWriteToThisModel()
     const std::pair models(known, wanted);
     if (known == wanted || models == agreed_)
         return true;
-    const bool isMeant =
-        dialogs_.Ask(&window_, {.title = tr("Write"),
-                                .text = tr("The receiver is another model. Write to it all the same?"),
-                                .details = QString::fromStdString(OtherModelText(known, wanted)),
-                                .icon = QMessageBox::Warning,
-                                .buttons = QMessageBox::Yes | QMessageBox::No,
-                                .defaultButton = QMessageBox::No}) == QMessageBox::Yes;
+    const bool isMeant = Ask({.title = tr("Write"),
+                              .text = tr("The receiver is another model. Write to it all the same?"),
+                              .details = QString::fromStdString(OtherModelText(known, wanted)),
+                              .icon = QMessageBox::Warning,
+                              .buttons = QMessageBox::Yes | QMessageBox::No,
+                              .defaultButton = QMessageBox::No}) == QMessageBox::Yes;
     if (isMeant)
         agreed_ = models;
     else
@@ -257,6 +270,7 @@ bool TransferCommands::MayWriteToThisModel()
 
 TransferResult TransferCommands::WriteBlocks(const TransferScope& scope, bool isVerified)
 {
+    BeginPart();
     ReceiverWriter writer(Source(), scope, link_, *this);
     const TransferResult result = writer.Write();
     if (other_)
@@ -280,6 +294,7 @@ TransferResult TransferCommands::WriteBlocks(const TransferScope& scope, bool is
 TransferResult TransferCommands::Verify(const TransferScope& scope)
 {
     std::vector<BlockDifference> differences;
+    BeginPart();
     AftermathObserver observer(*this, NotVerified());
     const TransferResult result = ReadBack(ExpectedAfterWrite(Source(), scope), link_, observer, differences);
     if (result == TransferResult::Cancelled)
@@ -287,8 +302,7 @@ TransferResult TransferCommands::Verify(const TransferScope& scope)
     if (!differences.empty())
         WarnOfBlocks(tr("Verify"), tr("The receiver does not hold what was written. Write again."),
                      LabelsOf(differences));
-    else if (result == TransferResult::Done)
-        notes_.prepend(tr("Written and verified: the receiver holds what was written."));
+    isVerified_ = result == TransferResult::Done && differences.empty();
     return result;
 }
 
@@ -313,12 +327,12 @@ void TransferCommands::WarnOfBlocks(const QString& title, const QString& text,
 void TransferCommands::Warn(Prompt warning)
 {
     warning.icon = QMessageBox::Warning;
-    dialogs_.Ask(&window_, warning);
+    Ask(warning);
 }
 
 void TransferCommands::Message(const Problem& problem)
 {
-    dialogs_.Ask(&window_, ErrorPrompt(problem));
+    Ask(ErrorPrompt(problem));
 }
 
 }  // namespace rqm5

@@ -6,6 +6,7 @@
 #include "app/backup_commands.h"
 #include "app/compare_commands.h"
 #include "app/current_file.h"
+#include "app/desktop_news.h"
 #include "app/edit_commands.h"
 #include "app/file_commands.h"
 #include "app/file_news.h"
@@ -13,12 +14,14 @@
 #include "app/history_commands.h"
 #include "app/import_commands.h"
 #include "app/menus.h"
+#include "app/offers.h"
 #include "app/pages.h"
 #include "app/port_commands.h"
 #include "app/read_option_items.h"
 #include "app/recent_files.h"
 #include "app/recovery.h"
 #include "app/side_windows.h"
+#include "app/spectrum_commands.h"
 #include "app/standing_warnings.h"
 #include "app/status_bar.h"
 #include "app/tool_bar.h"
@@ -67,10 +70,15 @@ void MakeCommands(Document& document, RadioLink& link, Dialogs& dialogs, const S
     parts.readOptions = new ReadOptionItems(*parts.menus, &window);
     parts.writeOptions = new WriteOptionItems(*parts.menus, dialogs, window);
     parts.transfers = new TransferCommands(document, link, dialogs, window);
+    parts.offers =
+        new Offers(document, *parts.transfers, *parts.writeOptions, *parts.menus, *parts.messageBar);
+    new DesktopNews(*parts.transfers, options, &window);
     parts.shell = new TransferShell(*parts.transfers, *parts.menus, *parts.pages, *parts.history,
                                     *parts.transferBar, *parts.statusBar, window);
     parts.sides = new SideWindows(document, link, *parts.transfers, dialogs, *parts.ports, *parts.pages,
                                   options, window);
+    new SpectrumCommands(document, dialogs, *parts.pages, *parts.transfers,
+                         parts.menus->Item("mnuViewSpectrum"), window);
     parts.compare = new CompareCommands(document, link, *parts.transfers, dialogs, *parts.pages, window);
     parts.backups =
         new BackupCommands(document, *parts.files, *parts.transfers, *parts.compare, dialogs, window);

@@ -19,6 +19,7 @@ class HistoryCommands;
 class ImportCommands;
 class Menus;
 class MessageBar;
+class Offers;
 class Pages;
 class PortCommands;
 class ReadOptionItems;
@@ -52,6 +53,7 @@ struct WindowParts
     PortCommands* ports = nullptr;
     ReadOptionItems* readOptions = nullptr;
     WriteOptionItems* writeOptions = nullptr;
+    Offers* offers = nullptr;
     TransferCommands* transfers = nullptr;
     TransferShell* shell = nullptr;
     SideWindows* sides = nullptr;
