@@ -6,11 +6,10 @@
 #include <QFileInfo>
 #include <algorithm>
 #include <utility>
-#include <vector>
 
+#include "link/change_plan.h"
 #include "link/knowledge_file.h"
 #include "link/memory_map.h"
-#include "memory/start_image.h"
 #include "settings/settings_codec.h"
 #include "vfo/region_presets.h"
 
@@ -200,23 +199,18 @@ std::optional<HeldImage> ReceiverKnowledge::LastHeld() const
 {
     KnownBlocks all = known_;
     all.insert(earlier_.begin(), earlier_.end());
-    HeldImage held{StartUpImage(0), QDateTime::currentDateTimeUtc()};
-    NewImage(held.image);
-    for (const MemoryArea& area : MemoryMap()) {
-        std::vector<MemoryBlock> blocks;
-        for (int index = 0; area.decode != nullptr && index < area.blocks; ++index) {
-            const auto known = all.find(area.AddressOf(index));
-            if (known == all.end())
-                return std::nullopt;
-            held.since = std::min(held.since, known->second.time);
-            blocks.push_back(known->second.contents);
-            if (area.decodesSingly)
-                area.decode(held.image, index, {&blocks.back(), 1});
-        }
-        if (area.decode != nullptr && !area.decodesSingly)
-            area.decode(held.image, 0, blocks);
+    BlockMap blocks;
+    QDateTime since = QDateTime::currentDateTimeUtc();
+    for (const int address : ReadableBlocks()) {
+        const auto known = all.find(address);
+        if (known == all.end() && PlaceOf(address)->area->decode != nullptr)
+            return std::nullopt;
+        if (known == all.end())
+            continue;
+        blocks[address] = known->second.contents;
+        since = std::min(since, known->second.time);
     }
-    return held;
+    return HeldImage{ImageOfBlocks(blocks), since};
 }
 
 }  // namespace rqm5

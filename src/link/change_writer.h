@@ -1,0 +1,60 @@
+#pragma once
+
+#include <set>
+#include <string>
+#include <vector>
+
+#include "link/block_link.h"
+#include "link/change_plan.h"
+#include "link/expected_memory.h"
+#include "link/write_plan.h"
+
+namespace rqm5 {
+
+/// The blocks that must be read before it can be told what differs: the telling blocks alone as long as what
+/// an earlier run knew waits for them, else every readable block that is not known.
+std::vector<int> BlocksToLearn(const ReceiverKnowledge& knowledge);
+
+/// What is known of the readable blocks, all of which must be known.
+BlockMap KnownContents(const ReceiverKnowledge& knowledge);
+
+/// Reads blocks as a verification does, and changes no image. Blocks that cannot be read are a failure.
+/// \param image  names the rows in messages
+TransferResult ReadBlocks(const std::vector<int>& addresses, const CloneImage& image, RadioLink& link,
+                          TransferObserver& observer, BlockMap& read);
+
+/// The same, until nothing that is needed is unknown.
+TransferResult LearnBlocks(const CloneImage& image, RadioLink& link, TransferObserver& observer);
+
+/// What a read-back after the changes should bring.
+std::vector<ExpectedBlock> ExpectedAfterChanges(const CloneImage& image, const ChangePlan& changes);
+
+/// How long so many exchanges of a block take at 9600 baud, in seconds.
+double SecondsOnTheLine(std::size_t exchanges);
+
+/// "about 3 seconds", "about one minute"
+std::string AboutTime(double seconds);
+
+/// Writes what a change plan wants, in the order of a whole write, each block acknowledged by the receiver.
+class ChangeWriter
+{
+  public:
+    ChangeWriter(const CloneImage& image, const ChangePlan& changes, RadioLink& link,
+                 TransferObserver& observer);
+
+    TransferResult Write();
+
+    /// True when all was acknowledged, but an OK may have been another block's.
+    bool IsInDoubt() const { return isInDoubt_; }
+
+    const WritePlan& Plan() const { return plan_; }
+
+  private:
+    const ChangePlan& changes_;
+    TransferObserver& observer_;
+    BlockLink blocks_;
+    WritePlan plan_;
+    bool isInDoubt_ = false;
+};
+
+}  // namespace rqm5
