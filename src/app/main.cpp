@@ -12,6 +12,7 @@
 #include "app/start_up.h"
 #include "files/file_store.h"
 #include "files/plain_settings.h"
+#include "link/knowledge_file.h"
 #include "link/port_file.h"
 #include "link/qt_serial_port.h"
 #include "ui/icons.h"
@@ -92,6 +93,7 @@ int main(int argc, char** argv)
     options.commandFile = rqm5::CommandFile(rqm5::CommandLineText(FileArguments(application)));
     options.portFile = rqm5::PortFilePath(QApplication::applicationDirPath());
     options.stateFolder = rqm5::StateFolder();
+    options.cacheFolder = rqm5::CacheFolder();
     options.useDevice = [&port](const QString& device) { port.SetDevice(device); };
     rqm5::ProgramEnd end;
     const auto window = rqm5::StartUp(port, dialogs, options);

@@ -38,6 +38,7 @@ frmMain::frmMain(SerialPort& port, Dialogs& dialogs, const StartOptions& options
     setContextMenuPolicy(Qt::NoContextMenu);  // it would hide the toolbar behind the View menu's back
     Timer1_.setSingleShot(true);
     Timer1_.setTimerType(Qt::PreciseTimer);
+    link_.Knowledge().KeepIn(options_.cacheFolder);
     Compose();
     ConnectFileMenus();
     ConnectTransferMenus();
@@ -82,6 +83,7 @@ void frmMain::Compose()
     readOptions_ = new ReadOptionItems(*menus_, this);
     writeOptions_ = new WriteOptionItems(*menus_, dialogs_, *this);
     transfers_ = new TransferCommands(document_, link_, dialogs_, *this);
+    changes_ = new ChangeCommands(document_, link_, *transfers_, dialogs_, *this);
     shell_ = new TransferShell(*transfers_, *menus_, *pages_, *history_, *transferBar_, *sbStatusBar_, *this);
     sides_ = new SideWindows(document_, link_, *transfers_, dialogs_, *ports_, options_, *this);
     recovery_ = new Recovery(document_, options_.stateFolder, options_.recoveryDelay, this);
@@ -129,6 +131,7 @@ void frmMain::ConnectTransferMenus()
     ConnectMenu("mnuWrAll", [this] { shell_->Start(Transfer::WriteAll); });
     ConnectMenu("mnuWrMemory", [this] { shell_->StartOn(Tab::Memory, Transfer::WriteMemory); });
     ConnectMenu("mnuWrSettings", [this] { shell_->StartOn(Tab::Settings1, Transfer::WriteSettings); });
+    ConnectMenu("mnuWrChanges", [this] { changes_->mnuWrChanges_Click(); });
     ConnectMenu("mnuReVerify", [this] { readOptions_->mnuReVerify_Click(); });
     ConnectMenu("mnuWrBackup", [this] { writeOptions_->Keep(); });
     ConnectMenu("mnuWrVerify", [this] { writeOptions_->Keep(); });

@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <functional>
 
+#include "app/change_commands.h"
 #include "app/current_file.h"
 #include "app/edit_commands.h"
 #include "app/file_commands.h"
@@ -103,6 +104,7 @@ class frmMain : public QMainWindow
     ReadOptionItems* readOptions_ = nullptr;
     WriteOptionItems* writeOptions_ = nullptr;
     TransferCommands* transfers_ = nullptr;
+    ChangeCommands* changes_ = nullptr;
     TransferShell* shell_ = nullptr;
     SideWindows* sides_ = nullptr;
     Recovery* recovery_ = nullptr;

@@ -54,8 +54,13 @@ void SaveWriteOptions(const WriteOptions& options)
 
 QString NewBackupPath(const QString& folder, const TransferScope& scope, const QDateTime& now)
 {
+    return NewBackupPath(folder, NameOf(scope), now);
+}
+
+QString NewBackupPath(const QString& folder, const QString& what, const QDateTime& now)
+{
     const QString name =
-        QStringLiteral("RQ-M5 %1 %2").arg(now.toString(QStringLiteral("yyyy-MM-dd HH-mm-ss")), NameOf(scope));
+        QStringLiteral("RQ-M5 %1 %2").arg(now.toString(QStringLiteral("yyyy-MM-dd HH-mm-ss")), what);
     QString path = QDir(folder).filePath(name + QStringLiteral(".RQ5"));
     for (int copy = 2; QFileInfo::exists(path); ++copy)
         path = QDir(folder).filePath(QStringLiteral("%1 (%2).RQ5").arg(name).arg(copy));

@@ -20,5 +20,6 @@ void SaveWriteOptions(const WriteOptions& options);
 
 /// The path of a new backup: date, time and what it holds are in its name. No file of that name exists.
 QString NewBackupPath(const QString& folder, const TransferScope& scope, const QDateTime& now);
+QString NewBackupPath(const QString& folder, const QString& what, const QDateTime& now);
 
 }  // namespace rqm5

@@ -7,6 +7,7 @@
 #include "cli/values.h"
 #include "image/display_text.h"
 #include "link/com_ports.h"
+#include "link/knowledge_file.h"
 #include "link/line_notes.h"
 #include "link/port_file.h"
 
@@ -52,6 +53,7 @@ ReceiverSession::ReceiverSession(const Arguments& arguments, Console& console)
           link_.Cancel();
       })
 {
+    link_.Knowledge().KeepIn(CacheFolder());
 }
 
 void ReceiverSession::TellPort()
@@ -67,6 +69,7 @@ void ReceiverSession::TellPort()
 
 ReceiverSession::~ReceiverSession()
 {
+    link_.Knowledge().Save();
     progress_.Clear();
     if (const std::string note = RepeatNote(progress_.Repeated()); !note.empty())
         console_.err << note << '\n';

@@ -52,6 +52,8 @@ constexpr Topic kTopics[] = {
     {"dlgPaste", "editing-channels.md#the-preview"},
     {"dlgParts", "editing-channels.md#cut-copy-and-paste"},
     {"dlgFill", "editing-channels.md#fill-series"},
+    {"dlgWriteChanges", "reading-and-writing.md#writing-only-what-changed"},
+    {"dlgWriteConflicts", "reading-and-writing.md#when-the-receiver-was-changed-too"},
     {"dlgCOM", "ports.md"},
     {"dlgPrint", "printing.md"},
     {"txtRawAddress", "diagnostics.md#raw-read"},

@@ -98,17 +98,6 @@ TransferResult ReadBlocks(const std::vector<int>& addresses, const CloneImage& i
     return Done;
 }
 
-TransferResult LearnBlocks(const CloneImage& image, RadioLink& link, TransferObserver& observer)
-{
-    for (auto wanted = BlocksToLearn(link.Knowledge()); !wanted.empty();
-         wanted = BlocksToLearn(link.Knowledge())) {
-        BlockMap read;
-        if (const TransferResult result = ReadBlocks(wanted, image, link, observer, read); result != Done)
-            return result;
-    }
-    return Done;
-}
-
 std::vector<ExpectedBlock> ExpectedAfterChanges(const CloneImage& image, const ChangePlan& changes)
 {
     std::vector<ExpectedBlock> expected;
@@ -118,24 +107,33 @@ std::vector<ExpectedBlock> ExpectedAfterChanges(const CloneImage& image, const C
     return expected;
 }
 
-double SecondsOnTheLine(std::size_t exchanges)
+std::string AboutTime(std::size_t exchanges)
 {
     constexpr double kSecondsOfABlock = 0.05;  // 48 characters at 960 a second
-    return kSecondsOfABlock * static_cast<double>(exchanges);
-}
-
-std::string AboutTime(double seconds)
-{
-    constexpr double kMinute = 60;
-    constexpr double kNearlyAMinute = 50;
-    const auto whole = static_cast<int>(std::lround(seconds));
-    if (whole <= 1)
+    constexpr int kMinute = 60;
+    constexpr int kNearlyAMinute = 50;
+    const auto seconds = static_cast<int>(std::lround(kSecondsOfABlock * static_cast<double>(exchanges)));
+    if (seconds <= 1)
         return Translate("about one second").toStdString();
     if (seconds < kNearlyAMinute)
-        return Translate("about %1 seconds").arg(whole).toStdString();
-    const auto minutes = static_cast<int>(std::lround(seconds / kMinute));
-    return (minutes <= 1 ? Translate("about one minute") : Translate("about %1 minutes").arg(minutes))
+        return Translate("about %1 seconds").arg(seconds).toStdString();
+    const int minutes = (seconds + kMinute / 2) / kMinute;
+    return (minutes == 1 ? Translate("about one minute") : Translate("about %1 minutes").arg(minutes))
         .toStdString();
+}
+
+std::string UnknownNote(std::size_t blocks)
+{
+    const QString time = QString::fromStdString(AboutTime(blocks));
+    const QString note = blocks == ReadableBlocks().size()
+                             ? Translate("The receiver was never read in this run: %1 blocks, %2")
+                             : Translate("Not known of the receiver: %1 blocks, %2");
+    return note.arg(blocks).arg(time).toStdString();
+}
+
+std::string NothingChanged()
+{
+    return Translate("Nothing was written.").toStdString();
 }
 
 ChangeWriter::ChangeWriter(const CloneImage& image, const ChangePlan& changes, RadioLink& link,

@@ -23,17 +23,17 @@ BlockMap KnownContents(const ReceiverKnowledge& knowledge);
 TransferResult ReadBlocks(const std::vector<int>& addresses, const CloneImage& image, RadioLink& link,
                           TransferObserver& observer, BlockMap& read);
 
-/// The same, until nothing that is needed is unknown.
-TransferResult LearnBlocks(const CloneImage& image, RadioLink& link, TransferObserver& observer);
-
 /// What a read-back after the changes should bring.
 std::vector<ExpectedBlock> ExpectedAfterChanges(const CloneImage& image, const ChangePlan& changes);
 
-/// How long so many exchanges of a block take at 9600 baud, in seconds.
-double SecondsOnTheLine(std::size_t exchanges);
+/// How long so many exchanges of a block take at 9600 baud: "about 3 seconds", "about one minute".
+std::string AboutTime(std::size_t exchanges);
 
-/// "about 3 seconds", "about one minute"
-std::string AboutTime(double seconds);
+/// What must be read first: "The receiver was never read in this run: 1251 blocks, about one minute".
+std::string UnknownNote(std::size_t blocks);
+
+/// What a failure before the first block means.
+std::string NothingChanged();
 
 /// Writes what a change plan wants, in the order of a whole write, each block acknowledged by the receiver.
 class ChangeWriter

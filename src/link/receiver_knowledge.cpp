@@ -65,7 +65,7 @@ void ReceiverKnowledge::Load()
     known_.clear();
     doubtful_.clear();
     earlier_.clear();
-    arePresetsDue_ = isNew_ = false;
+    arePresetsDue_ = isNew_ = isRemoved_ = false;
     stored_ = {};
     untold_ = TellingBlocks();
     if (folder_.isEmpty() || device_.isEmpty())
@@ -80,7 +80,7 @@ void ReceiverKnowledge::Save()
 {
     if (!isNew_ || folder_.isEmpty() || device_.isEmpty())
         return;
-    isNew_ = false;
+    isNew_ = isRemoved_ = false;
     QDir().mkpath(folder_);
     WriteKnowledge(Path(), {device_, ToKeep(), arePresetsDue_});
     stored_ = QFileInfo(Path()).lastModified();
@@ -145,8 +145,9 @@ void ReceiverKnowledge::Compare(int address, const MemoryBlock& read)
 
 void ReceiverKnowledge::TakeSending(int address, const MemoryBlock& block)
 {
-    if (!isNew_ && !folder_.isEmpty())
-        QFile::remove(Path());  // a program that is killed from here on leaves nothing that is wrong
+    // A program that is killed from here on leaves nothing that is wrong.
+    if (!std::exchange(isRemoved_, true) && !folder_.isEmpty())
+        QFile::remove(Path());
     isNew_ = true;
     const KnownBlock* before = Find(address);
     if (address == SettingsAddress() && (before == nullptr || ModelOf(before->contents) != ModelOf(block)))

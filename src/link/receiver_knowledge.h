@@ -98,8 +98,9 @@ class ReceiverKnowledge
     std::set<int> untold_;  ///< telling blocks that were not read since the earlier run
     bool isInDoubt_ = false;
     bool arePresetsDue_ = false;
-    bool isNew_ = false;  ///< there is something that the folder does not hold
-    QDateTime stored_;    ///< the time of the file as this program left it
+    bool isNew_ = false;      ///< there is something that the folder does not hold
+    bool isRemoved_ = false;  ///< a write has taken the file away until the next Save
+    QDateTime stored_;        ///< the time of the file as this program left it
 };
 
 }  // namespace rqm5
