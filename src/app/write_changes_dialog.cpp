@@ -109,10 +109,14 @@ void dlgWriteChanges::Build(const std::vector<RowChange>& changes)
 
 void dlgWriteChanges::ShowTime()
 {
-    const std::size_t exchanges = checked_ + written_ + (Verifies() ? verified_ : 0);
-    lblTime_->setText(written_ == 0 ? tr("The receiver holds all of it already. There is nothing to write.")
-                                    : tr("%n block(s), %1.", nullptr, static_cast<int>(written_))
-                                          .arg(QString::fromStdString(AboutTime(exchanges))));
+    const QString time =
+        QString::fromStdString(AboutTime(checked_ + written_ + (Verifies() ? verified_ : 0)));
+    if (written_ == 0)
+        lblTime_->setText(tr("The receiver holds all of it already. There is nothing to write."));
+    else if (written_ == 1)
+        lblTime_->setText(tr("1 block is written, %1.").arg(time));
+    else
+        lblTime_->setText(tr("%1 blocks are written, %2.").arg(written_).arg(time));
 }
 
 }  // namespace rqm5

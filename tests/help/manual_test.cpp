@@ -100,6 +100,7 @@ TEST(Manual, EveryHelpTopicAndMessageHasItsPlace)
           "The program ended before your changes were saved. They were kept.",
           "The receiver does not hold what was written. Write again.",
           "The receiver is another model. Write to it all the same?",
+          "What the receiver holds must be read first.",
           "This link leads out of the manual. Open it in the web browser?"})
         topics << MessageTopic(QString::fromLatin1(message));
     for (const QString& topic : topics)
