@@ -108,8 +108,7 @@ bool ChangeCommands::DecideConflicts(ChangePlan& plan)
     dlgWriteConflicts dialog(document_.Image(), plan, &window_);
     if (dialogs_.Run(dialog) != QDialog::Accepted)
         return false;
-    for (std::size_t i = 0; i < plan.Conflicts().size(); ++i)
-        plan.Decide(i, dialog.TakesReceivers(i));
+    plan.Decide(dialog.TakesReceivers());
     return true;
 }
 

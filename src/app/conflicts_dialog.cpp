@@ -93,9 +93,12 @@ void dlgWriteConflicts::EnableWrite()
             decisions_, [](const QComboBox* box) { return box->currentIndex() != Open; }));
 }
 
-bool dlgWriteConflicts::TakesReceivers(std::size_t conflict) const
+std::vector<bool> dlgWriteConflicts::TakesReceivers() const
 {
-    return decisions_.at(conflict)->currentIndex() == Receivers;
+    std::vector<bool> decided;
+    for (const QComboBox* box : decisions_)
+        decided.push_back(box->currentIndex() == Receivers);
+    return decided;
 }
 
 }  // namespace rqm5

@@ -18,8 +18,8 @@ class dlgWriteConflicts : public QDialog
   public:
     dlgWriteConflicts(const CloneImage& image, const ChangePlan& plan, QWidget* parent);
 
-    /// Of a conflict by its place in the plan, once the dialog was accepted.
-    bool TakesReceivers(std::size_t conflict) const;
+    /// For each conflict of the plan, once the dialog was accepted.
+    std::vector<bool> TakesReceivers() const;
 
   private:
     enum Decision { Open, Mine, Receivers };

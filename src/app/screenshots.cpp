@@ -122,6 +122,14 @@ void SaveBankMove(PictureDialogs& dialogs, QWidget& window)
     tabs.setCurrentIndex(2);
 }
 
+/// What a write would send after a channel was switched off.
+void SaveChanges(QWidget& window)
+{
+    Find<QAbstractButton>(window, "cmbDisable").click();
+    Trigger(window, "mnuWrChanges");
+    Trigger(window, "mnuHistoryUndo");
+}
+
 void SaveDiagnostics(PictureDialogs& dialogs, QWidget& window)
 {
     Trigger(window, "mnuViewDiagnostics");
@@ -168,6 +176,7 @@ int main(int argc, char** argv)
     SavePages(dialogs, *window);
     SaveFinds(dialogs, *window);
     SaveBankMove(dialogs, *window);
+    SaveChanges(*window);
     Trigger(*window, "mnuEditUndo");
     Trigger(*window, "mnuEditFillSeries");
     SavePaste(*window);

@@ -47,14 +47,26 @@ class ChangesCommand
   private:
     Status MakePlan()
     {
-        ReceiverKnowledge& knowledge = session_.Link().Knowledge();
+        const ReceiverKnowledge& knowledge = session_.Link().Knowledge();
         if (arguments_.Has("--known")) {
             CloneImage known;
             if (const auto problem = Load(arguments_.Value("--known"), known))
                 return Fail(console_, {problem->text, problem->details, NothingChanged()});
-            plan_.emplace(image_, BlocksOfImage(known), KnownFrom::File, knowledge.ArePresetsDue());
+            plan_.emplace(image_, BlocksOfImage(known), KnownFrom::File,
+                          !knowledge.HasEarlier() && knowledge.ArePresetsDue());
             return Status::Done;
         }
+        const bool isFromEarlier = knowledge.HasEarlier();
+        if (const Status status = Learn(knowledge); status != Status::Done)
+            return status;
+        if (isFromEarlier)
+            TellAge(knowledge.LastHeld()->since);
+        plan_.emplace(image_, KnownContents(knowledge), KnownFrom::Receiver, knowledge.ArePresetsDue());
+        return Status::Done;
+    }
+
+    Status Learn(const ReceiverKnowledge& knowledge)
+    {
         for (auto wanted = BlocksToLearn(knowledge); !wanted.empty(); wanted = BlocksToLearn(knowledge)) {
             if (!knowledge.HasEarlier())
                 console_.err << UnknownNote(wanted.size()) << ".\n";
@@ -62,8 +74,16 @@ class ChangesCommand
             if (const Status status = Read(wanted, read); status != Status::Done)
                 return status;
         }
-        plan_.emplace(image_, KnownContents(knowledge), KnownFrom::Receiver, knowledge.ArePresetsDue());
         return Status::Done;
+    }
+
+    /// For people; a script gets no line that a write has not.
+    void TellAge(const QDateTime& since)
+    {
+        if (console_.progressColumns > 0)
+            console_.err << "Known of the receiver since "
+                         << since.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm")).toStdString()
+                         << ".\n";
     }
 
     Status Read(const std::vector<int>& addresses, BlockMap& read)

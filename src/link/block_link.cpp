@@ -28,7 +28,8 @@ BlockResult BlockLink::Write(int address, const MemoryBlock& block)
     const std::string command = WriteCommand(address, block);
     bool isSent = false;
     BlockResult written = Repeat(address, true, [&] {
-        if (!std::exchange(isSent, true))
+        // Without a port nothing is sent.
+        if (!std::exchange(isSent, true) && (link_.Port().IsOpen() || link_.Port().Open()))
             link_.Knowledge().TakeSending(address, block);
         const int code = link_.SendWriteCommand(command);
         return OutcomeOfWrite(code, link_.LastReceived(), HasGone(link_.Port()));

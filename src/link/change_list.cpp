@@ -16,6 +16,8 @@ using Fields = std::vector<BlockField>;
 
 constexpr int kBits = 8;
 constexpr char kEnabled[] = "Enabled";
+constexpr char kPresets[] = "Region presets";
+constexpr char kBankSizesTogether[] = "Bank sizes";
 
 std::string OnOff(bool isOn)
 {
@@ -161,8 +163,8 @@ std::vector<RowChange> ListChanges(const CloneImage& image, const ChangePlan& pl
     for (const auto& [address, to] : plan.Wanted()) {
         const BlockPlace place = *PlaceOf(address);
         if (place.area->id == Area::Presets) {
-            if (list.empty() || list.back().label != place.area->label(image, place.index))
-                list.push_back({place.area->label(image, place.index),
+            if (list.empty() || list.back().label != kPresets)
+                list.push_back({kPresets,
                                 {{std::string(SettingCaption(SettingIndex(&ReceiverSettings::model))), "",
                                   SettingText(image.Settings(), SettingIndex(&ReceiverSettings::model))}}});
             continue;
@@ -185,9 +187,8 @@ std::vector<RowChange> ListChanges(const CloneImage& image, const ChangePlan& pl
 ConflictRow DescribeConflict(const CloneImage& image, const ChangePlan& plan, const Conflict& conflict)
 {
     const BlockPlace first = *PlaceOf(conflict.addresses.front());
-    ConflictRow row{conflict.addresses.size() > 1 ? first.area->meaning(image, first.index)
-                                                  : first.area->label(image, first.index),
-                    {}};
+    ConflictRow row{
+        first.area->id == Area::BankSizes ? kBankSizesTogether : first.area->label(image, first.index), {}};
     for (const int address : conflict.addresses) {
         const BlockPlace place = *PlaceOf(address);
         const MemoryBlock mine = place.area->encode(image, place.index);

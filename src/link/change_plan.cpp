@@ -253,9 +253,10 @@ void ChangePlan::FindConflicts()
         conflicts_.push_back({banks});
 }
 
-void ChangePlan::Decide(std::size_t conflict, bool takesReceivers)
+void ChangePlan::Decide(const std::vector<bool>& takesReceivers)
 {
-    conflicts_.at(conflict).takesReceivers = takesReceivers;
+    for (std::size_t i = 0; i < conflicts_.size(); ++i)
+        conflicts_[i].takesReceivers = takesReceivers.at(i);
     Plan();
 }
 

@@ -58,7 +58,9 @@ class ChangePlan
     void Check(const BlockMap& read);
 
     const std::vector<Conflict>& Conflicts() const { return conflicts_; }
-    void Decide(std::size_t conflict, bool takesReceivers);
+
+    /// Decides each conflict, in their order.
+    void Decide(const std::vector<bool>& takesReceivers);
 
     /// The image as the receiver holds it afterwards: the notes and what is not changed at the receiver are
     /// the image's.
