@@ -78,16 +78,19 @@ bool ChangeCommands::MayRead(std::size_t blocks)
 
 TransferResult ChangeCommands::Run(ChangePlan& plan, bool keepsBackup, bool verifies)
 {
+    KnownBeforeCheck before(link_.Knowledge(), plan.BlocksToCheck());
     TransferResult result = Check(plan);
     if (result == Done && !(DecideConflicts(plan) && transfers_.MayWriteToThisModel()))
         result = Cancelled;
     if (result == Done && keepsBackup)
         result = KeepBackup(plan);
-    if (result == Done)
-        result = Write(plan, verifies);
-    else if (result == Cancelled && !transfers_.HasNote())
+    if (result == Cancelled && !transfers_.HasNote())
         transfers_.AddNote(QString::fromStdString(NothingChanged()));
-    return result;
+    if (result != Done)
+        return result;
+    before.Forget();
+    TakeOver(plan);
+    return Write(plan, verifies);
 }
 
 /// Reads each block that is to be written: somebody may have edited at the receiver itself.
@@ -127,7 +130,6 @@ TransferResult ChangeCommands::Write(const ChangePlan& plan, bool verifies)
     transfers_.TellWritten(writer.Plan(), document_.Image(), result);
     if (result != Done)
         return result;
-    TakeOver(plan);
     if (verifies)
         return transfers_.Verify(ExpectedAfterChanges(document_.Image(), plan));
     if (!writer.IsInDoubt())
@@ -136,8 +138,8 @@ TransferResult ChangeCommands::Write(const ChangePlan& plan, bool verifies)
     return Failed;
 }
 
-/// What stayed as the receiver has it is in the image, too: rows that were decided so as an edit, flags and
-/// links that were merged as after any write.
+/// What stays as the receiver has it comes into the image: rows that were decided so as an edit, flags and
+/// links that are merged as in any write.
 void ChangeCommands::TakeOver(const ChangePlan& plan)
 {
     const CloneImage result = plan.Result();

@@ -36,9 +36,13 @@ class ChangesCommand
             console_.err << "The receiver holds what FILE says already; nothing was written.\n";
             return Status::Done;
         }
-        for (const auto part : {&ChangesCommand::Check, &ChangesCommand::KeepBackup, &ChangesCommand::Write})
+        KnownBeforeCheck before(session_.Link().Knowledge(), plan_->BlocksToCheck());
+        for (const auto part : {&ChangesCommand::Check, &ChangesCommand::KeepBackup})
             if (const Status status = (this->*part)(); status != Status::Done)
                 return status;
+        before.Forget();
+        if (const Status status = Write(); status != Status::Done)
+            return status;
         return arguments_.Has("--verify") ? CompareWithReceiver(ExpectedAfterChanges(image_, *plan_),
                                                                 session_, console_, NotVerified())
                                           : Status::Done;

@@ -16,6 +16,7 @@ using Fields = std::vector<BlockField>;
 
 constexpr int kBits = 8;
 constexpr char kEnabled[] = "Enabled";
+constexpr char kCount[] = "Search Pass count";
 constexpr char kPresets[] = "Region presets";
 constexpr char kBankSizesTogether[] = "Bank sizes";
 
@@ -29,13 +30,11 @@ bool BitOf(const MemoryBlock& block, int bit)
     return block.Bit(bit / kBits, bit % kBits + 1);
 }
 
-/// The flags of a block, up to the last one that there is.
-Fields FlagFields(const MemoryBlock& block, int first, int count, const std::string& before,
-                  const std::string& behind)
+Fields LinkFields(const MemoryBlock& block)
 {
     Fields fields;
-    for (int bit = 0; bit < kBits * kBlockBytes && first + bit < count; ++bit)
-        fields.push_back({before + std::to_string(first + bit) + behind, OnOff(BitOf(block, bit))});
+    for (int flag = 0; flag < kLinkFlags; ++flag)
+        fields.push_back({"Bank " + std::to_string(flag) + " link", OnOff(BitOf(block, flag))});
     return fields;
 }
 
@@ -48,7 +47,7 @@ Fields SettingsFields(int index, const MemoryBlock& block)
     for (int setting = 0; setting < kSettingsInWords; ++setting)
         fields.push_back({std::string(SettingCaption(setting)), SettingText(image.Settings(), setting)});
     if (index == kSettings2)
-        fields.push_back({"Search Pass count", std::to_string(block.Byte(kPassCountByte))});
+        fields.push_back({kCount, std::to_string(block.Byte(kPassCountByte))});
     return fields;
 }
 
@@ -121,15 +120,14 @@ Fields FieldsOfBlock(int address, const MemoryBlock& block)
             return SettingsFields(index, block);
         case Area::BankSizes:
             return BankFields(index, block);
-        case Area::Flags:
-            return FlagFields(block, index * kBits * kBlockBytes, kRadioRows, "Row ", " enabled");
         case Area::Links:
-            return FlagFields(block, 0, kLinkFlags, "Bank ", " link");
+            return LinkFields(block);
         case Area::PassList:
             return PassFields(block);
         case Area::Vfo:
         case Area::Channels:
             return RowFields(address, block);
+        case Area::Flags:  // those of rows stand with the rows
         case Area::Presets:
             break;
     }
@@ -198,7 +196,7 @@ ConflictRow DescribeConflict(const CloneImage& image, const ChangePlan& plan, co
         for (const BlockField& field : Longer(known, Longer(there, here))) {
             const ConflictField texts{field.name, TextOf(known, field.name), TextOf(there, field.name),
                                       TextOf(here, field.name)};
-            const bool isCount = field.name == "Search Pass count";
+            const bool isCount = field.name == kCount;
             if (!isCount && (texts.known != texts.receiver || texts.receiver != texts.image))
                 row.fields.push_back(texts);
         }

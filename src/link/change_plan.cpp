@@ -280,24 +280,23 @@ bool ChangePlan::SendsPresets() const
 CloneImage ChangePlan::Result() const
 {
     CloneImage result = image_;
-    bool takesSettings = false;
-    for (const Conflict& conflict : conflicts_) {
-        const BlockPlace place = *PlaceOf(conflict.addresses.front());
-        if (!conflict.takesReceivers)
-            continue;
-        takesSettings = takesSettings || place.area->id == Area::Settings;
-        if (place.area->decodesSingly)
-            place.area->decode(result, place.index, {&held_.at(conflict.addresses.front()), 1});
-        else if (place.area->id == Area::BankSizes)
-            Take(Area::BankSizes, held_, result);
-    }
-    if (takesSettings) {
-        BlockMap settings = BlocksOfImage(image_);
-        for (int index = 0; index < AreaOf(Area::Settings).blocks; ++index)
-            if (const int address = AreaOf(Area::Settings).AddressOf(index); IsTaken(address))
-                settings[address] = held_.at(address);
-        Take(Area::Settings, settings, result);
-    }
+    BlockMap blocks = BlocksOfImage(image_);
+    std::set<Area> together;
+    for (const Conflict& conflict : conflicts_)
+        for (const int address : conflict.addresses) {
+            if (!conflict.takesReceivers)
+                continue;
+            blocks[address] = held_.at(address);
+            const BlockPlace place = *PlaceOf(address);
+            if (place.area->decodesSingly)
+                place.area->decode(result, place.index, {&held_.at(address), 1});
+            else
+                together.insert(place.area->id);
+        }
+    for (const Area id : together)
+        Take(id, blocks, result);
+    if (!IsTaken(Settings2Address()))
+        result.Settings().passCount = image_.Settings().passCount;
     const CloneImage merged = Merged();
     for (int row = 0; row < kRadioRows; ++row)
         result.MemData(row).enabled = merged.MemEnable(row);

@@ -98,6 +98,19 @@ TransferResult ReadBlocks(const std::vector<int>& addresses, const CloneImage& i
     return Done;
 }
 
+KnownBeforeCheck::KnownBeforeCheck(ReceiverKnowledge& knowledge, const std::vector<int>& addresses)
+    : knowledge_(knowledge)
+{
+    for (const int address : addresses)
+        if (const KnownBlock* known = knowledge.Find(address))
+            before_[address] = *known;
+}
+
+KnownBeforeCheck::~KnownBeforeCheck()
+{
+    knowledge_.PutBack(before_);
+}
+
 std::vector<ExpectedBlock> ExpectedAfterChanges(const CloneImage& image, const ChangePlan& changes)
 {
     std::vector<ExpectedBlock> expected;

@@ -23,6 +23,24 @@ BlockMap KnownContents(const ReceiverKnowledge& knowledge);
 TransferResult ReadBlocks(const std::vector<int>& addresses, const CloneImage& image, RadioLink& link,
                           TransferObserver& observer, BlockMap& read);
 
+/// Holds what is known of blocks while they are read to be checked. Where nothing is written after all it
+/// comes back, so that the next attempt finds the same conflicts.
+class KnownBeforeCheck
+{
+  public:
+    KnownBeforeCheck(ReceiverKnowledge& knowledge, const std::vector<int>& addresses);
+    ~KnownBeforeCheck();
+    KnownBeforeCheck(const KnownBeforeCheck&) = delete;
+    KnownBeforeCheck& operator=(const KnownBeforeCheck&) = delete;
+
+    /// The write begins.
+    void Forget() { before_.clear(); }
+
+  private:
+    ReceiverKnowledge& knowledge_;
+    KnownBlocks before_;
+};
+
 /// What a read-back after the changes should bring.
 std::vector<ExpectedBlock> ExpectedAfterChanges(const CloneImage& image, const ChangePlan& changes);
 

@@ -108,6 +108,13 @@ void ReceiverKnowledge::Leave()
     untold_ = TellingBlocks();
 }
 
+void ReceiverKnowledge::PutBack(const KnownBlocks& blocks)
+{
+    for (const auto& [address, block] : blocks)
+        if (const auto known = known_.find(address); known != known_.end())
+            known->second = block;
+}
+
 void ReceiverKnowledge::TakeRead(int address, const MemoryBlock& block)
 {
     if (isInDoubt_)

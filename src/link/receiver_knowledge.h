@@ -66,6 +66,9 @@ class ReceiverKnowledge
     void BeginDoubt() { isInDoubt_ = true; }
     void EndDoubt(bool haveShifted);
 
+    /// Counts what was known of these blocks before they were read again, as far as they are known still.
+    void PutBack(const KnownBlocks& blocks);
+
     /// The device went away; what comes back may be another receiver.
     void Leave();
 
