@@ -1,6 +1,7 @@
 // How long transfers take: `link_bench line` compares a whole read and a whole write at 9600 baud with the
 // time that their characters need on the wire; `link_bench blocks` times blocks on a line that takes no
-// time, for banks of several sizes.
+// time, for banks of several sizes; `link_bench changes` times writes of what changed, safety read and
+// verification included, and a whole write with verification beside them, at 9600 baud.
 
 #include <sys/resource.h>
 
@@ -13,7 +14,9 @@
 #include <vector>
 
 #include "image/fresh_image.h"
+#include "link/change_writer.h"
 #include "link/qt_serial_port.h"
+#include "link/receiver_checks.h"
 #include "link/receiver_reader.h"
 #include "link/receiver_writer.h"
 #include "simulator/demo_image.h"
@@ -165,6 +168,65 @@ void TimeBlocks()
     }
 }
 
+/// What a person waits for after Write: the blocks are read, written and read back.
+TransferResult WriteChanges(Bench& bench, TransferObserver& observer)
+{
+    ReceiverKnowledge& knowledge = bench.link.Knowledge();
+    ChangePlan plan(bench.image, KnownContents(knowledge), KnownFrom::Receiver, false);
+    BlockMap read;
+    if (ReadBlocks(plan.BlocksToCheck(), bench.image, bench.link, observer, read) != TransferResult::Done)
+        return TransferResult::Failed;
+    plan.Check(read);
+    if (ChangeWriter(bench.image, plan, bench.link, observer).Write() != TransferResult::Done)
+        return TransferResult::Failed;
+    std::vector<BlockDifference> differences;
+    const TransferResult result =
+        ReadBack(ExpectedAfterChanges(bench.image, plan), bench.link, observer, differences);
+    return differences.empty() ? result : TransferResult::Failed;
+}
+
+TransferResult WriteAndVerify(Bench& bench, TransferObserver& observer)
+{
+    if (WriteEverything(bench, observer) != TransferResult::Done)
+        return TransferResult::Failed;
+    std::vector<BlockDifference> differences;
+    return ReadBack(ExpectedAfterWrite(bench.image, {}), bench.link, observer, differences);
+}
+
+/// Edits so many channels of a receiver that is known.
+void Edit(Bench& bench, int channels)
+{
+    const ReceiverMemory memory = bench.receiver.Memory();
+    for (const int address : ReadableBlocks())
+        bench.link.Knowledge().TakeRead(address, memory.At(address));
+    for (int row = 0; row < channels; ++row)
+        bench.image.MemData(row * 10).tone ^= 1;
+}
+
+void TimeChanges()
+{
+    constexpr int kBaud = 9600;
+    constexpr int kTimes = 5;
+    std::printf("%-28s %7s %10s %10s\n", "write", "blocks", "median s", "most s");
+    for (const int channels : {1, 10, 100}) {
+        Bench bench(kBaud);
+        std::vector<double> seconds;
+        int blocks = 0;
+        for (int time = 0; time < kTimes; ++time) {
+            Edit(bench, channels);
+            const Timing timing = Time(bench, WriteChanges);
+            seconds.push_back(timing.seconds);
+            blocks = timing.counter.Blocks();
+        }
+        std::ranges::sort(seconds);
+        std::printf("%-3d %-24s %7d %10.3f %10.3f\n", channels, "edited channels", blocks,
+                    seconds[kTimes / 2], seconds.back());
+    }
+    Bench bench(kBaud);
+    const Timing whole = Time(bench, WriteAndVerify);
+    std::printf("%-28s %7d %10.3f\n", "everything, with verification", whole.counter.Blocks(), whole.seconds);
+}
+
 }  // namespace
 }  // namespace rqm5
 
@@ -176,7 +238,9 @@ int main(int argc, char* argv[])
         rqm5::TimeLine();
     else if (what == "blocks")
         rqm5::TimeBlocks();
+    else if (what == "changes")
+        rqm5::TimeChanges();
     else
-        std::fprintf(stderr, "usage: link_bench line|blocks\n");
-    return what == "line" || what == "blocks" ? 0 : 2;
+        std::fprintf(stderr, "usage: link_bench line|blocks|changes\n");
+    return what == "line" || what == "blocks" || what == "changes" ? 0 : 2;
 }

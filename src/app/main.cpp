@@ -13,6 +13,7 @@
 #include "app/start_up.h"
 #include "files/file_store.h"
 #include "files/plain_settings.h"
+#include "link/knowledge_file.h"
 #include "link/port_file.h"
 #include "link/qt_serial_port.h"
 #include "ui/icons.h"
@@ -93,6 +94,7 @@ int main(int argc, char** argv)
     options.commandFile = rqm5::CommandFile(rqm5::CommandLineText(FileArguments(application)));
     options.portFile = rqm5::PortFilePath(QApplication::applicationDirPath());
     options.stateFolder = rqm5::StateFolder();
+    options.cacheFolder = rqm5::CacheFolder();
     options.useDevice = [&port](const QString& device) { port.SetDevice(device); };
     options.showProgress = rqm5::ShowProgressOnDesktop;
     options.notify = rqm5::NotifyOnDesktop;

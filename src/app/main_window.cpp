@@ -48,6 +48,7 @@ frmMain::frmMain(SerialPort& port, Dialogs& dialogs, const StartOptions& options
         Qt::NoContextMenu);  // its own menu could hide the toolbar, and View > Toolbar would stay checked
     Timer1_.setSingleShot(true);
     Timer1_.setTimerType(Qt::PreciseTimer);
+    link_.Knowledge().KeepIn(options_.cacheFolder);
     parts_ = MakeWindowParts(document_, link_, dialogs_, options_, *this);
     new MenuCommands(document_, parts_, *this);
     closing_ =

@@ -1,6 +1,7 @@
 #include "app/menu_commands.h"
 
 #include "app/backup_commands.h"
+#include "app/change_commands.h"
 #include "app/clone_drop.h"
 #include "app/compare_commands.h"
 #include "app/edit_commands.h"
@@ -69,6 +70,7 @@ void MenuCommands::ConnectTransferMenus()
     Connect("mnuWrAll", [this] { parts_.shell->Start(Transfer::WriteAll); });
     Connect("mnuWrMemory", [this] { parts_.shell->StartOn(Tab::Memory, Transfer::WriteMemory); });
     Connect("mnuWrSettings", [this] { parts_.shell->StartOn(Tab::Settings1, Transfer::WriteSettings); });
+    Connect("mnuWrChanges", [this] { parts_.changes->mnuWrChanges_Click(); });
     Connect("mnuReVerify", [this] { parts_.readOptions->mnuReVerify_Click(); });
     Connect("mnuWrBackup", [this] { parts_.writeOptions->Keep(); });
     Connect("mnuWrVerify", [this] { parts_.writeOptions->Keep(); });

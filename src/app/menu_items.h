@@ -95,6 +95,8 @@ inline constexpr MenuItem kMenuItems[] = {
      TEXT("Write the channels of the group shown on the Memory page"), During::Off},
     {"mnuWrite", "mnuWrSettings", TEXT("Settings(&S)"), "", TEXT("Write the settings and the VFO bands"),
      During::Off},
+    {"mnuWrite", "mnuWrChanges", TEXT("&Changes..."), "Ctrl+Shift+C",
+     TEXT("Write only what the receiver holds otherwise, after showing it"), During::Off},
     {"mnuWrite", "", "", "", "", During::Stays},
     {"mnuWrite", "mnuWrBackup", TEXT("Keep a &backup before writing"), "",
      TEXT("Read what a write will replace, and save it, before anything is written"), During::Off},

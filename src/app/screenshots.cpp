@@ -184,6 +184,14 @@ void SaveSpectrum(PictureDialogs& dialogs, QWidget& window)
     dock.close();
 }
 
+/// What a write would send after a channel was switched off.
+void SaveChanges(QWidget& window)
+{
+    Find<QAbstractButton>(window, "cmbDisable").click();
+    Trigger(window, "mnuWrChanges");
+    Trigger(window, "mnuHistoryUndo");
+}
+
 void SaveDiagnostics(PictureDialogs& dialogs, QWidget& window)
 {
     Trigger(window, "mnuViewDiagnostics");
@@ -233,6 +241,7 @@ int main(int argc, char** argv)
     SaveFinds(dialogs, *window);
     SaveBankMove(dialogs, *window);
     SaveCompare(dialogs, *window, settings);
+    SaveChanges(*window);
     Trigger(*window, "mnuEditUndo");
     Trigger(*window, "mnuEditFillSeries");
     SavePaste(*window);

@@ -60,10 +60,18 @@ void TransferCommands::Occupy(const std::function<TransferResult()>& work)
     const TransferResult result = work();
     if (repeated_ > 0)
         notes_ << QString::fromStdString(RepeatNote(repeated_)) + QLatin1Char('.');
+    link_.Knowledge().Save();
     isRunning_ = false;
     emit Ended(result);
     if (!notes_.isEmpty())
         emit Noted(notes_.join(QLatin1Char(' ')));
+}
+
+TransferResult TransferCommands::RunPart(const std::function<TransferResult(TransferObserver&)>& work)
+{
+    auto result = TransferResult::Cancelled;
+    Occupy([&] { return result = work(*this); });
+    return result;
 }
 
 void TransferCommands::RunOther(const std::function<void()>& work)
@@ -206,7 +214,7 @@ TransferResult TransferCommands::Write(const TransferScope& scope)
     if (result == TransferResult::Done)
         result = WriteBlocks(scope, options.verifies);
     if (result == TransferResult::Done && options.verifies)
-        result = Verify(scope);
+        result = Verify(ExpectedAfterWrite(Source(), scope));
     NoteWritten(result, options.verifies);
     return result;
 }
@@ -277,26 +285,31 @@ TransferResult TransferCommands::WriteBlocks(const TransferScope& scope, bool is
         other_ = writer.Written();
     else
         document_.Absorb([&writer](CloneImage& image) { image = writer.Written(); });
-    if (writer.Plan().MayHaveSent(AreaOf(Area::Settings).address))
-        receiver_.Written(writer.Written().Settings().model, link_.Port().Device());
     if (const int flags = writer.OtherFlags(); flags > 0)
         notes_ << tr("Enable flags of other rows replaced by the receiver's: %1.").arg(flags);
-    if (result == TransferResult::Cancelled && writer.Plan().HasBegun())
-        Warn({.title = tr("Write"),
-              .text = tr("The write was cancelled."),
-              .details = QString::fromStdString(writer.Plan().Summary())});
+    TellWritten(writer.Plan(), writer.Written(), result);
     if (!writer.IsInDoubt() || isVerified)
         return result;
     Message(DoubtfulWrite());
     return TransferResult::Failed;
 }
 
-TransferResult TransferCommands::Verify(const TransferScope& scope)
+void TransferCommands::TellWritten(const WritePlan& plan, const CloneImage& image, TransferResult result)
+{
+    if (plan.MayHaveSent(AreaOf(Area::Settings).address))
+        receiver_.Written(image.Settings().model, link_.Port().Device());
+    if (result == TransferResult::Cancelled && plan.HasBegun())
+        Warn({.title = tr("Write"),
+              .text = tr("The write was cancelled."),
+              .details = QString::fromStdString(plan.Summary())});
+}
+
+TransferResult TransferCommands::Verify(const std::vector<ExpectedBlock>& expected)
 {
     std::vector<BlockDifference> differences;
     BeginPart();
     AftermathObserver observer(*this, NotVerified());
-    const TransferResult result = ReadBack(ExpectedAfterWrite(Source(), scope), link_, observer, differences);
+    const TransferResult result = ReadBack(expected, link_, observer, differences);
     if (result == TransferResult::Cancelled)
         notes_ << QString::fromStdString(NotVerified());
     if (!differences.empty())

@@ -16,6 +16,7 @@
 #include "link/receiver_reader.h"
 #include "link/transfer_observer.h"
 #include "link/transfer_scope.h"
+#include "link/write_plan.h"
 #include "ui/dialogs.h"
 
 namespace rqm5 {
@@ -53,6 +54,22 @@ class TransferCommands : public QObject, private TransferObserver
     /// What the receiver held when all of it was last read in this run, if it was.
     std::optional<LastRead> LastFullRead() const { return lastRead_; }
     void KeepLastRead(const CloneImage& image);
+    /// Runs a part of an operation that tells how it goes as a transfer does. \return what the part returned
+    TransferResult RunPart(const std::function<TransferResult(TransferObserver&)>& work);
+
+    // What the parts of a write have in common, while one runs.
+
+    TransferObserver& Observer() { return *this; }
+    bool MayWriteToThisModel();
+    bool SaveBackup(const QString& path, const CloneImage& backup);
+    TransferResult Verify(const std::vector<ExpectedBlock>& expected);
+
+    /// A sentence for the end of the transfer.
+    void AddNote(const QString& note) { notes_ << note; }
+    bool HasNote() const { return !notes_.isEmpty(); }
+
+    /// Says after a cancel how far a write came, and remembers which model was written.
+    void TellWritten(const WritePlan& plan, const CloneImage& image, TransferResult result);
 
     /// How far other work is: it begins, up to a maximum, and comes to a value.
     void ShowProgress(int maximum) { emit ProgressBegan(maximum); }
@@ -99,12 +116,9 @@ class TransferCommands : public QObject, private TransferObserver
     TransferResult Write(const TransferScope& scope);
     const CloneImage& Source() const { return other_ ? *other_ : document_.Image(); }
     TransferResult KeepBackup(const TransferScope& scope, const QString& folder);
-    bool MayWriteToThisModel();
     TransferResult WriteBlocks(const TransferScope& scope, bool isVerified);
-    TransferResult Verify(const TransferScope& scope);
     void Warn(Prompt warning);
     void WarnOfBlocks(const QString& title, const QString& text, const std::vector<std::string>& names);
-    bool SaveBackup(const QString& path, const CloneImage& backup);
 
     QMessageBox::StandardButton Ask(const Prompt& prompt);
 

@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "app/backup_commands.h"
+#include "app/change_commands.h"
 #include "app/compare_commands.h"
 #include "app/current_file.h"
 #include "app/desktop_news.h"
@@ -70,6 +71,7 @@ void MakeCommands(Document& document, RadioLink& link, Dialogs& dialogs, const S
     parts.readOptions = new ReadOptionItems(*parts.menus, &window);
     parts.writeOptions = new WriteOptionItems(*parts.menus, dialogs, window);
     parts.transfers = new TransferCommands(document, link, dialogs, window);
+    parts.changes = new ChangeCommands(document, link, *parts.transfers, dialogs, window);
     parts.offers =
         new Offers(document, *parts.transfers, *parts.writeOptions, *parts.menus, *parts.messageBar);
     new DesktopNews(*parts.transfers, options, &window);

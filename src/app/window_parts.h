@@ -10,6 +10,7 @@
 namespace rqm5 {
 
 class BackupCommands;
+class ChangeCommands;
 class CompareCommands;
 class CurrentFile;
 class EditCommands;
@@ -55,6 +56,7 @@ struct WindowParts
     WriteOptionItems* writeOptions = nullptr;
     Offers* offers = nullptr;
     TransferCommands* transfers = nullptr;
+    ChangeCommands* changes = nullptr;
     TransferShell* shell = nullptr;
     SideWindows* sides = nullptr;
     CompareCommands* compare = nullptr;

@@ -64,8 +64,13 @@ bool TakeWriteOffer()
 
 QString NewBackupPath(const QString& folder, const TransferScope& scope, const QDateTime& now)
 {
-    const QString name = QStringLiteral("RQ-M5 %1 %2")
-                             .arg(now.toString(QStringLiteral("yyyy-MM-dd HH-mm-ss")), NameOfScope(scope));
+    return NewBackupPath(folder, NameOfScope(scope), now);
+}
+
+QString NewBackupPath(const QString& folder, const QString& what, const QDateTime& now)
+{
+    const QString name =
+        QStringLiteral("RQ-M5 %1 %2").arg(now.toString(QStringLiteral("yyyy-MM-dd HH-mm-ss")), what);
     QString path = QDir(folder).filePath(name + QStringLiteral(".RQ5"));
     for (int copy = 2; QFileInfo::exists(path); ++copy)
         path = QDir(folder).filePath(QStringLiteral("%1 (%2).RQ5").arg(name).arg(copy));

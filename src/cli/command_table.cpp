@@ -4,6 +4,7 @@
 #include "cli/command.h"
 #include "cli/list_import.h"
 #include "cli/values.h"
+#include "cli/write_changes.h"
 #include "link/block_address.h"
 
 namespace rqm5 {
@@ -42,6 +43,9 @@ constexpr Option kWriteOptions[] = {
     kTransferBank,
     {"--backup", "COPY", "first read what will be replaced and save it as COPY, a new file", FileNameFault},
     {"--verify", "", "read back afterwards and list each block that differs"},
+    {"--changes", "", "write only what the receiver holds otherwise; what is not known of it is read first"},
+    {"--known", "OLD.RQ5", "with --changes: what the receiver held when it was last read or written",
+     FileNameFault},
     {"--force", "", "write although the backup shows that the receiver is another model"},
     kQuiet,
 };
@@ -106,8 +110,9 @@ constexpr Command kCommands[] = {
      kFile, kReadOptions, RunRead, ScopeConflict},
     {"write", "write FILE to the receiver",
      "Sends settings, VFO bands and presets, then banks and channels. Without --verify nothing is read "
-     "back. A backup that fails keeps everything from being written.",
-     kFile, kWriteOptions, RunWrite, ScopeConflict},
+     "back. A backup that fails keeps everything from being written. With --changes each block that is to be "
+     "written is read first, and nothing is written where it was changed at the receiver, too.",
+     kFile, kWriteOptions, RunWrite, WriteConflict},
     {"verify", "compare the receiver with FILE",
      "Compares with what write of the same parts leaves behind. Prints nothing and ends with status 0 when "
      "they agree, else lists each block that differs, with the bytes in words.",

@@ -7,6 +7,7 @@
 #include "cli/values.h"
 #include "image/display_text.h"
 #include "link/com_ports.h"
+#include "link/knowledge_file.h"
 #include "link/line_notes.h"
 #include "link/port_file.h"
 
@@ -53,6 +54,7 @@ ReceiverSession::ReceiverSession(const Arguments& arguments, Console& console)
           link_.Cancel();
       })
 {
+    link_.Knowledge().KeepIn(CacheFolder());
     if (isQuiet_)
         progress_.BeQuiet();
 }
@@ -71,6 +73,7 @@ void ReceiverSession::TellPort()
 
 ReceiverSession::~ReceiverSession()
 {
+    link_.Knowledge().Save();
     progress_.Clear();
     if (const std::string note = RepeatNote(progress_.Repeated()); !note.empty())
         console_.err << note << '\n';

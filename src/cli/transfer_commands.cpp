@@ -4,6 +4,7 @@
 #include "cli/command.h"
 #include "cli/receiver_session.h"
 #include "cli/values.h"
+#include "cli/write_changes.h"
 #include "files/file_kind.h"
 #include "files/file_store.h"
 #include "image/display_text.h"
@@ -179,6 +180,8 @@ Status RunWrite(const Arguments& arguments, Console& console)
              rows);
     ReceiverSession session(arguments, console);
     session.TellPort();
+    if (arguments.Has("--changes"))
+        return WriteChanges(arguments, image, session, console);
     Status status = Status::Done;
     std::optional<int> model;
     if (!backup.empty())

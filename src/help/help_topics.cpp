@@ -58,6 +58,8 @@ constexpr Topic kTopics[] = {
     {"dlgExportList", "lists.md#export-list"},
     {"dlgParts", "editing-channels.md#cut-copy-and-paste"},
     {"dlgFill", "editing-channels.md#fill-series"},
+    {"dlgWriteChanges", "reading-and-writing.md#writing-only-what-changed"},
+    {"dlgWriteConflicts", "reading-and-writing.md#when-the-receiver-was-changed-too"},
     {"dlgCOM", "ports.md"},
     {"dlgPrint", "printing.md"},
     {"txtRawAddress", "diagnostics.md#raw-read"},

@@ -1,5 +1,7 @@
 #include "link/block_link.h"
 
+#include <utility>
+
 #include "image/channel_block.h"
 #include "link/commands.h"
 #include "link/link_problems.h"
@@ -9,22 +11,32 @@ namespace rqm5 {
 BlockResult BlockLink::Read(int address, MemoryBlock& block)
 {
     const std::string command = ReadCommand(address);
-    return Repeat(address, false, [&] {
+    BlockResult read = Repeat(address, false, [&] {
         const std::string reply = link_.SendReadCommand(command);
         const ReplyOutcome outcome = OutcomeOfRead(reply, link_.LastReceived(), HasGone(link_.Port()));
         if (outcome == ReplyOutcome::Good)
             block = BlockOfReply(reply);
         return outcome;
     });
+    if (read.result == TransferResult::Done)
+        link_.Knowledge().TakeRead(address, block);
+    return read;
 }
 
 BlockResult BlockLink::Write(int address, const MemoryBlock& block)
 {
     const std::string command = WriteCommand(address, block);
-    return Repeat(address, true, [&] {
+    bool isSent = false;
+    BlockResult written = Repeat(address, true, [&] {
+        // Without a port nothing is sent.
+        if (!std::exchange(isSent, true) && (link_.Port().IsOpen() || link_.Port().Open()))
+            link_.Knowledge().TakeSending(address, block);
         const int code = link_.SendWriteCommand(command);
         return OutcomeOfWrite(code, link_.LastReceived(), HasGone(link_.Port()));
     });
+    if (written.result == TransferResult::Done)
+        link_.Knowledge().TakeWritten(address, block);
+    return written;
 }
 
 template <typename Try>
@@ -44,8 +56,10 @@ BlockResult BlockLink::Repeat(int address, bool written, Try attempt)
             break;
         block.outcome = attempt();
         Watch(block.attempts++);
-        if (isLineOpen || block.outcome != ReplyOutcome::Good)
+        if (isLineOpen || block.outcome != ReplyOutcome::Good) {
             watch_.Begin();
+            link_.Knowledge().BeginDoubt();
+        }
     } while (block.outcome != ReplyOutcome::Good && !IsPortFailure(block.outcome) &&
              block.attempts < kAttempts);
     Conclude(address, written, block);
@@ -87,6 +101,8 @@ void BlockLink::Conclude(int address, bool written, BlockResult& block)
         block.result = TransferResult::Cancelled;
     } else {
         block.result = TransferResult::Failed;
+        if (block.outcome == ReplyOutcome::PortFailed)
+            link_.Knowledge().Leave();
         block.problem = IsPortFailure(block.outcome)
                             ? ComPortProblem(link_.Port())
                             : CommunicationProblem(address, written, block.attempts, block.outcome);
@@ -97,9 +113,18 @@ bool BlockLink::HaveRepliesShifted()
 {
     if (!watch_.IsWatching())
         return false;
-    link_.Listen();
+    const Silence silence = link_.Listen();
     watch_.Heard(link_.LastHeard());
-    return watch_.End();
+    const bool haveShifted = watch_.End();
+    link_.Knowledge().EndDoubt(haveShifted || silence != Silence::Kept);
+    return haveShifted;
+}
+
+void BlockLink::BeginAnew()
+{
+    if (watch_.IsWatching())
+        link_.Knowledge().EndDoubt(true);
+    watch_.End();
 }
 
 }  // namespace rqm5

@@ -25,13 +25,17 @@ struct BlockResult
 /// again, 10 attempts in all; a port failure ends the operation at once.
 ///
 /// Around the rule the line falls silent: between attempts, and before a block while an earlier reply may
-/// still come. A block that goes well at once is not kept waiting.
+/// still come. A block that goes well at once is not kept waiting. What the link knows of the receiver
+/// follows each block.
 class BlockLink
 {
   public:
     static constexpr int kAttempts = 10;
 
     BlockLink(RadioLink& link, TransferObserver& observer) : link_(link), observer_(observer) {}
+    ~BlockLink() { BeginAnew(); }
+    BlockLink(const BlockLink&) = delete;
+    BlockLink& operator=(const BlockLink&) = delete;
 
     /// \param block  takes the 32 characters as they came; unchanged unless Done is returned
     BlockResult Read(int address, MemoryBlock& block);
@@ -47,7 +51,7 @@ class BlockLink
     bool HaveRepliesShifted();
 
     /// Another operation begins, after one that broke off: what is in doubt there counts no more.
-    void BeginAnew() { watch_.End(); }
+    void BeginAnew();
 
   private:
     ReplyOutcome Pause(int attempts);

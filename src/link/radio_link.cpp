@@ -70,6 +70,12 @@ int RadioLink::SendWriteCommand(const std::string& command)
     return code;
 }
 
+ReceiverKnowledge& RadioLink::Knowledge()
+{
+    knowledge_.GoTo(port_.Device());
+    return knowledge_;
+}
+
 void RadioLink::Cancel()
 {
     isStopped_ = true;

@@ -7,6 +7,7 @@
 #include <chrono>
 #include <string>
 
+#include "link/receiver_knowledge.h"
 #include "link/reply_frames.h"
 #include "link/serial_port.h"
 
@@ -80,6 +81,9 @@ class RadioLink : public QObject
 
     SerialPort& Port() { return port_; }
 
+    /// What is known of the receiver at the port.
+    ReceiverKnowledge& Knowledge();
+
     /// Ends the wait that runs now, as if its time had run out. Whoever calls it also makes the transfer's
     /// observer say that it is cancelled.
     void Cancel();
@@ -102,6 +106,7 @@ class RadioLink : public QObject
     Silence WaitForSilence(std::chrono::milliseconds silence, std::chrono::milliseconds most);
 
     SerialPort& port_;
+    ReceiverKnowledge knowledge_;
     QTimer Timer1_;
     QTimer quiet_;  ///< runs while the line is silent and no command is under way
     QEventLoop loop_;

@@ -5,6 +5,7 @@
 
 #include "image/channel_block.h"
 #include "link/commands.h"
+#include "link/memory_map.h"
 
 namespace rqm5 {
 
@@ -19,12 +20,15 @@ RawReply ReadRaw(RadioLink& link, int address)
                                                   : ReplyOutcome::NotOpened;
         return raw;
     }
+    const bool isLineOpen = link.MayStillReply();
     const std::string reply = link.SendReadCommand(ReadCommand(address));
     raw.received = link.LastReceived();
     raw.outcome = OutcomeOfRead(reply, raw.received, HasGone(link.Port()));
     raw.took = link.LastDuration();
     if (raw.IsFrame())
         raw.block = BlockOfReply(reply);
+    if (raw.IsFrame() && !isLineOpen && PlaceOf(address))
+        link.Knowledge().TakeRead(address, raw.block);
     return raw;
 }
 

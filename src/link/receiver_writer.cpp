@@ -132,8 +132,13 @@ void ReceiverWriter::MergeFlags()
         }
 }
 
-/// Keeps what became of a step, and tells of a failure with what the receiver holds then.
-TransferResult ReceiverWriter::Conclude(BlockResult result, StepState& state)
+TransferResult ReceiverWriter::Conclude(const BlockResult& result, StepState& state)
+{
+    return ConcludeStep(result, state, plan_, observer_);
+}
+
+TransferResult ConcludeStep(BlockResult result, StepState& state, const WritePlan& plan,
+                            TransferObserver& observer)
 {
     if (result.result == Done)
         state = StepState::Sent;
@@ -143,8 +148,8 @@ TransferResult ReceiverWriter::Conclude(BlockResult result, StepState& state)
         state = result.attempts == 0 || result.outcome == ReplyOutcome::NotOpened ? StepState::NotSent
                                                                                   : StepState::Refused;
     if (result.problem) {
-        result.problem->aftermath = plan_.Summary();
-        observer_.Message(*result.problem);
+        result.problem->aftermath = plan.Summary();
+        observer.Message(*result.problem);
     }
     return result.result;
 }

@@ -44,7 +44,7 @@ class ReceiverWriter
     MemoryBlock ContentsOf(const WriteSection& section, std::size_t step) const;
     void MergeFlags();
     void BeginPart(const WriteSection& section);
-    TransferResult Conclude(BlockResult result, StepState& state);
+    TransferResult Conclude(const BlockResult& result, StepState& state);
 
     CloneImage image_;  ///< a copy: the flags that the receiver has outside the group come into it
     const TransferScope scope_;
@@ -56,5 +56,9 @@ class ReceiverWriter
     int otherFlags_ = 0;
     bool isInDoubt_ = false;
 };
+
+/// Keeps what became of a step, and tells of a failure with what the receiver holds then.
+TransferResult ConcludeStep(BlockResult result, StepState& state, const WritePlan& plan,
+                            TransferObserver& observer);
 
 }  // namespace rqm5

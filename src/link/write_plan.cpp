@@ -23,7 +23,9 @@ QString NameOf(const WriteSection& section, std::size_t first, std::size_t last)
     if (section.kind == WriteSection::Kind::SendCount)
         return Translate(kCountName);
     const MemoryArea& area = *section.area;
-    const bool isWhole = first == 0 && last + 1 == section.blocks.size();
+    const bool hasAll =
+        area.id == Area::Presets || section.blocks.size() == static_cast<std::size_t>(area.blocks);
+    const bool isWhole = hasAll && first == 0 && last + 1 == section.blocks.size();
     // Rows are always named: a group has only a part of them.
     if (isWhole && area.id != Area::Channels)
         return Translate(area.many);
@@ -35,6 +37,12 @@ QString NameOf(const WriteSection& section, std::size_t first, std::size_t last)
     if (first == last)
         return Translate(area.one) + QStringLiteral(" %1").arg(numberOf(first));
     return Translate("%1 %2 to %3").arg(Translate(area.many)).arg(numberOf(first)).arg(numberOf(last));
+}
+
+/// True when a step's block lies behind that of the step before it, as far as people count.
+bool FollowsOn(const WriteSection& section, std::size_t step)
+{
+    return section.area->id == Area::Presets || section.blocks[step] == section.blocks[step - 1] + 1;
 }
 
 std::vector<int> Rows(RowRange rows)
@@ -59,6 +67,23 @@ WritePlan::WritePlan(const CloneImage& image, const TransferScope& scope)
     }
     if (scope.memory)
         AddMemory(image, scope.selector);
+}
+
+WritePlan::WritePlan(const CloneImage& image, const std::set<int>& addresses, bool isCountAlone)
+{
+    const int settings2 = AreaOf(Area::Settings).AddressOf(kSettings2);
+    const WritePlan whole(image, TransferScope{});
+    for (const WriteSection& section : whole.Sections()) {
+        std::vector<int> blocks;
+        for (std::size_t step = 0; step < section.blocks.size(); ++step) {
+            const int address = section.AddressOf(step);
+            const bool isCount = section.kind == Kind::SendCount;
+            if (addresses.contains(address) && (address != settings2 || isCount == isCountAlone))
+                blocks.push_back(section.blocks[step]);
+        }
+        if (!section.IsRead())
+            Add(section.kind, section.area->id, std::move(blocks), section.ofMemory);
+    }
 }
 
 void WritePlan::AddMemory(const CloneImage& image, int selector)
@@ -119,7 +144,7 @@ std::string WritePlan::BlocksThatAre(StepState state) const
         const std::size_t count = section.IsRead() ? 0 : section.states.size();
         for (std::size_t first = 0; first < count; ++first) {
             std::size_t end = first;
-            while (end < count && section.states[end] == state)
+            while (end < count && section.states[end] == state && (end == first || FollowsOn(section, end)))
                 ++end;
             if (end == first)
                 continue;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -37,6 +38,10 @@ class WritePlan
 {
   public:
     WritePlan(const CloneImage& image, const TransferScope& scope);
+
+    /// The same order for these blocks alone, each sent once and none read.
+    /// \param isCountAlone  of the second settings block only the count changes, which has its own place
+    WritePlan(const CloneImage& image, const std::set<int>& addresses, bool isCountAlone);
 
     std::vector<WriteSection>& Sections() { return sections_; }
     const std::vector<WriteSection>& Sections() const { return sections_; }

@@ -6,6 +6,7 @@
 #include <QSignalSpy>
 #include <QStatusTipEvent>
 #include <QTableView>
+#include <QTreeWidget>
 
 #include "app/receiver_window_fixture.h"
 
@@ -208,6 +209,72 @@ TEST_F(WriteOptionsTest, WithoutItsBackupNothingIsWrittenAndACancelTellsWhatWas)
     At(0, [this] { Find<QPushButton>("cmbCancel").click(); });
     Item("mnuReMemory").trigger();
     EXPECT_EQ(dialogs_.asked.size(), 2U) << "a read leaves nothing half done in the receiver";
+}
+
+/// Write > Changes, and what its dialogs show and are told.
+TEST_F(WriteOptionsTest, ChangesAreShownCheckedBackedUpWrittenAndVerified)
+{
+    Item("mnuWrChanges").trigger();
+    ASSERT_EQ(dialogs_.asked.size(), 1U);
+    EXPECT_EQ(dialogs_.asked[0].details,
+              QStringLiteral("The receiver was never read in this run: 1251 blocks, about one minute."));
+    EXPECT_TRUE(receiver_.CommandLog().empty()) << "cancelled";
+
+    Item("mnuReAll").trigger();
+    const auto textOf = [](const QDialog& dialog, const char* name) {
+        return dialog.findChild<QLabel*>(QLatin1String(name))->text();
+    };
+    std::vector<QString> shown;
+    dialogs_.act = [&](QDialog& dialog) {
+        const auto* list = dialog.findChild<QTreeWidget*>();
+        for (auto line = QTreeWidgetItemIterator(const_cast<QTreeWidget*>(list)); *line != nullptr; ++line) {
+            QStringList cells;
+            for (int column = 0; column < (*line)->columnCount(); ++column)
+                cells << (*line)->text(column);
+            shown.push_back(cells.join(QStringLiteral("|")));
+        }
+        auto* ok = dialog.findChild<QPushButton*>(QStringLiteral("OKButton"));
+        if (dialog.objectName() == QLatin1String("dlgWriteConflicts")) {
+            EXPECT_FALSE(ok->isEnabled()) << "not decided yet";
+            dialog.findChild<QPushButton*>(QStringLiteral("cmbTakeReceivers"))->click();
+        } else {
+            shown.push_back(textOf(dialog, "lblTime"));
+        }
+        ok->click();
+    };
+    Item("mnuWrChanges").trigger();
+    EXPECT_EQ(std::exchange(shown, {}),
+              std::vector<QString>{
+                  QStringLiteral("The receiver holds all of it already. There is nothing to write.")});
+
+    receiver_.ClearCommandLog();
+    EditSomething();
+    Item("mnuWrChanges").trigger();
+    EXPECT_EQ(
+        std::exchange(shown, {}),
+        (std::vector<QString>{QStringLiteral("Settings 2"), QStringLiteral("Scan Mode|Busy Scan|Timer Scan"),
+                              QStringLiteral("1 block is written, about one second.")}));
+    EXPECT_EQ(receiver_.CommandLog().size(), 3U);
+    EXPECT_EQ(OrderOfVerbs(), "RWR");
+    EXPECT_EQ(Backups().filter(QStringLiteral("changes.RQ5")).size(), 1);
+    EXPECT_TRUE(StatusText("lblHint").startsWith(QStringLiteral("Written and verified")));
+
+    ReceiverMemory memory = receiver_.Memory();
+    memory.At(0x0050).SetByte(4, 2);  // the lamp
+    receiver_.SetMemory(memory);
+    Click("opbScanMode_0");
+    Item("mnuWrChanges").trigger();
+    EXPECT_EQ(receiver_.Memory(), memory) << "the receiver's was taken";
+    EXPECT_EQ(shown.back(), QStringLiteral("Scan Mode|Timer Scan|Timer Scan|Busy Scan"));
+    EXPECT_TRUE(Find<QAbstractButton>("opbScanMode_1").isChecked()) << "in the window, too";
+    Item("mnuHistoryUndo").trigger();
+    EXPECT_TRUE(Find<QAbstractButton>("opbScanMode_0").isChecked());
+
+    receiver_.SetFaults({{.kind = FaultKind::Garble, .count = 10}});
+    dialogs_.asked.clear();
+    Item("mnuWrChanges").trigger();
+    ASSERT_EQ(dialogs_.asked.size(), 1U);
+    EXPECT_TRUE(dialogs_.asked[0].details.contains(QStringLiteral("Nothing was written.")));
 }
 
 }  // namespace

@@ -228,6 +228,65 @@ TEST_F(Write, ThatFailedIsNotVerified)
     EXPECT_EQ(receiver.CommandLog().size(), 17U);
 }
 
+TEST_F(Write, ChangesAreAllThatIsMovedAndNothingThatWasChangedThereIsLost)
+{
+    const QTemporaryDir cache;
+    qputenv("XDG_CACHE_HOME", QFile::encodeName(cache.path()));
+    const std::string old = folder / "old.RQ5";
+    const std::string copy = folder / "copy.RQ5";
+    SimSession receiver(Demo());
+    ASSERT_EQ(Transfer("read", receiver, file).status, 0);
+    PutBytes(old, Bytes(file));
+    PutBytes(folder / "edit.csv", CsvRecord("SEARCH PASS", 7, "145.625", "new"));
+    ASSERT_EQ(RunProgramFile({"import", folder / "edit.csv", file}).status, 0);
+    const ReceiverMemory before = receiver.Memory();
+    // In the row that the file changes, too.
+    ReceiverMemory turned = before;
+    turned.At(0x5530).SetByte(5, 2);
+    receiver.SetMemory(turned);
+    const struct
+    {
+        Words options;
+        int status;
+        std::size_t fewest, most;  ///< commands on the line
+        const char* text;
+    } cases[] = {
+        {{"--known", old}, 1, 11, 11, "Row 1107 (Search Pass S7), Frequency: known "},
+        {{"--known", folder / "none.RQ5"}, 1, 0, 0, "Nothing was written."},
+        {{}, 1, 20 + 7 + 11, 20 + 7 + 11, "Not known of the receiver: 7 blocks, about one second.\n"},
+        {{}, 1, 20 + 11, 20 + 11, "Row 1107 (Search Pass S7), Frequency: known "},
+        {{"--bank=3"}, 2, 0, 0, "leave out --bank"},
+    };
+    for (const auto& test : cases) {
+        Words options = test.options;
+        options.emplace_back("--changes");
+        receiver.ClearCommandLog();
+        const RunResult run = Transfer("write", receiver, file, options);
+        EXPECT_EQ(run.status, test.status) << run.err;
+        EXPECT_TRUE(Has(run.err, test.text)) << run.err;
+        EXPECT_GE(receiver.CommandLog().size(), test.fewest) << test.text;
+        EXPECT_LE(receiver.CommandLog().size(), test.most) << test.text;
+        EXPECT_EQ(receiver.Memory(), turned);
+    }
+    receiver.SetMemory(before);
+    EXPECT_EQ(Transfer("write", receiver, file, {"--known", old}).status, 2) << "without --changes";
+    receiver.ClearCommandLog();
+    const RunResult run =
+        Transfer("write", receiver, file, {"--changes", "--known", old, "--backup", copy, "--verify"});
+    EXPECT_TRUE(run.status == 0 && (run.out + run.err).empty()) << run.out << run.err;
+    EXPECT_LT(receiver.CommandLog().size(), 30U);
+    EXPECT_EQ(Transfer("verify", receiver, file).status, 0);
+    EXPECT_TRUE(Has(Transfer("write", receiver, file, {"--changes"}).err, "nothing was written"));
+    EXPECT_EQ(Bytes(copy), Bytes(old));
+    ASSERT_EQ(RunProgramFile({"new", "--region=1", "--force", file}).status, 0);
+    const RunResult other = Transfer("write", receiver, file, {"--changes"});
+    EXPECT_TRUE(other.status == 1 && Has(other.err, "repeat with --force. Nothing was written."))
+        << other.err;
+    EXPECT_EQ(Transfer("write", receiver, file, {"--changes", "--force"}).status, 0);
+    EXPECT_EQ(Transfer("verify", receiver, file).status, 0);
+    qunsetenv("XDG_CACHE_HOME");
+}
+
 TEST_F(Transfers, SayHowManyBlocksNeededMoreThanOneAttempt)
 {
     EXPECT_EQ(RunProgramFile({"new", file}).status, 0);

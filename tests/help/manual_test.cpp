@@ -105,6 +105,7 @@ TEST(Manual, EveryHelpTopicAndMessageHasItsPlace)
           "Delete the selected backups? They",
           "Not every backup could be deleted.",
           "The banks would hold more than 1000 channels together.",
+          "What the receiver holds must be read first.",
           "This link leads out of the manual. Open it in the web browser?"})
         topics << MessageTopic(QString::fromLatin1(message));
     for (const QString& topic : topics)

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "cli/arguments.h"
+#include "cli/console.h"
+#include "cli/receiver_session.h"
+#include "image/clone_image.h"
+
+namespace rqm5 {
+
+/// What write --changes does: reads what is not known of the receiver, and writes what it holds otherwise.
+Status WriteChanges(const Arguments& arguments, const CloneImage& image, ReceiverSession& session,
+                    Console& console);
+
+/// What is wrong with the options of write together; empty when nothing is.
+std::string WriteConflict(const Arguments& arguments);
+
+}  // namespace rqm5
