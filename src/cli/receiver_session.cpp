@@ -52,6 +52,23 @@ ReceiverSession::ReceiverSession(const Arguments& arguments, Console& console)
           link_.Cancel();
       })
 {
+    if (console.isVerbose)
+        QObject::connect(&link_, &RadioLink::Exchanged, &link_,
+                         [this](const std::string& command, bool /*portFailed*/) { TellExchange(command); });
+}
+
+void ReceiverSession::TellExchange(const std::string& command)
+{
+    progress_.Clear();
+    console_.err << VisibleText(command) << " -> " << VisibleText(link_.LastReceived()) << " ("
+                 << link_.LastDuration().count() / 1000 << " ms)\n";
+}
+
+void ReceiverSession::TellEnd(const std::string& done, const std::string& result)
+{
+    const auto time =
+        std::chrono::duration_cast<std::chrono::seconds>(std::chrono::steady_clock::now() - begin_);
+    rqm5::TellEnd(console_, done + " in " + TimeText(time) + (result.empty() ? "" : ": " + result));
 }
 
 void ReceiverSession::TellPort()
@@ -60,8 +77,9 @@ void ReceiverSession::TellPort()
         return;
     const std::string device = port_.Device().toStdString();
     const std::string name = "COM " + std::to_string(number_);
-    console_.err << "Port: " << VisibleText(name + ", " + (device.empty() ? "no device" : device))
-                 << " (without --port, that of RQ-M5.ini)\n";
+    if (!console_.isQuiet)
+        console_.err << "Port: " << VisibleText(name + ", " + (device.empty() ? "no device" : device))
+                     << " (without --port, that of RQ-M5.ini)\n";
     progress_.NamePort(name, device);
 }
 

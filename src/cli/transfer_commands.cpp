@@ -3,9 +3,11 @@
 #include "cli/clone_files.h"
 #include "cli/command.h"
 #include "cli/receiver_session.h"
+#include "cli/streams.h"
 #include "cli/values.h"
 #include "files/file_store.h"
 #include "image/display_text.h"
+#include "image/image_change.h"
 #include "link/forwarding_observer.h"
 #include "link/line_notes.h"
 #include "link/memory_map.h"
@@ -13,6 +15,7 @@
 #include "link/receiver_identity.h"
 #include "link/receiver_reader.h"
 #include "link/receiver_writer.h"
+#include "memory/start_image.h"
 #include "settings/settings_codec.h"
 
 namespace rqm5 {
@@ -22,6 +25,8 @@ namespace {
 std::optional<Problem> BackupObstacle(const std::string& path)
 {
     // The file may be the one that is to be written, or the backup of last week.
+    if (IsStandard(path))
+        return std::nullopt;
     if (!path.empty() && Exists(path))
         return Problem{kFileOpenError, path +
                                            ": there is a file already, and a backup replaces none; "
@@ -107,6 +112,17 @@ Status SaveDoubtful(const std::string& path, const CloneImage& image, Console& c
     return Status::Failed;
 }
 
+/// "105 channels on, 3 rows changed".
+std::string ReadResult(const CloneImage& before, const CloneImage& after)
+{
+    int enabled = 0;
+    for (int row = 0; row < kRadioRows; ++row)
+        enabled += after.MemEnable(row) ? 1 : 0;
+    const std::size_t rows = Difference(before, after).MemoryRows().size();
+    return std::to_string(enabled) + " channels on, " + std::to_string(rows) +
+           (rows == 1 ? " row changed" : " rows changed");
+}
+
 Status Write(const CloneImage& image, const TransferScope& scope, bool isVerified, ReceiverSession& session,
              Console& console)
 {
@@ -127,9 +143,11 @@ Status Write(const CloneImage& image, const TransferScope& scope, bool isVerifie
 
 Status RunRead(const Arguments& arguments, Console& console)
 {
-    CloneImage image;
-    auto problem = LoadOrStart(arguments[0], image);
-    if (!problem)
+    CloneImage image = StartUpImage(0);
+    std::optional<Problem> problem;
+    if (!IsStandard(arguments[0]))
+        problem = LoadOrStart(arguments[0], image);
+    if (!problem && !IsStandard(arguments[0]))
         problem = ReadingObstacle(PathOf(arguments[0]));
     if (problem)
         return Fail(console, *problem);
@@ -137,6 +155,7 @@ Status RunRead(const Arguments& arguments, Console& console)
     ReceiverSession session(arguments, console);
     session.TellPort();
     session.Observer().Begin(BlocksToBackUp(image, scope));
+    const CloneImage before = image;
     ReceiverReader reader(image, session.Link(), session.Observer());
     if (const Status status = session.Finish(reader.Read(scope)); status != Status::Done)
         return status;
@@ -149,6 +168,7 @@ Status RunRead(const Arguments& arguments, Console& console)
     if (arguments.Has("--verify"))
         if (const Status status = ReadTwice(reader, session, console, agrees); status != Status::Done)
             return status;
+    session.TellEnd("Read", ReadResult(before, image));
     if (agrees)
         return SaveRead(arguments[0], image, console);
     return SaveDoubtful(arguments[0], image, console);
@@ -177,8 +197,11 @@ Status RunWrite(const Arguments& arguments, Console& console)
                                 "Nothing was written."});
     if (status == Status::Done)
         status = Write(image, scope, arguments.Has("--verify"), session, console);
-    if (status == Status::Done && arguments.Has("--verify"))
+    const bool isVerified = status == Status::Done && arguments.Has("--verify");
+    if (isVerified)
         status = CompareWithReceiver(ExpectedAfterWrite(image, scope), session, console, NotVerified());
+    if (status == Status::Done)
+        session.TellEnd(isVerified ? "Written and verified" : "Written");
     return status;
 }
 
