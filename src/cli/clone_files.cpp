@@ -4,10 +4,12 @@
 #include <QFileInfo>
 #include <ostream>
 
+#include "cli/streams.h"
 #include "files/clone_file.h"
 #include "files/file_access.h"
 #include "files/file_store.h"
 #include "files/rescue.h"
+#include "files/round_trip.h"
 #include "image/display_text.h"
 #include "memory/start_image.h"
 
@@ -60,6 +62,15 @@ Status Tell(const std::string& path, const SaveOutcome& outcome, Console& consol
                        outcome.lostNotes);
 }
 
+Status WriteOut(const CloneImage& image, Console& console)
+{
+    console.out << FormatCloneFile(image);
+    SaveOutcome outcome;
+    outcome.lostNotes = NotesThatDoNotSurvive(image);
+    outcome.changedValues = ChangedValues(image, ReadBack(image));
+    return Tell(kStandardOutput, outcome, console);
+}
+
 }  // namespace
 
 QString PathOf(const std::string& typed)
@@ -67,21 +78,42 @@ QString PathOf(const std::string& typed)
     return QFile::decodeName(QByteArray::fromStdString(typed));
 }
 
+std::string PathText(const QString& path)
+{
+    return VisibleText(path.toStdString());
+}
+
 bool Exists(const std::string& path)
 {
+    if (IsStandard(path))
+        return false;
     const QFileInfo info(PathOf(path));
     // A link that leads nowhere is there too: replacing it would lose it.
     return info.exists() || info.isSymLink();
 }
 
-std::optional<Problem> Load(const std::string& path, CloneImage& image)
+std::optional<Problem> Parse(const std::string& path, const std::string& bytes, CloneImage& image)
 {
-    return LoadCloneFile(PathOf(path), image);
+    const auto error = ParseCloneFile(bytes, image);
+    if (!error)
+        return std::nullopt;
+    const std::string name =
+        IsStandard(path) ? kStandardInput : PathText(QFileInfo(PathOf(path)).absoluteFilePath());
+    return Problem{kDataError, name + ": " + error->reason};
+}
+
+std::optional<Problem> Load(const std::string& path, CloneImage& image, std::string* bytes)
+{
+    std::string read;
+    if (bytes == nullptr)
+        bytes = &read;
+    auto problem = ReadInput(path, *bytes);
+    return problem ? problem : Parse(path, *bytes, image);
 }
 
 std::optional<Problem> LoadOrStart(const std::string& path, CloneImage& image)
 {
-    if (Exists(path))
+    if (IsStandard(path) || Exists(path))
         return Load(path, image);
     image = StartUpImage(0);
     return std::nullopt;
@@ -89,6 +121,9 @@ std::optional<Problem> LoadOrStart(const std::string& path, CloneImage& image)
 
 bool AreSameFile(const std::string& a, const std::string& b)
 {
+    // What a pipe brought is read before anything is written.
+    if (IsStandard(a) || IsStandard(b))
+        return false;
     const QFileInfo first(PathOf(a));
     const QFileInfo second(PathOf(b));
     if (!first.exists() || !second.exists())
@@ -109,7 +144,7 @@ std::optional<Problem> ReplaceProblem(const Arguments& arguments, const std::str
 {
     if (AreSameFile(arguments[0], path))
         return SameFileProblem(path);
-    return arguments.Has("--force") ? std::nullopt : OtherKindProblem(PathOf(path), kind);
+    return arguments.Has("--force") || IsStandard(path) ? std::nullopt : OtherKindProblem(PathOf(path), kind);
 }
 
 SaveEnd Save(const std::string& path, const CloneImage& image, Console& console, Unopenable unopenable)
@@ -122,6 +157,8 @@ SaveEnd Save(const std::string& path, const CloneImage& image, Console& console,
                                                 "--force as they are:"},
                             spoiling),
                 false};
+    if (IsStandard(path))
+        return {WriteOut(image, console), true};
     WarnOfLinks(path, console);
     const SaveOutcome outcome = SaveCloneFile(PathOf(path), image);
     const Status status = outcome.problem ? Fail(console, *outcome.problem) : Tell(path, outcome, console);
@@ -142,6 +179,8 @@ Status SaveRead(const std::string& path, const CloneImage& image, Console& conso
                                    "take commas and quotes out of them.",
                             rescue()},
                            spoiling);
+    if (IsStandard(path))
+        return WriteOut(image, console);
     WarnOfLinks(path, console);
     const SaveOutcome outcome = SaveCloneFile(PathOf(path), image);
     if (!outcome.problem)

@@ -1,7 +1,9 @@
 #include <algorithm>
-#include <array>
+#include <vector>
 
 #include "cli/command.h"
+#include "cli/common_options.h"
+#include "cli/edit_values.h"
 #include "cli/list_import.h"
 #include "cli/values.h"
 #include "cli/write_changes.h"
@@ -10,32 +12,17 @@
 namespace rqm5 {
 namespace {
 
-constexpr Option kPort = {
-    "--port", "P",
-    "COM number 1 to 14, also as COM5, or a device or a link to one; without it the number in RQ-M5.ini",
-    PortNumberFault};
-constexpr Option kOnly = {"--only", "settings|memory", "leave the other part out", ScopeFault};
-constexpr Option kBank = {
-    "--bank", "SEL", "bank 0 to 49, program-scan, search-pass, priority or all (default)", SelectorFault};
-
-constexpr Option kTransferBank = {
-    "--bank", "SEL",
-    "the memory only: bank 0 to 49, program-scan, search-pass, priority or all; "
-    "without it settings and all of the memory",
-    SelectorFault};
-
 constexpr Option kNewOptions[] = {
     {"--region", "0..3", "model region (default 0)", RegionFault},
     {"--empty", "", "no banks: all 1000 channels unassigned"},
     {"--force", "", "replace FILE when it exists"},
 };
-constexpr Option kQuiet = {"--quiet", "", "show no progress, and say nothing when all goes well", nullptr,
-                           "-q"};
-constexpr Option kTransferOptions[] = {kPort, kOnly, kTransferBank, kQuiet};
+constexpr Option kVerifyOptions[] = {kPort, kOnly, kTransferBank, kJson, kTsv};
 constexpr Option kReadOptions[] = {
-    kPort,         kOnly,
-    kTransferBank, {"--verify", "", "read everything twice and list each block that came otherwise"},
-    kQuiet,
+    kPort,
+    kOnly,
+    kTransferBank,
+    {"--verify", "", "read everything twice and list each block that came otherwise"},
 };
 constexpr Option kWriteOptions[] = {
     kPort,
@@ -47,9 +34,18 @@ constexpr Option kWriteOptions[] = {
     {"--known", "OLD.RQ5", "with --changes: what the receiver held when it was last read or written",
      FileNameFault},
     {"--force", "", "write although the backup shows that the receiver is another model"},
-    kQuiet,
 };
-constexpr Option kShowOptions[] = {kBank};
+constexpr Option kShowOptions[] = {
+    kBank, {"--all", "", "empty rows, too"}, kJson, kTsv, kFromFile,
+};
+constexpr Option kCheckOptions[] = {kJson, kFromFile};
+constexpr Option kDiffOptions[] = {
+    {"--port", "P", "compare A with the receiver: COM number 1 to 14, or a device", PortNumberFault},
+    kOnly,
+    kTransferBank,
+    kJson,
+};
+constexpr Option kPortsOptions[] = {kJson, kTsv};
 constexpr Option kPrintOptions[] = {
     {"--pdf", "OUT.pdf", "write the pages to a PDF instead of the terminal"},
     {"--settings", "", "print the settings"},
@@ -60,8 +56,13 @@ constexpr Option kPrintOptions[] = {
     {"--paper", "a4|letter", "size of the PDF's pages; without it that of the country", PaperFault},
     {"--landscape", "", "turn the PDF's pages"},
     {"--force", "", "replace OUT.pdf whatever it holds"},
+    kFromFile,
 };
-constexpr Option kExportOptions[] = {{"--force", "", "replace OUT.csv whatever it holds"}};
+constexpr Option kExportOptions[] = {
+    {"--to", "FOLDER", "export each FILE into this folder, under its own name with .csv", FileNameFault},
+    kFromFile,
+    {"--force", "", "replace OUT.csv whatever it holds"},
+};
 constexpr Option kImportOptions[] = {
     {"--decimal-comma", "", "read 145,5 as 145.5"},
     {"--map", "COLUMN=FIELD,...",
@@ -77,14 +78,14 @@ constexpr Option kImportOptions[] = {
 };
 constexpr Option kRepairOptions[] = {
     {"--to", "NEW", "write the repaired file under this name, which no file has yet", FileNameFault},
-    {"--in-place", "", "write it in the place of FILE, which is kept as FILE~"},
+    {"--in-place", "", "replace FILE, which is kept as FILE~"},
 };
 constexpr Option kRawOptions[] = {kPort};
 
 constexpr Operand kFile[] = {{"FILE"}};
-constexpr Operand kExportFiles[] = {{"FILE"}, {"OUT.csv"}};
+constexpr Operand kFiles[] = {{"FILE", nullptr, Count::Any}};
 constexpr Operand kImportFiles[] = {{"IN.csv"}, {"FILE"}};
-constexpr Operand kTwoFiles[] = {{"A"}, {"B"}};
+constexpr Operand kTwoFiles[] = {{"A"}, {"B", nullptr, Count::Optional}};
 constexpr Operand kAddress[] = {{"ADDRESS", BlockAddressFault}};
 
 std::string SameFileConflict(const Arguments& arguments)
@@ -116,46 +117,43 @@ constexpr Command kCommands[] = {
     {"verify", "compare the receiver with FILE",
      "Compares with what write of the same parts leaves behind. Prints nothing and ends with status 0 when "
      "they agree, else lists each block that differs, with the bytes in words.",
-     kFile, kTransferOptions, RunVerify, ScopeConflict},
+     kFile, kVerifyOptions, RunVerify, ScopeAndFormFault},
     {"export", "write FILE as CSV",
      "The file holds the channels and VFO bands, for a spreadsheet. OUT.csv may be missing, empty or an "
-     "older export.",
-     kExportFiles, kExportOptions, RunExport, SameFileConflict},
+     "older export. With --to, each FILE is exported into the folder.",
+     kFiles, kExportOptions, RunExport, ExportFault, "FILE OUT.csv | --to FOLDER FILE..."},
     {"import", "take the rows of a CSV file or of a list into FILE",
      "Rows that IN.csv does not name stay as they are. FILE is made when it does not exist. Notes with which "
      "FILE could not be opened again keep it from being written. Carrier codes of an export move one up. A "
-     "file "
-     "of another program is read as a list: how it is read is said, and what is not taken is listed by line.",
+     "file of another program is read as a list: how it is read is said, and what is not taken is listed by "
+     "line.",
      kImportFiles, kImportOptions, RunImport, SameFileConflict},
-    {"show", "print the channels of FILE in columns", "A \"-\" in front of a label marks a row that is off.",
-     kFile, kShowOptions, RunShow},
-    {"print", "print FILE as text or PDF",
+    {"show", "print the channels of each FILE in columns",
+     "Rows that hold a channel or a note; \"x\" marks a channel that is off.", kFiles, kShowOptions, RunShow,
+     FilesFault},
+    {"print", "print each FILE as text, or one as PDF",
      "Settings, VFO table and memory channels in this order; without --settings, --vfo and --memory all "
      "three. \"Off\" marks a channel that is disabled.",
-     kFile, kPrintOptions, RunPrint, PrintConflict},
-    {"check",
-     "say whether FILE is whole and what it holds",
+     kFiles, kPrintOptions, RunPrint, PrintFault},
+    {"check", "check that each FILE is complete, and say what it holds",
      "Names the line that is wrong and why. Warns of notes that a save loses or a spreadsheet would run, and "
-     "of values that are read otherwise than the file says them.",
-     kFile,
-     {},
-     RunCheck},
+     "of values that are read otherwise than the file says them. Several files take one line each; --verbose "
+     "lists their warnings, --quiet names only those that are not whole.",
+     kFiles, kCheckOptions, RunCheck, FilesFault},
     {"repair", "open a file again that its notes spoil",
      "Commas in notes become semicolons, quotes apostrophes; each such note is shown. Without --to and "
      "--in-place nothing is written.",
      kFile, kRepairOptions, RunRepair, RepairConflict},
-    {"diff",
-     "list what differs between two files",
-     "Rows, settings, banks and notes are named. Status 1 when there is a difference.",
-     kTwoFiles,
-     {},
-     RunDiff},
+    {"diff", "list what differs between two files, or a file and the receiver",
+     "Rows, settings, banks and notes are named. Status 1 when there is a difference.", kTwoFiles,
+     kDiffOptions, RunDiff, DiffFault, "A B | --port P A"},
     {"ports",
      "list serial ports",
      "Each COM number with its device and whether it can be opened.",
      {},
-     {},
-     RunPorts},
+     kPortsOptions,
+     RunPorts,
+     FormFault},
     {"raw", "read one block and show the reply as it came",
      "ADDRESS is hexadecimal and that of a block: 0000 to FFF0, the last digit 0.", kAddress, kRawOptions,
      RunRaw},
@@ -165,14 +163,18 @@ constexpr Command kCommands[] = {
 
 std::span<const Command> Commands()
 {
-    return kCommands;
+    static const std::vector<Command> commands = [] {
+        std::vector<Command> all(std::begin(kCommands), std::end(kCommands));
+        all.insert(all.end(), EditCommands().begin(), EditCommands().end());
+        return all;
+    }();
+    return commands;
 }
 
 const Command* FindCommand(std::string_view name)
 {
-    const auto found = std::find_if(std::begin(kCommands), std::end(kCommands),
-                                    [name](const Command& command) { return command.name == name; });
-    return found != std::end(kCommands) ? found : nullptr;
+    const auto found = std::ranges::find(Commands(), name, &Command::name);
+    return found != Commands().end() ? &*found : nullptr;
 }
 
 }  // namespace rqm5

@@ -23,19 +23,4 @@ Status RunNew(const Arguments& arguments, Console& console)
     return Save(path, image, console).status;
 }
 
-Status RunExport(const Arguments& arguments, Console& console)
-{
-    CloneImage image;
-    if (const auto problem = Load(arguments[0], image))
-        return Fail(console, *problem);
-    if (const auto problem = ReplaceProblem(arguments, arguments[1], FileKind::Csv))
-        return Fail(console, *problem);
-    if (const auto problem = ExportCsv(PathOf(arguments[1]), image))
-        return Fail(console, *problem);
-    const std::vector<std::string> formulas = NotesThatLookLikeFormulas(image);
-    if (!formulas.empty())
-        Warn(console, "a spreadsheet would run these notes as formulas:", formulas);
-    return Status::Done;
-}
-
 }  // namespace rqm5

@@ -54,8 +54,9 @@ SaveEnd Finish(const CloneImage& before, CloneImage image, const Arguments& argu
         image = WithSafeNotes(std::move(image));
     if (arguments.Has("--dry-run"))
         return {ShowChanges(before, image, arguments, rows, console), false};
+    QString kept;
     if (arguments.Has("--keep") && Exists(arguments[1]))
-        if (const auto problem = KeepOldFile(arguments[1]))
+        if (const auto problem = KeepOldFile(PathOf(arguments[1]), kept))
             return {Fail(console, *problem), false};
     const SaveEnd end = Save(arguments[1], image, console,
                              arguments.Has("--force") ? Unopenable::IsWritten : Unopenable::IsRefused);

@@ -57,7 +57,7 @@ void ProgressBar::BlockDone(int /*address*/, bool /*written*/)
 {
     if (++done_ == 1)
         first_ = Clock::now();
-    if (!isQuiet_ && console_.progressColumns > 0 && Clock::now() - drawn_ >= kRedraw)
+    if (console_.progressColumns > 0 && !console_.isQuiet && Clock::now() - drawn_ >= kRedraw)
         Draw();
 }
 

@@ -44,7 +44,6 @@ EventLoopHost::EventLoopHost()
 ReceiverSession::ReceiverSession(const Arguments& arguments, Console& console)
     : console_(console),
       number_(NumberFromFile(arguments)),
-      isQuiet_(arguments.Has("--quiet")),
       progress_(console),
       port_(DeviceOf(arguments, number_)),
       link_(port_),
@@ -55,8 +54,16 @@ ReceiverSession::ReceiverSession(const Arguments& arguments, Console& console)
       })
 {
     link_.Knowledge().KeepIn(CacheFolder());
-    if (isQuiet_)
-        progress_.BeQuiet();
+    if (console.isVerbose)
+        QObject::connect(&link_, &RadioLink::Exchanged, &link_,
+                         [this](const std::string& command, bool /*portFailed*/) { TellExchange(command); });
+}
+
+void ReceiverSession::TellExchange(const std::string& command)
+{
+    progress_.Clear();
+    console_.err << VisibleText(command) << " -> " << VisibleText(link_.LastReceived()) << " ("
+                 << link_.LastDuration().count() / 1000 << " ms)\n";
 }
 
 void ReceiverSession::TellPort()
@@ -65,7 +72,7 @@ void ReceiverSession::TellPort()
         return;
     const std::string device = port_.Device().toStdString();
     const std::string name = "COM " + std::to_string(number_);
-    if (!isQuiet_)
+    if (!console_.isQuiet)
         console_.err << "Port: " << VisibleText(name + ", " + (device.empty() ? "no device" : device))
                      << " (without --port, that of RQ-M5.ini)\n";
     progress_.NamePort(name, device);
@@ -96,8 +103,7 @@ std::chrono::seconds ReceiverSession::Taken() const
 
 void ReceiverSession::Close(const std::string& note)
 {
-    if (console_.progressColumns > 0 && !isQuiet_)
-        console_.err << note << '\n';
+    TellEnd(console_, note);
 }
 
 }  // namespace rqm5

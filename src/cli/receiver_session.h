@@ -61,12 +61,13 @@ class ReceiverSession
     void Close(const std::string& note);
 
   private:
+    void TellExchange(const std::string& command);
+
     EventLoopHost host_;
     Console& console_;
     const int number_;  ///< the COM number from RQ-M5.ini; 0 when --port says the port
-    const bool isQuiet_;
-    const std::chrono::steady_clock::time_point begin_ = std::chrono::steady_clock::now();
     bool isCtrlC_ = false;
+    const std::chrono::steady_clock::time_point begin_ = std::chrono::steady_clock::now();
     ProgressBar progress_;
     QtSerialPort port_;
     RadioLink link_;

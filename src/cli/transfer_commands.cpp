@@ -3,11 +3,13 @@
 #include "cli/clone_files.h"
 #include "cli/command.h"
 #include "cli/receiver_session.h"
+#include "cli/streams.h"
 #include "cli/values.h"
 #include "cli/write_changes.h"
 #include "files/file_kind.h"
 #include "files/file_store.h"
 #include "image/display_text.h"
+#include "image/image_change.h"
 #include "link/closing_notes.h"
 #include "link/forwarding_observer.h"
 #include "link/line_notes.h"
@@ -18,6 +20,7 @@
 #include "link/receiver_reader.h"
 #include "link/receiver_writer.h"
 #include "memory/receiver_range.h"
+#include "memory/start_image.h"
 #include "settings/settings_codec.h"
 
 namespace rqm5 {
@@ -27,6 +30,8 @@ namespace {
 std::optional<Problem> BackupObstacle(const std::string& path)
 {
     // The file may be the one that is to be written, or the backup of last week.
+    if (IsStandard(path))
+        return std::nullopt;
     if (!path.empty() && Exists(path))
         return Problem{kFileOpenError, path +
                                            ": there is a file already, and a backup replaces none; "
@@ -132,9 +137,11 @@ Status Write(const CloneImage& image, const TransferScope& scope, bool isVerifie
 
 Status RunRead(const Arguments& arguments, Console& console)
 {
-    CloneImage image;
-    auto problem = LoadOrStart(arguments[0], image);
-    if (!problem)
+    CloneImage image = StartUpImage(0);
+    std::optional<Problem> problem;
+    if (!IsStandard(arguments[0]))
+        problem = LoadOrStart(arguments[0], image);
+    if (!problem && !IsStandard(arguments[0]))
         problem = ReadingObstacle(PathOf(arguments[0]));
     if (problem)
         return Fail(console, *problem);
@@ -194,10 +201,11 @@ Status RunWrite(const Arguments& arguments, Console& console)
                                 "Nothing was written."});
     if (status == Status::Done)
         status = Write(image, scope, arguments.Has("--verify"), session, console);
-    if (status == Status::Done && arguments.Has("--verify"))
+    const bool isVerified = status == Status::Done && arguments.Has("--verify");
+    if (isVerified)
         status = CompareWithReceiver(ExpectedAfterWrite(image, scope), session, console, NotVerified());
     if (status == Status::Done)
-        session.Close(WrittenNote(session.Taken(), arguments.Has("--verify")));
+        session.Close(WrittenNote(session.Taken(), isVerified));
     return status;
 }
 

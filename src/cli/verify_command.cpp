@@ -1,5 +1,6 @@
 #include <ostream>
 
+#include "cli/channel_output.h"
 #include "cli/clone_files.h"
 #include "cli/command.h"
 #include "cli/receiver_session.h"
@@ -25,10 +26,43 @@ std::string ExpectedIn(const ExpectedBlock& block, const MemoryBlock& read)
     return expected.String();
 }
 
+TextTable TableOf(const std::vector<BlockDifference>& differences, Form form)
+{
+    TextTable table;
+    const bool isTabbed = form == Form::Tabbed;
+    if (isTabbed)
+        table.AddRow({"Address", "Block", "Expected", "Receiver", "Bytes"});
+    for (const auto& [block, read] : differences)
+        table.AddRow({HexAddress(block.address), block.label,
+                      (isTabbed ? "" : "expected ") + ExpectedIn(block, read),
+                      (isTabbed ? "" : "receiver ") + read.String(), DifferingBytes(block, read)});
+    return table;
+}
+
+void WriteJson(const std::vector<BlockDifference>& differences, bool isComplete, Console& console)
+{
+    JsonWriter json(console.out);
+    json.Open('{');
+    json.Member("complete", isComplete);
+    json.Key("differences").Open('[');
+    for (const auto& [block, read] : differences) {
+        json.Open('{');
+        json.Member("address", HexAddress(block.address));
+        json.Member("block", block.label);
+        json.Member("expected", ExpectedIn(block, read));
+        json.Member("receiver", read.String());
+        json.Member("bytes", DifferingBytes(block, read));
+        json.Close('}');
+    }
+    json.Close(']');
+    json.Close('}');
+    console.out << '\n';
+}
+
 }  // namespace
 
 Status CompareWithReceiver(const std::vector<ExpectedBlock>& expected, ReceiverSession& session,
-                           Console& console, const std::string& aftermath, int* found)
+                           Console& console, const std::string& aftermath, Form form, int* found)
 {
     session.Observer().Begin(static_cast<int>(expected.size()));
     std::vector<BlockDifference> differences;
@@ -37,11 +71,10 @@ Status CompareWithReceiver(const std::vector<ExpectedBlock>& expected, ReceiverS
     const Status status = session.Finish(result);
     if (result == TransferResult::Cancelled && !aftermath.empty())
         console.err << aftermath << '\n';
-    TextTable table;
-    for (const auto& [block, read] : differences)
-        table.AddRow({HexAddress(block.address), block.label, "expected " + ExpectedIn(block, read),
-                      "receiver " + read.String(), DifferingBytes(block, read)});
-    table.Print(console.out);
+    if (form == Form::Json)
+        WriteJson(differences, result == TransferResult::Done, console);
+    else
+        Print(TableOf(differences, form), form, console);
     if (found != nullptr)
         *found = static_cast<int>(differences.size());
     return differences.empty() || status == Status::Interrupted ? status : Status::Failed;
@@ -55,8 +88,8 @@ Status RunVerify(const Arguments& arguments, Console& console)
     ReceiverSession session(arguments, console);
     session.TellPort();
     int found = 0;
-    const Status status =
-        CompareWithReceiver(ExpectedInReceiver(image, ScopeOf(arguments)), session, console, {}, &found);
+    const std::vector<ExpectedBlock> expected = ExpectedInReceiver(image, ScopeOf(arguments));
+    const Status status = CompareWithReceiver(expected, session, console, {}, FormOf(arguments), &found);
     if (status == Status::Done || found > 0)
         session.Close(ComparedNote(session.Taken(), found));
     return status;
