@@ -80,7 +80,7 @@ TEST(Csv, ImportFindsTheRowOfARecord)
     const std::pair<const char*, int> cases[] = {
         // clang-format off
         {"RQ-M5,MEMORY,999,", 999}, {"RQ-M5,memory, 12 ,", 12}, {"RQ-M5,MEMORY,1000,", -1}, {"RQ-M5,MEMORY,-1,", -1},
-        {"RQ-M5,MEMORY,,", -1}, {"RQ-M5,MEMORY,x,", -1}, {"RQ-M5,MEMORY,99999999999,", -1}, {"RQ-M5,BANK,1,", -1},
+        {"RQ-M5,MEMORY,,", -1}, {"RQ-M5,MEMORY,x,", -1}, {"RQ-M5,MEMORY,7.5,", -1}, {"RQ-M5,MEMORY,99999999999,", -1}, {"RQ-M5,BANK,1,", -1},
         {"RQ-M6,MEMORY,1,", -1}, {"rq-m5,MEMORY,1,", -1}, {"RQ-M5,PROGRAM SCAN,P0A,", 1000},
         {"RQ-M5,PROGRAM SCAN,49b,", 1099}, {"RQ-M5,PROGRAM SCAN,P50A,", -1}, {"RQ-M5,PROGRAM SCAN,0,", -1},
         {"RQ-M5,SEARCH PASS,0,", 1100}, {"RQ-M5,SEARCH PASS,S99,", 1199}, {"RQ-M5,SEARCH PASS,100,", -1},
