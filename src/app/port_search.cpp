@@ -1,4 +1,4 @@
-#include <QHBoxLayout>
+#include <QVBoxLayout>
 
 #include "app/port_dialog.h"
 #include "link/link_problems.h"
@@ -19,10 +19,13 @@ QLayout* dlgCOM::MakeSearchRow()
     connect(cmbFindReceiver_, &QPushButton::clicked, this, &dlgCOM::cmbFindReceiver_Click);
     connect(&search_, &ReceiverSearch::Asking, this,
             [this](const QString& device) { lblFound_->setText(tr("Asking %1...").arg(device)); });
-    auto* row = new QHBoxLayout;
-    row->addWidget(cmbFindReceiver_);
-    row->addWidget(lblFound_, 1);
-    return row;
+    // Room for an answer from the start, so that the list does not jump.
+    lblFound_->setMinimumHeight(2 * lblFound_->fontMetrics().lineSpacing());
+    lblFound_->setAlignment(Qt::AlignTop);
+    auto* column = new QVBoxLayout;
+    column->addWidget(cmbFindReceiver_, 0, Qt::AlignLeft);
+    column->addWidget(lblFound_);
+    return column;
 }
 
 void dlgCOM::cmbFindReceiver_Click()

@@ -47,7 +47,9 @@ std::string ReadNote(std::chrono::seconds took, bool isVerified, const TransferS
                QT_TRANSLATE_NOOP("ClosingNote", "%1 bank sizes"));
     AddCounted(changed, change.BankLink.size(), QT_TRANSLATE_NOOP("ClosingNote", "1 link"),
                QT_TRANSLATE_NOOP("ClosingNote", "%1 links"));
-    AddCounted(changed, change.Settings.size(), QT_TRANSLATE_NOOP("ClosingNote", "1 setting"),
+    // The count of Search Pass channels follows from the rows; nobody has set it.
+    const std::size_t counts = change.HasSetting(&ReceiverSettings::passCount) ? 1 : 0;
+    AddCounted(changed, change.Settings.size() - counts, QT_TRANSLATE_NOOP("ClosingNote", "1 setting"),
                QT_TRANSLATE_NOOP("ClosingNote", "%1 settings"));
     AddCounted(changed, change.VfoRows().size(), QT_TRANSLATE_NOOP("ClosingNote", "1 VFO band"),
                QT_TRANSLATE_NOOP("ClosingNote", "%1 VFO bands"));

@@ -44,10 +44,10 @@ double WideEnough(double anchor, double place, double width)
 /// Numbers of a decade that bear a label, from few to many.
 constexpr double kOnce[] = {1};
 constexpr double kThrice[] = {1, 2, 5};
-constexpr double kNine[] = {1, 2, 3, 4, 5, 6, 7, 8, 9};
-constexpr double kFine[] = {1, 1.2, 1.4, 1.6, 1.8, 2,   2.5, 3,   3.5, 4,  4.5,
-                            5, 5.5, 6,   6.5, 7,   7.5, 8,   8.5, 9,   9.5};
-constexpr std::span<const double> kDecades[] = {kOnce, kThrice, kNine, kFine};
+constexpr double kMany[] = {1, 1.5, 2, 2.5, 3, 4, 5, 6, 7, 8, 9};
+constexpr double kFine[] = {1, 1.25, 1.5, 1.75, 2, 2.5, 3, 3.5, 4, 4.5,
+                            5, 5.5,  6,   6.5,  7, 7.5, 8, 8.5, 9, 9.5};
+constexpr std::span<const double> kDecades[] = {kOnce, kThrice, kMany, kFine};
 
 /// Above this ratio of its ends an axis is divided by decades, below it evenly.
 constexpr double kEvenRatio = 3;

@@ -36,8 +36,7 @@ class SpectrumPainter
           isDark_(palette.color(QPalette::Base).lightness() < 128),
           pen_(metrics_.height() / 14)
     {
-        grid_ = palette.color(QPalette::Text);
-        grid_.setAlphaF(kGridStrength);
+        grid_ = Soft(kGridStrength);
     }
 
     void Paint()
@@ -52,6 +51,16 @@ class SpectrumPainter
     }
 
   private:
+    /// The colour of texts, weaker. No transparency: not everything that shows an SVG knows it.
+    QColor Soft(float strength) const
+    {
+        const QColor text = palette_.color(QPalette::Text);
+        const QColor base = palette_.color(QPalette::Base);
+        const auto mix = [strength](float a, float b) { return a * strength + b * (1 - strength); };
+        return QColor::fromRgbF(mix(text.redF(), base.redF()), mix(text.greenF(), base.greenF()),
+                                mix(text.blueF(), base.blueF()));
+    }
+
     double XOf(double hertz) const { return at_.X(scene_.axis.PlaceOf(hertz)); }
 
     /// The part of a range in MHz that is shown, over the height of the plot; empty for none.
@@ -64,10 +73,7 @@ class SpectrumPainter
 
     void DrawText(const QRectF& box, Qt::Alignment alignment, const QString& text, bool isSoft = false)
     {
-        QColor colour = palette_.color(QPalette::Text);
-        if (isSoft)
-            colour.setAlphaF(0.75F);
-        painter_.setPen(colour);
+        painter_.setPen(isSoft ? Soft(0.75F) : palette_.color(QPalette::Text));
         painter_.drawText(box, static_cast<int>(alignment) | Qt::TextSingleLine, text);
     }
 
@@ -97,9 +103,7 @@ class SpectrumPainter
     {
         if (box.isEmpty())
             return;
-        QColor colour = palette_.color(QPalette::Text);
-        colour.setAlphaF(0.4F);
-        painter_.setPen(QPen(colour, pen_));
+        painter_.setPen(QPen(Soft(0.45F), pen_));
         painter_.setBrush(Qt::NoBrush);
         painter_.drawRect(box);
         const double gap = metrics_.height() * kHatchGap;
@@ -171,11 +175,8 @@ class SpectrumPainter
             return;
         const double height = at_.MarkRadius() * 1.2;
         const QRectF box(left, at_.LaneMiddle(span.lane) - height / 2, right - left, height);
-        QColor colour = palette_.color(QPalette::Text);
-        colour.setAlphaF(0.45F);
-        painter_.setPen(QPen(colour, pen_));
-        colour.setAlphaF(0.18F);
-        painter_.setBrush(span.isOn ? QBrush(colour) : QBrush(Qt::NoBrush));
+        painter_.setPen(QPen(Soft(0.5F), pen_));
+        painter_.setBrush(span.isOn ? QBrush(Soft(0.25F)) : QBrush(Qt::NoBrush));
         painter_.drawRect(box);
     }
 

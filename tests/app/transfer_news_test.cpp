@@ -44,7 +44,7 @@ TEST_F(TransferNews, ProgressSaysWhatHowMuchAndHowLong)
         texts.clear();
         icon_.clear();
         Item(transfer).trigger();
-        const bool isRead = transfer == QLatin1String("mnuReAll");
+        const bool isRead = std::string_view(transfer) == "mnuReAll";
         const std::vector<const char*> expected =
             isRead ? std::vector{"Reading settings and VFO bands: 1 of 16",
                                  "Reading settings and VFO bands: 16 of 16, about ",
