@@ -18,6 +18,9 @@ const QString kDays = QStringLiteral("Backups/Days");
 /// The reverse of the end of a backup's name.
 std::optional<TransferScope> ScopeOfName(const QString& name)
 {
+    // Before it writes what has changed, the program knows all of the receiver.
+    if (name == QLatin1String("changes"))
+        return TransferScope();
     std::vector<TransferScope> scopes = {
         {}, {.memory = false}, {.settings = false, .memory = false, .banks = true}};
     for (int selector = 0; selector < kSelectorEntries; ++selector)
@@ -104,12 +107,13 @@ std::vector<BackupFile> BeyondLimit(const std::vector<BackupFile>& newestFirst, 
     return beyond;
 }
 
-int DeleteBeyondLimit(const QString& folder, const QString& justKept)
+int DeleteBeyondLimit(const QString& justKept)
 {
+    const QFileInfo kept(justKept);
     int deleted = 0;
     for (const BackupFile& backup :
-         BeyondLimit(BackupsIn(folder), LoadBackupLimit(), QDateTime::currentDateTime()))
-        if (backup.path != QFileInfo(justKept).absoluteFilePath() && QFile::remove(backup.path))
+         BeyondLimit(BackupsIn(kept.absolutePath()), LoadBackupLimit(), QDateTime::currentDateTime()))
+        if (backup.path != kept.absoluteFilePath() && QFile::remove(backup.path))
             ++deleted;
     return deleted;
 }

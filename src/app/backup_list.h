@@ -45,7 +45,8 @@ void SaveBackupLimit(const BackupLimit& limit);
 std::vector<BackupFile> BeyondLimit(const std::vector<BackupFile>& newestFirst, const BackupLimit& limit,
                                     const QDateTime& now);
 
-/// Deletes what the limit that the user has set leaves no room for. \return how many
-int DeleteBeyondLimit(const QString& folder, const QString& justKept);
+/// Deletes what the limit that the user has set leaves no room for in the folder of a new backup; that one
+/// stays. \return how many
+int DeleteBeyondLimit(const QString& justKept);
 
 }  // namespace rqm5

@@ -88,13 +88,13 @@ void CompareCommands::MakeWindow()
         compare_->SetTransferRunning(false);
         compare_->SetLastRead(transfers_.LastFullRead().has_value());
     });
-    compare_->SetLastRead(transfers_.LastFullRead().has_value());
 }
 
 void CompareCommands::mnuToolsCompare_Click()
 {
     if (compare_ == nullptr)
         MakeWindow();
+    compare_->SetLastRead(transfers_.LastFullRead().has_value());
     compare_->Present();
 }
 

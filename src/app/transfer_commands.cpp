@@ -130,7 +130,14 @@ TransferResult TransferCommands::ReadAll()
 
 void TransferCommands::KeepLastRead(const CloneImage& image)
 {
-    lastRead_ = {image, QDateTime::currentDateTime()};
+    lastRead_ = {image, QDateTime::currentDateTime(), link_.Port().Device()};
+}
+
+std::optional<LastRead> TransferCommands::LastFullRead() const
+{
+    // Another port may have another receiver.
+    const bool isSame = lastRead_ && lastRead_->device == link_.Port().Device();
+    return isSame ? lastRead_ : std::nullopt;
 }
 
 TransferResult TransferCommands::Read(const QString& name, const TransferScope& scope,
@@ -234,11 +241,7 @@ TransferResult TransferCommands::KeepBackup(const TransferScope& scope, const QS
         notes_ << QString::fromStdString(NothingWritten());
     if (result != TransferResult::Done)
         return result;
-    if (!SaveBackup(path, backup))
-        return TransferResult::Failed;
-    if (const int deleted = DeleteBeyondLimit(folder, path); deleted > 0)
-        notes_ << tr("Old backups deleted: %1.").arg(deleted);
-    return TransferResult::Done;
+    return SaveBackup(path, backup) ? TransferResult::Done : TransferResult::Failed;
 }
 
 bool TransferCommands::SaveBackup(const QString& path, const CloneImage& backup)
@@ -246,6 +249,8 @@ bool TransferCommands::SaveBackup(const QString& path, const CloneImage& backup)
     const auto problem = SaveCloneFile(path, backup).problem;
     if (problem)
         Message({problem->text, problem->details, Rescue(backup, path) + ' ' + NothingWritten()});
+    else if (const int deleted = DeleteBeyondLimit(path); deleted > 0)
+        notes_ << tr("Old backups deleted: %1.").arg(deleted);
     return !problem;
 }
 

@@ -51,8 +51,8 @@ class TransferCommands : public QObject, private TransferObserver
     /// Writes another image than the open one, which stays as it is.
     void WriteBack(const CloneImage& image, const TransferScope& scope);
 
-    /// What the receiver held when all of it was last read in this run, if it was.
-    std::optional<LastRead> LastFullRead() const { return lastRead_; }
+    /// What the receiver at this port held when all of it was last read in this run, if it was.
+    std::optional<LastRead> LastFullRead() const;
     void KeepLastRead(const CloneImage& image);
     /// Runs a part of an operation that tells how it goes as a transfer does. \return what the part returned
     TransferResult RunPart(const std::function<TransferResult(TransferObserver&)>& work);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDateTime>
+#include <QString>
 
 #include "image/clone_image.h"
 
@@ -11,6 +12,7 @@ struct LastRead
 {
     CloneImage image;
     QDateTime time;
+    QString device;
 };
 
 }  // namespace rqm5

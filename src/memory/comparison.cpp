@@ -15,6 +15,7 @@
 namespace rqm5 {
 namespace {
 
+/// Stands for none, too: neither can be told as moved.
 constexpr int kManyRows = -1;
 
 /// In which row an image holds a channel; kManyRows when in several.
@@ -29,6 +30,12 @@ int PlaceIn(const Places& places, const std::string& key)
 {
     const auto found = places.find(key);
     return found == places.end() ? kManyRows : found->second;
+}
+
+/// Where the other side has a channel, when each of them has it once.
+int PlaceElsewhere(const std::string& key, const Places& own, const Places& other)
+{
+    return PlaceIn(own, key) == kManyRows ? kManyRows : PlaceIn(other, key);
 }
 
 /// "145.500000 FM, Tower (off)"
@@ -152,17 +159,16 @@ class Comparer
         const std::string there = KeyOf(HeldRow(there_, {RowKind::Memory, row}), parts_.notes);
         if (here == there)
             return;
-        const auto other = [](const Places& in, const Places& from, const std::string& key) {
-            return PlaceIn(from, key) == kManyRows ? kManyRows : PlaceIn(in, key);
-        };
         // Where the banks are divided otherwise, two rows can have one name.
         const auto words = [&item](const CloneImage& image, int place) {
             const std::string name = PlaceName(image, place);
             return name == item.name ? "row " + std::to_string(place) : name;
         };
-        if (const int to = other(placesThere_, placesHere_, here); item.isHere && to != kManyRows)
+        const int to = PlaceElsewhere(here, placesHere_, placesThere_);
+        const int from = PlaceElsewhere(there, placesThere_, placesHere_);
+        if (item.isHere && to != kManyRows)
             item.movedTo = words(there_, to);
-        if (const int from = other(placesHere_, placesThere_, there); item.isThere && from != kManyRows)
+        if (item.isThere && from != kManyRows)
             item.movedFrom = words(here_, from);
     }
 

@@ -61,6 +61,12 @@ TEST_F(CompareTest, ShowsBothSidesAndTakesRowsGroupsAndEverything)
     EXPECT_EQ(StepName(), QStringLiteral("&Undo Take from other.RQ5 (Bank 0, channel 0)"));
     EXPECT_EQ(Count(), QStringLiteral("Differences: 3"));
     EXPECT_TRUE(Row(0, 0).isSelected()) << "what comes next is current";
+    auto& group = Find<QComboBox>("cbbCompareGroup");
+    group.setCurrentIndex(group.findText(QStringLiteral("Settings")));
+    emit group.activated(group.currentIndex());
+    EXPECT_EQ(Count(), QStringLiteral("1 of 3 differences"));
+    EXPECT_EQ(Row(0, 0).text(0), QStringLiteral("≠ Volume"));
+    group.setCurrentIndex(0);
     auto& what = Find<QComboBox>("cbbCompareWhat");
     what.setCurrentIndex(what.findText(QStringLiteral("Note")));
     emit what.activated(what.currentIndex());
