@@ -47,53 +47,60 @@ _rq_m5_words()
     if [[ $word == *:* && $COMP_WORDBREAKS == *:* ]]; then
         COMPREPLY=("${COMPREPLY[@]#"${word%"${word##*:}"}"}")
     fi
-    [[ ${COMPREPLY[0]} == *[=:] ]] && compopt -o nospace
+    if [[ ${COMPREPLY[0]} == *[=:] ]]; then
+        compopt -o nospace
+    fi
 }
 _rq_m5_ports()
 {
     if [[ $word == /* ]]; then
         _rq_m5_files -f
     else
-        _rq_m5_words "$(echo {1..14}; rq-m5 ports --tsv 2>/dev/null | tail -n +2 | cut -f 2)" fi
+        _rq_m5_words "$(echo {1..14}; rq-m5 ports --tsv 2>/dev/null | tail -n +2 | cut -f 2)"
+    fi
 }
 _rq_m5_files()
 {
     compopt -o filenames
     case $1 in
-        -*) mapfile -t COMPREPLY < <(compgen "$1" -- "$word") ;
-    ;
-        *) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X "!*.[${1:0:1}${1,,}]*" -- "$word" |
-            grep -i "\.$1\$") ;
-        ;
-        esac
+        -*) mapfile -t COMPREPLY < <(compgen "$1" -- "$word") ;;
+        *) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -- "$word" | grep -i "\.$1\$") ;;
+    esac
 }
 _rq_m5()
 {
-    local word = $2 previous = $3 command = "" operand = 0 i COMPREPLY = () _get_comp_words_by_ref - n
-        : cur prev 2 > / dev / null&& word = $cur previous = $prev for ((i = 1; i < COMP_CWORD; i++));
-    do
-        case ${COMP_WORDS[i]} in
-            -*) ;;
-            *)
-                if [[ -z $command ]]; then
-                    command=${COMP_WORDS[i]}
-                else
-                    case " $(_rq_m5_valued "$command") " in
-                        *" ${COMP_WORDS[i - 1]} "*) ;;
-                        *) ((operand++)) ;;
-                    esac
-                fi
-                ;;
-        esac
+    local word=$2 previous=$3 command="" operand=0 i
+    COMPREPLY=()
+    if declare -F _get_comp_words_by_ref >/dev/null; then
+        local cur prev
+        _get_comp_words_by_ref -n : cur prev
+        word=$cur previous=$prev
+    fi
+    for ((i = 1; i < COMP_CWORD; i++)); do
+        if [[ ${COMP_WORDS[i]} == -?* || ${COMP_WORDS[i]} == [:=] || ${COMP_WORDS[i - 1]} == [:=] ]]; then
+            continue
+        elif [[ -z $command ]]; then
+            command=${COMP_WORDS[i]}
+        elif [[ " $(_rq_m5_valued "$command") " != *" ${COMP_WORDS[i - 1]} "* ]]; then
+            ((operand++))
+        fi
     done
     if [[ -z $command ]]; then
-        _rq_m5_words '@COMMANDS@ --help --version --quiet --verbose'
+        _rq_m5_words '<COMMANDS> --help --version --quiet --verbose'
         return
     fi
-    case $command:
-            $previous in @VALUES @esac if [[$word == -*]];
-        then _rq_m5_words "$(_rq_m5_options " $command ")" return fi case $command : $operand in @OPERANDS
-                                                                                     @esac
+    case $command:$previous in
+<VALUES>    esac
+    if [[ $word == -* ]]; then
+        _rq_m5_words "$(_rq_m5_options "$command")"
+        return
+    fi
+    # Bash splits "bank:3" into three words; what is typed last belongs to the first of them.
+    if [[ $word == *:* && $COMP_WORDBREAKS == *:* && $operand -gt 0 && ${COMP_WORDS[COMP_CWORD]} != *:* ]]; then
+        ((operand--))
+    fi
+    case $command:$operand in
+<OPERANDS>    esac
 }
 )sh";
 
@@ -140,9 +147,9 @@ std::string BashCompletion()
             operands += "        " + name + ":*) " + Call(OfferOf(command, 1)) + " ;;\n";
     }
     std::string script = kHead;
-    Replace(script, "@COMMANDS@", commands);
-    Replace(script, "@VALUES@", values);
-    Replace(script, "@OPERANDS@", operands);
+    Replace(script, "<COMMANDS>", commands);
+    Replace(script, "<VALUES>", values);
+    Replace(script, "<OPERANDS>", operands);
     return script + Function("_rq_m5_options", false) + Function("_rq_m5_valued", true) +
            "complete -F _rq_m5 rq-m5\n";
 }

@@ -7,6 +7,7 @@
 #include "cli/receiver_session.h"
 #include "cli/values.h"
 #include "image/display_text.h"
+#include "link/line_notes.h"
 #include "link/receiver_checks.h"
 #include "link/receiver_reader.h"
 #include "memory/change_words.h"
@@ -23,11 +24,18 @@ Status ReadReceiver(const Arguments& arguments, CloneImage& image, Console& cons
     session.Observer().Begin(BlocksToBackUp(image, scope));
     const CloneImage file = image;
     ReceiverReader reader(image, session.Link(), session.Observer());
-    const Status status = session.Finish(reader.Read(scope));
+    Status status = session.Finish(reader.Read(scope));
     for (int row = 0; row < kMemoryRows; ++row)
         image.MemData(row).note = file.MemData(row).note;
     for (int row = 0; row < kVfoRows; ++row)
         image.VFOData(row).note = file.VFOData(row).note;
+    if (const std::vector<std::string> unreadable = reader.Unreadable();
+        status == Status::Done && !unreadable.empty()) {
+        Report(console, {kCommunicationError, UnreadableNote(static_cast<int>(unreadable.size())) + ":"});
+        for (const std::string& block : unreadable)
+            console.err << "  " << VisibleText(block) << '\n';
+        status = Status::Failed;
+    }
     return status;
 }
 

@@ -229,11 +229,13 @@ TEST_F(FileCommands, ShowPrintsTheTableOfAGroupInColumns)
     const std::string out = RunProgramFile({"show", "--bank", "priority", file}).out;
     EXPECT_TRUE(
         Has(out,
-            "       Frequency   Mode  Step  Option  Skip  Carrier  Tone    Shift   ShiftFreq.  Note\n"
-            "   1   145.500000  FM    9KHz  OFF     *     300Hz    67.0Hz  +Shift  0.600000    東京\n"
-            "-  2   145.500000  FM    9KHz  OFF     *     300Hz    67.0Hz  +Shift  0.600000    x\\x1B[2J\n"))
+            "   Off  Frequency   Mode  Step  Option  Skip  Carrier  Tone    Shift   ShiftFreq.  Note\n"
+            "1       145.500000  FM    9KHz  OFF     *     300Hz    67.0Hz  +Shift  0.600000    東京\n"
+            "2  x    145.500000  FM    9KHz  OFF     *     300Hz    67.0Hz  +Shift  0.600000    x\\x1B[2J\n"))
         << out;
-    EXPECT_TRUE(Has(RunProgramFile({"show", file}).out, "   Pr0  145.500000"));
+    EXPECT_FALSE(Has(out, "\n3"));
+    EXPECT_TRUE(Has(RunProgramFile({"show", file, "--all", "--tsv"}).out, "\tPr0\t\t145.500000\tFM"));
+    EXPECT_TRUE(Has(RunProgramFile({"show", "--all", file}).out, "\nPr2 "));
 }
 
 TEST_F(FileCommands, CheckSaysWhatAFileHoldsAndWarns)
@@ -269,7 +271,7 @@ TEST_F(FileCommands, CheckSaysWhatAFileHoldsAndWarns)
     const RunResult odd = RunProgramFile({"check", file});
     EXPECT_EQ(odd.status, 0);
     EXPECT_TRUE(Has(odd.err, "\n  line 2 (settings block")) << odd.err;
-    EXPECT_TRUE(Has(odd.err, "LF in place of CR LF") && Has(odd.err, "behind the last line")) << odd.err;
+    EXPECT_TRUE(Has(odd.err, "LF instead of CR LF") && Has(odd.err, "behind the last line")) << odd.err;
 }
 
 TEST_F(FileCommands, DiffNamesWhatDiffersAndIsSilentOtherwise)

@@ -87,6 +87,19 @@ TEST_F(Transfers, ReadChangeWriteAndVerifyTheWholeMemory)
         << differs.out;
     EXPECT_EQ(Transfer("verify", receiver, file, {"--only=settings"}).out, "") << "the count is the memory's";
 
+    EXPECT_TRUE(
+        Has(Transfer("verify", receiver, file, {"--json"}).out,
+            R"({"complete":true,"differences":[{"address":"0050","block":"Settings 2","expected":")"));
+    const RunResult fields = Transfer("diff", receiver, file, {"-v"});
+    EXPECT_TRUE(fields.status == 1 &&
+                Has(fields.out, "memory row 1107 (Search Pass S7): 145.625000 AM -> empty"))
+        << fields.out;
+    EXPECT_FALSE(Has(fields.out, "Note")) << "the receiver has none";
+    EXPECT_TRUE(Has(fields.err, "QT~F5530R\\r -> ")) << fields.err.substr(0, 200);
+    EXPECT_TRUE(Has(Transfer("diff", receiver, file, {"--json"}).out,
+                    R"("row":1107,"place":"search-pass/8","before":)"));
+    EXPECT_TRUE(Transfer("read", receiver, "-").out.starts_with("Tervan  RQ-M5  Clone  File Start\r\n"));
+
     EXPECT_EQ(Transfer("write", receiver, file).status, 0);
     EXPECT_EQ(receiver.Memory().At(0x5530).Text().substr(0, 10), "0145625000");
     EXPECT_EQ(Transfer("verify", receiver, file).status, 0);
