@@ -111,7 +111,7 @@ ImportForm::ImportForm(QWidget* parent)
     mapping->addWidget(cmbImportForget_);
     auto* left = new QFormLayout;
     left->addRow(tr("&Encoding"), cbbImportEncoding_);
-    left->addRow(tr("Fields &between"), cbbImportDelimiter_);
+    left->addRow(tr("&Between fields"), cbbImportDelimiter_);
     auto* right = new QFormLayout;
     right->addRow(tr("&Decimals begin with"), cbbImportDecimal_);
     right->addRow(tr("&Mapping"), mapping);
