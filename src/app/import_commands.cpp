@@ -59,7 +59,7 @@ void ImportCommands::ImportOwn(const QString& path, std::string bytes, CsvNumber
     last_ = {path, std::move(bytes), std::move(taken.findings), document_.History().index()};
     const QString notes = ImportNote(NotesThatDoNotSurvive(image));
     if (!last_.findings.IsEmpty())
-        emit ReadOtherwise(tr("Imported, but not all was read as it stands: %1.")
+        emit ReadOtherwise(tr("Imported; read otherwise than it stands: %1.")
                                .arg(QString::fromStdString(last_.findings.Summary())) +
                            (notes.isEmpty() ? QString() : QLatin1Char(' ') + notes));
     else if (!notes.isEmpty())
@@ -86,9 +86,10 @@ void ImportCommands::ImportList(const QString& path, std::string bytes)
     if (dialogs_.Run(dialog) != QDialog::Accepted)
         return;
     const PastePlan& plan = dialog.Plan();
+    const QString summary = PlanSummary(document_.Image(), plan);
     document_.Edit(tr("Import (%1)").arg(NameOf(path)),
                    [&plan](CloneImage& image) { ApplyPlan(plan, image); });
-    emit Noted(tr("Imported from %1. %2.").arg(NameOf(path), PlanSummary(document_.Image(), plan)));
+    emit Noted(tr("Imported from %1. %2.").arg(NameOf(path), summary));
 }
 
 void ImportCommands::mnuFileExportList_Click()

@@ -261,9 +261,10 @@ ListForm FormOf(const ListTable& table)
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
         // Of two columns of one title only the first can be named by it.
         const bool isNamed = i < table.titles.size() && !table.titles[i].empty() &&
+                             table.titles[i][0] != '#' &&
                              std::ranges::find(table.titles, table.titles[i]) - table.titles.begin() ==
                                  static_cast<std::ptrdiff_t>(i);
-        form.columns.push_back({isNamed ? table.titles[i] : std::to_string(i + 1), table.columns[i]});
+        form.columns.push_back({isNamed ? table.titles[i] : "#" + std::to_string(i + 1), table.columns[i]});
     }
     return form;
 }

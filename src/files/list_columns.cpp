@@ -175,16 +175,27 @@ std::vector<ListColumn> FoundColumns(const ListTable& table)
     return Guesser(table.records).Columns();
 }
 
+constexpr std::size_t kNowhere = std::string::npos;
+
+/// The place of the column of this number, counted from 1; behind all for what is none.
+std::size_t PlaceOfNumber(std::string_view text)
+{
+    const bool isNumber =
+        !text.empty() && text.size() < 4 && text.find_first_not_of("0123456789") == std::string_view::npos;
+    return isNumber ? std::stoul(std::string(text)) - 1 : kNowhere;
+}
+
 /// The place of a column that somebody names by its title or its number.
 std::size_t PlaceOf(const ListTable& table, const std::string& name)
 {
+    const std::size_t number =
+        name.starts_with('#') ? PlaceOfNumber(std::string_view(name).substr(1)) : kNowhere;
+    if (number != kNowhere)
+        return number;
     const auto found = std::ranges::find(table.titles, name);
     if (found != table.titles.end())
         return static_cast<std::size_t>(found - table.titles.begin());
-    const bool isNumber =
-        !name.empty() && name.size() < 4 && name.find_first_not_of("0123456789") == std::string::npos;
-    const std::size_t number = isNumber ? std::stoul(name) : 0;
-    return number - 1;  // of none: behind all
+    return PlaceOfNumber(name);
 }
 
 /// What somebody says of columns goes before what was found out, there and for other columns of that kind.

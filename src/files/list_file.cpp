@@ -53,7 +53,8 @@ std::string FieldOf(const CloneImage& image, int row, int part, DecimalSign deci
 
 void AddField(std::string& list, const std::string& text, char delimiter)
 {
-    const bool isPlain = text.find_first_of(",;\"\t\r\n") == std::string::npos;
+    const bool isPlain =
+        text.find(delimiter) == std::string::npos && text.find_first_of("\"\t\r\n") == std::string::npos;
     if (isPlain) {
         list += text;
     } else {

@@ -13,7 +13,7 @@ namespace rqm5 {
 /// What a column of a list is said to hold.
 struct ColumnWish
 {
-    std::string name;  ///< its title, or its number counted from 1
+    std::string name;  ///< its title, or its number counted from 1, also as "#3"
     ListColumn column;
 };
 

@@ -89,8 +89,7 @@ std::string TakeWord(std::string_view& rest, std::string_view ends)
 std::string TakeSetting(const std::string& name, const std::string& value, ListForm& form)
 {
     if (name == "@encoding") {
-        const auto encodings = ListEncodings();
-        if (std::ranges::find(encodings, value) == encodings.end())
+        if (!IsKnownEncoding(value))
             return "there is no encoding \"" + value + "\"; one of them is WINDOWS-1252";
         form.encoding = value;
     } else if (name == "@delimiter") {

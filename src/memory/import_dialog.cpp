@@ -20,7 +20,7 @@
 namespace rqm5 {
 namespace {
 
-constexpr QSize kUsualSize(900, 640);
+constexpr QSize kUsualSize(1000, 640);
 constexpr QSize kWindowFrame(8, 36);
 
 struct FieldText

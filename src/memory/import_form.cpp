@@ -111,7 +111,7 @@ ImportForm::ImportForm(QWidget* parent)
     mapping->addWidget(cmbImportForget_);
     auto* left = new QFormLayout;
     left->addRow(tr("&Encoding"), cbbImportEncoding_);
-    left->addRow(tr("Fields &between"), cbbImportDelimiter_);
+    left->addRow(tr("&Between fields"), cbbImportDelimiter_);
     auto* right = new QFormLayout;
     right->addRow(tr("&Decimals begin with"), cbbImportDecimal_);
     right->addRow(tr("&Mapping"), mapping);
@@ -205,7 +205,11 @@ void ImportForm::cbbImportMapping_Click()
 void ImportForm::cmbImportKeep_Click()
 {
     const QString name = cbbImportMapping_->currentText().trimmed();
-    SettingsStore().setValue(KeyOf(name), QString::fromStdString(FormatForm(found_)));
+    // What was found out of this list is found out of the next one, too; only its columns may have to be
+    // told.
+    ListForm kept = form_;
+    kept.columns = found_.columns;
+    SettingsStore().setValue(KeyOf(name), QString::fromStdString(FormatForm(kept)));
     FillMappings();
     const QSignalBlocker blocker(cbbImportMapping_);
     cbbImportMapping_->setCurrentIndex(cbbImportMapping_->findText(name));
