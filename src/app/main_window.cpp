@@ -85,7 +85,7 @@ void frmMain::Compose()
     writeOptions_ = new WriteOptionItems(*menus_, dialogs_, *this);
     transfers_ = new TransferCommands(document_, link_, dialogs_, *this);
     offers_ = new Offers(document_, *transfers_, *writeOptions_, *menus_, *messageBar_);
-    new DesktopNews(*transfers_, options_, this);
+    new DesktopNews(*transfers_, options_, *this);
     shell_ = new TransferShell(*transfers_, *menus_, *pages_, *history_, *transferBar_, *sbStatusBar_, *this);
     sides_ = new SideWindows(document_, link_, *transfers_, dialogs_, *ports_, options_, *this);
     new SpectrumCommands(document_, dialogs_, *pages_, *transfers_, menus_->Item("mnuViewSpectrum"), *this);
