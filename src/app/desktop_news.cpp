@@ -4,8 +4,8 @@
 
 namespace rqm5 {
 
-DesktopNews::DesktopNews(TransferCommands& transfers, const StartOptions& options, QObject* parent)
-    : QObject(parent), options_(options)
+DesktopNews::DesktopNews(TransferCommands& transfers, const StartOptions& options, QWidget& window)
+    : QObject(&window), options_(options), window_(window)
 {
     connect(&transfers, &TransferCommands::ProgressTold, this,
             [this](const QString&, double fraction) { ShowProgress(fraction); });
@@ -26,7 +26,9 @@ void DesktopNews::ShowProgress(double fraction)
 
 void DesktopNews::Tell(const QString& text)
 {
-    if (options_.notify && QGuiApplication::applicationState() != Qt::ApplicationActive)
+    const bool isInFront =
+        QGuiApplication::applicationState() == Qt::ApplicationActive && !window_.isMinimized();
+    if (options_.notify && !isInFront)
         options_.notify(text);
 }
 

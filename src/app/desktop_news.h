@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QObject>
+#include <QWidget>
 
 #include "app/start_options.h"
 #include "app/transfer_commands.h"
@@ -14,13 +14,14 @@ class DesktopNews : public QObject
     Q_OBJECT
 
   public:
-    DesktopNews(TransferCommands& transfers, const StartOptions& options, QObject* parent);
+    DesktopNews(TransferCommands& transfers, const StartOptions& options, QWidget& window);
 
   private:
     void ShowProgress(double fraction);
     void Tell(const QString& text);
 
     const StartOptions& options_;
+    const QWidget& window_;
     int shown_ = -1;  ///< percent; -1 for none
 };
 

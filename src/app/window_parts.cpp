@@ -74,7 +74,7 @@ void MakeCommands(Document& document, RadioLink& link, Dialogs& dialogs, const S
     parts.changes = new ChangeCommands(document, link, *parts.transfers, dialogs, window);
     parts.offers =
         new Offers(document, *parts.transfers, *parts.writeOptions, *parts.menus, *parts.messageBar);
-    new DesktopNews(*parts.transfers, options, &window);
+    new DesktopNews(*parts.transfers, options, window);
     parts.shell = new TransferShell(*parts.transfers, *parts.menus, *parts.pages, *parts.history,
                                     *parts.transferBar, *parts.statusBar, window);
     parts.sides = new SideWindows(document, link, *parts.transfers, dialogs, *parts.ports, *parts.pages,

@@ -40,7 +40,7 @@ TEST_F(ReadOptionsTest, ReadTwiceAndNameWhatCameOtherwise)
     EXPECT_TRUE(dialogs_.asked.empty());
     Item("mnuReVerify").trigger();
     EXPECT_EQ(read(""), 32U);
-    EXPECT_TRUE(Note().contains(QStringLiteral(" and verified: nothing changed."))) << qPrintable(Note());
+    EXPECT_TRUE(Note().contains(QStringLiteral(" and verified: 1 VFO band changed."))) << qPrintable(Note());
     EXPECT_EQ(read("flip:1:after=5"), 32U);
     ASSERT_EQ(dialogs_.asked.size(), 1U);
     EXPECT_EQ(dialogs_.asked[0].details, QStringLiteral("VFO 3"));

@@ -16,7 +16,7 @@ class SpectrumWindow : public ReceiverWindowTest
   protected:
     SpectrumWindow()
     {
-        Find<Document>("").Replace(demo_, QString());
+        Item("mnuReAll").trigger();
         window_->resize(1100, 900);
         Item("mnuViewSpectrum").trigger();
         QCoreApplication::processEvents();
@@ -49,6 +49,7 @@ TEST_F(SpectrumWindow, AClickSelectsTheRowAndTheSelectionIsMarked)
     At(1200, [&] { View().Choose(last); });
     Item("mnuReAll").trigger();
     EXPECT_NE(Selected(), std::vector{RowOf(last)});
+    dialogs_.answers = {QMessageBox::No};
     Item("mnuFileNew").trigger();
     EXPECT_TRUE(View().Picture().marks.empty());
 }
@@ -94,6 +95,7 @@ TEST_F(SpectrumWindow, NamesEachChannelToAScreenReader)
               QAccessible::ListItem);
     second->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_TRUE(second->state().selected);
+    dialogs_.answers = {QMessageBox::No};
     Item("mnuFileNew").trigger();
     EXPECT_FALSE(second->isValid());
 }

