@@ -59,9 +59,8 @@ std::optional<Problem> SetFields(CloneImage& image, const RowChoice& choice,
 std::variant<RowList, Problem> RoomAt(const CloneImage& image, const std::string& to, std::size_t wanted)
 {
     const RowChoice choice = ChoiceOfRows(to);
-    const auto named = NamedRows(image, choice, false);
-    if (const auto* problem = std::get_if<Problem>(&named))
-        return Problem{problem->text, "TO " + to + ": it names no row of this file"};
+    if (const std::string fault = choice.Fault(image); !fault.empty())
+        return Problem{kDataError, "TO " + to + ": " + fault};
     const RowRange target = choice.Ranges(image).front();
     RowList room = EmptyRows(image, target);
     if (target.count == 1) {

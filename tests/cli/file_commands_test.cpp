@@ -204,7 +204,7 @@ TEST_F(FileCommands, ShowPrintsTheTableOfAGroupInColumns)
         << out;
     EXPECT_FALSE(Has(out, "\n3"));
     EXPECT_TRUE(Has(RunProgramFile({"show", file, "--all", "--tsv"}).out, "\tPr0\t\t145.500000\tFM"));
-    EXPECT_TRUE(Has(RunProgramFile({"show", "--all", file}).out, "\nPr2 "));
+    EXPECT_TRUE(Has(RunProgramFile({"show", "--all", file}).out, "\nPr2\n"));
 }
 
 TEST_F(FileCommands, CheckSaysWhatAFileHoldsAndWarns)
