@@ -61,6 +61,7 @@ Status Tell(const std::string& path, const SaveOutcome& outcome, Console& consol
                        outcome.lostNotes);
 }
 
+/// What a reader of the other end will not get back is told as after a save.
 Status WriteOut(const CloneImage& image, Console& console)
 {
     console.out << FormatCloneFile(image);

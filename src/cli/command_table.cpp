@@ -91,10 +91,8 @@ constexpr Command kCommands[] = {
      "It has default settings, VFO bands and bank sizes and no channels.", kFile, kNewOptions, RunNew},
     {"read", "read the receiver into FILE",
      "If FILE exists, it is the starting point: notes and what is not read stay. If the transfer fails, FILE "
-     "is "
-     "left untouched. If a block arrives damaged or, with --verify, different the second time, it is listed, "
-     "the "
-     "status is 1, and the old file is kept as FILE~.",
+     "is left untouched. If a block arrives damaged or, with --verify, different the second time, it is "
+     "listed, the status is 1, and the old file is kept as FILE~.",
      kFile, kReadOptions, RunRead, ScopeConflict},
     {"write", "write FILE to the receiver",
      "Sends settings, VFO bands and presets, then banks and channels. Without --verify nothing is read "
@@ -122,8 +120,7 @@ constexpr Command kCommands[] = {
     {"check", "check that each FILE is complete, and say what it holds",
      "Names the line that is wrong and why. Warns of notes that a save loses or a spreadsheet would run, and "
      "of values that are read differently from what the file says. Several files take one line each; "
-     "--verbose "
-     "lists their warnings, --quiet names only those that are not whole.",
+     "--verbose lists their warnings, --quiet names only those that are not whole.",
      kFiles, kCheckOptions, RunCheck, FilesFault},
     {"repair", "mend a file that cannot be opened because of its notes",
      "Commas in notes become semicolons, quotes apostrophes; each such note is shown. Without --to and "
