@@ -59,14 +59,13 @@ std::optional<Problem> SetFields(CloneImage& image, const RowChoice& choice,
 std::variant<RowList, Problem> RoomAt(const CloneImage& image, const std::string& to, std::size_t wanted)
 {
     const RowChoice choice = ChoiceOfRows(to);
-    const auto named = NamedRows(image, choice, false);
-    if (const auto* problem = std::get_if<Problem>(&named))
-        return Problem{problem->text, "TO " + to + ": it names no row of this file"};
+    if (const std::string fault = choice.Fault(image); !fault.empty())
+        return Problem{kDataError, "TO " + to + ": " + fault};
     const RowRange target = choice.Ranges(image).front();
     RowList room = EmptyRows(image, target);
     if (target.count == 1) {
         const int selector = target.first < kRadioRows ? SelectorOfRow(image, target.first) : kSelectAll;
-        const RowRange group = selector == kSelectAll ? RowRange{0, kRadioRows} : GroupRows(image, selector);
+        const RowRange group = selector == kSelectAll ? RowRange{0, kBankRows} : GroupRows(image, selector);
         room = RowsOf({target.first, std::max(0, group.Last() - target.first + 1)});
     }
     if (room.size() < wanted)
@@ -116,8 +115,10 @@ std::string SortFault(const RowChoice& choice, const std::vector<MoveGroup>& gro
     if (choice.HasConditions() || groups.empty())
         return "sort takes places such as bank:3 or program-scan, and no conditions";
     for (const MoveGroup& group : groups)
-        if (group.rows.first % group.unit != 0 || group.rows.count % group.unit != 0 ||
-            (group.unit > 1 && !kProgramScan.rows.Contains(group.rows.Last())))
+        if (group.rows.count > 0 && GroupOfRow(group.rows.first) != GroupOfRow(group.rows.Last()))
+            return "rows of two groups cannot be sorted as one; name them apart";
+    for (const MoveGroup& group : groups)
+        if (group.rows.first % group.unit != 0 || group.rows.count % group.unit != 0)
             return "the two edges of a Program Scan pair stay together; name whole pairs";
     return {};
 }

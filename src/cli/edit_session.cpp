@@ -4,6 +4,7 @@
 
 #include "cli/clone_files.h"
 #include "cli/streams.h"
+#include "files/file_kind.h"
 #include "files/safe_notes.h"
 #include "image/display_text.h"
 #include "memory/change_words.h"

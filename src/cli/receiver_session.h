@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -67,7 +66,6 @@ class ReceiverSession
     Console& console_;
     const int number_;  ///< the COM number from RQ-M5.ini; 0 when --port says the port
     bool isCtrlC_ = false;
-    const std::chrono::steady_clock::time_point begin_ = std::chrono::steady_clock::now();
     ProgressBar progress_;
     QtSerialPort port_;
     RadioLink link_;

@@ -201,11 +201,10 @@ Status RunWrite(const Arguments& arguments, Console& console)
                                 "Nothing was written."});
     if (status == Status::Done)
         status = Write(image, scope, arguments.Has("--verify"), session, console);
-    const bool isVerified = status == Status::Done && arguments.Has("--verify");
-    if (isVerified)
+    if (status == Status::Done && arguments.Has("--verify"))
         status = CompareWithReceiver(ExpectedAfterWrite(image, scope), session, console, NotVerified());
     if (status == Status::Done)
-        session.Close(WrittenNote(session.Taken(), isVerified));
+        session.Close(WrittenNote(session.Taken(), arguments.Has("--verify")));
     return status;
 }
 

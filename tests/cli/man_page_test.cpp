@@ -29,12 +29,16 @@ TEST(ManPage, NamesEveryCommandWithItsOptions)
     const std::string page = Page();
     for (const Command& command : Commands()) {
         const std::string name(command.name);
-        const std::size_t begin = std::min(page.find(".SS " + name), page.find(", " + name + "\n"));
-        ASSERT_NE(page.find("rq-m5 " + name), std::string::npos) << name;
-        const std::size_t section = std::min(begin, page.find("\n.SS enable, disable, clear") + 1);
-        const std::string text = page.substr(section, page.find("\n.SS ", section + 1) - section);
+        std::string section;
+        for (std::size_t at = page.find("\n.SS "); at != std::string::npos;
+             at = page.find("\n.SS ", at + 1)) {
+            const std::string heading = ' ' + page.substr(at + 5, page.find('\n', at + 1) - at - 5) + ',';
+            if (Has(heading, ' ' + name + ','))
+                section = page.substr(at, page.find("\n.S", at + 1) - at);
+        }
+        EXPECT_TRUE(Has(section, "rq-m5 " + name)) << name;
         for (const Option& option : command.options)
-            EXPECT_TRUE(Has(text, std::string(option.name))) << name << ' ' << option.name;
+            EXPECT_TRUE(Has(section, std::string(option.name))) << name << ' ' << option.name;
     }
 }
 
