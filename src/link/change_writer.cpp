@@ -99,7 +99,7 @@ TransferResult ReadBlocks(const std::vector<int>& addresses, const CloneImage& i
 }
 
 KnownBeforeCheck::KnownBeforeCheck(ReceiverKnowledge& knowledge, const std::vector<int>& addresses)
-    : knowledge_(knowledge)
+    : knowledge_(knowledge), addresses_(addresses)
 {
     for (const int address : addresses)
         if (const KnownBlock* known = knowledge.Find(address))
@@ -108,7 +108,7 @@ KnownBeforeCheck::KnownBeforeCheck(ReceiverKnowledge& knowledge, const std::vect
 
 KnownBeforeCheck::~KnownBeforeCheck()
 {
-    knowledge_.PutBack(before_);
+    knowledge_.PutBack(addresses_, before_);
 }
 
 std::vector<ExpectedBlock> ExpectedAfterChanges(const CloneImage& image, const ChangePlan& changes)

@@ -34,10 +34,11 @@ class KnownBeforeCheck
     KnownBeforeCheck& operator=(const KnownBeforeCheck&) = delete;
 
     /// The write begins.
-    void Forget() { before_.clear(); }
+    void Forget() { addresses_.clear(); }
 
   private:
     ReceiverKnowledge& knowledge_;
+    std::vector<int> addresses_;
     KnownBlocks before_;
 };
 

@@ -108,11 +108,13 @@ void ReceiverKnowledge::Leave()
     untold_ = TellingBlocks();
 }
 
-void ReceiverKnowledge::PutBack(const KnownBlocks& blocks)
+void ReceiverKnowledge::PutBack(const std::vector<int>& addresses, const KnownBlocks& before)
 {
-    for (const auto& [address, block] : blocks)
-        if (const auto known = known_.find(address); known != known_.end())
-            known->second = block;
+    for (const int address : addresses) {
+        const bool isKnown = known_.erase(address) > 0;
+        if (const auto found = before.find(address); isKnown && found != before.end())
+            known_[address] = found->second;
+    }
 }
 
 void ReceiverKnowledge::TakeRead(int address, const MemoryBlock& block)

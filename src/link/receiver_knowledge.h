@@ -5,6 +5,7 @@
 #include <map>
 #include <optional>
 #include <set>
+#include <vector>
 
 #include "image/clone_image.h"
 #include "image/memory_block.h"
@@ -66,8 +67,8 @@ class ReceiverKnowledge
     void BeginDoubt() { isInDoubt_ = true; }
     void EndDoubt(bool haveShifted);
 
-    /// Counts what was known of these blocks before they were read again, as far as they are known still.
-    void PutBack(const KnownBlocks& blocks);
+    /// Forgets that these blocks were read, and counts what was known of them before.
+    void PutBack(const std::vector<int>& addresses, const KnownBlocks& before);
 
     /// The device went away; what comes back may be another receiver.
     void Leave();
