@@ -65,6 +65,7 @@ class ReceiverSession
     EventLoopHost host_;
     Console& console_;
     const int number_;  ///< the COM number from RQ-M5.ini; 0 when --port says the port
+    const std::chrono::steady_clock::time_point begin_ = std::chrono::steady_clock::now();
     bool isCtrlC_ = false;
     ProgressBar progress_;
     QtSerialPort port_;
