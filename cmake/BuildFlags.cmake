@@ -11,6 +11,12 @@ check_pie_supported(LANGUAGES CXX)
 target_compile_options(rqm5_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wformat
   -Werror=format-security -fstack-protector-strong)
+# Programs name neither the folder of the sources nor that of the build, nor the time: two builds give the same
+# bytes wherever they are made.
+target_compile_options(rqm5_flags INTERFACE
+  -ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -ffile-prefix-map=${CMAKE_BINARY_DIR}=build)
+set(CMAKE_AUTORCC_OPTIONS --format-version 1)
+
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_SYSTEM_NAME STREQUAL "Linux")
   target_compile_options(rqm5_flags INTERFACE -fstack-clash-protection)
 endif()

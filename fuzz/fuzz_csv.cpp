@@ -6,9 +6,7 @@
 #include "files/csv_file.h"
 #include "fuzz/image_checks.h"
 #include "fuzz/require.h"
-#include "image/channel_block.h"
 #include "image/image_change.h"
-#include "image/value_tables.h"
 #include "memory/start_image.h"
 
 namespace rqm5::fuzz {
@@ -18,21 +16,6 @@ const CloneImage& FreshImage()
 {
     static const CloneImage image = StartUpImage(0);
     return image;
-}
-
-/// What was imported into a row must fit into a block, or the next save would lose it.
-void RequireEncodable(const ChannelContents& contents, RowKind kind)
-{
-    ChannelContents read = DecodeBlock(EncodeChannel(contents), kind).value_or(ChannelContents());
-    // A shift of 0.05 MHz reads back as 0.5 MHz, as receivers in the field have it.
-    if (read.frequency != 0)
-        read.shiftFrequency = contents.shiftFrequency;
-    // The receiver knows the 1 kHz step for VFO rows only.
-    if (kind == RowKind::Memory && contents.step == StepName.size() - 1)
-        read.step = contents.step;
-    // A block does not tell that a file brought its carrier.
-    read.isCarrierImported = contents.isCarrierImported;
-    Require(read == contents, "imported contents survive as a block");
 }
 
 /// Checks the rows that an import changed.

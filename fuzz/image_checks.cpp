@@ -1,6 +1,8 @@
 #include "fuzz/image_checks.h"
 
 #include "fuzz/require.h"
+#include "image/channel_block.h"
+#include "image/value_tables.h"
 #include "memory/bank_layout.h"
 
 namespace rqm5::fuzz {
@@ -29,6 +31,20 @@ ReceiverSettings AsSent(ReceiverSettings settings)
     if (settings.model < 2)
         settings.passCount = 0x60;
     return settings;
+}
+
+void RequireEncodable(const ChannelContents& contents, RowKind kind)
+{
+    ChannelContents read = DecodeBlock(EncodeChannel(contents), kind).value_or(ChannelContents());
+    // A shift of 0.05 MHz reads back as 0.5 MHz, as receivers in the field have it.
+    if (read.frequency != 0)
+        read.shiftFrequency = contents.shiftFrequency;
+    // The receiver knows the 1 kHz step for VFO rows only.
+    if (kind == RowKind::Memory && contents.step == StepName.size() - 1)
+        read.step = contents.step;
+    // A block does not tell that a file brought its carrier.
+    read.isCarrierImported = contents.isCarrierImported;
+    Require(read == contents, "imported contents survive as a block");
 }
 
 void RequireSoundSettings(const ReceiverSettings& settings)

@@ -14,6 +14,9 @@ void RequireSoundImage(const CloneImage& image);
 /// Ends the program when the settings are out of their ranges.
 void RequireSoundSettings(const ReceiverSettings& settings);
 
+/// What was imported into a row must fit into a block, or the next save would lose it.
+void RequireEncodable(const ChannelContents& contents, RowKind kind);
+
 /// The settings as their own blocks give them back: a mode that is none of the three is sent as VFO, and the
 /// first two models have a fixed count of Search Pass channels.
 ReceiverSettings AsSent(ReceiverSettings settings);

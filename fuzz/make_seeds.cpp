@@ -7,6 +7,7 @@
 
 #include "files/clone_lines.h"
 #include "files/csv_file.h"
+#include "files/list_file.h"
 #include "fuzz/clone_patches.h"
 #include "image/channel_block.h"
 #include "memory/start_image.h"
@@ -79,6 +80,30 @@ void AddCsvSeeds(SeedFolder folder)
     folder.Add("RQ-M5,memory,5,145.5,am,10KHz,Tone,3,JR,88.5Hz,-shift,0.6,note,TRUE,1\n");
 }
 
+void AddListSeeds(SeedFolder folder)
+{
+    const CloneImage image = ImageWithChannels(0);
+    for (const DecimalSign sign : {DecimalSign::Point, DecimalSign::Comma})
+        folder.Add(FormatList(image, {{{0, 4}, kPriority.rows}, ListColumns(), sign}));
+    for (const char* list : {"145.5\n145,525 MHz\n14\n", "Name\tFreq (kHz)\tMode\nTower\t118100\tAM\n",
+                             "Frequenz;Betriebsart;Bemerkung;Aktiv\n145,500;FM;\"Ulm; West\";WAHR\n",
+                             "Fr\xE9quence;Nom\n1.299,995;Gen\xE8ve\n", "frecuencia,tono\n439.1,88.5\n",
+                             "\xE5\x91\xA8\xE6\xB3\xA2\xE6\x95\xB0,\xE5\x82\x99\xE8\x80\x83\n433.0,x\n",
+                             "\x8E\xFC\x94g\x90\x94,\x94\xF5\x8Dl\n433.0,\x93\x8C\x8B\x9E\n",
+                             "RQ-M5;MEMORY;3;145,5;FM;10KHz;OFF;0;300Hz;88,5Hz;+Shift;0,6;n;FALSCH;WAHR\n",
+                             "ENABLE,MODEL,BANK,CHANNEL,FREQUENCY\n1,RQ-M5,Bank 0,3,1.455E+02\n"})
+        folder.Add(list);
+    folder.Add(
+        std::string("\xFF\xFE"
+                    "1\0"
+                    "4\0"
+                    "5\0"
+                    "\t\0"
+                    "a\0"
+                    "\n\0",
+                    14));
+}
+
 void AddReplySeeds(SeedFolder folder)
 {
     for (const std::string_view channel : kChannels)
@@ -122,6 +147,7 @@ int main(int argc, char** argv)
     const std::filesystem::path folder = argv[1];
     AddCloneSeeds(SeedFolder(folder / "fuzz_clone_file"));
     AddCsvSeeds(SeedFolder(folder / "fuzz_csv"));
+    AddListSeeds(SeedFolder(folder / "fuzz_list"));
     AddReplySeeds(SeedFolder(folder / "fuzz_replies"));
     AddSettingsSeeds(SeedFolder(folder / "fuzz_settings"));
     AddArgumentSeeds(SeedFolder(folder / "fuzz_arguments"));

@@ -32,7 +32,7 @@ void EditCommands::mnuEditUndo_Click()
 
 void EditCommands::ModifyMemory(int row)
 {
-    editor_->OpenMemory(row, pages_.Memory().Selector());
+    editor_->OpenMemory(row, pages_.Memory().Selector(), pages_.Memory().Filter());
 }
 
 void EditCommands::ModifySeveral(const std::vector<int>& rows)

@@ -111,7 +111,7 @@ int ProgramEnd::Exec(frmMain& window)
 {
     window_ = &window;
     const int status = signals_.Status() != 0 ? signals_.Status() : QApplication::exec();
-    // What a transfer stored until it had ended.
+    // A transfer may have stored something after the first call.
     if (signals_.Status() != 0)
         window.KeepWork();
     window_ = nullptr;

@@ -82,7 +82,7 @@ void FileCommands::mnuFileOpen_Click()
         Load(path);
 }
 
-void FileCommands::OpenDropped(const QString& path)
+void FileCommands::OpenAnother(const QString& path)
 {
     if (MayLoseChanges())
         Load(path);
@@ -92,10 +92,13 @@ bool FileCommands::Load(const QString& path)
 {
     CloneImage image = document_.Image();
     FileMark mark;
-    if (!Report(LoadCloneFile(path, image, &mark)))
+    if (!Report(LoadCloneFile(path, image, &mark))) {
+        emit Refused(Absolute(path));
         return false;
+    }
     currentFile_.Know(Absolute(path), mark);
     document_.Replace(std::move(image), Absolute(path));
+    emit Used(Absolute(path));
     return true;
 }
 
@@ -169,6 +172,7 @@ bool FileCommands::SaveTo(const QString& chosen)
     if (!Report(outcome.problem))
         return false;
     document_.MarkSaved(path);
+    emit Used(path);
     TellOfSave(path, outcome, kept);
     return true;
 }
@@ -196,26 +200,6 @@ void FileCommands::mnuFileExport_Click()
     document_.MarkSaved(Absolute(path));
     WarnOfNotes(tr("The file is written. A spreadsheet may run these notes as formulas."),
                 NotesThatLookLikeFormulas(document_.Image()));
-}
-
-void FileCommands::mnuFileImport_Click()
-{
-    const QString path = dialogs_.ChooseFile(&window_, FileChoice::OpenCsv, QString());
-    if (path.isEmpty())
-        return;
-    CloneImage image = document_.Image();
-    CsvTaken taken;
-    FileMark mark;
-    if (!Report(ImportCsv(path, image, taken, &mark)))
-        return;
-    if (taken.rows == 0) {
-        emit NothingImported();
-        return;
-    }
-    currentFile_.Know(Absolute(path), mark);
-    document_.Import(tr("Import (%1)").arg(VisibleText(QFileInfo(path).fileName())), image, Absolute(path));
-    if (const QString note = ImportNote(NotesThatDoNotSurvive(image)); !note.isEmpty())
-        emit Noted(note);
 }
 
 void FileCommands::mnuFileRepair_Click()

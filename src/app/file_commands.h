@@ -38,11 +38,10 @@ class FileCommands : public QObject
     void mnuFileNew_Click();
     void mnuFileOpen_Click();
 
-    /// Opens a clone file that was dropped on the window.
-    void OpenDropped(const QString& path);
+    /// Opens a clone file that was dropped on the window or chosen from the latest ones.
+    void OpenAnother(const QString& path);
     bool mnuFileSave_Click();    ///< \return true when the file was written
     bool mnuFileSaveAs_Click();  ///< \return true when the file was written
-    void mnuFileImport_Click();
     void mnuFileExport_Click();
     void mnuFileRepair_Click();
 
@@ -51,10 +50,11 @@ class FileCommands : public QObject
 
   signals:
     void NewDone();
-    void NothingImported();  ///< the file held no record of this receiver; nothing has changed
-    void Asking();           ///< a message or question is about to be shown
+    void Used(const QString& path);     ///< this clone file has been opened or saved
+    void Refused(const QString& path);  ///< this file could not be opened
+    void Asking();                      ///< a message or question is about to be shown
 
-    /// What there is to say of a save or an import that went well.
+    /// What there is to say of a save that went well.
     void Noted(const QString& text);
 
     /// The current file cannot bring back notes, or, with an empty text, it can again.

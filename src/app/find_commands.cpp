@@ -10,7 +10,7 @@ FindCommands::FindCommands(const Document& document, Pages& pages, QWidget& wind
 {
     const FindBar& finder = pages.Memory().Finder();
     connect(&finder, &FindBar::Left, this, &FindCommands::Return);
-    // Who has gone to a hit stays there.
+    // After a hit was chosen, leaving the box does not go back to the page before.
     connect(&finder, &FindBar::Found, this, [this] {
         tab_ = Tab::Memory;
         focus_ = nullptr;

@@ -31,10 +31,9 @@ void HistoryCommands::MakeView(QMainWindow& window)
     dckHistory_->setWidget(view);
     window.addDockWidget(Qt::RightDockWidgetArea, dckHistory_);
     dckHistory_->hide();
-    QAction& item = menus_.Item("mnuViewHistory");
-    connect(&item, &QAction::triggered, dckHistory_, &QDockWidget::setVisible);
     // The dock has a close button of its own.
-    connect(dckHistory_->toggleViewAction(), &QAction::toggled, &item, &QAction::setChecked);
+    connect(dckHistory_->toggleViewAction(), &QAction::toggled, &menus_.Item("mnuViewHistory"),
+            &QAction::setChecked);
 }
 
 void HistoryCommands::ShowItems()
@@ -47,6 +46,11 @@ void HistoryCommands::ShowItems()
     };
     show("mnuHistoryUndo", tr("&Undo"), tr("&Undo %1"), history_.undoText(), history_.canUndo());
     show("mnuHistoryRedo", tr("&Redo"), tr("&Redo %1"), history_.redoText(), history_.canRedo());
+}
+
+void HistoryCommands::mnuViewHistory_Click(bool isWanted)
+{
+    dckHistory_->setVisible(isWanted);
 }
 
 void HistoryCommands::SetTransferRunning(bool isRunning)

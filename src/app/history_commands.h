@@ -20,6 +20,8 @@ class HistoryCommands : public QObject
     /// Undo and Redo say what they would do, in the language of now.
     void ShowItems();
 
+    void mnuViewHistory_Click(bool isWanted);
+
     /// Nothing is taken back while a transfer runs.
     void SetTransferRunning(bool isRunning);
 

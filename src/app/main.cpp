@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "app/command_file.h"
+#include "app/desktop_link.h"
 #include "app/ending.h"
 #include "app/recovery.h"
 #include "app/start_up.h"
@@ -95,6 +96,8 @@ int main(int argc, char** argv)
     options.stateFolder = rqm5::StateFolder();
     options.cacheFolder = rqm5::CacheFolder();
     options.useDevice = [&port](const QString& device) { port.SetDevice(device); };
+    options.showProgress = rqm5::ShowProgressOnDesktop;
+    options.notify = rqm5::NotifyOnDesktop;
     rqm5::ProgramEnd end;
     const auto window = rqm5::StartUp(port, dialogs, options);
     return end.Exec(*window);

@@ -20,7 +20,7 @@ class Pages : public QObject
   public:
     Pages(Document& document, Dialogs& dialogs, QWidget* parent);
 
-    TabStrip& Tabs() { return *TabStrip1_; }
+    TabStrip& Tabs() const { return *TabStrip1_; }
     Settings1Page& Settings1() { return *settings1_; }
     Settings2Page& Settings2() { return *settings2_; }
     MemoryPage& Memory() { return *memory_; }

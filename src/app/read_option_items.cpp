@@ -1,27 +1,22 @@
 #include "app/read_option_items.h"
 
-#include <QSettings>
+#include "ui/settings_store.h"
 
 namespace rqm5 {
 namespace {
 
 const QString kVerify = QStringLiteral("Read/Verify");
 
-QSettings Store()
-{
-    return QSettings(QStringLiteral("Tervan"), QStringLiteral("Tervan RQ-M5 Clone Utility"));
-}
-
 }  // namespace
 
 bool LoadReadTwice()
 {
-    return Store().value(kVerify, false).toBool();
+    return SettingsStore().value(kVerify, false).toBool();
 }
 
 void SaveReadTwice(bool readsTwice)
 {
-    Store().setValue(kVerify, readsTwice);
+    SettingsStore().setValue(kVerify, readsTwice);
 }
 
 ReadOptionItems::ReadOptionItems(Menus& menus, QObject* parent) : QObject(parent), menus_(menus)

@@ -6,13 +6,17 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDir>
+#include <QDockWidget>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QTreeWidget>
 
 #include "app/start_up.h"
+#include "app/write_options.h"
+#include "files/file_store.h"
 #include "link/port_file.h"
 #include "link/qt_serial_port.h"
 #include "memory/bank_layout.h"
@@ -34,14 +38,24 @@ class PictureDialogs : public rqm5::Dialogs
         return QMessageBox::NoButton;
     }
 
-    QString ChooseFile(QWidget*, rqm5::FileChoice, const QString&) override { return {}; }
+    QString ChooseFile(QWidget*, rqm5::FileChoice, const QString&) override
+    {
+        return std::exchange(nextFile_, {});
+    }
+
+    /// The file that is chosen next.
+    void NextFile(const QString& path) { nextFile_ = path; }
 
     QString ChooseFolder(QWidget*, const QString&, const QString&) override { return {}; }
 
     int Run(QDialog& dialog) override
     {
         dialog.show();
-        dialog.resize(dialog.sizeHint());  // the screen without a display is small
+        // The screen without a display is small.
+        dialog.resize(dialog.sizeHint().expandedTo(dialog.size()));
+        constexpr int kFiles = 9;
+        for (int i = 0; i < kFiles; ++i)
+            QCoreApplication::processEvents();  // a list fills itself
         Save(dialog, dialog.objectName());
         dialog.close();
         return QDialog::Rejected;
@@ -57,6 +71,7 @@ class PictureDialogs : public rqm5::Dialogs
 
   private:
     QDir folder_;
+    QString nextFile_;
 };
 
 /// The part of a window that goes by this name; there is no picture without it.
@@ -105,6 +120,43 @@ void SaveFinds(PictureDialogs& dialogs, QWidget& window)
     Find<QWidget>(window, "dlgDuplicates").close();
 }
 
+/// A file that holds something else, compared with the open image, and a list of backups.
+void SaveCompare(PictureDialogs& dialogs, QWidget& window, const QTemporaryDir& folder)
+{
+    rqm5::CloneImage other = rqm5::DemoImage(0);
+    rqm5::CloneImage older = other;
+    other.MemData(3).mode = 1;
+    other.MemData(5).note = "Tower";
+    std::swap(other.MemData(0), other.MemData(1));
+    other.MemData(2) = {};
+    other.Settings().volume = 20;
+    const QString file = folder.filePath(QStringLiteral("club.RQ5"));
+    rqm5::SaveCloneFile(file, other);
+    const QDateTime day(QDate(2026, 1, 31), QTime(18, 5, 10));
+    QFile saved(file);
+    if (!saved.open(QIODevice::ReadWrite) || !saved.setFileTime(day, QFileDevice::FileModificationTime))
+        qFatal("no %s", qPrintable(file));
+    saved.close();
+    dialogs.NextFile(file);
+    Trigger(window, "mnuToolsCompare");
+    auto& compare = Find<QWidget>(window, "dlgCompare");
+    Find<QAbstractButton>(compare, "cmbCompareFile").click();
+    auto& tree = Find<QTreeWidget>(compare, "lstCompare");
+    tree.topLevelItem(0)->child(3)->setExpanded(true);
+    compare.resize(1000, 460);
+    dialogs.Save(compare, QStringLiteral("compare"));
+    compare.close();
+
+    const QString kept = folder.filePath(QStringLiteral("RQ-M5 backups"));
+    if (!QDir().mkpath(kept))
+        qFatal("no %s", qPrintable(kept));
+    rqm5::SaveWriteOptions({false, false, kept});
+    rqm5::SaveCloneFile(rqm5::NewBackupPath(kept, {}, day), other);
+    rqm5::SaveCloneFile(rqm5::NewBackupPath(kept, {.memory = false}, day.addDays(2)), older);
+    rqm5::SaveCloneFile(rqm5::NewBackupPath(kept, {}, day.addDays(9)), older);
+    Trigger(window, "mnuFileBackups");
+}
+
 /// A bank that grows, and the offer to move the channels behind it.
 void SaveBankMove(PictureDialogs& dialogs, QWidget& window)
 {
@@ -120,6 +172,16 @@ void SaveBankMove(PictureDialogs& dialogs, QWidget& window)
     dialogs.Save(window, QStringLiteral("bank-move"));
     Trigger(window, "mnuHistoryUndo");
     tabs.setCurrentIndex(2);
+}
+
+void SaveSpectrum(PictureDialogs& dialogs, QWidget& window)
+{
+    Trigger(window, "mnuViewSpectrum");
+    auto& dock = Find<QDockWidget>(window, "dckSpectrum");
+    dock.setFloating(true);
+    dock.resize(1000, 520);
+    dialogs.Save(dock, QStringLiteral("spectrum"));
+    dock.close();
 }
 
 /// What a write would send after a channel was switched off.
@@ -149,6 +211,7 @@ int main(int argc, char** argv)
 {
     const QTemporaryDir settings;
     qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
+    qputenv("HOME", settings.path().toUtf8());
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1])))
@@ -162,6 +225,7 @@ int main(int argc, char** argv)
     rqm5::StartOptions options;
     options.portFile = settings.filePath(QStringLiteral("RQ-M5.ini"));
     rqm5::WritePortFile(options.portFile, kUsualCable);
+    options.isPresent = [](const QString&) { return true; };
     options.splashTime = std::chrono::milliseconds(0);
     const auto window = rqm5::StartUp(port, dialogs, options);
     QObject::connect(window->findChild<QProgressBar*>(), &QProgressBar::valueChanged, window.get(),
@@ -176,11 +240,13 @@ int main(int argc, char** argv)
     SavePages(dialogs, *window);
     SaveFinds(dialogs, *window);
     SaveBankMove(dialogs, *window);
+    SaveCompare(dialogs, *window, settings);
     SaveChanges(*window);
     Trigger(*window, "mnuEditUndo");
     Trigger(*window, "mnuEditFillSeries");
     SavePaste(*window);
     Trigger(*window, "mnuToolsOptions");
     Trigger(*window, "mnuFilePrint");
+    SaveSpectrum(dialogs, *window);
     SaveDiagnostics(dialogs, *window);
 }

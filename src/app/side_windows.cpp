@@ -1,6 +1,7 @@
 #include "app/side_windows.h"
 
 #include "app/diagnostics/diagnostics_panel.h"
+#include "app/pages.h"
 #include "help/about_dialog.h"
 #include "help/help_key.h"
 #include "printing/print_job.h"
@@ -8,7 +9,8 @@
 namespace rqm5 {
 
 SideWindows::SideWindows(Document& document, RadioLink& link, TransferCommands& transfers, Dialogs& dialogs,
-                         const PortCommands& ports, const StartOptions& options, QMainWindow& window)
+                         const PortCommands& ports, const Pages& pages, const StartOptions& options,
+                         QMainWindow& window)
     : QObject(&window),
       document_(document),
       link_(link),
@@ -16,18 +18,21 @@ SideWindows::SideWindows(Document& document, RadioLink& link, TransferCommands& 
       ports_(ports),
       options_(options),
       window_(window),
-      help_(new HelpKey(dialogs, window)),
+      help_(new HelpKey(dialogs, pages.Tabs(), window)),
       diagnostics_(new DiagnosticsPanel(document.Image(), link, transfers, dialogs, &window))
 {
     window.addDockWidget(Qt::BottomDockWidgetArea, diagnostics_);
     diagnostics_->hide();
 }
 
-void SideWindows::ConnectDiagnostics(QAction& mnuViewDiagnostics)
+void SideWindows::MarkDiagnostics(QAction& mnuViewDiagnostics)
 {
-    connect(&mnuViewDiagnostics, &QAction::triggered, diagnostics_, &QDockWidget::setVisible);
-    // The panel has a close button of its own.
     connect(diagnostics_->toggleViewAction(), &QAction::toggled, &mnuViewDiagnostics, &QAction::setChecked);
+}
+
+void SideWindows::mnuViewDiagnostics_Click(bool isWanted)
+{
+    diagnostics_->setVisible(isWanted);
 }
 
 void SideWindows::mnuFilePrint_Click()

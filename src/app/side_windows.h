@@ -13,6 +13,7 @@ namespace rqm5 {
 
 class DiagnosticsPanel;
 class HelpKey;
+class Pages;
 class TransferCommands;
 
 /// The windows beside the main window: printing, diagnostics, help and the About box. The diagnostics panel
@@ -23,11 +24,13 @@ class SideWindows : public QObject
 
   public:
     SideWindows(Document& document, RadioLink& link, TransferCommands& transfers, Dialogs& dialogs,
-                const PortCommands& ports, const StartOptions& options, QMainWindow& window);
+                const PortCommands& ports, const Pages& pages, const StartOptions& options,
+                QMainWindow& window);
 
-    /// Keeps the item of the View menu and the panel equal.
-    void ConnectDiagnostics(QAction& mnuViewDiagnostics);
+    /// Keeps the check mark of the View menu's item right: the panel has a close button of its own.
+    void MarkDiagnostics(QAction& mnuViewDiagnostics);
 
+    void mnuViewDiagnostics_Click(bool isWanted);
     void mnuFilePrint_Click();
     void mnuHelpContents_Click();
     void mnuHelpAbout_Click();

@@ -42,6 +42,7 @@ bool IsAction(const QEvent& event)
 StatusBar::StatusBar(QWidget* parent)
     : QStatusBar(parent),
       lblHint_(new ElidedLabel(Qt::ElideRight, this)),
+      lblNoteDetails_(new QLabel(this)),
       lblFileState_(new QLabel(this)),
       lblRegion_(new QLabel(this)),
       lblEnabled_(new QLabel(this)),
@@ -51,6 +52,17 @@ StatusBar::StatusBar(QWidget* parent)
     lblHint_->setObjectName(QStringLiteral("lblHint"));
     lblHint_->setContentsMargins(kFieldMargin, 0, 0, 0);
     addWidget(lblHint_, 1);
+    lblNoteDetails_->setObjectName(QStringLiteral("lblNoteDetails"));
+    lblNoteDetails_->setTextFormat(Qt::RichText);
+    lblNoteDetails_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    lblNoteDetails_->setText(QStringLiteral("<a href=\"details\">%1</a>").arg(tr("Details")));
+    lblNoteDetails_->hide();
+    addWidget(lblNoteDetails_);
+    connect(lblNoteDetails_, &QLabel::linkActivated, this, [this] {
+        // What it tells may take the note away.
+        if (const auto details = details_)
+            details();
+    });
     const std::pair<QLabel*, QString> fields[] = {{lblFileState_, QStringLiteral("lblFileState")},
                                                   {lblRegion_, QStringLiteral("lblRegion")},
                                                   {lblEnabled_, QStringLiteral("lblEnabled")},
@@ -69,10 +81,20 @@ StatusBar::StatusBar(QWidget* parent)
 
 bool StatusBar::eventFilter(QObject* watched, QEvent* event)
 {
-    if (!note_.isEmpty() && IsAction(*event) && watched->isWidgetType() &&
+    if (!note_.isEmpty() && IsAction(*event) && watched->isWidgetType() && !IsOnLink(watched, *event) &&
         static_cast<QWidget*>(watched)->window() == window())
         ShowNote({});
     return QStatusBar::eventFilter(watched, event);
+}
+
+/// On the way to the link of a note and on it, the note stays.
+bool StatusBar::IsOnLink(const QObject* watched, const QEvent& event) const
+{
+    if (!details_)
+        return false;
+    const bool isKey = event.type() != QEvent::MouseButtonPress;
+    const int key = isKey ? static_cast<const QKeyEvent&>(event).key() : 0;
+    return watched == lblNoteDetails_ || key == Qt::Key_Tab || key == Qt::Key_Backtab;
 }
 
 void StatusBar::ShowDocument(const Document& document)
@@ -85,7 +107,14 @@ void StatusBar::ShowDocument(const Document& document)
 
 void StatusBar::ShowNote(const QString& text)
 {
+    ShowNoteWithDetails(text, {});
+}
+
+void StatusBar::ShowNoteWithDetails(const QString& text, std::function<void()> details)
+{
     note_ = text;
+    details_ = std::move(details);
+    lblNoteDetails_->setVisible(static_cast<bool>(details_));
     ShowFirstText();
 }
 
@@ -103,9 +132,10 @@ void StatusBar::ShowPointerHint(const QString& text)
     ShowFirstText();
 }
 
-void StatusBar::ShowPort(int number, const QString& device)
+void StatusBar::ShowPort(int number, const QString& device, bool isPresent)
 {
-    lblPort_->setText(tr("COM %1: %2").arg(number).arg(device.isEmpty() ? tr("no device") : device));
+    const QString text = tr("COM %1: %2").arg(number).arg(device.isEmpty() ? tr("no device") : device);
+    lblPort_->setText(isPresent || device.isEmpty() ? text : tr("%1, not present").arg(text));
 }
 
 void StatusBar::ShowHintOf(const QWidget* focused)

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QStatusBar>
+#include <functional>
 
 #include "document/document.h"
 
@@ -23,6 +24,9 @@ class StatusBar : public QStatusBar
     /// makes room for them at once.
     void ShowNote(const QString& text);
 
+    /// A note with a link behind it that tells more.
+    void ShowNoteWithDetails(const QString& text, std::function<void()> details);
+
     /// What stays true until it is taken back by an empty text; behind notes and what the pointer asks for.
     void ShowWarning(const QString& text);
 
@@ -32,18 +36,21 @@ class StatusBar : public QStatusBar
     /// What the control with the focus does; behind all else.
     void ShowHintOf(const QWidget* focused);
 
-    void ShowPort(int number, const QString& device);
+    void ShowPort(int number, const QString& device, bool isPresent);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void ShowFirstText();
+    bool IsOnLink(const QObject* watched, const QEvent& event) const;
 
     QString pointerHint_;
     QString note_;
     QString warning_;
     QString focusHint_;
     QLabel* lblHint_;
+    QLabel* lblNoteDetails_;
+    std::function<void()> details_;
     QLabel* lblFileState_;
     QLabel* lblRegion_;
     QLabel* lblEnabled_;

@@ -2,6 +2,7 @@
 
 #include <QDir>
 
+#include "app/backup_list.h"
 #include "app/read_option_items.h"
 #include "app/write_options.h"
 #include "files/file_store.h"
@@ -9,6 +10,7 @@
 #include "link/forwarding_observer.h"
 #include "link/line_notes.h"
 #include "link/memory_map.h"
+#include "link/range_check.h"
 #include "link/receiver_checks.h"
 #include "link/receiver_writer.h"
 #include "memory/bank_layout.h"
@@ -50,6 +52,10 @@ void TransferCommands::Occupy(const std::function<TransferResult()>& work)
     isCancelled_ = false;
     notes_.clear();
     repeated_ = 0;
+    isReadTwice_ = isVerified_ = false;
+    progress_ = {};
+    begin_ = std::chrono::steady_clock::now();
+    asked_ = {};
     emit Started();
     const TransferResult result = work();
     if (repeated_ > 0)
@@ -76,18 +82,31 @@ void TransferCommands::RunOther(const std::function<void()>& work)
     });
 }
 
+void TransferCommands::WriteBack(const CloneImage& image, const TransferScope& scope)
+{
+    Occupy([&] {
+        other_ = image;
+        const TransferResult result = Write(scope);
+        other_.reset();
+        return result;
+    });
+}
+
 TransferResult TransferCommands::RunOperation(Transfer transfer, int selector)
 {
     switch (transfer) {
         case Transfer::ReadAll:
-            return Read(tr("Read ALL"), [](ReceiverReader& reader) { return reader.ReadAll(); });
+            return ReadAll();
         case Transfer::ReadMemory:
             return Read(tr("Read Memory (%1)").arg(QString::fromStdString(SelectorText(selector))),
+                        {.settings = false, .selector = selector},
                         [selector](ReceiverReader& reader) { return reader.ReadMemory(selector); });
         case Transfer::ReadSettings:
-            return Read(tr("Read Settings"), [](ReceiverReader& reader) { return reader.ReadSettings(); });
+            return Read(tr("Read Settings"), {.memory = false},
+                        [](ReceiverReader& reader) { return reader.ReadSettings(); });
         case Transfer::ReadBankPage:
-            return Read(tr("Read Bank"), [](ReceiverReader& reader) { return reader.ReadBankPage(); });
+            return Read(tr("Read Bank"), {.settings = false, .memory = false, .banks = true},
+                        [](ReceiverReader& reader) { return reader.ReadBankPage(); });
         case Transfer::WriteAll:
             return Write({});
         case Transfer::WriteMemory:
@@ -100,9 +119,33 @@ TransferResult TransferCommands::RunOperation(Transfer transfer, int selector)
     return TransferResult::Failed;
 }
 
-TransferResult TransferCommands::Read(const QString& name,
+TransferResult TransferCommands::ReadAll()
+{
+    const TransferResult result =
+        Read(tr("Read ALL"), {}, [](ReceiverReader& reader) { return reader.ReadAll(); });
+    if (result == TransferResult::Done)
+        KeepLastRead(document_.Image());
+    return result;
+}
+
+void TransferCommands::KeepLastRead(const CloneImage& image)
+{
+    lastRead_ = {image, QDateTime::currentDateTime(), link_.Port().Device()};
+}
+
+std::optional<LastRead> TransferCommands::LastFullRead() const
+{
+    // Another port may have another receiver.
+    const bool isSame = lastRead_ && lastRead_->device == link_.Port().Device();
+    return isSame ? lastRead_ : std::nullopt;
+}
+
+TransferResult TransferCommands::Read(const QString& name, const TransferScope& scope,
                                       const std::function<TransferResult(ReceiverReader&)>& read)
 {
+    const CloneImage before = document_.Image();
+    const bool hadUnsavedChanges = document_.DataChanged();
+    BeginReading(scope);
     std::vector<std::string> unreadable;
     std::vector<ExpectedBlock> blocks;
     auto result = TransferResult::Done;
@@ -122,6 +165,7 @@ TransferResult TransferCommands::Read(const QString& name,
         NameUnreadable(unreadable);
     if (result == TransferResult::Done && LoadReadTwice())
         result = ReadTwice(blocks);
+    NoteRead(result, scope, before, hadUnsavedChanges);
     return result;
 }
 
@@ -141,6 +185,7 @@ void TransferCommands::NameUnreadable(const std::vector<std::string>& names)
 TransferResult TransferCommands::ReadTwice(const std::vector<ExpectedBlock>& blocks)
 {
     std::vector<BlockDifference> differences;
+    BeginPart();
     AftermathObserver observer(*this, NotReadTwice());
     const TransferResult result = ReadBack(blocks, link_, observer, differences);
     if (result == TransferResult::Cancelled)
@@ -150,8 +195,7 @@ TransferResult TransferCommands::ReadTwice(const std::vector<ExpectedBlock>& blo
                      tr("%1. Check the cable, then read again.")
                          .arg(QString::fromStdString(OtherwiseNote(static_cast<int>(differences.size())))),
                      LabelsOf(differences));
-    else if (result == TransferResult::Done)
-        notes_.prepend(tr("Read and verified: a second read brought the same."));
+    isReadTwice_ = result == TransferResult::Done && differences.empty();
     return result;
 }
 
@@ -164,7 +208,12 @@ void TransferCommands::Stored()
 TransferResult TransferCommands::Write(const TransferScope& scope)
 {
     const WriteOptions options = LoadWriteOptions();
+    BeginWriting(scope, options.keepsBackup, options.verifies);
     auto result = TransferResult::Done;
+    QStringList outside;
+    for (const std::string& row : RowsWrittenOutOfRange(document_.Image(), scope))
+        outside << QString::fromStdString(row);
+    emit OutOfRange(outside);
     if (options.keepsBackup)
         result = KeepBackup(scope, options.backupFolder);
     if (result == TransferResult::Done && !MayWriteToThisModel())
@@ -172,7 +221,8 @@ TransferResult TransferCommands::Write(const TransferScope& scope)
     if (result == TransferResult::Done)
         result = WriteBlocks(scope, options.verifies);
     if (result == TransferResult::Done && options.verifies)
-        result = Verify(ExpectedAfterWrite(document_.Image(), scope));
+        result = Verify(ExpectedAfterWrite(Source(), scope));
+    NoteWritten(result, options.verifies);
     return result;
 }
 
@@ -185,7 +235,8 @@ TransferResult TransferCommands::KeepBackup(const TransferScope& scope, const QS
         return TransferResult::Failed;
     }
     CloneImage backup;
-    const TransferResult result = ReadBackup(document_.Image(), scope, link_, *this, backup);
+    BeginPart();
+    const TransferResult result = ReadBackup(Source(), scope, link_, *this, backup);
     if (result == TransferResult::Cancelled)
         notes_ << QString::fromStdString(NothingWritten());
     if (result != TransferResult::Done)
@@ -198,6 +249,8 @@ bool TransferCommands::SaveBackup(const QString& path, const CloneImage& backup)
     const auto problem = SaveCloneFile(path, backup).problem;
     if (problem)
         Message({problem->text, problem->details, Rescue(backup, path) + ' ' + NothingWritten()});
+    else if (const int deleted = DeleteBeyondLimit(path); deleted > 0)
+        notes_ << tr("Old backups deleted: %1.").arg(deleted);
     return !problem;
 }
 
@@ -210,18 +263,17 @@ void TransferCommands::BlockRead(int address, const MemoryBlock& block)
 /// Asks before the first write to a receiver that has told to be another model.
 bool TransferCommands::MayWriteToThisModel()
 {
-    const int wanted = document_.Image().Settings().model;
+    const int wanted = Source().Settings().model;
     const int known = receiver_.Model(link_.Port().Device()).value_or(wanted);
     const std::pair models(known, wanted);
     if (known == wanted || models == agreed_)
         return true;
-    const bool isMeant =
-        dialogs_.Ask(&window_, {.title = tr("Write"),
-                                .text = tr("The receiver is another model. Write to it all the same?"),
-                                .details = QString::fromStdString(OtherModelText(known, wanted)),
-                                .icon = QMessageBox::Warning,
-                                .buttons = QMessageBox::Yes | QMessageBox::No,
-                                .defaultButton = QMessageBox::No}) == QMessageBox::Yes;
+    const bool isMeant = Ask({.title = tr("Write"),
+                              .text = tr("The receiver is another model. Write to it all the same?"),
+                              .details = QString::fromStdString(OtherModelText(known, wanted)),
+                              .icon = QMessageBox::Warning,
+                              .buttons = QMessageBox::Yes | QMessageBox::No,
+                              .defaultButton = QMessageBox::No}) == QMessageBox::Yes;
     if (isMeant)
         agreed_ = models;
     else
@@ -231,9 +283,13 @@ bool TransferCommands::MayWriteToThisModel()
 
 TransferResult TransferCommands::WriteBlocks(const TransferScope& scope, bool isVerified)
 {
-    ReceiverWriter writer(document_.Image(), scope, link_, *this);
+    BeginPart();
+    ReceiverWriter writer(Source(), scope, link_, *this);
     const TransferResult result = writer.Write();
-    document_.Absorb([&writer](CloneImage& image) { image = writer.Written(); });
+    if (other_)
+        other_ = writer.Written();
+    else
+        document_.Absorb([&writer](CloneImage& image) { image = writer.Written(); });
     if (const int flags = writer.OtherFlags(); flags > 0)
         notes_ << tr("Enable flags of other rows replaced by the receiver's: %1.").arg(flags);
     TellWritten(writer.Plan(), writer.Written(), result);
@@ -256,6 +312,7 @@ void TransferCommands::TellWritten(const WritePlan& plan, const CloneImage& imag
 TransferResult TransferCommands::Verify(const std::vector<ExpectedBlock>& expected)
 {
     std::vector<BlockDifference> differences;
+    BeginPart();
     AftermathObserver observer(*this, NotVerified());
     const TransferResult result = ReadBack(expected, link_, observer, differences);
     if (result == TransferResult::Cancelled)
@@ -263,8 +320,7 @@ TransferResult TransferCommands::Verify(const std::vector<ExpectedBlock>& expect
     if (!differences.empty())
         WarnOfBlocks(tr("Verify"), tr("The receiver does not hold what was written. Write again."),
                      LabelsOf(differences));
-    else if (result == TransferResult::Done)
-        notes_.prepend(tr("Written and verified: the receiver holds what was written."));
+    isVerified_ = result == TransferResult::Done && differences.empty();
     return result;
 }
 
@@ -289,12 +345,12 @@ void TransferCommands::WarnOfBlocks(const QString& title, const QString& text,
 void TransferCommands::Warn(Prompt warning)
 {
     warning.icon = QMessageBox::Warning;
-    dialogs_.Ask(&window_, warning);
+    Ask(warning);
 }
 
 void TransferCommands::Message(const Problem& problem)
 {
-    dialogs_.Ask(&window_, ErrorPrompt(problem));
+    Ask(ErrorPrompt(problem));
 }
 
 }  // namespace rqm5

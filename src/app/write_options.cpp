@@ -12,6 +12,7 @@ namespace {
 
 const QString kBackup = QStringLiteral("Write/Backup");
 const QString kVerify = QStringLiteral("Write/Verify");
+const QString kOffered = QStringLiteral("Write/Offered");
 const QString kFolder = QStringLiteral("Write/BackupFolder");
 
 QSettings Store()
@@ -25,7 +26,9 @@ QString UsualFolder()
         .filePath(QStringLiteral("RQ-M5 backups"));
 }
 
-QString NameOf(const TransferScope& scope)
+}  // namespace
+
+QString NameOfScope(const TransferScope& scope)
 {
     if (scope.settings)
         return scope.memory ? QStringLiteral("all") : QStringLiteral("settings");
@@ -33,8 +36,6 @@ QString NameOf(const TransferScope& scope)
         return QStringLiteral("banks");
     return QStringLiteral("memory ") + QString::fromStdString(SelectorText(scope.selector)).toLower();
 }
-
-}  // namespace
 
 WriteOptions LoadWriteOptions()
 {
@@ -52,9 +53,18 @@ void SaveWriteOptions(const WriteOptions& options)
     store.setValue(kFolder, options.backupFolder);
 }
 
+bool TakeWriteOffer()
+{
+    QSettings store = Store();
+    if (store.contains(kBackup) || store.contains(kVerify) || store.contains(kOffered))
+        return false;
+    store.setValue(kOffered, true);
+    return true;
+}
+
 QString NewBackupPath(const QString& folder, const TransferScope& scope, const QDateTime& now)
 {
-    return NewBackupPath(folder, NameOf(scope), now);
+    return NewBackupPath(folder, NameOfScope(scope), now);
 }
 
 QString NewBackupPath(const QString& folder, const QString& what, const QDateTime& now)

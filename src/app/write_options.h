@@ -18,6 +18,12 @@ struct WriteOptions
 WriteOptions LoadWriteOptions();
 void SaveWriteOptions(const WriteOptions& options);
 
+/// What a backup of a scope holds, as it stands in its name: "all", "settings", "banks", "memory bank 3".
+QString NameOfScope(const TransferScope& scope);
+
+/// True once, to an owner who has never said whether he wants a backup and a verification.
+bool TakeWriteOffer();
+
 /// The path of a new backup: date, time and what it holds are in its name. No file of that name exists.
 QString NewBackupPath(const QString& folder, const TransferScope& scope, const QDateTime& now);
 QString NewBackupPath(const QString& folder, const QString& what, const QDateTime& now);

@@ -9,6 +9,11 @@ namespace {
 
 constexpr std::string_view kHelp = "--help";
 
+constexpr Option kCommon[] = {
+    {"--quiet", "", "no progress, no closing line and no notes (also -q)"},
+    {"--verbose", "", "every exchange with the receiver and every warning (also -v)"},
+};
+
 std::string Quoted(std::string_view text)
 {
     return '"' + std::string(text) + '"';
@@ -19,7 +24,18 @@ bool IsOption(const std::string& word)
     return word.size() > 1 && word.front() == '-';
 }
 
+/// The name of an option that has a letter of its own.
+std::string NameOf(const std::string& word)
+{
+    return word == "-q" ? "--quiet" : word == "-v" ? "--verbose" : word;
+}
+
 }  // namespace
+
+std::span<const Option> CommonOptions()
+{
+    return kCommon;
+}
 
 std::string Arguments::Value(std::string_view option, std::string_view fallback) const
 {
@@ -68,10 +84,9 @@ class ArgumentParser
     void TakeOption(const std::string& word)
     {
         const std::size_t equals = word.find('=');
-        const std::string name = word.substr(0, equals);
-        const auto option = std::find_if(options_.begin(), options_.end(),
-                                         [&name](const Option& known) { return known.name == name; });
-        if (option == options_.end()) {
+        const std::string name = NameOf(word.substr(0, equals));
+        const Option* option = Find(name);
+        if (option == nullptr) {
             fault_ = "unknown option " + Quoted(name) + DidYouMean(name, OptionNames());
             return;
         }
@@ -81,6 +96,15 @@ class ArgumentParser
         else if (!option->value.empty() && next_ < words_.size())
             value = words_[next_++];
         KeepOption(*option, value, equals != std::string::npos);
+    }
+
+    const Option* Find(const std::string& name) const
+    {
+        for (const std::span<const Option> options : {options_, CommonOptions()})
+            for (const Option& known : options)
+                if (known.name == name)
+                    return &known;
+        return nullptr;
     }
 
     void KeepOption(const Option& option, const std::string& value, bool wasAttached)
@@ -99,16 +123,22 @@ class ArgumentParser
     void CheckOperands()
     {
         const std::size_t count = taken_.operands_.size();
-        if (count < operands_.size())
+        const Count last = operands_.empty() ? Count::One : operands_.back().count;
+        const std::size_t needed = operands_.size() - (last == Count::One ? 0 : 1);
+        if (count < needed)
             fault_ = std::string(operands_[count].name) + " is missing";
-        else if (count > operands_.size())
+        else if (count > operands_.size() && last != Count::Any)
             fault_ = "too many arguments: " + Quoted(taken_.operands_[operands_.size()]);
-        for (std::size_t i = 0; i < operands_.size() && fault_.empty(); ++i)
-            if (operands_[i].fault != nullptr)
-                Refuse(std::string(operands_[i].name) + ' ' + Quoted(taken_[i]),
-                       operands_[i].fault(taken_[i]));
-            else if (taken_[i].empty())
-                fault_ = std::string(operands_[i].name) + " is empty";
+        for (std::size_t i = 0; i < count && fault_.empty(); ++i)
+            CheckOperand(operands_[std::min(i, operands_.size() - 1)], taken_[i]);
+    }
+
+    void CheckOperand(const Operand& operand, const std::string& value)
+    {
+        if (operand.fault != nullptr)
+            Refuse(std::string(operand.name) + ' ' + Quoted(value), operand.fault(value));
+        else if (value.empty())
+            fault_ = std::string(operand.name) + " is empty";
     }
 
     void Refuse(const std::string& what, const std::string& why)
@@ -120,8 +150,9 @@ class ArgumentParser
     std::vector<std::string_view> OptionNames() const
     {
         std::vector<std::string_view> names = {kHelp};
-        for (const Option& option : options_)
-            names.push_back(option.name);
+        for (const std::span<const Option> options : {options_, CommonOptions()})
+            for (const Option& option : options)
+                names.push_back(option.name);
         return names;
     }
 

@@ -12,10 +12,14 @@ namespace rqm5 {
 /// Why a value is refused and what would be right, e.g. "regions are 0 to 3"; empty when it is taken.
 using ValueCheck = std::string (*)(std::string_view value);
 
+/// How many operands of a kind a command takes.
+enum class Count { One, Optional, Any };
+
 struct Operand
 {
     std::string_view name;
     ValueCheck fault = nullptr;
+    Count count = Count::One;  ///< only the last operand is anything else
 };
 
 struct Option
@@ -33,6 +37,12 @@ class Arguments
     const std::string& operator[](std::size_t operand) const { return operands_.at(operand); }
     bool Has(std::string_view option) const { return options_.find(option) != options_.end(); }
 
+    /// All operands, however many.
+    const std::vector<std::string>& Operands() const { return operands_; }
+
+    /// All options with their values, by their names.
+    const std::map<std::string, std::string, std::less<>>& Options() const { return options_; }
+
     /// The value given to an option, else the fallback.
     std::string Value(std::string_view option, std::string_view fallback = {}) const;
 
@@ -43,6 +53,9 @@ class Arguments
     std::vector<std::string> operands_;
     std::map<std::string, std::string, std::less<>> options_;
 };
+
+/// The switches that every command takes.
+std::span<const Option> CommonOptions();
 
 /// What is wrong with a command line, and a hint.
 struct UsageFault

@@ -1,17 +1,19 @@
 #include <algorithm>
 #include <ostream>
 
+#include "cli/channel_output.h"
 #include "cli/clone_files.h"
 #include "cli/command.h"
+#include "cli/file_list.h"
 #include "cli/text_table.h"
 #include "files/clone_file.h"
 #include "files/clone_lines.h"
 #include "files/csv_file.h"
-#include "files/file_store.h"
 #include "files/round_trip.h"
 #include "image/display_text.h"
 #include "image/value_tables.h"
 #include "memory/bank_layout.h"
+#include "memory/receiver_range.h"
 #include "settings/setting_texts.h"
 
 namespace rqm5 {
@@ -70,18 +72,34 @@ void PrintContents(const CloneImage& image, std::ostream& out)
     PrintGroups(image, out);
 }
 
+struct Warning
+{
+    const char* kind;  ///< in JSON
+    std::string text;
+    std::vector<std::string> rows = {};
+};
+
+using Warnings = std::vector<Warning>;
+
+void AddRows(const char* kind, const char* text, std::vector<std::string> rows, Warnings& warnings)
+{
+    if (!rows.empty())
+        warnings.push_back({kind, text, std::move(rows)});
+}
+
 /// What a program that is stricter than this one would stumble over.
-void WarnOfForm(std::string_view bytes, Console& console)
+void AddForm(std::string_view bytes, Warnings& warnings)
 {
     for (std::size_t at = bytes.find('\n'); at != std::string_view::npos; at = bytes.find('\n', at + 1))
         if (at == 0 || bytes[at - 1] != '\r') {
-            Warn(console, "lines end in LF in place of CR LF; this program reads them, another may not", {});
+            warnings.push_back(
+                {"line-ends", "lines end in LF instead of CR LF; this program reads them, another may not"});
             break;
         }
     const std::size_t end = bytes.rfind(FileEnd);
     if (end != std::string_view::npos &&
         bytes.find_first_not_of("\r\n", end + FileEnd.size()) != std::string_view::npos)
-        Warn(console, "there is text behind the last line; a save drops it", {});
+        warnings.push_back({"text-behind", "there is text behind the last line; a save drops it"});
 }
 
 bool HoldsBlock(int line)
@@ -90,53 +108,145 @@ bool HoldsBlock(int line)
 }
 
 /// Blocks are taken as they come; what a stranger made of them may have been meant otherwise.
-void WarnOfDigits(std::string_view bytes, Console& console)
+void AddDigits(std::string_view bytes, Warnings& warnings)
 {
     std::vector<std::string> lines;
     CloneLineReader reader(bytes);
     for (int number = kStartLine; const auto line = reader.NextLine(); ++number)
         if (HoldsBlock(number) && line->find_first_not_of("0123456789ABCDEF") != std::string_view::npos)
             lines.push_back("line " + std::to_string(number + 1) + " (" + CloneLineName(number) + ")");
-    if (!lines.empty())
-        Warn(console,
-             "what is no upper-case hexadecimal digit may be read as 0; other characters stand in:", lines);
+    AddRows("digits",
+            "characters other than upper-case hexadecimal digits may be read as 0; there are some in:",
+            std::move(lines), warnings);
 }
 
-void WarnOfNotes(const CloneImage& image, Console& console)
+Warnings WarningsOf(std::string_view bytes, const CloneImage& image)
 {
-    const std::vector<std::string> lost = NotesThatDoNotSurvive(image);
-    if (!lost.empty())
-        Warn(console, "a save loses these notes; take commas and quotes out of them:", lost);
-    const std::vector<std::string> formulas = NotesThatLookLikeFormulas(image);
-    if (!formulas.empty())
-        Warn(console, "exported as CSV, a spreadsheet would run these notes as formulas:", formulas);
+    Warnings warnings;
+    AddForm(bytes, warnings);
+    AddDigits(bytes, warnings);
+    AddRows("values",
+            "these values are read differently from what the file says:", ValuesReadOtherwise(bytes, image),
+            warnings);
+    AddRows("notes",
+            "a save loses these notes; take commas and quotes out of them:", NotesThatDoNotSurvive(image),
+            warnings);
+    AddRows("formulas", "exported as CSV, a spreadsheet would run these notes as formulas:",
+            NotesThatLookLikeFormulas(image), warnings);
+    return warnings;
 }
 
-void WarnOfValues(std::string_view bytes, const CloneImage& image, Console& console)
+struct Counts
 {
-    const std::vector<std::string> changed = ValuesReadOtherwise(bytes, image);
-    if (!changed.empty())
-        Warn(console, "the file says these values, but they are read otherwise:", changed);
+    int channels = 0;
+    int enabled = 0;
+};
+
+Counts CountsOf(const CloneImage& image)
+{
+    Counts counts;
+    for (int row = 0; row < kRadioRows; ++row) {
+        counts.channels += image.MemData(row).HasChannel() ? 1 : 0;
+        counts.enabled += image.MemData(row).enabled ? 1 : 0;
+    }
+    return counts;
+}
+
+/// A file among many: one line.
+void PrintLine(const InputFile& file, const CloneImage& image, const Warnings& warnings, Console& console)
+{
+    const Counts counts = CountsOf(image);
+    const int model = SettingIndex(&ReceiverSettings::model);
+    console.out << VisibleText(file.name) << ": " << Painted("whole", Paint::Green, console.paintsOut) << ", "
+                << SettingText(image.Settings(), model) << ", " << counts.channels
+                << (counts.channels == 1 ? " channel, " : " channels, ") << counts.enabled << " on";
+    if (!warnings.empty())
+        console.out << ", " << warnings.size() << (warnings.size() == 1 ? " warning" : " warnings");
+    console.out << '\n';
+}
+
+void WriteFile(const InputFile& file, const CloneImage& image, const Warnings& warnings, JsonWriter& json)
+{
+    const Counts counts = CountsOf(image);
+    json.Open('{');
+    json.Member("file", file.name);
+    json.Member("whole", true);
+    json.Member("model", ModelNames()[static_cast<std::size_t>(image.ModelNo())]);
+    json.Member("region", image.ModelNo());
+    json.Member("channels", counts.channels);
+    json.Member("enabled", counts.enabled);
+    json.Key("warnings").Open('[');
+    for (const Warning& warning : warnings) {
+        json.Open('{');
+        json.Member("kind", warning.kind);
+        json.Member("text", warning.text);
+        json.Key("rows").Open('[');
+        for (const std::string& row : warning.rows)
+            json.Text(row);
+        json.Close(']');
+        json.Close('}');
+    }
+    json.Close(']');
+    json.Close('}');
+}
+
+void WriteProblem(const InputFile& file, const Problem& problem, JsonWriter& json)
+{
+    json.Open('{');
+    json.Member("file", file.name);
+    json.Member("whole", false);
+    json.Member("error", problem.text);
+    json.Member("details", problem.details);
+    json.Close('}');
+}
+
+void PrintReport(const InputFile& file, const CloneImage& image, const Warnings& warnings, Console& console)
+{
+    if (!console.isQuiet && file.isOneOfSeveral) {
+        PrintLine(file, image, warnings, console);
+    } else if (!console.isQuiet) {
+        console.out << VisibleText(file.name) << " is whole.\n";
+        PrintContents(image, console.out);
+    }
+    if (file.isOneOfSeveral && !console.isVerbose)
+        return;
+    for (const Warning& warning : warnings)
+        Warn(console, warning.text, warning.rows);
 }
 
 }  // namespace
 
 Status RunCheck(const Arguments& arguments, Console& console)
 {
-    CloneImage image;
-    std::string bytes;
-    auto problem = Load(arguments[0], image);
-    if (!problem)
-        problem = ReadWholeFile(PathOf(arguments[0]), bytes);
-    if (problem)
-        return Fail(console, *problem);
-    console.out << VisibleText(arguments[0]) << " is whole.\n";
-    PrintContents(image, console.out);
-    WarnOfForm(bytes, console);
-    WarnOfDigits(bytes, console);
-    WarnOfValues(bytes, image, console);
-    WarnOfNotes(image, console);
-    return Status::Done;
+    const bool isJson = arguments.Has("--json");
+    JsonWriter json(console.out);
+    int whole = 0;
+    int broken = 0;
+    if (isJson)
+        json.Open('[');
+    const UseFile use = [&](const InputFile& file, const CloneImage& image) {
+        const Warnings warnings = WarningsOf(file.bytes, image);
+        ++whole;
+        if (isJson)
+            WriteFile(file, image, warnings, json);
+        else
+            PrintReport(file, image, warnings, console);
+        return Status::Done;
+    };
+    const UseProblem onProblem = [&](const InputFile& file, const Problem& problem) {
+        ++broken;
+        if (isJson)
+            WriteProblem(file, problem, json);
+    };
+    const Status status = ForEachFile(arguments, console, use, onProblem);
+    if (isJson) {
+        json.Close(']');
+        console.out << '\n';
+    }
+    if (whole + broken > 1)
+        TellEnd(console,
+                std::to_string(whole) + " of " + std::to_string(whole + broken) + " files are whole.");
+    return status;
 }
 
 }  // namespace rqm5

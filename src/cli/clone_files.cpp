@@ -4,10 +4,12 @@
 #include <QFileInfo>
 #include <ostream>
 
+#include "cli/streams.h"
 #include "files/clone_file.h"
 #include "files/file_access.h"
 #include "files/file_store.h"
 #include "files/rescue.h"
+#include "files/round_trip.h"
 #include "image/display_text.h"
 #include "memory/start_image.h"
 
@@ -35,7 +37,8 @@ Status FailForRows(Console& console, const Problem& problem, const Rows& rows)
 
 void WarnOfLinks(const std::string& path, Console& console)
 {
-    const int names = NameCount(PathOf(path));
+    // The name under which the old file has just been kept is no loss.
+    const int names = NameCount(PathOf(path)) - (AreSameFile(path, path + '~') ? 1 : 0);
     if (names > 1)
         Warn(console,
              path + " is one of " + std::to_string(names) +
@@ -50,13 +53,23 @@ Status Tell(const std::string& path, const SaveOutcome& outcome, Console& consol
              outcome.accessChanges);
     if (!outcome.changedValues.empty())
         Warn(console,
-             "a clone file cannot hold these values; they read back otherwise:", outcome.changedValues);
+             "a clone file cannot hold these values; they read back differently:", outcome.changedValues);
     if (outcome.lostNotes.empty())
         return Status::Done;
     return FailForRows(console,
                        {kDataError, path + " is written, but the file cannot bring back these notes; take "
                                            "commas and quotes out of them:"},
                        outcome.lostNotes);
+}
+
+/// What a reader of the other end will not get back is told as after a save.
+Status WriteOut(const CloneImage& image, Console& console)
+{
+    console.out << FormatCloneFile(image);
+    SaveOutcome outcome;
+    outcome.lostNotes = NotesThatDoNotSurvive(image);
+    outcome.changedValues = ChangedValues(image, ReadBack(image));
+    return Tell(kStandardOutput, outcome, console);
 }
 
 }  // namespace
@@ -66,21 +79,42 @@ QString PathOf(const std::string& typed)
     return QFile::decodeName(QByteArray::fromStdString(typed));
 }
 
+std::string PathText(const QString& path)
+{
+    return VisibleText(path.toStdString());
+}
+
 bool Exists(const std::string& path)
 {
+    if (IsStandard(path))
+        return false;
     const QFileInfo info(PathOf(path));
     // A link that leads nowhere is there too: replacing it would lose it.
     return info.exists() || info.isSymLink();
 }
 
-std::optional<Problem> Load(const std::string& path, CloneImage& image)
+std::optional<Problem> Parse(const std::string& path, const std::string& bytes, CloneImage& image)
 {
-    return LoadCloneFile(PathOf(path), image);
+    const auto error = ParseCloneFile(bytes, image);
+    if (!error)
+        return std::nullopt;
+    const std::string name =
+        IsStandard(path) ? kStandardInput : PathText(QFileInfo(PathOf(path)).absoluteFilePath());
+    return Problem{kDataError, name + ": " + error->reason};
+}
+
+std::optional<Problem> Load(const std::string& path, CloneImage& image, std::string* bytes)
+{
+    std::string read;
+    if (bytes == nullptr)
+        bytes = &read;
+    auto problem = ReadInput(path, *bytes);
+    return problem ? problem : Parse(path, *bytes, image);
 }
 
 std::optional<Problem> LoadOrStart(const std::string& path, CloneImage& image)
 {
-    if (Exists(path))
+    if (IsStandard(path) || Exists(path))
         return Load(path, image);
     image = StartUpImage(0);
     return std::nullopt;
@@ -88,6 +122,9 @@ std::optional<Problem> LoadOrStart(const std::string& path, CloneImage& image)
 
 bool AreSameFile(const std::string& a, const std::string& b)
 {
+    // What a pipe brought is read before anything is written.
+    if (IsStandard(a) || IsStandard(b))
+        return false;
     const QFileInfo first(PathOf(a));
     const QFileInfo second(PathOf(b));
     if (!first.exists() || !second.exists())
@@ -104,25 +141,11 @@ Problem SameFileProblem(const std::string& path)
             path + ": both names are the same file, which would be replaced; give another name"};
 }
 
-std::optional<Problem> KeepOldFile(const std::string& path)
-{
-    const QString name = PathOf(path);
-    const QString kept = name + QLatin1Char('~');
-    std::string bytes;
-    auto problem = ReadWholeFile(name, bytes);
-    if (!problem)
-        problem = WriteWholeFile(kept, bytes);
-    // Who may not read the file may not read what is kept of it.
-    if (!problem)
-        QFile::setPermissions(kept, QFile::permissions(name));
-    return problem;
-}
-
 std::optional<Problem> ReplaceProblem(const Arguments& arguments, const std::string& path, FileKind kind)
 {
     if (AreSameFile(arguments[0], path))
         return SameFileProblem(path);
-    return arguments.Has("--force") ? std::nullopt : OtherKindProblem(PathOf(path), kind);
+    return arguments.Has("--force") || IsStandard(path) ? std::nullopt : OtherKindProblem(PathOf(path), kind);
 }
 
 SaveEnd Save(const std::string& path, const CloneImage& image, Console& console, Unopenable unopenable)
@@ -135,6 +158,8 @@ SaveEnd Save(const std::string& path, const CloneImage& image, Console& console,
                                                 "--force as they are:"},
                             spoiling),
                 false};
+    if (IsStandard(path))
+        return {WriteOut(image, console), true};
     WarnOfLinks(path, console);
     const SaveOutcome outcome = SaveCloneFile(PathOf(path), image);
     const Status status = outcome.problem ? Fail(console, *outcome.problem) : Tell(path, outcome, console);
@@ -155,6 +180,8 @@ Status SaveRead(const std::string& path, const CloneImage& image, Console& conso
                                    "take commas and quotes out of them.",
                             rescue()},
                            spoiling);
+    if (IsStandard(path))
+        return WriteOut(image, console);
     WarnOfLinks(path, console);
     const SaveOutcome outcome = SaveCloneFile(PathOf(path), image);
     if (!outcome.problem)

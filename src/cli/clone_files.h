@@ -15,9 +15,18 @@ namespace rqm5 {
 /// A file name as it was typed.
 QString PathOf(const std::string& typed);
 
+/// A file name for people: what no terminal should obey made visible.
+std::string PathText(const QString& path);
+
+/// Never true for standard output.
 bool Exists(const std::string& path);
 
-std::optional<Problem> Load(const std::string& path, CloneImage& image);
+/// Loads a clone file, from a pipe or standard input ("-"), too.
+/// \param bytes  takes what was read; may be null
+std::optional<Problem> Load(const std::string& path, CloneImage& image, std::string* bytes = nullptr);
+
+/// A clone file that was read already; \param path  where, for messages
+std::optional<Problem> Parse(const std::string& path, const std::string& bytes, CloneImage& image);
 
 /// Loads the file, or makes the start-up image of region 0 when there is none.
 std::optional<Problem> LoadOrStart(const std::string& path, CloneImage& image);
@@ -41,9 +50,9 @@ struct SaveEnd
     bool isWritten;
 };
 
-/// Saves the image. Notes that the file cannot bring back are named and the status is that of a failure.
-/// Warns of all else that the save changes: values that read back otherwise, who may use the file, other
-/// names of it.
+/// Saves the image, to standard output when the name is "-". Notes that the file cannot bring back are named
+/// and the status is that of a failure. Warns of all else that the save changes: values that read back
+/// otherwise, who may use the file, other names of it.
 SaveEnd Save(const std::string& path, const CloneImage& image, Console& console,
              Unopenable unopenable = Unopenable::IsWritten);
 
@@ -51,8 +60,5 @@ SaveEnd Save(const std::string& path, const CloneImage& image, Console& console,
 /// \param aftermath  what else the failure means
 Status SaveRead(const std::string& path, const CloneImage& image, Console& console,
                 const std::string& aftermath = {});
-
-/// Keeps the file as it is under its name with a "~" behind it, in the place of what was kept there before.
-std::optional<Problem> KeepOldFile(const std::string& path);
 
 }  // namespace rqm5

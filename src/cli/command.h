@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "cli/arguments.h"
+#include "cli/channel_output.h"
 #include "cli/console.h"
 #include "link/expected_memory.h"
 
@@ -22,7 +23,13 @@ struct Command
 
     /// What is wrong with arguments that are right one by one; empty when nothing is. May be null.
     std::string (*conflict)(const Arguments& arguments) = nullptr;
+
+    /// The operands in the usage line, where their names alone do not say it.
+    std::string_view synopsis = {};
 };
+
+/// Commands that change, find and explain.
+std::span<const Command> EditCommands();
 
 /// Every command, in the order of the help text.
 std::span<const Command> Commands();
@@ -34,8 +41,10 @@ class ReceiverSession;
 
 /// Lists each block that the receiver holds otherwise, and which of its bytes differ.
 /// \param aftermath  what it means when the comparison itself fails
+/// \param found      takes the number of blocks that differ; may be null
 Status CompareWithReceiver(const std::vector<ExpectedBlock>& expected, ReceiverSession& session,
-                           Console& console, const std::string& aftermath);
+                           Console& console, const std::string& aftermath, Form form = Form::Columns,
+                           int* found = nullptr);
 
 // The handlers.
 Status RunNew(const Arguments& arguments, Console& console);
@@ -51,5 +60,20 @@ Status RunRepair(const Arguments& arguments, Console& console);
 Status RunDiff(const Arguments& arguments, Console& console);
 Status RunPorts(const Arguments& arguments, Console& console);
 Status RunRaw(const Arguments& arguments, Console& console);
+Status RunFind(const Arguments& arguments, Console& console);
+Status RunSet(const Arguments& arguments, Console& console);
+Status RunEnable(const Arguments& arguments, Console& console);
+Status RunDisable(const Arguments& arguments, Console& console);
+Status RunClear(const Arguments& arguments, Console& console);
+Status RunCopy(const Arguments& arguments, Console& console);
+Status RunMove(const Arguments& arguments, Console& console);
+Status RunSort(const Arguments& arguments, Console& console);
+Status RunMerge(const Arguments& arguments, Console& console);
+Status RunCompletion(const Arguments& arguments, Console& console);
+Status RunHelp(const Arguments& arguments, Console& console);
+
+// What is wrong with arguments that are right one by one.
+std::string FindFault(const Arguments& arguments);
+std::string DiffFault(const Arguments& arguments);
 
 }  // namespace rqm5

@@ -1,7 +1,10 @@
 #include <algorithm>
-#include <array>
+#include <vector>
 
 #include "cli/command.h"
+#include "cli/common_options.h"
+#include "cli/edit_values.h"
+#include "cli/list_import.h"
 #include "cli/values.h"
 #include "cli/write_changes.h"
 #include "link/block_address.h"
@@ -9,31 +12,17 @@
 namespace rqm5 {
 namespace {
 
-constexpr Option kPort = {
-    "--port", "P",
-    "COM number 1 to 14, also as COM5, or a device or a link to one; without it the number in RQ-M5.ini",
-    PortNumberFault};
-constexpr Option kOnly = {"--only", "settings|memory", "leave the other part out", ScopeFault};
-constexpr Option kBank = {
-    "--bank", "SEL", "bank 0 to 49, program-scan, search-pass, priority or all (default)", SelectorFault};
-
-constexpr Option kTransferBank = {
-    "--bank", "SEL",
-    "the memory only: bank 0 to 49, program-scan, search-pass, priority or all; "
-    "without it settings and all of the memory",
-    SelectorFault};
-
 constexpr Option kNewOptions[] = {
     {"--region", "0..3", "model region (default 0)", RegionFault},
     {"--empty", "", "no banks: all 1000 channels unassigned"},
-    {"--force", "", "replace FILE when it exists"},
+    {"--force", "", "replace FILE if it exists"},
 };
-constexpr Option kTransferOptions[] = {kPort, kOnly, kTransferBank};
+constexpr Option kVerifyOptions[] = {kPort, kOnly, kTransferBank, kJson, kTsv};
 constexpr Option kReadOptions[] = {
     kPort,
     kOnly,
     kTransferBank,
-    {"--verify", "", "read everything twice and list each block that came otherwise"},
+    {"--verify", "", "read everything twice and list each block that was different the second time"},
 };
 constexpr Option kWriteOptions[] = {
     kPort,
@@ -44,9 +33,19 @@ constexpr Option kWriteOptions[] = {
     {"--changes", "", "write only what the receiver holds otherwise; what is not known of it is read first"},
     {"--known", "OLD.RQ5", "with --changes: what the receiver held when it was last read or written",
      FileNameFault},
-    {"--force", "", "write although the backup shows that the receiver is another model"},
+    {"--force", "", "write even if the backup shows that the receiver is another model"},
 };
-constexpr Option kShowOptions[] = {kBank};
+constexpr Option kShowOptions[] = {
+    kBank, {"--all", "", "empty rows, too"}, kJson, kTsv, kFromFile,
+};
+constexpr Option kCheckOptions[] = {kJson, kFromFile};
+constexpr Option kDiffOptions[] = {
+    {"--port", "P", "compare A with the receiver: COM number 1 to 14, or a device", PortNumberFault},
+    kOnly,
+    kTransferBank,
+    kJson,
+};
+constexpr Option kPortsOptions[] = {kJson, kTsv};
 constexpr Option kPrintOptions[] = {
     {"--pdf", "OUT.pdf", "write the pages to a PDF instead of the terminal"},
     {"--settings", "", "print the settings"},
@@ -57,22 +56,36 @@ constexpr Option kPrintOptions[] = {
     {"--paper", "a4|letter", "size of the PDF's pages; without it that of the country", PaperFault},
     {"--landscape", "", "turn the PDF's pages"},
     {"--force", "", "replace OUT.pdf whatever it holds"},
+    kFromFile,
 };
-constexpr Option kExportOptions[] = {{"--force", "", "replace OUT.csv whatever it holds"}};
+constexpr Option kExportOptions[] = {
+    {"--to", "FOLDER", "export each FILE into this folder, under its own name with .csv", FileNameFault},
+    kFromFile,
+    {"--force", "", "replace OUT.csv whatever it holds"},
+};
 constexpr Option kImportOptions[] = {
+    {"--decimal-comma", "", "read 145,5 as 145.5"},
+    {"--map", "COLUMN=FIELD,...",
+     "what the columns of a list are, by title or number; such as \"Freq=frequency:kHz,3=note\"", MapFault},
+    {"--from-row", "ROW",
+     "where a list goes: from memory row 0 to 1209 on, or from BANK:CHANNEL, program-scan, search-pass or "
+     "priority on; without it to the rows that it names",
+     FromRowFault},
+    {"--dry-run", "", "show what would change and write nothing"},
+    {"--keep", "", "keep FILE as it was as FILE~"},
     {"--safe-notes", "", "store notes without commas and quotes, which a clone file cannot hold"},
     {"--force", "", "write FILE even if its notes keep it from being opened again"},
 };
 constexpr Option kRepairOptions[] = {
     {"--to", "NEW", "write the repaired file under this name, which no file has yet", FileNameFault},
-    {"--in-place", "", "write it in the place of FILE, which is kept as FILE~"},
+    {"--in-place", "", "replace FILE, which is kept as FILE~"},
 };
 constexpr Option kRawOptions[] = {kPort};
 
 constexpr Operand kFile[] = {{"FILE"}};
-constexpr Operand kExportFiles[] = {{"FILE"}, {"OUT.csv"}};
+constexpr Operand kFiles[] = {{"FILE", nullptr, Count::Any}};
 constexpr Operand kImportFiles[] = {{"IN.csv"}, {"FILE"}};
-constexpr Operand kTwoFiles[] = {{"A"}, {"B"}};
+constexpr Operand kTwoFiles[] = {{"A"}, {"B", nullptr, Count::Optional}};
 constexpr Operand kAddress[] = {{"ADDRESS", BlockAddressFault}};
 
 std::string SameFileConflict(const Arguments& arguments)
@@ -91,57 +104,55 @@ constexpr Command kCommands[] = {
     {"new", "write the start-up image of a model region",
      "It has default settings, VFO bands and bank sizes and no channels.", kFile, kNewOptions, RunNew},
     {"read", "read the receiver into FILE",
-     "Starts from FILE when it exists, so that notes and what is not read stay; a transfer that fails "
-     "leaves FILE untouched. Where a block came disturbed or, with --verify, otherwise the second time, it "
-     "is "
-     "named, the status is 1, and FILE as it was is kept as FILE~.",
+     "If FILE exists, it is the starting point: notes and what is not read stay. If the transfer fails, FILE "
+     "is left untouched. If a block arrives damaged or, with --verify, different the second time, it is "
+     "listed, the status is 1, and the old file is kept as FILE~.",
      kFile, kReadOptions, RunRead, ScopeConflict},
     {"write", "write FILE to the receiver",
      "Sends settings, VFO bands and presets, then banks and channels. Without --verify nothing is read "
-     "back. A backup that fails keeps everything from being written. With --changes each block that is to be "
-     "written is read first, and nothing is written where it was changed at the receiver, too.",
+     "back. If the backup fails, nothing is written. With --changes each block that is to be written is read "
+     "first, and nothing is written if it was changed at the receiver, too.",
      kFile, kWriteOptions, RunWrite, WriteConflict},
     {"verify", "compare the receiver with FILE",
-     "Compares with what write of the same parts leaves behind. Says nothing and ends with status 0 when "
+     "Compares with what write of the same parts leaves behind. Prints nothing and ends with status 0 when "
      "they agree, else lists each block that differs, with the bytes in words.",
-     kFile, kTransferOptions, RunVerify, ScopeConflict},
+     kFile, kVerifyOptions, RunVerify, ScopeAndFormFault},
     {"export", "write FILE as CSV",
      "The file holds the channels and VFO bands, for a spreadsheet. OUT.csv may be missing, empty or an "
-     "older export.",
-     kExportFiles, kExportOptions, RunExport, SameFileConflict},
-    {"import", "take the rows of a CSV file into FILE",
+     "older export. With --to, each FILE is exported into the folder.",
+     kFiles, kExportOptions, RunExport, ExportFault, "FILE OUT.csv | --to FOLDER FILE..."},
+    {"import", "take the rows of a CSV file or of a list into FILE",
      "Rows that IN.csv does not name stay as they are. FILE is made when it does not exist. Notes with which "
-     "FILE could not be opened again keep it from being written. Carrier codes move one up.",
+     "FILE could not be opened again keep it from being written. Carrier codes of an export move one up. A "
+     "file of another program is read as a list: how it is read is said, and what is not taken is listed by "
+     "line.",
      kImportFiles, kImportOptions, RunImport, SameFileConflict},
-    {"show", "print the channels of FILE in columns", "A \"-\" in front of a label marks a row that is off.",
-     kFile, kShowOptions, RunShow},
-    {"print", "print FILE as text or PDF",
+    {"show", "print the channels of each FILE in columns",
+     "Rows that hold a channel or a note; \"x\" marks a channel that is off.", kFiles, kShowOptions, RunShow,
+     FilesFault},
+    {"print", "print each FILE as text, or one as PDF",
      "Settings, VFO table and memory channels in this order; without --settings, --vfo and --memory all "
      "three. \"Off\" marks a channel that is disabled.",
-     kFile, kPrintOptions, RunPrint, PrintConflict},
-    {"check",
-     "say whether FILE is whole and what it holds",
+     kFiles, kPrintOptions, RunPrint, PrintFault},
+    {"check", "check that each FILE is complete, and say what it holds",
      "Names the line that is wrong and why. Warns of notes that a save loses or a spreadsheet would run, and "
-     "of values that are read otherwise than the file says them.",
-     kFile,
-     {},
-     RunCheck},
-    {"repair", "open a file again that its notes spoil",
+     "of values that are read differently from what the file says. Several files take one line each; "
+     "--verbose lists their warnings, --quiet names only those that are not whole.",
+     kFiles, kCheckOptions, RunCheck, FilesFault},
+    {"repair", "mend a file that cannot be opened because of its notes",
      "Commas in notes become semicolons, quotes apostrophes; each such note is shown. Without --to and "
      "--in-place nothing is written.",
      kFile, kRepairOptions, RunRepair, RepairConflict},
-    {"diff",
-     "list what differs between two files",
-     "Rows, settings, banks and notes are named. Status 1 when there is a difference.",
-     kTwoFiles,
-     {},
-     RunDiff},
+    {"diff", "list what differs between two files, or a file and the receiver",
+     "Rows, settings, banks and notes are named. Status 1 when there is a difference.", kTwoFiles,
+     kDiffOptions, RunDiff, DiffFault, "A B | --port P A"},
     {"ports",
      "list serial ports",
      "Each COM number with its device and whether it can be opened.",
      {},
-     {},
-     RunPorts},
+     kPortsOptions,
+     RunPorts,
+     FormFault},
     {"raw", "read one block and show the reply as it came",
      "ADDRESS is hexadecimal and that of a block: 0000 to FFF0, the last digit 0.", kAddress, kRawOptions,
      RunRaw},
@@ -151,14 +162,18 @@ constexpr Command kCommands[] = {
 
 std::span<const Command> Commands()
 {
-    return kCommands;
+    static const std::vector<Command> commands = [] {
+        std::vector<Command> all(std::begin(kCommands), std::end(kCommands));
+        all.insert(all.end(), EditCommands().begin(), EditCommands().end());
+        return all;
+    }();
+    return commands;
 }
 
 const Command* FindCommand(std::string_view name)
 {
-    const auto found = std::find_if(std::begin(kCommands), std::end(kCommands),
-                                    [name](const Command& command) { return command.name == name; });
-    return found != std::end(kCommands) ? found : nullptr;
+    const auto found = std::ranges::find(Commands(), name, &Command::name);
+    return found != Commands().end() ? &*found : nullptr;
 }
 
 }  // namespace rqm5

@@ -8,7 +8,8 @@ namespace rqm5 {
 
 void Report(Console& console, const Problem& problem)
 {
-    console.err << VisibleText(problem.text) << ": " << VisibleText(problem.details);
+    console.err << Painted(VisibleText(problem.text), Paint::Red, console.paintsErr) << ": "
+                << VisibleText(problem.details);
     if (!problem.aftermath.empty())
         console.err << (problem.details.ends_with('.') ? " " : ". ") << VisibleText(problem.aftermath);
     console.err << '\n';
@@ -20,9 +21,15 @@ Status Fail(Console& console, const Problem& problem)
     return Status::Failed;
 }
 
+void TellEnd(Console& console, std::string_view text)
+{
+    if (console.progressColumns > 0 && !console.isQuiet)
+        console.err << VisibleText(text) << '\n';
+}
+
 void Warn(Console& console, std::string_view text, const std::vector<std::string>& rows)
 {
-    console.err << "Warning: " << VisibleText(text) << '\n';
+    console.err << Painted("Warning:", Paint::Yellow, console.paintsErr) << ' ' << VisibleText(text) << '\n';
     for (const std::string& row : rows)
         console.err << "  " << VisibleText(row) << '\n';
 }

@@ -11,21 +11,6 @@
 #include "memory/start_image.h"
 
 namespace rqm5 {
-namespace {
-
-void SayTaken(const CsvTaken& taken, const std::string& from, Console& console)
-{
-    const auto rows = [](int count) { return std::to_string(count) + (count == 1 ? " row" : " rows"); };
-    console.out << rows(taken.rows) << " taken from " << VisibleText(from) << '\n';
-    if (taken.movedCarriers > 0)
-        Warn(console,
-             "the carrier code of " + rows(taken.movedCarriers) +
-                 " moved one up, as with every import of an export: 300Hz is stored as 400Hz",
-             {});
-}
-
-}  // namespace
-
 Status RunNew(const Arguments& arguments, Console& console)
 {
     const std::string& path = arguments[0];
@@ -36,43 +21,6 @@ Status RunNew(const Arguments& arguments, Console& console)
     if (arguments.Has("--empty"))
         NewImage(image);
     return Save(path, image, console).status;
-}
-
-Status RunExport(const Arguments& arguments, Console& console)
-{
-    CloneImage image;
-    if (const auto problem = Load(arguments[0], image))
-        return Fail(console, *problem);
-    if (const auto problem = ReplaceProblem(arguments, arguments[1], FileKind::Csv))
-        return Fail(console, *problem);
-    if (const auto problem = ExportCsv(PathOf(arguments[1]), image))
-        return Fail(console, *problem);
-    const std::vector<std::string> formulas = NotesThatLookLikeFormulas(image);
-    if (!formulas.empty())
-        Warn(console, "a spreadsheet would run these notes as formulas:", formulas);
-    return Status::Done;
-}
-
-Status RunImport(const Arguments& arguments, Console& console)
-{
-    CloneImage image;
-    if (const auto problem = LoadOrStart(arguments[1], image))
-        return Fail(console, *problem);
-    if (AreSameFile(arguments[0], arguments[1]))
-        return Fail(console, SameFileProblem(arguments[1]));
-    CsvTaken taken;
-    if (const auto problem = ImportCsv(PathOf(arguments[0]), image, taken))
-        return Fail(console, *problem);
-    if (taken.rows == 0)
-        return Fail(console, {kDataError, arguments[0] + " holds no record of an RQ-M5; " + arguments[1] +
-                                              " is as it was"});
-    if (arguments.Has("--safe-notes"))
-        image = WithSafeNotes(std::move(image));
-    const SaveEnd end = Save(arguments[1], image, console,
-                             arguments.Has("--force") ? Unopenable::IsWritten : Unopenable::IsRefused);
-    if (end.isWritten)
-        SayTaken(taken, arguments[0], console);
-    return end.status;
 }
 
 }  // namespace rqm5

@@ -1,6 +1,7 @@
 #include "cli/help.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "image/display_text.h"
 
@@ -15,6 +16,12 @@ std::string OptionText(const Option& option)
     if (!option.value.empty())
         text.append(" ").append(option.value);
     return text;
+}
+
+std::string OperandText(const Operand& operand)
+{
+    const std::string name(operand.name);
+    return operand.count == Count::One ? name : operand.count == Count::Any ? name + "..." : '[' + name + ']';
 }
 
 /// Blanks for line ends, so that no line is longer than the text width.
@@ -45,8 +52,10 @@ std::string UsageLine(const Command& command)
     std::string line = "rq-m5 " + std::string(command.name);
     for (const Option& option : command.options)
         line += " [" + OptionText(option) + ']';
+    if (!command.synopsis.empty())
+        return line.append(" ").append(command.synopsis);
     for (const Operand& operand : command.operands)
-        line.append(" ").append(operand.name);
+        line += ' ' + OperandText(operand);
     return line;
 }
 
@@ -57,11 +66,14 @@ std::string ProgramHelp()
         "Reads, keeps and writes the memory of a Tervan RQ-M5 receiver.\n"
         "\nCommands:\n";
     for (const Command& command : Commands())
-        help += "  " + PadToWidth(command.name, 8) + std::string(command.summary) + '\n';
+        help += "  " + PadToWidth(command.name, 12) + std::string(command.summary) + '\n';
     return help +
            "\nOptions:\n"
-           "  --help     this text, or with a command the help of the command\n"
-           "  --version  the version of the program\n"
+           "  -h, --help     this text, or with a command the help of the command\n"
+           "  -V, --version  the version of the program\n"
+           "  -q, --quiet    no progress, no closing line and no notes\n"
+           "  -v, --verbose  every exchange with the receiver and every warning\n"
+           "\n\"-\" as a file name is standard input or standard output.\n"
            "\nExit status: 0 done, 1 the operation failed or found a difference, 2 wrong usage.\n";
 }
 
@@ -69,13 +81,13 @@ std::string CommandHelp(const Command& command)
 {
     std::string help = "Usage: " + UsageLine(command) + "\n\n" +
                        Wrapped(Sentence(command.summary) + " " + std::string(command.details));
-    if (command.options.empty())
-        return help;
+    std::vector<Option> options(command.options.begin(), command.options.end());
+    options.insert(options.end(), CommonOptions().begin(), CommonOptions().end());
     int width = 0;
-    for (const Option& option : command.options)
+    for (const Option& option : options)
         width = std::max(width, DisplayWidth(OptionText(option)));
     help += "\nOptions:\n";
-    for (const Option& option : command.options)
+    for (const Option& option : options)
         help += "  " + PadToWidth(OptionText(option), width + 2) + std::string(option.help) + '\n';
     return help;
 }

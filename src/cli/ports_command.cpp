@@ -1,6 +1,7 @@
 #include <QFile>
 #include <ostream>
 
+#include "cli/channel_output.h"
 #include "cli/command.h"
 #include "cli/text_table.h"
 #include "image/display_text.h"
@@ -72,32 +73,70 @@ std::string StateText(PortFault fault)
     }
 }
 
-/// \return the fault of the port
-PortFault AddPort(const PortInfo& port, TextTable& table)
+struct Port
 {
-    const PortFault fault = port.device.isEmpty() ? PortFault::NotFound : TryToOpen(DeviceNode(port.device));
-    table.AddRow({port.number > 0 ? "COM " + std::to_string(port.number) : std::string("-"),
-                  port.device.toStdString(), StateText(fault), port.description.toStdString()});
-    return fault;
+    PortInfo info;
+    PortFault fault;
+};
+
+std::vector<Port> Ports()
+{
+    QList<PortInfo> found = ComPorts();
+    for (const PortInfo& port : SystemPorts())
+        if (port.number == 0)
+            found.append(port);
+    std::vector<Port> ports;
+    for (const PortInfo& port : found)
+        ports.push_back(
+            {port, port.device.isEmpty() ? PortFault::NotFound : TryToOpen(DeviceNode(port.device))});
+    return ports;
+}
+
+void WriteJson(const std::vector<Port>& ports, Console& console)
+{
+    JsonWriter json(console.out);
+    json.Open('[');
+    for (const auto& [info, fault] : ports) {
+        json.Open('{');
+        json.Key("com");
+        info.number > 0 ? json.Number(info.number) : json.Null();
+        json.Member("device", info.device.toStdString());
+        json.Member("state", StateText(fault));
+        json.Member("description", info.description.toStdString());
+        json.Close('}');
+    }
+    json.Close(']');
+    console.out << '\n';
+}
+
+TextTable TableOf(const std::vector<Port>& ports)
+{
+    TextTable table;
+    table.AddRow({"Port", "Device", "State", "Description"}, Paint::Bold);
+    for (const auto& [info, fault] : ports)
+        table.AddRow({info.number > 0 ? "COM " + std::to_string(info.number) : std::string("-"),
+                      info.device.toStdString(), StateText(fault), info.description.toStdString()},
+                     fault == PortFault::None ? Paint::Green : Paint::None);
+    return table;
 }
 
 }  // namespace
 
-Status RunPorts(const Arguments& /*arguments*/, Console& console)
+Status RunPorts(const Arguments& arguments, Console& console)
 {
-    TextTable table;
-    table.AddRow({"Port", "Device", "State", "Description"});
-    QList<PortInfo> ports = ComPorts();
-    for (const PortInfo& port : SystemPorts())
-        if (port.number == 0)
-            ports.append(port);
+    const std::vector<Port> ports = Ports();
+    const Form form = FormOf(arguments);
+    if (form == Form::Json) {
+        WriteJson(ports, console);
+        return Status::Done;
+    }
+    Print(TableOf(ports), form, console);
     QString remedy;
-    for (const PortInfo& port : ports)
-        if (AddPort(port, table) == PortFault::NoPermission)
-            remedy = PortRemedy(port.device, PortFault::NoPermission);
-    table.Print(console.out);
+    for (const auto& [info, fault] : ports)
+        if (fault == PortFault::NoPermission)
+            remedy = PortRemedy(info.device, fault);
     if (!remedy.isEmpty())
-        console.out << VisibleText(remedy.toStdString()) << '\n';
+        (form == Form::Columns ? console.out : console.err) << VisibleText(remedy.toStdString()) << '\n';
     return Status::Done;
 }
 

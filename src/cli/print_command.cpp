@@ -1,16 +1,57 @@
-#include <QDate>
+#include <QCoreApplication>
 #include <QFileInfo>
-#include <QGuiApplication>
-#include <QLoggingCategory>
+#include <QProcess>
 #include <ostream>
 
 #include "cli/clone_files.h"
 #include "cli/command.h"
+#include "cli/file_list.h"
+#include "cli/print_choice.h"
+#include "cli/receiver_session.h"
 #include "cli/values.h"
-#include "printing/pdf_file.h"
+#include "image/display_text.h"
 
 namespace rqm5 {
 namespace {
+
+/// Where the program for PDFs is: beside this one's folder in an installation and where it was built.
+QString PdfProgram()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/" RQM5_PDF_PROGRAM);
+}
+
+/// The words of the command line as this command understood them.
+QStringList WordsOf(const Arguments& arguments)
+{
+    QStringList words;
+    for (const auto& [name, value] : arguments.Options()) {
+        words << QString::fromStdString(name);
+        if (!value.empty())
+            words << PathOf(value);
+    }
+    return words << QStringLiteral("--") << PathOf(arguments[0]);
+}
+
+/// Pages need fonts, and the libraries for those make every start slower. So they have a program of their
+/// own.
+Status RunPdfProgram(const Arguments& arguments, Console& console)
+{
+    const EventLoopHost host;
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedChannels);
+    process.setInputChannelMode(QProcess::ForwardedInputChannel);
+    console.out.flush();
+    process.start(PdfProgram(), WordsOf(arguments));
+    if (!process.waitForStarted(-1))
+        return Fail(console, {kFileOpenError, PathText(PdfProgram()) +
+                                                  ": the program that makes PDFs cannot be started. Install "
+                                                  "rq-m5 again, or print from the window."});
+    process.waitForFinished(-1);
+    const bool hasEnded = process.exitStatus() == QProcess::NormalExit;
+    return hasEnded ? static_cast<Status>(process.exitCode()) : Status::Failed;
+}
+
+}  // namespace
 
 ListingChoice ChoiceOf(const Arguments& arguments)
 {
@@ -19,50 +60,19 @@ ListingChoice ChoiceOf(const Arguments& arguments)
             isAll || arguments.Has("--memory"), SelectorOf(arguments), !arguments.Has("--empty")};
 }
 
-QPageLayout PaperOf(const Arguments& arguments)
-{
-    QPageLayout layout = DefaultPageLayout();
-    if (arguments.Has("--paper")) {
-        const bool isLetter = arguments.Value("--paper") == "letter";
-        layout.setPageSize(QPageSize(isLetter ? QPageSize::Letter : QPageSize::A4), layout.margins());
-    }
-    layout.setOrientation(arguments.Has("--landscape") ? QPageLayout::Landscape : QPageLayout::Portrait);
-    return layout;
-}
-
-Status WritePdf(const Arguments& arguments, const Listing& listing, Console& console)
-{
-    // Fonts need the application of a graphical program, but pages need no display. What it has to say
-    // about the desktop it does not find means nothing to whoever waits for a PDF.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QLoggingCategory::setFilterRules(QStringLiteral("*.warning=false"));
-    char name[] = "rq-m5";
-    char* words[] = {name, nullptr};
-    int count = 1;
-    const QGuiApplication application(count, words);
-
-    const QString fileName = QFileInfo(PathOf(arguments[0])).fileName();
-    const std::string date = QDate::currentDate().toString(Qt::ISODate).toStdString();
-    const PdfOutcome outcome = SavePdf(PathOf(arguments.Value("--pdf")), PaperOf(arguments), listing,
-                                       {fileName.toStdString(), date}, [](int, int) { return true; });
-    return outcome.problem ? Fail(console, *outcome.problem) : Status::Done;
-}
-
-}  // namespace
-
 Status RunPrint(const Arguments& arguments, Console& console)
 {
-    CloneImage image;
-    if (const auto problem = Load(arguments[0], image))
-        return Fail(console, *problem);
     if (arguments.Has("--pdf"))
-        if (const auto problem = ReplaceProblem(arguments, arguments.Value("--pdf"), FileKind::Pdf))
-            return Fail(console, *problem);
-    const Listing listing = BuildListing(image, ChoiceOf(arguments));
-    if (arguments.Has("--pdf"))
-        return WritePdf(arguments, listing, console);
-    console.out << FormatListing(listing);
-    return Status::Done;
+        return RunPdfProgram(arguments, console);
+    bool isFirst = true;
+    return ForEachFile(arguments, console, [&](const InputFile& file, const CloneImage& image) {
+        if (file.isOneOfSeveral)
+            console.out << (isFirst ? "" : "\n")
+                        << Painted(VisibleText(file.name), Paint::Bold, console.paintsOut) << "\n\n";
+        isFirst = false;
+        console.out << FormatListing(BuildListing(image, ChoiceOf(arguments)));
+        return Status::Done;
+    });
 }
 
 }  // namespace rqm5

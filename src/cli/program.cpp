@@ -43,24 +43,46 @@ Status RunCommand(const Command& command, std::span<const std::string> words, Co
     const auto& arguments = std::get<Arguments>(parsed);
     if (arguments.WantsHelp())
         return Print(console, CommandHelp(command));
+    console.isQuiet = arguments.Has("--quiet");
+    console.isVerbose = arguments.Has("--verbose");
     const std::string conflict = command.conflict != nullptr ? command.conflict(arguments) : "";
     return conflict.empty() ? command.run(arguments, console) : RefuseUsage(console, program, conflict);
 }
 
+/// Switches that stand in front of the command belong to it, too.
+std::size_t LeadingSwitches(std::span<const std::string> words)
+{
+    std::size_t count = 0;
+    while (count < words.size() && (words[count] == "-q" || words[count] == "-v" ||
+                                    words[count] == "--quiet" || words[count] == "--verbose"))
+        ++count;
+    return count;
+}
+
 }  // namespace
+
+Status RunHelp(const Arguments& arguments, Console& console)
+{
+    if (arguments.Operands().empty())
+        return Print(console, ProgramHelp());
+    const Command* command = FindCommand(arguments[0]);
+    return command != nullptr ? Print(console, CommandHelp(*command)) : RefuseCommand(console, arguments[0]);
+}
 
 Status RunProgram(std::span<const std::string> words, Console& console)
 {
-    if (words.empty())
+    const std::size_t leading = LeadingSwitches(words);
+    if (words.size() == leading)
         return RefuseUsage(console, "rq-m5", "a command is missing");
-    const std::string& first = words.front();
+    const std::string& first = words[leading];
+    std::vector<std::string> rest(words.begin(), words.begin() + static_cast<std::ptrdiff_t>(leading));
+    rest.insert(rest.end(), words.begin() + static_cast<std::ptrdiff_t>(leading) + 1, words.end());
     if (first == "--help" || first == "-h")
         return Print(console, ProgramHelp());
-    if (first == "--version")
+    if (first == "--version" || first == "-V")
         return Print(console, "rq-m5 " RQM5_VERSION "\n");
     const Command* command = FindCommand(first);
-    return command != nullptr ? RunCommand(*command, words.subspan(1), console)
-                              : RefuseCommand(console, first);
+    return command != nullptr ? RunCommand(*command, rest, console) : RefuseCommand(console, first);
 }
 
 }  // namespace rqm5

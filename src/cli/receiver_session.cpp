@@ -54,6 +54,16 @@ ReceiverSession::ReceiverSession(const Arguments& arguments, Console& console)
       })
 {
     link_.Knowledge().KeepIn(CacheFolder());
+    if (console.isVerbose)
+        QObject::connect(&link_, &RadioLink::Exchanged, &link_,
+                         [this](const std::string& command, bool /*portFailed*/) { TellExchange(command); });
+}
+
+void ReceiverSession::TellExchange(const std::string& command)
+{
+    progress_.Clear();
+    console_.err << VisibleText(command) << " -> " << VisibleText(link_.LastReceived()) << " ("
+                 << link_.LastDuration().count() / 1000 << " ms)\n";
 }
 
 void ReceiverSession::TellPort()
@@ -62,8 +72,9 @@ void ReceiverSession::TellPort()
         return;
     const std::string device = port_.Device().toStdString();
     const std::string name = "COM " + std::to_string(number_);
-    console_.err << "Port: " << VisibleText(name + ", " + (device.empty() ? "no device" : device))
-                 << " (without --port, that of RQ-M5.ini)\n";
+    if (!console_.isQuiet)
+        console_.err << "Port: " << VisibleText(name + ", " + (device.empty() ? "no device" : device))
+                     << " (without --port, that of RQ-M5.ini)\n";
     progress_.NamePort(name, device);
 }
 
@@ -83,6 +94,16 @@ Status ReceiverSession::Finish(TransferResult result)
     if (result == TransferResult::Cancelled && isCtrlC_)
         return Status::Interrupted;
     return result == TransferResult::Done ? Status::Done : Status::Failed;
+}
+
+std::chrono::seconds ReceiverSession::Taken() const
+{
+    return std::chrono::round<std::chrono::seconds>(std::chrono::steady_clock::now() - begin_);
+}
+
+void ReceiverSession::Close(const std::string& note)
+{
+    TellEnd(console_, note);
 }
 
 }  // namespace rqm5

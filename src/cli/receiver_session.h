@@ -53,7 +53,15 @@ class ReceiverSession
     /// reported when they happened.
     Status Finish(TransferResult result);
 
+    /// How long the command has taken until now.
+    std::chrono::seconds Taken() const;
+
+    /// One line at the end of a command that went well, for whoever sits at a terminal.
+    void Close(const std::string& note);
+
   private:
+    void TellExchange(const std::string& command);
+
     EventLoopHost host_;
     Console& console_;
     const int number_;  ///< the COM number from RQ-M5.ini; 0 when --port says the port

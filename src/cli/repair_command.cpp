@@ -2,6 +2,7 @@
 
 #include "cli/clone_files.h"
 #include "cli/command.h"
+#include "cli/streams.h"
 #include "files/file_kind.h"
 #include "files/file_store.h"
 #include "files/note_repair.h"
@@ -12,6 +13,10 @@ namespace {
 
 std::optional<Problem> Write(const std::string& path, const std::string& text, Console& console)
 {
+    if (IsStandard(path)) {
+        console.out << text;
+        return std::nullopt;
+    }
     WriteReport report;
     const auto problem = WriteWholeFile(PathOf(path), text, &report);
     if (!report.accessChanges.empty())
@@ -48,7 +53,7 @@ std::optional<Problem> WriteRepaired(const Arguments& arguments, const std::stri
 Status RunRepair(const Arguments& arguments, Console& console)
 {
     std::string bytes;
-    if (const auto problem = ReadWholeFile(PathOf(arguments[0]), bytes))
+    if (const auto problem = ReadInput(arguments[0], bytes))
         return Fail(console, *problem);
     const auto result = RepairNotes(bytes);
     if (const auto* error = std::get_if<ParseError>(&result))
@@ -59,7 +64,7 @@ Status RunRepair(const Arguments& arguments, Console& console)
         return Status::Done;
     }
     for (const RepairedNote& note : repair.notes)
-        console.out << RepairText(note) << '\n';
+        NotesOf(arguments.Value("--to"), console) << RepairText(note) << '\n';
     const auto problem = WriteRepaired(arguments, repair.text, console);
     return problem ? Fail(console, *problem) : Status::Done;
 }

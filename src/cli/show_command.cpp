@@ -1,55 +1,118 @@
+#include <algorithm>
 #include <ostream>
 
-#include "cli/clone_files.h"
+#include "cli/channel_output.h"
 #include "cli/command.h"
-#include "cli/text_table.h"
+#include "cli/file_list.h"
 #include "cli/values.h"
+#include "image/display_text.h"
 #include "memory/bank_layout.h"
-#include "memory/table_titles.h"
+#include "memory/row_moves.h"
 
 namespace rqm5 {
 namespace {
 
-/// The columns of the memory table, a column for the mark of rows that are off in front of them.
-std::vector<std::string> Heads()
+bool HoldsSomething(const Channel& channel)
 {
-    std::vector<std::string> heads = {""};
-    std::string_view titles = kMemoryTitles;
-    for (;;) {
-        const std::size_t bar = titles.find('|');
-        heads.emplace_back(titles.substr(0, bar));
-        if (bar == std::string_view::npos)
-            return heads;
-        titles.remove_prefix(bar + 1);
-    }
+    return channel.HasChannel() || !channel.note.empty();
 }
 
-std::vector<std::string> Cells(const Channel& channel, int region, const std::string& label)
+RowList ShownRows(const CloneImage& image, const Arguments& arguments)
 {
-    std::vector<std::string> cells = {channel.enabled ? "" : "-", label};
-    for (const Column column : kColumns)
-        cells.push_back(CellText(channel, RowKind::Memory, region, column));
-    return cells;
+    RowList rows = RowsOf(GroupRows(image, SelectorOf(arguments)));
+    if (!arguments.Has("--all"))
+        std::erase_if(rows, [&image](int row) { return !HoldsSomething(image.MemData(row)); });
+    return rows;
+}
+
+void ShowJson(const InputFile& file, const CloneImage& image, const RowList& rows, JsonWriter& json)
+{
+    json.Open('{');
+    json.Member("file", file.name);
+    json.Member("region", image.ModelNo());
+    json.Key("rows").Open('[');
+    for (const int row : rows)
+        WriteRow(json, image, row);
+    json.Close(']');
+    json.Close('}');
+}
+
+class Table
+{
+  public:
+    Table(const CloneImage& image, int selector)
+        : image_(image),
+          first_(GroupRows(image, selector).first),
+          labels_(BuildChannelLabels(image, selector))
+    {
+    }
+
+    /// \param file  the name in front of each row; none in columns, where a line above names the file
+    void AddRows(const RowList& rows, const std::string& file, TextTable& table) const
+    {
+        for (const int row : rows) {
+            std::vector<std::string> cells = ChannelCells(image_, row);
+            cells.insert(cells.begin(), labels_.at(static_cast<std::size_t>(row - first_)));
+            if (!file.empty())
+                cells.insert(cells.begin(), file);
+            table.AddRow(std::move(cells), ChannelPaint(image_.MemData(row)));
+        }
+    }
+
+  private:
+    const CloneImage& image_;
+    int first_;
+    std::vector<std::string> labels_;
+};
+
+void ShowColumns(const InputFile& file, const CloneImage& image, const RowList& rows, int selector,
+                 Console& console)
+{
+    TextTable table;
+    std::vector<std::string> titles = ChannelTitles();
+    titles.insert(titles.begin(), "");
+    table.AddRow(std::move(titles), Paint::Bold);
+    Table(image, selector).AddRows(rows, {}, table);
+    const auto used =
+        std::ranges::count_if(rows, [&image](int row) { return image.MemData(row).HasChannel(); });
+    if (file.isOneOfSeveral)
+        console.out << Painted(VisibleText(file.name), Paint::Bold, console.paintsOut) << ": ";
+    console.out << SelectorText(selector) << " (" << used << " of " << GroupRows(image, selector).count
+                << " rows used)\n";
+    table.Print(console.out, console.paintsOut);
 }
 
 }  // namespace
 
 Status RunShow(const Arguments& arguments, Console& console)
 {
-    CloneImage image;
-    if (const auto problem = Load(arguments[0], image))
-        return Fail(console, *problem);
     const int selector = SelectorOf(arguments);
-    const RowRange rows = GroupRows(image, selector);
-    const std::vector<std::string> labels = BuildChannelLabels(image, selector);
+    const Form form = FormOf(arguments);
+    JsonWriter json(console.out);
     TextTable table;
-    table.AddRow(Heads());
-    for (int i = 0; i < rows.count; ++i)
-        table.AddRow(
-            Cells(image.MemData(rows.first + i), image.ModelNo(), labels.at(static_cast<std::size_t>(i))));
-    console.out << SelectorText(selector) << ", " << rows.count << " rows (- in front: off)\n";
-    table.Print(console.out);
-    return Status::Done;
+    std::vector<std::string> titles = ChannelTitles();
+    titles.insert(titles.begin(), {"File", "Channel"});
+    table.AddRow(std::move(titles));
+    if (form == Form::Json)
+        json.Open('[');
+    const Status status =
+        ForEachFile(arguments, console, [&](const InputFile& file, const CloneImage& image) {
+            const RowList rows = ShownRows(image, arguments);
+            if (form == Form::Json)
+                ShowJson(file, image, rows, json);
+            else if (form == Form::Tabbed)
+                Table(image, selector).AddRows(rows, file.name, table);
+            else
+                ShowColumns(file, image, rows, selector, console);
+            return Status::Done;
+        });
+    if (form == Form::Json) {
+        json.Close(']');
+        console.out << '\n';
+    } else if (form == Form::Tabbed) {
+        table.PrintTabbed(console.out);
+    }
+    return status;
 }
 
 }  // namespace rqm5

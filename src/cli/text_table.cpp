@@ -7,31 +7,41 @@
 
 namespace rqm5 {
 
-void TextTable::AddRow(std::vector<std::string> cells)
+void TextTable::AddRow(std::vector<std::string> cells, Paint paint)
 {
     for (std::string& cell : cells)
         cell = VisibleText(cell);
-    rows_.push_back(std::move(cells));
+    rows_.push_back({std::move(cells), paint});
 }
 
-void TextTable::Print(std::ostream& out) const
+void TextTable::Print(std::ostream& out, bool isPainted) const
 {
     std::vector<int> widths;
-    for (const auto& row : rows_) {
-        widths.resize(std::max(widths.size(), row.size()));
-        for (std::size_t i = 0; i < row.size(); ++i)
-            widths[i] = std::max(widths[i], DisplayWidth(row[i]));
+    for (const auto& [cells, paint] : rows_) {
+        widths.resize(std::max(widths.size(), cells.size()));
+        for (std::size_t i = 0; i < cells.size(); ++i)
+            widths[i] = std::max(widths[i], DisplayWidth(cells[i]));
     }
-    for (const auto& row : rows_) {
-        std::string line;
+    std::string line;
+    for (const auto& [cells, paint] : rows_) {
+        line.clear();
         // A note of a whole file's length must not widen all rows.
-        for (std::size_t i = 0; i + 1 < row.size(); ++i)
-            line += PadToWidth(row[i], widths[i]) + "  ";
-        if (!row.empty())
-            line += row.back();
+        for (std::size_t i = 0; i + 1 < cells.size(); ++i) {
+            line += cells[i];
+            line.append(static_cast<std::size_t>(widths[i] - DisplayWidth(cells[i]) + 2), ' ');
+        }
+        if (!cells.empty())
+            line += cells.back();
         line.erase(line.find_last_not_of(' ') + 1);
-        out << line << '\n';
+        out << (isPainted ? Painted(line, paint, true) : line) << '\n';
     }
+}
+
+void TextTable::PrintTabbed(std::ostream& out) const
+{
+    for (const auto& [cells, paint] : rows_)
+        for (std::size_t i = 0; i < cells.size(); ++i)
+            out << cells[i] << (i + 1 < cells.size() ? '\t' : '\n');
 }
 
 }  // namespace rqm5

@@ -3,17 +3,24 @@
 #include "cli/clone_files.h"
 #include "cli/command.h"
 #include "cli/receiver_session.h"
+#include "cli/streams.h"
 #include "cli/values.h"
 #include "cli/write_changes.h"
+#include "files/file_kind.h"
 #include "files/file_store.h"
 #include "image/display_text.h"
+#include "image/image_change.h"
+#include "link/closing_notes.h"
 #include "link/forwarding_observer.h"
 #include "link/line_notes.h"
 #include "link/memory_map.h"
+#include "link/range_check.h"
 #include "link/receiver_checks.h"
 #include "link/receiver_identity.h"
 #include "link/receiver_reader.h"
 #include "link/receiver_writer.h"
+#include "memory/receiver_range.h"
+#include "memory/start_image.h"
 #include "settings/settings_codec.h"
 
 namespace rqm5 {
@@ -23,6 +30,8 @@ namespace {
 std::optional<Problem> BackupObstacle(const std::string& path)
 {
     // The file may be the one that is to be written, or the backup of last week.
+    if (IsStandard(path))
+        return std::nullopt;
     if (!path.empty() && Exists(path))
         return Problem{kFileOpenError, path +
                                            ": there is a file already, and a backup replaces none; "
@@ -97,13 +106,13 @@ Status ReadTwice(const ReceiverReader& reader, ReceiverSession& session, Console
 /// Saves what is not for certain what the receiver holds; the file as it was is not lost by it.
 Status SaveDoubtful(const std::string& path, const CloneImage& image, Console& console)
 {
-    const bool replaces = Exists(path);
-    if (replaces)
-        if (const auto problem = KeepOldFile(path))
+    QString kept;
+    if (Exists(path))
+        if (const auto problem = KeepOldFile(PathOf(path), kept))
             return Fail(console, {problem->text, problem->details, path + " is as it was."});
     if (SaveRead(path, image, console) == Status::Done)
         console.err << path << " is written with what came"
-                    << (replaces ? "; as it was it is kept as " + path + "~" : std::string())
+                    << (kept.isEmpty() ? "" : "; as it was it is kept as " + kept.toStdString())
                     << ". Check the cable and read again.\n";
     return Status::Failed;
 }
@@ -128,13 +137,16 @@ Status Write(const CloneImage& image, const TransferScope& scope, bool isVerifie
 
 Status RunRead(const Arguments& arguments, Console& console)
 {
-    CloneImage image;
-    auto problem = LoadOrStart(arguments[0], image);
-    if (!problem)
+    CloneImage image = StartUpImage(0);
+    std::optional<Problem> problem;
+    if (!IsStandard(arguments[0]))
+        problem = LoadOrStart(arguments[0], image);
+    if (!problem && !IsStandard(arguments[0]))
         problem = ReadingObstacle(PathOf(arguments[0]));
     if (problem)
         return Fail(console, *problem);
     const TransferScope scope = ScopeOf(arguments);
+    const CloneImage before = image;
     ReceiverSession session(arguments, console);
     session.TellPort();
     session.Observer().Begin(BlocksToBackUp(image, scope));
@@ -150,9 +162,13 @@ Status RunRead(const Arguments& arguments, Console& console)
     if (arguments.Has("--verify"))
         if (const Status status = ReadTwice(reader, session, console, agrees); status != Status::Done)
             return status;
-    if (agrees)
-        return SaveRead(arguments[0], image, console);
-    return SaveDoubtful(arguments[0], image, console);
+    if (!agrees)
+        return SaveDoubtful(arguments[0], image, console);
+    const Status status = SaveRead(arguments[0], image, console);
+    if (status == Status::Done)
+        session.Close(
+            ReadNote(session.Taken(), arguments.Has("--verify"), scope, image, Difference(before, image)));
+    return status;
 }
 
 Status RunWrite(const Arguments& arguments, Console& console)
@@ -164,6 +180,11 @@ Status RunWrite(const Arguments& arguments, Console& console)
     if (const auto problem = BackupObstacle(backup))
         return Fail(console, {problem->text, problem->details, NothingWritten()});
     const TransferScope scope = ScopeOf(arguments);
+    if (const auto rows = RowsWrittenOutOfRange(image, scope); !rows.empty())
+        Warn(console,
+             "these rows are outside the receiver's range (" + std::string(kReceiverRangeText) +
+                 ") and are written as they are:",
+             rows);
     ReceiverSession session(arguments, console);
     session.TellPort();
     if (arguments.Has("--changes"))
@@ -182,6 +203,8 @@ Status RunWrite(const Arguments& arguments, Console& console)
         status = Write(image, scope, arguments.Has("--verify"), session, console);
     if (status == Status::Done && arguments.Has("--verify"))
         status = CompareWithReceiver(ExpectedAfterWrite(image, scope), session, console, NotVerified());
+    if (status == Status::Done)
+        session.Close(WrittenNote(session.Taken(), arguments.Has("--verify")));
     return status;
 }
 

@@ -128,7 +128,7 @@ std::string PrintConflict(const Arguments& arguments)
     for (const char* option : {"--paper", "--landscape", "--force"})
         if (arguments.Has(option) && !arguments.Has("--pdf"))
             return std::string(option) + " is about the pages of a PDF; add --pdf";
-    return arguments.Has("--pdf") && arguments.Value("--pdf") == arguments[0]
+    return arguments.Has("--pdf") && arguments.Value("--pdf") == arguments[0] && arguments[0] != "-"
                ? "both names are the same file, which would be replaced"
                : "";
 }

@@ -1,11 +1,13 @@
 #include <ostream>
 
+#include "cli/channel_output.h"
 #include "cli/clone_files.h"
 #include "cli/command.h"
 #include "cli/receiver_session.h"
 #include "cli/text_table.h"
 #include "cli/values.h"
 #include "link/byte_names.h"
+#include "link/closing_notes.h"
 #include "link/forwarding_observer.h"
 #include "link/receiver_checks.h"
 
@@ -24,10 +26,43 @@ std::string ExpectedIn(const ExpectedBlock& block, const MemoryBlock& read)
     return expected.String();
 }
 
+TextTable TableOf(const std::vector<BlockDifference>& differences, Form form)
+{
+    TextTable table;
+    const bool isTabbed = form == Form::Tabbed;
+    if (isTabbed)
+        table.AddRow({"Address", "Block", "Expected", "Receiver", "Bytes"});
+    for (const auto& [block, read] : differences)
+        table.AddRow({HexAddress(block.address), block.label,
+                      (isTabbed ? "" : "expected ") + ExpectedIn(block, read),
+                      (isTabbed ? "" : "receiver ") + read.String(), DifferingBytes(block, read)});
+    return table;
+}
+
+void WriteJson(const std::vector<BlockDifference>& differences, bool isComplete, Console& console)
+{
+    JsonWriter json(console.out);
+    json.Open('{');
+    json.Member("complete", isComplete);
+    json.Key("differences").Open('[');
+    for (const auto& [block, read] : differences) {
+        json.Open('{');
+        json.Member("address", HexAddress(block.address));
+        json.Member("block", block.label);
+        json.Member("expected", ExpectedIn(block, read));
+        json.Member("receiver", read.String());
+        json.Member("bytes", DifferingBytes(block, read));
+        json.Close('}');
+    }
+    json.Close(']');
+    json.Close('}');
+    console.out << '\n';
+}
+
 }  // namespace
 
 Status CompareWithReceiver(const std::vector<ExpectedBlock>& expected, ReceiverSession& session,
-                           Console& console, const std::string& aftermath)
+                           Console& console, const std::string& aftermath, Form form, int* found)
 {
     session.Observer().Begin(static_cast<int>(expected.size()));
     std::vector<BlockDifference> differences;
@@ -36,11 +71,12 @@ Status CompareWithReceiver(const std::vector<ExpectedBlock>& expected, ReceiverS
     const Status status = session.Finish(result);
     if (result == TransferResult::Cancelled && !aftermath.empty())
         console.err << aftermath << '\n';
-    TextTable table;
-    for (const auto& [block, read] : differences)
-        table.AddRow({HexAddress(block.address), block.label, "expected " + ExpectedIn(block, read),
-                      "receiver " + read.String(), DifferingBytes(block, read)});
-    table.Print(console.out);
+    if (form == Form::Json)
+        WriteJson(differences, result == TransferResult::Done, console);
+    else
+        Print(TableOf(differences, form), form, console);
+    if (found != nullptr)
+        *found = static_cast<int>(differences.size());
     return differences.empty() || status == Status::Interrupted ? status : Status::Failed;
 }
 
@@ -51,7 +87,12 @@ Status RunVerify(const Arguments& arguments, Console& console)
         return Fail(console, *problem);
     ReceiverSession session(arguments, console);
     session.TellPort();
-    return CompareWithReceiver(ExpectedInReceiver(image, ScopeOf(arguments)), session, console, {});
+    int found = 0;
+    const std::vector<ExpectedBlock> expected = ExpectedInReceiver(image, ScopeOf(arguments));
+    const Status status = CompareWithReceiver(expected, session, console, {}, FormOf(arguments), &found);
+    if (status == Status::Done || found > 0)
+        session.Close(ComparedNote(session.Taken(), found));
+    return status;
 }
 
 }  // namespace rqm5

@@ -113,7 +113,7 @@ void Document::TakeStep(const ImageChange& change, bool isUndone)
 void Document::ForgetFile(const QString& fileName)
 {
     for (int i = 0; i < history_.count(); ++i)
-        const_cast<Step*>(static_cast<const Step*>(history_.command(i)))->ForgetFile(fileName);
+        static_cast<const Step*>(history_.command(i))->ForgetFile(fileName);
 }
 
 /// The stack keeps its own mark of the saved state, for the view and so that a run does not go on across it.

@@ -38,7 +38,7 @@ void Step::SwapFile()
         std::swap(*otherFile_, document_.file_);
 }
 
-void Step::ForgetFile(const QString& fileName)
+void Step::ForgetFile(const QString& fileName) const
 {
     if (otherFile_ && otherFile_->name == fileName)
         otherFile_->saved = Document::kNoState;

@@ -17,7 +17,7 @@ class Step : public QUndoCommand
     void TakeFile(const Document::File& before) { otherFile_ = before; }
 
     /// The file has been written: what the step remembers of it is in it no longer.
-    void ForgetFile(const QString& fileName);
+    void ForgetFile(const QString& fileName) const;
 
     /// The number of the state that the step leads to.
     int Serial() const { return serial_; }
@@ -32,7 +32,9 @@ class Step : public QUndoCommand
 
     Document& document_;
     ImageChange change_;
-    std::optional<Document::File> otherFile_;  ///< the file of the side that the document is not on
+    /// The file of the side that the document is not on. The stack hands out its steps to look at only, and
+    /// what is forgotten here does not change what a step does.
+    mutable std::optional<Document::File> otherFile_;
     int run_;
     int serial_;
     bool isMade_ = true;  ///< redo has nothing to do the first time

@@ -4,8 +4,9 @@
 #include <cmath>
 
 #include "files/csv_record.h"
+#include "files/formula_guard.h"
 #include "files/list_columns.h"
-#include "files/text_encoding.h"
+#include "files/list_encoding.h"
 #include "image/value_tables.h"
 
 namespace rqm5 {
@@ -25,11 +26,19 @@ std::string Quoted(const std::string& text)
     return "\"" + text + "\"";
 }
 
+/// "1.455E+02"
+bool HasExponent(const std::string& text)
+{
+    const std::size_t e = text.find_first_of("eE");
+    return e != std::string::npos && e > 0 && text.find_first_not_of("0123456789.,") == e &&
+           text.find_first_not_of("0123456789+-", e + 1) == std::string::npos;
+}
+
 /// Reads one record under its columns.
 class RecordReader
 {
   public:
-    RecordReader(const std::vector<ListColumn>& columns, Unit usual) : columns_(columns), usual_(usual) {}
+    explicit RecordReader(const ListTable& table) : table_(table), columns_(table.columns) {}
 
     /// \return nothing for a record without any channel, such as an empty row of a table
     std::optional<ListedChannel> Read(const ListRecord& record);
@@ -41,10 +50,11 @@ class RecordReader
     void TakeMark(int part, const std::string& text);
     void TakeCode(int part, const std::string& text);
     void TakeNote(const std::string& text);
+    void TakePlace(int part, const std::string& text);
     void LeaveOut(int part, const std::string& text);
 
+    const ListTable& table_;
     const std::vector<ListColumn>& columns_;
-    Unit usual_;
     ListedChannel row_;
     bool saysSomething_ = false;
 };
@@ -76,12 +86,13 @@ void RecordReader::LeaveOut(int part, const std::string& text)
 
 void RecordReader::TakeFrequency(const ListColumn& column, const std::string& text)
 {
-    const auto number = ReadFrequency(text);
+    const auto number = ReadFrequency(text, table_.decimals);
     if (!number || number->isNegative) {
-        row_.refusal = Quoted(text) + " cannot be read for certain as a frequency";
+        row_.refusal = Quoted(text) + (HasExponent(text) ? " has lost digits to an exponent in a spreadsheet"
+                                                         : " cannot be read for certain as a frequency");
         return;
     }
-    row_.channel.frequency = number->Hertz(column.unit == Unit::None ? usual_ : column.unit);
+    row_.channel.frequency = number->Hertz(column.unit == Unit::None ? table_.usualUnit : column.unit);
     row_.given.Add(kFrequency);
     if (row_.channel.frequency == 0)
         row_.refusal = "a frequency of 0 is no channel";
@@ -90,7 +101,7 @@ void RecordReader::TakeFrequency(const ListColumn& column, const std::string& te
 void RecordReader::TakeOffset(const ListColumn& column, const std::string& text)
 {
     constexpr std::int64_t kLimit = 100'000'000;
-    const auto number = ReadFrequency(text);
+    const auto number = ReadFrequency(text, table_.decimals);
     const std::int64_t hertz =
         number ? number->Hertz(column.unit == Unit::None ? Unit::MHz : column.unit) : kLimit;
     if (std::abs(hertz) >= kLimit) {
@@ -145,7 +156,7 @@ void RecordReader::TakeCode(int part, const std::string& text)
 
 void RecordReader::TakeNote(const std::string& text)
 {
-    row_.channel.note = PlainNote(text);
+    row_.channel.note = PlainNote(WithoutGuard(text));
     if (row_.channel.note.size() > kLongestNote) {
         std::size_t end = kLongestNote;
         while (end > 0 && (static_cast<unsigned char>(row_.channel.note[end]) & 0xC0U) == 0x80U)
@@ -157,11 +168,20 @@ void RecordReader::TakeNote(const std::string& text)
     row_.given.Add(kNote);
 }
 
+void RecordReader::TakePlace(int part, const std::string& text)
+{
+    if (part == ListColumn::kBank && text == kCsvVfo)
+        row_.refusal = "it is a VFO band";
+    ListedPlace& place = row_.place;
+    (part == ListColumn::kBank      ? place.bank
+     : part == ListColumn::kChannel ? place.channel
+                                    : place.row) = text;
+}
+
 void RecordReader::Take(const ListColumn& column, const std::string& text)
 {
-    if (column.part == ListColumn::kBank) {
-        if (text == kCsvVfo)
-            row_.refusal = "it is a VFO band";
+    if (column.part < ListColumn::kIgnored) {
+        TakePlace(column.part, text);
         return;
     }
     // An empty cell says nothing, but for a mark that is not set and a note that is empty.
@@ -193,8 +213,10 @@ std::optional<ListedChannel> RecordReader::Read(const ListRecord& record)
         return std::nullopt;
     if (row_.refusal.empty() && HasColumn(columns_, kFrequency) && !row_.given.Has(kFrequency))
         row_.refusal = "there is no frequency";
-    if (record.fields.size() > columns_.size())
-        row_.refusal = "there are more fields than titles";
+    for (std::size_t i = columns_.size(); i < record.fields.size(); ++i)
+        if (!record.fields[i].empty())
+            row_.refusal = columns_.size() == kMostColumns ? "there are more than 64 columns"
+                                                           : "there are more fields than titles";
     row_.channel.blank = 0;
     // The editor words a secret code so, and it is an edit that brings this one.
     row_.channel.isSecretEdited = row_.channel.option / kOptionUnit == kSecretOption;
@@ -214,19 +236,62 @@ std::vector<ListedChannel> Refused(const std::vector<ListRecord>& records, const
 
 }  // namespace
 
-std::vector<ListedChannel> ReadChannelList(std::string_view text)
+ListTable ReadTable(std::string_view bytes, const ListForm& form)
 {
-    const std::string decoded = DecodeFileText(text);
-    const ColumnList list = FindColumns(decoded, kMostRecords);
-    if (!list.problem.empty())
-        return Refused(list.records, list.problem);
-    RecordReader reader(list.columns, list.usualUnit);
+    DecodedList decoded = DecodeList(bytes, form.encoding);
+    ListTable table = FindColumns(decoded.text, kMostRecords, form);
+    table.encoding = std::move(decoded.encoding);
+    return table;
+}
+
+bool MayBeList(std::string_view bytes)
+{
+    const std::string text = DecodeList(bytes).text;
+    return !text.starts_with(FileStart) && text.find('\0') == std::string::npos &&
+           text.find_first_not_of(" \t\r\n,;\"") != std::string::npos;
+}
+
+ListForm FormOf(const ListTable& table)
+{
+    ListForm form;
+    form.encoding = table.encoding;
+    form.delimiter = table.delimiter;
+    form.decimals = table.decimals;
+    form.hasTitles = table.hasTitles;
+    for (std::size_t i = 0; i < table.columns.size(); ++i) {
+        // Of two columns of one title only the first can be named by it.
+        const bool isNamed = i < table.titles.size() && !table.titles[i].empty() &&
+                             table.titles[i][0] != '#' &&
+                             std::ranges::find(table.titles, table.titles[i]) - table.titles.begin() ==
+                                 static_cast<std::ptrdiff_t>(i);
+        form.columns.push_back({isNamed ? table.titles[i] : "#" + std::to_string(i + 1), table.columns[i]});
+    }
+    return form;
+}
+
+std::vector<ListedChannel> ReadChannels(const ListTable& table)
+{
     std::vector<ListedChannel> rows;
-    rows.reserve(list.records.size());
-    for (const ListRecord& record : list.records)
-        if (auto row = reader.Read(record))
-            rows.push_back(*std::move(row));
+    if (!table.problem.empty()) {
+        rows = Refused(table.records, table.problem);
+    } else {
+        RecordReader reader(table);
+        rows.reserve(table.records.size());
+        for (const ListRecord& record : table.records)
+            if (auto row = reader.Read(record))
+                rows.push_back(*std::move(row));
+    }
+    if (table.firstUnread != 0)
+        for (ListedChannel& row : Refused({{table.firstUnread, {}}},
+                                          "it and all behind it are not read: no list "
+                                          "of channels has more than 5000 rows"))
+            rows.push_back(std::move(row));
     return rows;
+}
+
+std::vector<ListedChannel> ReadChannelList(std::string_view text, const ListForm& form)
+{
+    return ReadChannels(ReadTable(text, form));
 }
 
 }  // namespace rqm5

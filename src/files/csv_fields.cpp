@@ -62,9 +62,20 @@ std::optional<std::string> CsvFieldReader::Next()
 {
     if (rest_.empty() && !isFieldDue_)
         return std::nullopt;
+    fieldBegin_ = text_.size() - rest_.size();
     std::string field = mayBeQuoted_ && rest_.starts_with('"') ? TakeQuoted() : std::string(TakePlain());
     SkipSeparator();
     return field;
+}
+
+int CsvFieldReader::Line()
+{
+    for (; countedTo_ < fieldBegin_; ++countedTo_) {
+        const bool isLineEnd = text_[countedTo_] == '\n' ||
+                               (text_[countedTo_] == '\r' && !text_.substr(countedTo_ + 1).starts_with('\n'));
+        line_ += isLineEnd ? 1 : 0;
+    }
+    return line_;
 }
 
 void AddQuotedField(std::string& csv, std::string_view text)

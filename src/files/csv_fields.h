@@ -11,17 +11,28 @@ namespace rqm5 {
 class CsvFieldReader
 {
   public:
-    explicit CsvFieldReader(std::string_view text) : rest_(text) {}
+    explicit CsvFieldReader(std::string_view text) : text_(text), rest_(text) {}
 
     /// The next field without its quotes, nothing at the end of the text.
     std::optional<std::string> Next();
+
+    /// The line that the last field began in, from 1. Counted when it is asked for: most files have nothing
+    /// to tell.
+    int Line();
+
+    /// True when the last field was the last of its line.
+    bool EndsLine() const { return !isFieldDue_; }
 
   private:
     std::string TakeQuoted();
     std::string_view TakePlain();
     void SkipSeparator();
 
+    std::string_view text_;
     std::string_view rest_;
+    std::size_t fieldBegin_ = 0;
+    std::size_t countedTo_ = 0;
+    int line_ = 1;
     bool isFieldDue_ = false;  ///< a comma was the last thing read
     bool mayBeQuoted_ = true;  ///< false once a quote was found that nothing closes
 };

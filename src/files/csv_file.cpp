@@ -1,9 +1,8 @@
 #include "files/csv_file.h"
 
-#include <algorithm>
-
 #include "files/csv_fields.h"
 #include "files/csv_record.h"
+#include "files/formula_guard.h"
 #include "image/value_tables.h"
 #include "memory/row_names.h"
 
@@ -12,10 +11,6 @@ namespace {
 
 constexpr std::size_t kUsualSize = 192 * 1024;
 
-constexpr std::string_view kTitles[] = {
-    "MODEL", "BANK", "CHANNEL", "FREQUENCY",       "MODE",  "STEP", "OPTION", "SECRET",
-    "TRAIN", "TONE", "SHIFT",   "SHIFT FREQUENCY", "NOTES", "SKIP", "ENABLE"};
-
 std::string_view TruthText(bool value)
 {
     return value ? "#TRUE#" : "#FALSE#";
@@ -23,7 +18,7 @@ std::string_view TruthText(bool value)
 
 void AddHeader(std::string& csv)
 {
-    for (const std::string_view title : kTitles) {
+    for (const std::string_view title : kCsvTitles) {
         AddQuotedField(csv, title);
         csv += ',';
     }
@@ -53,13 +48,6 @@ void AddMemoryRecord(std::string& csv, const Channel& row, std::string_view bank
     csv += ',';
     csv += TruthText(row.enabled);
     csv += "\r\n";
-}
-
-bool LooksLikeFormula(const std::string& note)
-{
-    // The wide forms too: some spreadsheets take them for the plain ones.
-    constexpr std::string_view kStarts[] = {"=", "+", "-", "@", "\t", "\r", "＝", "＋", "－", "＠"};
-    return std::ranges::any_of(kStarts, [&note](std::string_view start) { return note.starts_with(start); });
 }
 
 }  // namespace

@@ -1,151 +1,166 @@
 #include <algorithm>
-#include <cmath>
 #include <optional>
 
 #include "files/csv_fields.h"
 #include "files/csv_file.h"
 #include "files/csv_record.h"
-#include "files/text_encoding.h"
-#include "image/number_text.h"
-#include "image/value_tables.h"
+#include "files/csv_rows.h"
+#include "files/list_encoding.h"
+#include "memory/row_names.h"
 
 namespace rqm5 {
 namespace {
 
-std::string Trimmed(const std::string& text)
-{
-    const std::size_t first = text.find_first_not_of(" \t");
-    return first == std::string::npos ? std::string()
-                                      : text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
-
 std::string KeyText(const std::string& field)
 {
-    return UpperCase(Trimmed(field));
+    const std::size_t first = field.find_first_not_of(" \t");
+    return first == std::string::npos
+               ? std::string()
+               : UpperCase(std::string_view(field).substr(first, field.find_last_not_of(" \t") - first + 1));
 }
 
-bool IsTrue(const std::string& field)
+/// Numbers of a spreadsheet that writes them with a comma, as this program writes them.
+void TakeCommasAsPoints(CsvRecord& record)
 {
-    const std::string text = KeyText(field);
-    return text == "#TRUE#" || text == "TRUE";
-}
-
-/// A channel number 0 to count - 1 typed as digits, nothing for any other text.
-std::optional<int> ChannelNumber(const std::string& channel, int count)
-{
-    const bool isNumber = channel.front() >= '0' && channel.front() <= '9';
-    const double number = ReadNumber(channel);
-    if (!isNumber || number != std::trunc(number) || number >= count)
-        return std::nullopt;
-    return static_cast<int>(number);
-}
-
-/// The Program Scan edge of a label: P0A to P49B as an export writes them, 0A to 49B as the table does.
-std::optional<int> ScanEdge(std::string_view channel)
-{
-    if (channel.starts_with('P'))
-        channel.remove_prefix(1);
-    const int pair = ReadInteger(channel);
-    const int edge = 2 * std::clamp(pair, 0, 49) + (channel.ends_with('B') ? 1 : 0);
-    return channel == ProgramScanLabel(edge).substr(1) ? std::optional(edge) : std::nullopt;
-}
-
-/// The channel of a label: 0, 1, ... as an export writes it, or behind the prefix that the table of all
-/// rows has.
-std::optional<int> LabelledChannel(std::string_view channel, std::string_view prefix, int count)
-{
-    if (channel.starts_with(prefix))
-        channel.remove_prefix(prefix.size());
-    const int number = ReadInteger(channel);
-    const bool isLabel = number >= 0 && number < count && channel == std::to_string(number);
-    return isLabel ? std::optional(number) : std::nullopt;
-}
-
-std::optional<int> GroupChannel(const std::string& channel, const RowGroup& group)
-{
-    return group.isPairs ? ScanEdge(channel)
-                         : LabelledChannel(channel, UpperCase(group.rowPrefix), group.rows.count);
-}
-
-const RowGroup* GroupNamed(std::string_view bank)
-{
-    const auto* found = std::ranges::find(kRowGroups, bank, &RowGroup::csvName);
-    return found != kRowGroups.end() ? found : nullptr;
-}
-
-std::optional<RowId> FindRow(const std::string& bank, const std::string& channel)
-{
-    std::optional<int> row;
-    const RowKind kind = bank == kCsvVfo ? RowKind::Vfo : RowKind::Memory;
-    if (kind == RowKind::Vfo) {
-        row = ChannelNumber(channel, kVfoRows);
-    } else if (const RowGroup* group = GroupNamed(bank)) {
-        row = GroupChannel(channel, *group);
-        if (row)
-            *row += group->rows.first;
-    } else {
-        row = ChannelNumber(channel, kBankRows);
+    for (const Column column : {kFrequency, kStep, kTone, kShiftFrequency}) {
+        std::string& text = record.texts.at(column);
+        if (HasDecimalComma(text))
+            text[text.find(',')] = '.';
     }
-    return row ? std::optional(RowId{kind, *row}) : std::nullopt;
 }
 
-bool IsBank(const std::string& bank)
+/// Reads a text record by record. Fields are a stream: a record is as long as it should be, whatever lines it
+/// goes over.
+class CsvImport
 {
-    return bank == kCsvVfo || bank == kCsvBankRows || GroupNamed(bank) != nullptr;
-}
-
-std::optional<CsvRecord> ReadRecord(CsvFieldReader& reader)
-{
-    CsvRecord record;
-    for (std::string& text : record.texts) {
-        auto field = reader.Next();
-        if (!field)
-            return std::nullopt;
-        text = *std::move(field);
+  public:
+    CsvImport(std::string_view text, CloneImage& image, CsvNumbers numbers)
+        : reader_(text), image_(image), numbers_(numbers)
+    {
     }
-    const auto skip = reader.Next();
-    const auto enable = reader.Next();
-    if (!skip || !enable)
-        return std::nullopt;
-    record.isSkipped = IsTrue(*skip);
-    record.isEnabled = IsTrue(*enable);
-    return record;
-}
+
+    CsvTaken Run();
+
+  private:
+    std::optional<RowId> ReadRow(const std::string& model);
+    std::optional<CsvRecord> ReadRecord(RowId id);
+    void Store(const CsvRecord& record, RowId id);
+    void Tell(const std::string& text) { taken_.findings.Add(line_, text); }
+
+    CsvFieldReader reader_;
+    CloneImage& image_;
+    CsvNumbers numbers_;
+    CsvTaken taken_;
+    int line_ = 1;           ///< of the record that is read
+    bool isAtStart_ = true;  ///< the next field begins a line
+};
 
 /// Reads on from a field that should be a MODEL.
 /// \return the row that the record names, nothing when it is to be passed over
-std::optional<RowId> ReadRow(CsvFieldReader& reader, const std::string& model)
+std::optional<RowId> CsvImport::ReadRow(const std::string& model)
 {
-    if (model != kCsvModel)
+    const bool beginsLine = isAtStart_;
+    isAtStart_ = reader_.EndsLine();
+    if (model != kCsvModel) {
+        const bool isTitles = model == kCsvTitles.front();
+        if (beginsLine && !isTitles && !(model.empty() && reader_.EndsLine())) {
+            line_ = reader_.Line();
+            Tell("it does not begin with " + std::string(kCsvModel) + " and is passed over");
+        }
         return std::nullopt;
-    const auto bank = reader.Next();
-    if (!bank || !IsBank(KeyText(*bank)))
+    }
+    line_ = reader_.Line();
+    const auto bank = reader_.Next();
+    isAtStart_ = reader_.EndsLine();
+    if (!bank || !IsCsvBank(KeyText(*bank))) {
+        Tell("there is no table \"" + bank.value_or("") + "\"; the record is passed over");
         return std::nullopt;
-    const auto channel = reader.Next();
-    if (!channel || KeyText(*channel).empty())
+    }
+    const auto channel = reader_.Next();
+    isAtStart_ = reader_.EndsLine();
+    const auto row =
+        !channel || KeyText(*channel).empty() ? std::nullopt : FindCsvRow(KeyText(*bank), KeyText(*channel));
+    if (!row)
+        Tell(*bank + " has no channel \"" + channel.value_or("") + "\"; the record is passed over");
+    return row;
+}
+
+std::optional<CsvRecord> CsvImport::ReadRecord(RowId id)
+{
+    const auto tell = [&](const char* text) { Tell(RowName(image_, id) + ": " + text); };
+    CsvRecord record;
+    bool isShort = false;
+    const auto take = [&](std::string& text) {
+        isShort = isShort || reader_.EndsLine();
+        auto field = reader_.Next();
+        if (field)
+            text = *std::move(field);
+        return field.has_value();
+    };
+    bool isWhole = std::ranges::all_of(record.texts, take);
+    isWhole = isWhole && take(record.skip) && take(record.enable);
+    isAtStart_ = reader_.EndsLine();
+    if (!isWhole) {
+        tell("the record is short and is passed over");
         return std::nullopt;
-    return FindRow(KeyText(*bank), KeyText(*channel));
+    }
+    if (isShort)
+        tell("the record is short; what stands in the next line was read into it");
+    else if (!reader_.EndsLine())
+        tell("the record has more than 15 fields; the rest is passed over");
+    return record;
+}
+
+void CsvImport::Store(const CsvRecord& record, RowId id)
+{
+    Channel& row = image_.At(id);
+    const Channel before = row;
+    const CsvValues values = ReadCsvValues(record);
+    if (StoreRecord(record, values, id.kind, row))
+        ++taken_.movedCarriers;
+    ++taken_.rows;
+    JudgeRecord({record, values, line_, id, before}, image_, taken_.findings);
+}
+
+CsvTaken CsvImport::Run()
+{
+    while (const auto model = reader_.Next()) {
+        const auto id = ReadRow(*model);
+        if (!id)
+            continue;
+        auto record = ReadRecord(*id);
+        if (!record)
+            break;
+        if (numbers_ == CsvNumbers::DecimalCommas)
+            TakeCommasAsPoints(*record);
+        Store(*record, *id);
+    }
+    return std::move(taken_);
 }
 
 }  // namespace
 
-CsvTaken ParseCsv(std::string_view text, CloneImage& image)
+CsvTaken ParseCsv(std::string_view text, CloneImage& image, CsvNumbers numbers)
 {
-    const std::string decoded = DecodeFileText(text);
-    CsvFieldReader reader(decoded);
-    CsvTaken taken;
-    while (const auto model = reader.Next()) {
-        const auto id = ReadRow(reader, *model);
-        if (!id)
-            continue;
-        const auto record = ReadRecord(reader);
-        if (!record)
+    const std::string decoded = DecodeCsv(text);
+    return CsvImport(decoded, image, numbers).Run();
+}
+
+bool IsOwnCsv(std::string_view bytes)
+{
+    const std::string text = DecodeCsv(bytes);
+    CsvFieldReader reader(text);
+    std::vector<std::string> fields;
+    while (auto field = reader.Next()) {
+        fields.push_back(*std::move(field));
+        if (fields.back() == kCsvModel)
+            return true;
+        if (reader.EndsLine() && fields != std::vector<std::string>{""})
             break;
-        if (StoreRecord(*record, id->kind, image.At(*id)))
-            ++taken.movedCarriers;
-        ++taken.rows;
+        if (reader.EndsLine())
+            fields.clear();
     }
-    return taken;
+    return std::ranges::equal(fields, kCsvTitles);
 }
 
 }  // namespace rqm5

@@ -1,9 +1,10 @@
 #include "files/csv_record.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
-#include <optional>
 
+#include "files/truth_words.h"
 #include "image/number_text.h"
 #include "image/value_tables.h"
 #include "memory/channel_parts.h"
@@ -25,39 +26,38 @@ std::optional<std::int64_t> HertzBelow(std::int64_t limit, std::string_view text
     return isHeld ? std::optional(static_cast<std::int64_t>(hertz)) : std::nullopt;
 }
 
-int StepOr(int previous, std::string_view text)
+/// Nothing for an index that stands for none.
+std::optional<std::int64_t> Found(int index, int unit = 1)
+{
+    return index < 0 ? std::nullopt : std::optional<std::int64_t>(index * unit);
+}
+
+std::optional<std::int64_t> StepCode(std::string_view text)
 {
     // The steps between are set by the receiver alone and are not taken from a file.
     constexpr int kFirstUntaken = 14;
     constexpr int kLastUntaken = 18;
     const int step = IndexOf(StepName, text);
-    return step < 0 || (step >= kFirstUntaken && step <= kLastUntaken) ? previous : step;
+    return step >= kFirstUntaken && step <= kLastUntaken ? std::nullopt : Found(step);
 }
 
-int OptionOr(int previous, std::string_view text)
-{
-    const int found = text == "Scrt" ? kSecretOption : IndexOf(OptionName, text);
-    return (found >= 0 ? found : previous / kOptionUnit) * kOptionUnit;
-}
-
-int SecretOr(int previous, std::string_view text)
+std::optional<std::int64_t> SecretCode(std::string_view text)
 {
     const int code = ReadInteger(text);
-    return code >= 0 && code < kSecretCodes ? code : previous;
+    return code < kSecretCodes ? Found(code) : std::nullopt;
 }
 
-/// Nothing when there is no such carrier.
-std::optional<int> CarrierCode(std::string_view text)
+std::optional<std::int64_t> CarrierCode(std::string_view text)
 {
     if (text == "JR")
         return kCarrierJr;
     // Everything else reads and writes (code + 3) * 100, so an import moves each code up by one: the files
     // that owners keep count so.
     const int code = ReadInteger(text) / 100 - 2;
-    return code >= 0 && code < kCarrierJr ? std::optional(code) : std::nullopt;
+    return code < kCarrierJr ? Found(code) : std::nullopt;
 }
 
-int ToneOr(int previous, std::string_view text)
+std::optional<std::int64_t> ToneCode(std::string_view text)
 {
     static const auto kTones = [] {
         std::array<double, ToneName.size()> tones{};
@@ -65,7 +65,7 @@ int ToneOr(int previous, std::string_view text)
         return tones;
     }();
     const auto* found = std::find(kTones.begin(), kTones.end(), ReadNumber(text));
-    return found == kTones.end() ? previous : static_cast<int>(found - kTones.begin());
+    return found == kTones.end() ? std::nullopt : Found(static_cast<int>(found - kTones.begin()));
 }
 
 int ShiftOf(std::string_view text)
@@ -74,28 +74,19 @@ int ShiftOf(std::string_view text)
     return upper == "+SHIFT" ? 0x10 : upper == "-SHIFT" ? 0x20 : 0;
 }
 
-std::uint8_t Code(int value)
+ChannelContents Imported(const CsvValues& values, bool isSkipped, const ChannelContents& previous)
 {
-    return static_cast<std::uint8_t>(value);
-}
-
-ChannelContents Imported(const CsvRecord& record, const ChannelContents& previous)
-{
-    const auto& texts = record.texts;
+    const auto value = [&](Column column) {
+        return values.at(column).value_or(CsvValueOf(previous, column));
+    };
     ChannelContents row;
-    row.frequency = HertzBelow(kFrequencyLimit, texts[kFrequency]).value_or(previous.frequency);
+    row.frequency = value(kFrequency);
     if (row.frequency == 0)
         return row;
-    const int mode = IndexOf(ModeName, texts[kMode]);
-    row.mode = mode < 0 ? previous.mode : Code(mode);
-    row.step = Code(StepOr(previous.step, texts[kStep]));
-    row.option = Code(OptionOr(previous.option, texts[kOption]) + (record.isSkipped ? kSkipBit : 0));
-    row.secret = Code(SecretOr(previous.secret, texts[kSecret]));
-    row.carrier = Code(CarrierCode(texts[kCarrier]).value_or(previous.carrier));
-    row.tone = Code(ToneOr(previous.tone, texts[kTone]));
-    row.shift = Code(ShiftOf(texts[kShift]));
-    row.shiftFrequency = static_cast<std::int32_t>(
-        HertzBelow(kShiftLimit, texts[kShiftFrequency]).value_or(previous.shiftFrequency));
+    for (const CodeField& field : kCodeFields)
+        row.*field.value = static_cast<std::uint8_t>(value(field.column));
+    row.option = static_cast<std::uint8_t>(row.option + (isSkipped ? kSkipBit : 0));
+    row.shiftFrequency = static_cast<std::int32_t>(value(kShiftFrequency));
     row.isCarrierImported = row.carrier != kCarrierJr;
     row.blank = 0;
     return row;
@@ -112,13 +103,42 @@ std::string UpperCase(std::string_view text)
     return upper;
 }
 
-bool StoreRecord(const CsvRecord& record, RowKind kind, Channel& row)
+std::int64_t CsvValueOf(const ChannelContents& row, Column column)
 {
-    static_cast<ChannelContents&>(row) = Imported(record, row);
+    if (column == kFrequency)
+        return row.frequency;
+    if (column == kShiftFrequency)
+        return row.shiftFrequency;
+    const auto* field = std::ranges::find(kCodeFields, column, &CodeField::column);
+    const int code = row.*field->value;
+    return column == kOption ? code / kOptionUnit * kOptionUnit : code;
+}
+
+CsvValues ReadCsvValues(const CsvRecord& record)
+{
+    const auto& texts = record.texts;
+    CsvValues values;
+    values[kFrequency] = HertzBelow(kFrequencyLimit, texts[kFrequency]);
+    values[kMode] = Found(IndexOf(ModeName, texts[kMode]));
+    values[kStep] = StepCode(texts[kStep]);
+    values[kOption] =
+        Found(texts[kOption] == "Scrt" ? kSecretOption : IndexOf(OptionName, texts[kOption]), kOptionUnit);
+    values[kSecret] = SecretCode(texts[kSecret]);
+    values[kCarrier] = CarrierCode(texts[kCarrier]);
+    values[kTone] = ToneCode(texts[kTone]);
+    values[kShift] = ShiftOf(texts[kShift]);
+    values[kShiftFrequency] = HertzBelow(kShiftLimit, texts[kShiftFrequency]);
+    return values;
+}
+
+bool StoreRecord(const CsvRecord& record, const CsvValues& values, RowKind kind, Channel& row)
+{
+    const bool isSkipped = TruthOf(record.skip).value_or(false);
+    static_cast<ChannelContents&>(row) = Imported(values, isSkipped, row);
     row.note = PlainNote(record.texts[kNote]);
     if (kind == RowKind::Memory)
-        row.enabled = record.isEnabled;
-    return row.HasChannel() && CarrierCode(record.texts[kCarrier]).value_or(kCarrierJr) != kCarrierJr;
+        row.enabled = TruthOf(record.enable).value_or(false);
+    return row.HasChannel() && values[kCarrier].value_or(kCarrierJr) != kCarrierJr;
 }
 
 }  // namespace rqm5

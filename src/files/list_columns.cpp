@@ -3,20 +3,21 @@
 #include <algorithm>
 #include <array>
 
+#include "files/csv_record.h"
 #include "image/channel.h"
 
 namespace rqm5 {
 namespace {
 
 /// Most people write no unit: what the numbers of a column can be.
-Unit LikelyUnit(const std::vector<ListRecord>& records, std::size_t column)
+Unit LikelyUnit(const std::vector<ListRecord>& records, std::size_t column, DecimalSign decimals)
 {
     int megahertz = 0;
     int kilohertz = 0;
     int hertz = 0;
     for (const ListRecord& record : records) {
         const auto number =
-            column < record.fields.size() ? ReadFrequency(record.fields[column]) : std::nullopt;
+            column < record.fields.size() ? ReadFrequency(record.fields[column], decimals) : std::nullopt;
         if (!number || number->unit != Unit::None)
             continue;
         ++(number->whole < 1300 ? megahertz : number->whole < 1'300'000 ? kilohertz : hertz);
@@ -139,6 +140,100 @@ bool HasTwoKindsOfComma(const std::vector<ListRecord>& records, const std::vecto
            });
 }
 
+/// The sign that begins decimals in the columns of frequencies, where they agree.
+DecimalSign LikelyDecimals(const ListTable& table)
+{
+    DecimalSign sign = DecimalSign::Unknown;
+    for (const ListRecord& record : table.records)
+        for (std::size_t i = 0; i < std::min(record.fields.size(), table.columns.size()); ++i) {
+            const int part = table.columns[i].part;
+            const DecimalSign here = part == kFrequency || part == kShiftFrequency
+                                         ? DecimalsOf(record.fields[i])
+                                         : DecimalSign::Unknown;
+            if (here != DecimalSign::Unknown && sign != DecimalSign::Unknown && here != sign)
+                return DecimalSign::Unknown;
+            sign = here != DecimalSign::Unknown ? here : sign;
+        }
+    return sign;
+}
+
+/// Records of this program's CSV file that a spreadsheet has saved without the titles.
+bool AreCsvRecords(const std::vector<ListRecord>& records)
+{
+    const auto& first = records.front().fields;
+    return first.size() == kCsvTitles.size() && first.front() == kCsvModel;
+}
+
+std::vector<ListColumn> FoundColumns(const ListTable& table)
+{
+    if (table.hasTitles)
+        return ColumnsUnder(table.titles);
+    if (table.records.empty())
+        return {};
+    if (AreCsvRecords(table.records))
+        return ColumnsUnder({kCsvTitles.begin(), kCsvTitles.end()});
+    return Guesser(table.records).Columns();
+}
+
+constexpr std::size_t kNowhere = std::string::npos;
+
+/// The place of the column of this number, counted from 1; behind all for what is none.
+std::size_t PlaceOfNumber(std::string_view text)
+{
+    const bool isNumber =
+        !text.empty() && text.size() < 4 && text.find_first_not_of("0123456789") == std::string_view::npos;
+    return isNumber ? std::stoul(std::string(text)) - 1 : kNowhere;
+}
+
+/// The place of a column that somebody names by its title or its number.
+std::size_t PlaceOf(const ListTable& table, const std::string& name)
+{
+    const std::size_t number =
+        name.starts_with('#') ? PlaceOfNumber(std::string_view(name).substr(1)) : kNowhere;
+    if (number != kNowhere)
+        return number;
+    const auto found = std::ranges::find(table.titles, name);
+    if (found != table.titles.end())
+        return static_cast<std::size_t>(found - table.titles.begin());
+    return PlaceOfNumber(name);
+}
+
+/// What somebody says of columns goes before what was found out, there and for other columns of that kind.
+void Assign(const ListForm& form, ListTable& table)
+{
+    for (const ColumnWish& wish : form.columns) {
+        const std::size_t place = PlaceOf(table, wish.name);
+        if (place >= table.columns.size()) {
+            table.unknown.push_back(wish.name);
+            continue;
+        }
+        for (ListColumn& other : table.columns)
+            if (other.part == wish.column.part)
+                other = {};
+        table.columns[place] = wish.column;
+    }
+}
+
+void TakeTitles(const ListForm& form, ListTable& table)
+{
+    table.hasTitles =
+        !table.records.empty() && form.hasTitles.value_or(AreTitles(table.records.front().fields));
+    if (!table.hasTitles)
+        return;
+    table.titles = table.records.front().fields;
+    table.titles.resize(std::min(table.titles.size(), kMostColumns));
+    table.records.erase(table.records.begin());
+}
+
+std::string ProblemOf(const ListTable& table)
+{
+    if (!table.hasTitles && table.delimiter == ',' && HasTwoKindsOfComma(table.records, table.columns))
+        return "commas stand for decimals and between fields; separate the fields by tabs";
+    if (!table.hasTitles && !table.records.empty() && !HasColumn(table.columns, kFrequency))
+        return "there is no frequency";
+    return {};
+}
+
 }  // namespace
 
 bool HasColumn(const std::vector<ListColumn>& columns, int part)
@@ -146,29 +241,25 @@ bool HasColumn(const std::vector<ListColumn>& columns, int part)
     return FindColumn(columns, part) != columns.end();
 }
 
-ColumnList FindColumns(std::string_view text, std::size_t mostRecords)
+ListTable FindColumns(std::string_view text, std::size_t mostRecords, const ListForm& form)
 {
-    ColumnList list;
-    const char delimiter = DelimiterOf(text);
-    list.records = SplitList(text, delimiter, mostRecords);
-    if (list.records.empty())
-        return list;
-    const bool hasTitles = AreTitles(list.records.front().fields);
-    if (hasTitles) {
-        list.columns = ColumnsUnder(list.records.front().fields);
-        list.records.erase(list.records.begin());
-    } else {
-        list.columns = Guesser(list.records).Columns();
+    ListTable table;
+    table.delimiter = form.delimiter.value_or(DelimiterOf(text));
+    table.records = SplitList(text, table.delimiter, mostRecords + 1);
+    if (table.records.size() > mostRecords) {
+        table.firstUnread = table.records.back().line;
+        table.records.pop_back();
     }
-    if (!hasTitles && delimiter == ',' && HasTwoKindsOfComma(list.records, list.columns))
-        list.problem = "commas stand for decimals and between fields; separate the fields by tabs";
-    else if (!hasTitles && !HasColumn(list.columns, kFrequency))
-        list.problem = "there is no frequency";
-    else if (HasColumn(list.columns, kFrequency))
-        list.usualUnit =
-            LikelyUnit(list.records,
-                       static_cast<std::size_t>(FindColumn(list.columns, kFrequency) - list.columns.begin()));
-    return list;
+    TakeTitles(form, table);
+    table.columns = FoundColumns(table);
+    table.columns.resize(std::min(table.columns.size(), kMostColumns));
+    Assign(form, table);
+    table.problem = ProblemOf(table);
+    table.decimals = form.decimals == DecimalSign::Unknown ? LikelyDecimals(table) : form.decimals;
+    if (const auto frequency = FindColumn(table.columns, kFrequency); frequency != table.columns.end())
+        table.usualUnit = LikelyUnit(
+            table.records, static_cast<std::size_t>(frequency - table.columns.begin()), table.decimals);
+    return table;
 }
 
 }  // namespace rqm5

@@ -1,6 +1,7 @@
 #include "files/list_fields.h"
 
 #include <algorithm>
+#include <map>
 
 #include "files/list_values.h"
 
@@ -97,22 +98,49 @@ bool IsNumber(std::string_view line)
            UnitNamed(line.substr(end + 1)) != Unit::None;
 }
 
-}  // namespace
+constexpr std::size_t kLooked = 100;  ///< records at the front tell how the rest is written
 
-char DelimiterOf(std::string_view text)
+/// How many records have the same number of fields, two at least.
+std::size_t RegularRecords(std::string_view text, char delimiter)
 {
-    for (const char delimiter : {'\t', ';'})
-        if (text.find(delimiter) != std::string_view::npos)
-            return delimiter;
+    if (text.find(delimiter) == std::string_view::npos)
+        return 0;
+    std::map<std::size_t, std::size_t> sizes;
+    for (const ListRecord& record : SplitList(text, delimiter, kLooked))
+        if (record.fields.size() > 1)
+            ++sizes[record.fields.size()];
+    std::size_t most = 0;
+    for (const auto& [size, count] : sizes)
+        most = std::max(most, count);
+    return most;
+}
+
+/// The comma, unless most of them belong to numbers.
+char DelimiterBesideDecimals(std::string_view text)
+{
     if (text.find(',') == std::string_view::npos)
         return '\0';
-    const auto lines = SplitList(text, '\0', 100);
+    const auto lines = SplitList(text, '\0', kLooked);
     const auto commas = std::ranges::count_if(
         lines, [](const ListRecord& line) { return line.fields.front().find(',') != std::string::npos; });
     const auto decimals = std::ranges::count_if(lines, [](const ListRecord& line) {
         return line.fields.front().find(',') != std::string::npos && IsNumber(line.fields.front());
     });
     return decimals * 2 > commas ? '\0' : ',';
+}
+
+}  // namespace
+
+char DelimiterOf(std::string_view text)
+{
+    const std::size_t commas = RegularRecords(text, ',');
+    const std::size_t semicolons = RegularRecords(text, ';');
+    const std::size_t tabs = RegularRecords(text, '\t');
+    if (tabs > 0 && tabs >= std::max(semicolons, commas))
+        return '\t';
+    if (semicolons > 0 && semicolons >= commas)
+        return ';';
+    return DelimiterBesideDecimals(text);
 }
 
 std::vector<ListRecord> SplitList(std::string_view text, char delimiter, std::size_t most)

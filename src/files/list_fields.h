@@ -13,8 +13,8 @@ struct ListRecord
     std::vector<std::string> fields;
 };
 
-/// Tab where the text has one, else semicolon, else comma; '\0' when every line is one field: commas are
-/// those of decimals then.
+/// Tab, semicolon or comma: what cuts most lines into the same number of fields. '\0' when every line is one
+/// field: commas are those of decimals then.
 char DelimiterOf(std::string_view text);
 
 /// Cuts a text into records and fields, without the blanks around a field. A field in double quotes may hold

@@ -8,116 +8,102 @@
 namespace rqm5 {
 namespace {
 
-struct Title
+struct Titles
 {
-    std::string_view words;
     int part;
+    std::string_view words;  ///< each between blanks; "_" stands for a blank inside one
 };
 
 constexpr int kIgnored = ListColumn::kIgnored;
 
-// Without their unit. What names a row or a receiver is known as a title and not taken over.
-constexpr Title kTitles[] = {
-    {"frequency", kFrequency},
-    {"freq", kFrequency},
-    {"frq", kFrequency},
-    {"qrg", kFrequency},
-    {"rx", kFrequency},
-    {"rx frequency", kFrequency},
-    {"rx freq", kFrequency},
-    {"receive frequency", kFrequency},
-    {"receive freq", kFrequency},
-    {"channel frequency", kFrequency},
-    {"output", kFrequency},
-    {"output frequency", kFrequency},
-    {"mode", kMode},
-    {"modulation", kMode},
-    {"modulation mode", kMode},
-    {"mod", kMode},
-    {"step", kStep},
-    {"tuning step", kStep},
-    {"option", kOption},
-    {"squelch", kOption},
-    {"squelch type", kOption},
-    {"tone mode", kOption},
-    {"secret", kSecret},
-    {"secret code", kSecret},
-    {"scrt", kSecret},
-    {"carrier", kCarrier},
-    {"train", kCarrier},
-    {"train tone", kCarrier},
-    {"tone", kTone},
-    {"ctcss", kTone},
-    {"ctcss tone", kTone},
-    {"ctcss frequency", kTone},
-    {"ctcss freq", kTone},
-    {"tone frequency", kTone},
-    {"tone freq", kTone},
-    {"rx tone", kTone},
-    {"pl", kTone},
-    {"pl tone", kTone},
-    {"shift", kShift},
-    {"duplex", kShift},
-    {"shift direction", kShift},
-    {"offset direction", kShift},
-    {"shiftfreq", kShiftFrequency},
-    {"shift frequency", kShiftFrequency},
-    {"shift freq", kShiftFrequency},
-    {"offset", kShiftFrequency},
-    {"offset frequency", kShiftFrequency},
-    {"offset freq", kShiftFrequency},
-    {"note", kNote},
-    {"notes", kNote},
-    {"name", kNote},
-    {"channel name", kNote},
-    {"alpha tag", kNote},
-    {"tag", kNote},
-    {"label", kNote},
-    {"description", kNote},
-    {"comment", kNote},
-    {"comments", kNote},
-    {"remark", kNote},
-    {"remarks", kNote},
-    {"memo", kNote},
-    {"station", kNote},
-    {"service", kNote},
-    {"callsign", kNote},
-    {"call sign", kNote},
-    {"user", kNote},
-    {"title", kNote},
-    {"text", kNote},
-    {"skip", kSkipPart},
-    {"lockout", kSkipPart},
-    {"l o", kSkipPart},
-    {"enable", kEnabledPart},
-    {"enabled", kEnabledPart},
-    {"active", kEnabledPart},
-    {"model", kIgnored},
-    {"bank", ListColumn::kBank},
-    {"channel", kIgnored},
-    {"ch", kIgnored},
-    {"no", kIgnored},
-    {"nr", kIgnored},
-    {"number", kIgnored},
-    {"location", kIgnored},
-    {"memory", kIgnored},
-    {"row", kIgnored},
-    {"date", kIgnored},
-    {"time", kIgnored},
-    {"country", kIgnored},
-    {"city", kIgnored},
-    {"id", kIgnored},
+// Without their unit and without accents. What names a receiver, a place or a day is known as a title and not
+// taken over.
+constexpr Titles kTitles[] = {
+    {kFrequency,
+     " frequency freq frq qrg rx rx_frequency rx_freq receive_frequency receive_freq "
+     "channel_frequency output output_frequency frequenz frequenzen empfangsfrequenz "
+     "rx_frequenz kanalfrequenz ausgabefrequenz frequence frequences frequence_rx "
+     "frequence_de_reception frecuencia frecuencias frecuencia_rx frecuencia_de_recepcion "
+     "周波数 受信周波数 受信 "},
+    {kMode,
+     " mode modulation modulation_mode mod modus betriebsart modulationsart type_de_modulation "
+     "modo modulacion モード 電波型式 変調 変調方式 "},
+    {kStep,
+     " step tuning_step step_size raster schrittweite kanalraster abstimmschritt schritt pas "
+     "pas_d_accord paso paso_de_sintonia ステップ チューニングステップ 周波数ステップ "},
+    {kOption,
+     " option squelch squelch_type tone_mode rauschsperre silencieux silenciador オプション "
+     "スケルチ トーンモード "},
+    {kSecret,
+     " secret secret_code scrt geheimcode code_secret codigo_secreto シークレット "
+     "シークレットコード "},
+    {kCarrier, " carrier train train_tone zugton tonalite_de_train tono_de_tren 空線 空線信号 "},
+    {kTone,
+     " tone ctcss ctcss_tone ctcss_frequency ctcss_freq tone_frequency tone_freq rx_tone pl "
+     "pl_tone ton ctcss_ton tonfrequenz subton tonalite tonalite_ctcss ton_ctcss tono "
+     "tono_ctcss subtono トーン トーン周波数 "},
+    {kShift,
+     " shift duplex shift_direction offset_direction ablagerichtung shiftrichtung "
+     "sens_du_decalage direction_du_decalage sentido_del_desplazamiento シフト シフト方向 "
+     "デュプレックス "},
+    {kShiftFrequency,
+     " shiftfreq shift_frequency shift_freq offset offset_frequency offset_freq ablage versatz "
+     "ablagefrequenz shiftfrequenz versatzfrequenz decalage frequence_de_decalage ecart "
+     "desplazamiento frecuencia_de_desplazamiento シフト周波数 オフセット オフセット周波数 "},
+    {kNote,
+     " note notes name channel_name alpha_tag tag label description comment comments remark "
+     "remarks memo station service callsign call_sign user title text notiz notizen bemerkung "
+     "bemerkungen bezeichnung beschreibung kommentar kanalname sender dienst rufzeichen nom "
+     "nom_du_canal libelle remarque remarques commentaire commentaires indicatif nota notas "
+     "nombre etiqueta descripcion comentario comentarios observaciones estacion indicativo 備考 "
+     "メモ 名称 名前 チャンネル名 局名 説明 コメント コールサイン "},
+    {kSkipPart,
+     " skip lockout l_o uberspringen ueberspringen auslassen sauter ignorer omitir saltar "
+     "スキップ "},
+    {kEnabledPart,
+     " enable enabled active aktiv ein eingeschaltet freigegeben actif activee activo activado "
+     "habilitado 有効 オン "},
+    {ListColumn::kBank, " bank banque banc banco バンク "},
+    {ListColumn::kChannel, " channel ch kanal canal voie チャンネル チャネル "},
+    {ListColumn::kRow, " row memory_row speicherzeile ligne_de_memoire fila_de_memoria "},
+    {kIgnored,
+     " model no nr number location memory date time country city id modell nummer speicher "
+     "speicherplatz zeile land stadt ort datum zeit uhrzeit kanalnummer modele numero memoire "
+     "ligne pays ville heure modelo memoria fila pais ciudad fecha hora 機種 番号 メモリー "
+     "メモリ 行 国 都市 日付 時刻 "},
 };
 
-/// Takes the unit off the end of some words.
+/// The part that some words name.
+std::optional<int> PartCalled(std::string words)
+{
+    std::ranges::replace(words, ' ', '_');
+    const std::string wanted = ' ' + words + ' ';
+    const auto* found = std::ranges::find_if(kTitles, [&wanted](const Titles& titles) {
+        return titles.words.find(wanted) != std::string_view::npos;
+    });
+    return found != std::end(kTitles) ? std::optional(found->part) : std::nullopt;
+}
+
+void TakeEnd(std::string& words, std::string_view end)
+{
+    if (words.ends_with(end))
+        words.resize(words.size() - end.size());
+}
+
+/// Takes the unit off the end of some words. In a Japanese title no blank stands before it.
 Unit TakeUnit(std::string& words)
 {
-    const std::size_t blank = words.rfind(' ');
-    const std::size_t begin = blank == std::string::npos ? 0 : blank + 1;
+    std::size_t begin = words.size();
+    while (begin > 0 && words[begin - 1] >= 'a' && words[begin - 1] <= 'z')
+        --begin;
     const std::string_view last = std::string_view(words).substr(begin);
     const Unit unit = last.ends_with("hz") ? UnitNamed(last) : Unit::None;
-    if (unit != Unit::None)
-        words.resize(begin == 0 ? 0 : begin - 1);
+    if (unit == Unit::None)
+        return unit;
+    words.resize(begin);
+    TakeEnd(words, " ");
+    TakeEnd(words, " in");
+    TakeEnd(words, " en");
     return unit;
 }
 
@@ -125,39 +111,37 @@ Unit TakeUnit(std::string& words)
 
 std::optional<ListColumn> ReadTitle(std::string_view title)
 {
-    std::string words = PlainWords(title);
+    std::string words = FoldedWords(title);
     const Unit unit = TakeUnit(words);
     if (words.empty())
         return unit == Unit::None ? std::nullopt : std::optional(ListColumn{kFrequency, unit});
-    const auto* found = std::ranges::find(kTitles, words, &Title::words);
-    return found != std::end(kTitles) ? std::optional(ListColumn{found->part, unit}) : std::nullopt;
+    const auto part = PartCalled(words);
+    return part ? std::optional(ListColumn{*part, unit}) : std::nullopt;
 }
 
 bool AreTitles(const std::vector<std::string>& fields)
 {
     std::size_t texts = 0;
     std::size_t titles = 0;
+    bool hasFrequency = false;
     for (const std::string& field : fields) {
         const auto title = ReadTitle(field);
         texts += field.empty() ? 0 : 1;
         titles += title ? 1 : 0;
+        hasFrequency = hasFrequency || (title && title->part == kFrequency);
         if (!title && ReadFrequency(field))
             return false;
     }
-    return titles > 0 && 2 * titles >= texts;
+    return hasFrequency || (titles > 0 && 2 * titles >= texts);
 }
 
 std::vector<ListColumn> ColumnsUnder(const std::vector<std::string>& titles)
 {
     std::vector<ListColumn> columns;
-    Parts taken;
     for (const std::string& title : titles) {
         ListColumn column = ReadTitle(title).value_or(ListColumn{});
-        if (column.part >= 0 && taken.Has(column.part))
-            column.part = kIgnored;
-        if (column.part >= 0)
-            taken.Add(column.part);
-        columns.push_back(column);
+        const bool isTaken = std::ranges::find(columns, column.part, &ListColumn::part) != columns.end();
+        columns.push_back(isTaken ? ListColumn{} : column);
     }
     return columns;
 }

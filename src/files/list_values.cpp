@@ -5,7 +5,9 @@
 #include <cmath>
 #include <initializer_list>
 
+#include "files/truth_words.h"
 #include "image/number_text.h"
+#include "image/utf8.h"
 #include "image/value_tables.h"
 
 namespace rqm5 {
@@ -105,6 +107,16 @@ std::optional<std::size_t> PointOf(std::string_view text, Unit unit)
     return isOnly ? std::string_view::npos : last;
 }
 
+/// The same where it is known what begins the decimals.
+std::optional<std::size_t> PointOf(std::string_view text, char point)
+{
+    const std::size_t first = text.find(point);
+    const bool isCertain =
+        first == text.rfind(point) &&
+        (first == std::string_view::npos || text.find_first_of(".,", first + 1) == std::string_view::npos);
+    return isCertain ? std::optional(first) : std::nullopt;
+}
+
 std::int64_t NumberOf(std::string_view digits)
 {
     std::int64_t number = 0;
@@ -114,7 +126,8 @@ std::int64_t NumberOf(std::string_view digits)
 }
 
 /// \param isSmall  a lone separator always begins the decimals
-std::optional<WrittenNumber> ReadWritten(std::string_view written, bool isSmall)
+std::optional<WrittenNumber> ReadWritten(std::string_view written, bool isSmall,
+                                         DecimalSign decimals = DecimalSign::Unknown)
 {
     std::string text = WithPlainSigns(written);
     const std::string word = TakeLastWord(text);
@@ -128,7 +141,9 @@ std::optional<WrittenNumber> ReadWritten(std::string_view written, bool isSmall)
     if (text.empty() ||
         !std::ranges::all_of(text, [](char c) { return IsDigit(c) || c == '.' || c == ',' || c == ' '; }))
         return std::nullopt;
-    const auto point = PointOf(text, isSmall ? Unit::None : number.unit);
+    const auto point = decimals == DecimalSign::Unknown
+                           ? PointOf(text, isSmall ? Unit::None : number.unit)
+                           : PointOf(text, decimals == DecimalSign::Point ? '.' : ',');
     if (!point)
         return std::nullopt;
     number.hasFraction = *point != std::string::npos;
@@ -160,7 +175,7 @@ struct Word
 
 std::optional<int> CodeOf(std::string_view text, std::initializer_list<Word> words)
 {
-    const std::string plain = PlainWords(text);
+    const std::string plain = FoldedWords(text);
     const auto* found = std::ranges::find(words, plain, &Word::text);
     return found != words.end() ? std::optional(found->code) : std::nullopt;
 }
@@ -200,6 +215,25 @@ std::string PlainWords(std::string_view text)
     return plain;
 }
 
+std::string FoldedWords(std::string_view text)
+{
+    // From U+00C0 on; a capital letter stands 32 places before its small one.
+    constexpr std::string_view kBases = "aaaaaaaceeeeiiiidnooooo ouuuuy  ";
+    std::string folded;
+    while (!text.empty()) {
+        const Character next = FirstCharacter(text);
+        const char32_t code = next.code;
+        if (code >= 0xC0 && code < 0x100 && code != 0xD7 && code != 0xF7 && code != 0xDE && code != 0xFE)
+            folded += code == 0xDF ? "ss" : code == 0xFF ? "y" : kBases.substr((code - 0xC0) % 32, 1);
+        else if (code > 0xFF00 && code < 0xFF5F)
+            folded += static_cast<char>(code - 0xFF00 + 0x20);
+        else
+            folded += text.substr(0, next.length);
+        text.remove_prefix(next.length);
+    }
+    return PlainWords(folded);
+}
+
 Unit UnitNamed(std::string_view word)
 {
     constexpr std::pair<std::string_view, Unit> kUnits[] = {
@@ -220,9 +254,17 @@ std::int64_t WrittenNumber::Hertz(Unit usual) const
     return isNegative ? -hertz : hertz;
 }
 
-std::optional<WrittenNumber> ReadFrequency(std::string_view text)
+std::optional<WrittenNumber> ReadFrequency(std::string_view text, DecimalSign decimals)
 {
-    return ReadWritten(text, false);
+    return ReadWritten(text, false, decimals);
+}
+
+DecimalSign DecimalsOf(std::string_view text)
+{
+    const auto number = ReadWritten(text, false);
+    if (!number || !number->hasFraction)
+        return DecimalSign::Unknown;
+    return text[text.find_last_of(".,")] == '.' ? DecimalSign::Point : DecimalSign::Comma;
 }
 
 std::optional<int> ReadMode(std::string_view text)
@@ -253,7 +295,9 @@ std::optional<int> ReadStep(std::string_view text)
         if ((step < kStepsToChoose || TextAt(StepName, step) == "1KHz") &&
             std::abs(ReadNumber(TextAt(StepName, step)) - kilohertz) < kNear)
             return step;
-    return std::nullopt;
+    // The receiver's own steps of whole megahertz, as this program writes them.
+    const int written = IndexOf(StepName, text);
+    return written >= 0 ? std::optional(written) : std::nullopt;
 }
 
 std::optional<int> ReadOption(std::string_view text)
@@ -320,20 +364,9 @@ std::optional<int> ReadMark(std::string_view text)
 {
     if (Trimmed(text) == "*")
         return 1;
-    return CodeOf(text, {{"yes", 1},
-                         {"y", 1},
-                         {"true", 1},
-                         {"1", 1},
-                         {"x", 1},
-                         {"on", 1},
-                         {"skip", 1},
-                         {"s", 1},
-                         {"no", 0},
-                         {"n", 0},
-                         {"false", 0},
-                         {"0", 0},
-                         {"off", 0},
-                         {"", 0}});
+    if (const auto truth = TruthOf(text))
+        return *truth ? 1 : 0;
+    return CodeOf(text, {{"y", 1}, {"x", 1}, {"on", 1}, {"skip", 1}, {"s", 1}, {"n", 0}, {"off", 0}});
 }
 
 }  // namespace rqm5

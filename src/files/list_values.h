@@ -17,6 +17,13 @@ std::string Trimmed(std::string_view text);
 /// "freq mhz".
 std::string PlainWords(std::string_view text);
 
+/// The same with letters as they are without accents, and the wide letters of Japanese texts as plain ones:
+/// "FRÉQUENCE （ＭＨｚ）" is "frequence mhz".
+std::string FoldedWords(std::string_view text);
+
+/// What begins the decimals of a number.
+enum class DecimalSign { Unknown, Point, Comma };
+
 enum class Unit : std::int64_t { None = 0, Hz = 1, KHz = 1'000, MHz = 1'000'000, GHz = 1'000'000'000 };
 
 /// The unit that a word names, Unit::None for any other.
@@ -40,8 +47,13 @@ struct WrittenNumber
 /// A separator that stands more than once, or before one of the other kind, separates thousands and has to
 /// stand where thousands end. One that stands alone begins the decimals; before hertz, which have none, it
 /// separates thousands. In "145,500 kHz" it could be either, so that is no number.
+/// \param decimals  where it is known what begins them, the other sign separates thousands
 /// \return nothing for what is no number
-std::optional<WrittenNumber> ReadFrequency(std::string_view text);
+std::optional<WrittenNumber> ReadFrequency(std::string_view text,
+                                           DecimalSign decimals = DecimalSign::Unknown);
+
+/// The sign that begins the decimals of a number for certain.
+DecimalSign DecimalsOf(std::string_view text);
 
 /// The codes of a channel's fields as the receiver numbers them; nothing for a text that names none of them.
 std::optional<int> ReadMode(std::string_view text);

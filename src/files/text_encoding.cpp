@@ -15,19 +15,23 @@ namespace {
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
 
-class CodePage932
+/// Code page 932, and every other encoding in which plain bytes stand for plain characters.
+class OldEncoding
 {
   public:
-    CodePage932() : converter_(iconv_open("UTF-8", "CP932")) {}
-    ~CodePage932()
+    explicit OldEncoding(const char* name) : converter_(iconv_open("UTF-8", name)) {}
+    ~OldEncoding()
     {
         if (IsOpen())
             iconv_close(converter_);
     }
-    CodePage932(const CodePage932&) = delete;
-    CodePage932& operator=(const CodePage932&) = delete;
+    OldEncoding(const OldEncoding&) = delete;
+    OldEncoding& operator=(const OldEncoding&) = delete;
 
-    /// Only lines that are not plain are converted: no character of this code page holds a line end.
+    // iconv_open answers a failure with the value -1 in place of a pointer.
+    bool IsOpen() const { return reinterpret_cast<std::intptr_t>(converter_) != -1; }
+
+    /// Only lines that are not plain are converted: no character of these encodings holds a line end.
     std::string ToUtf8(std::string_view bytes)
     {
         std::string result;
@@ -44,16 +48,13 @@ class CodePage932
     }
 
   private:
-    // iconv_open answers a failure with the value -1 in place of a pointer.
-    bool IsOpen() const { return reinterpret_cast<std::intptr_t>(converter_) != -1; }
-
     void AppendConverted(std::string_view bytes, std::string& result)
     {
         std::string input(bytes);
         char* next = input.data();
         std::size_t left = input.size();
         while (left > 0 && (!IsOpen() || !Convert(next, left, result))) {
-            // A system without this code page still gives the plain characters.
+            // A system without this encoding still gives the plain characters.
             const bool isPlain = static_cast<unsigned char>(*next) < 0x80;
             result += isPlain ? std::string_view(next, 1) : kReplacement;
             ++next;
@@ -85,7 +86,17 @@ std::string DecodeFileText(std::string_view bytes)
 {
     if (bytes.starts_with(kByteOrderMark))
         bytes.remove_prefix(kByteOrderMark.size());
-    return IsValidUtf8(bytes) ? std::string(bytes) : CodePage932().ToUtf8(bytes);
+    return IsValidUtf8(bytes) ? std::string(bytes) : OldEncoding("CP932").ToUtf8(bytes);
+}
+
+std::string ConvertedText(std::string_view bytes, const std::string& encoding)
+{
+    return OldEncoding(encoding.c_str()).ToUtf8(bytes);
+}
+
+bool CanConvert(const std::string& encoding)
+{
+    return OldEncoding(encoding.c_str()).IsOpen();
 }
 
 }  // namespace rqm5

@@ -10,4 +10,8 @@ namespace rqm5 {
 /// U+FFFD. Never fails.
 std::string DecodeFileText(std::string_view bytes);
 
+/// The same from an encoding that somebody names, one in which plain bytes stand for plain characters.
+std::string ConvertedText(std::string_view bytes, const std::string& encoding);
+bool CanConvert(const std::string& encoding);
+
 }  // namespace rqm5

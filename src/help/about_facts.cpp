@@ -2,12 +2,12 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QSettings>
 #include <QSysInfo>
 
 #include "help/build_info.h"
 #include "image/value_tables.h"
 #include "ui/plain_text.h"
+#include "ui/settings_store.h"
 
 namespace rqm5 {
 namespace {
@@ -26,7 +26,7 @@ QString PortText(int port, const QString& device)
 
 QString SettingsPath()
 {
-    return QSettings(QStringLiteral("Tervan"), QStringLiteral("Tervan RQ-M5 Clone Utility")).fileName();
+    return SettingsStore().fileName();
 }
 
 }  // namespace

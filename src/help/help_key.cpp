@@ -3,44 +3,33 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMessageBox>
-#include <QTabWidget>
 
 #include "help/help_topics.h"
 
 namespace rqm5 {
-namespace {
 
-/// The name of the page in front, which decides where nothing that has the focus does.
-QString FrontPage(const QObject& mainWindow)
+HelpKey::HelpKey(Dialogs& dialogs, const QTabWidget& pages, QWidget& mainWindow)
+    : QObject(&mainWindow), dialogs_(dialogs), pages_(pages)
 {
-    const auto* tabs = mainWindow.findChild<QTabWidget*>(QStringLiteral("TabStrip1"));
-    const QWidget* page = tabs != nullptr ? tabs->currentWidget() : nullptr;
-    return page != nullptr ? page->objectName() : QString();
+    QApplication::instance()->installEventFilter(this);
 }
 
-QString TopicOfFocus(const QWidget* modal, const QObject& mainWindow)
+QString HelpKey::TopicOfFocus(const QWidget* modal) const
 {
     if (const auto* box = qobject_cast<const QMessageBox*>(modal))
         return MessageTopic(box->text());
     QStringList names;
     for (const QObject* holder = QApplication::focusWidget(); holder != nullptr; holder = holder->parent())
         names << holder->objectName();
-    if (modal == nullptr)
-        names << FrontPage(mainWindow);
+    if (modal == nullptr && pages_.currentWidget() != nullptr)
+        names << pages_.currentWidget()->objectName();
     return HelpTopic(names);
-}
-
-}  // namespace
-
-HelpKey::HelpKey(Dialogs& dialogs, QWidget& mainWindow) : QObject(&mainWindow), dialogs_(dialogs)
-{
-    QApplication::instance()->installEventFilter(this);
 }
 
 void HelpKey::ShowHelp()
 {
     QWidget* modal = QApplication::activeModalWidget();
-    const QString topic = TopicOfFocus(modal, *parent());
+    const QString topic = TopicOfFocus(modal);
     HelpFor(modal).ShowTopic(topic);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QTabWidget>
 #include <QWidget>
 #include <memory>
 
@@ -17,16 +18,19 @@ class HelpKey : public QObject
 
   public:
     /// Listens to the whole program for as long as the main window lives.
-    HelpKey(Dialogs& dialogs, QWidget& mainWindow);
+    /// \param pages  the one in front decides where nothing that has the focus does
+    HelpKey(Dialogs& dialogs, const QTabWidget& pages, QWidget& mainWindow);
 
     void ShowHelp();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    QString TopicOfFocus(const QWidget* modal) const;
     frmHelp& HelpFor(QWidget* modal);
 
     Dialogs& dialogs_;
+    const QTabWidget& pages_;
     std::unique_ptr<frmHelp> help_;  ///< no child of the main window, which it would always cover then
 };
 

@@ -50,8 +50,7 @@ std::string_view ShiftText(int value, RowKind kind)
 
 std::string CarrierCellText(const ChannelContents& channel)
 {
-    const bool countsFromTwo = channel.isCarrierImported && channel.carrier != kCarrierJr;
-    return CarrierText(countsFromTwo ? channel.carrier - 1 : channel.carrier);
+    return CarrierText(channel.isCarrierImported ? channel.carrier - 1 : channel.carrier);
 }
 
 }  // namespace

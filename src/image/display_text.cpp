@@ -60,12 +60,27 @@ int WidthOf(char32_t code)
     return IsIn(kWide, code) ? 2 : 1;
 }
 
+/// How many characters at the front of a text show as they are and take one column each. Nearly every text
+/// is made of nothing else.
+std::size_t PlainLength(std::string_view text)
+{
+    const auto isPlain = [](char c) { return c >= 0x20 && c < 0x7F; };
+    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isPlain) - text.begin());
+}
+
 }  // namespace
 
 std::string VisibleText(std::string_view text)
 {
+    std::size_t plain = PlainLength(text);
+    if (plain == text.size())
+        return std::string(text);
     std::string visible;
-    while (!text.empty()) {
+    for (;; plain = PlainLength(text)) {
+        visible += text.substr(0, plain);
+        text.remove_prefix(plain);
+        if (text.empty())
+            return visible;
         const Character next = FirstCharacter(text);
         if (next.code == kNoCharacter)
             visible += "\\x" + HexByte(static_cast<unsigned char>(text.front()));
@@ -75,16 +90,18 @@ std::string VisibleText(std::string_view text)
             visible += text.substr(0, next.length);
         text.remove_prefix(next.length);
     }
-    return visible;
 }
 
 int DisplayWidth(std::string_view text)
 {
-    int width = 0;
-    while (!text.empty()) {
+    std::size_t plain = PlainLength(text);
+    int width = static_cast<int>(plain);
+    for (text.remove_prefix(plain); !text.empty(); text.remove_prefix(plain)) {
         const Character next = FirstCharacter(text);
         width += WidthOf(next.code);
         text.remove_prefix(next.length);
+        plain = PlainLength(text);
+        width += static_cast<int>(plain);
     }
     return width;
 }
@@ -105,7 +122,9 @@ std::string_view CutToWidth(std::string_view text, int columns)
 std::string PadToWidth(std::string_view text, int columns)
 {
     const int missing = std::max(0, columns - DisplayWidth(text));
-    return std::string(text) + std::string(static_cast<std::size_t>(missing), ' ');
+    std::string padded;
+    padded.reserve(text.size() + static_cast<std::size_t>(missing));
+    return padded.append(text).append(static_cast<std::size_t>(missing), ' ');
 }
 
 }  // namespace rqm5

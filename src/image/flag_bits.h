@@ -8,7 +8,7 @@
 
 namespace rqm5 {
 
-/// `ExtraData`, blocks 28 to 37 (hex 1C to 25): a bit for each memory row, most significant bit first, which
+/// `ExtraData`, the ten flag blocks: a bit for each memory row, most significant bit first, which
 /// is MemEnable; the last 40 bits are 0.
 std::array<MemoryBlock, 10> ExtraData(const CloneImage& image);
 

@@ -11,6 +11,7 @@ struct Problem
     std::string text;     ///< fixed: "COM Port Error", "Communication Error", "Data Error", "File Open Error"
     std::string details;  ///< what failed, why, and what to do about it
     std::string aftermath = {};  ///< how far an operation came: what the receiver holds now; may be empty
+    std::string command = {};    ///< for a terminal: what the details advise; may be empty
 };
 
 inline constexpr char kComPortError[] = "COM Port Error";

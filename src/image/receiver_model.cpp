@@ -10,11 +10,11 @@ constexpr std::array<std::string_view, 6> kModelNames = {"RQ-M5 J", "RQ-M5 E",  
 
 constexpr std::array<Region, kRegions> kRegionTable = {{
     // clang-format off
-    // model        bands    secret carrier skipmark nocarrier cellular plan
-    {kModelNames[0], kVfoRows, false, true,   false,   false,    false,   0},
-    {kModelNames[1], kVfoRows, true,  false,  true,    false,    false,   0},
-    {kModelNames[2], 8,        false, false,  true,    true,     true,    1},
-    {kModelNames[3], 8,        false, false,  true,    true,     false,   1},
+    // model        bands    secret carrier skipmark nocarrier cellular plan steps presets fixed count
+    {kModelNames[0], kVfoRows, false, true,   false,   false,    false,   0,   0,    0,      true},
+    {kModelNames[1], kVfoRows, true,  false,  true,    false,    false,   0,   1,    1,      true},
+    {kModelNames[2], 8,        false, false,  true,    true,     true,    1,   1,    2,      false},
+    {kModelNames[3], 8,        false, false,  true,    true,     false,   1,   1,    2,      false},
     // clang-format on
 }};
 
@@ -49,14 +49,25 @@ std::string LabelAmongAll(const RowGroup& group, int index)
     return group.isPairs ? PairLabel(index) : std::string(group.rowPrefix) + std::to_string(index);
 }
 
+int RegionNumber(int model)
+{
+    return std::clamp(model, 0, kRegions - 1);
+}
+
 const Region& RegionOf(int region)
 {
-    return kRegionTable[static_cast<std::size_t>(std::clamp(region, 0, kRegions - 1))];
+    return kRegionTable[static_cast<std::size_t>(RegionNumber(region))];
 }
 
 std::span<const std::string_view> ModelNames()
 {
     return kModelNames;
+}
+
+std::string_view ModelName(int model)
+{
+    const bool hasName = model >= 0 && model < static_cast<int>(kModelNames.size());
+    return hasName ? kModelNames[static_cast<std::size_t>(model)] : std::string_view();
 }
 
 }  // namespace rqm5

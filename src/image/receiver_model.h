@@ -103,12 +103,19 @@ struct Region
     bool hidesCarrier;       ///< the memory table
     bool blocksCellular;     ///< the ranges of cellular telephones are refused
     int bandPlan;            ///< of the VFO defaults: 0 the finer one of 14 bands, 1 that of 8
+    int defaultSteps;        ///< of the VFO defaults: 0 or 1
+    int presets;             ///< which set of presets a change of the region writes
+    bool hasFixedPassCount;  ///< the count of Search Pass channels has a fixed value in the settings
 };
 
-/// Regions 0 to 3; any other number counts as the nearest of them.
+/// Regions 0 to 3; any other number counts as the nearest of them, the models of a sibling as region 3.
+int RegionNumber(int model);
 const Region& RegionOf(int region);
 
 /// The captions of the model option buttons 0 to 5, the last two of a sibling model.
 std::span<const std::string_view> ModelNames();
+
+/// One of them, empty for a number that none has.
+std::string_view ModelName(int model);
 
 }  // namespace rqm5

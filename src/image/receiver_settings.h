@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "image/receiver_model.h"
+
 namespace rqm5 {
 
 /// The set-up settings as the settings controls show them. The initial values are the defaults of a
@@ -33,13 +35,13 @@ struct ReceiverSettings
     bool barAntennaSw = true;
     bool barAntennaAm = true;
 
-    /// The count of Search Pass channels as it came with block 0050. No control shows it; models without a
+    /// The count of Search Pass channels as it came with the settings. No control shows it; models without a
     /// fixed value for that byte keep it.
     int passCount = 0x60;
 
     /// The model region 0 to 3 that tables, limits and defaults follow. The sibling model's options
     /// (4 and 5) behave like region 3.
-    int ModelNo() const { return model < 0 ? 0 : model > 3 ? 3 : model; }
+    int ModelNo() const { return RegionNumber(model); }
 
     friend bool operator==(const ReceiverSettings&, const ReceiverSettings&) = default;
 };

@@ -81,7 +81,8 @@ ReplyOutcome BlockLink::Pause(int attempts)
 
 void BlockLink::Watch(int attempts)
 {
-    // What was thrown away before the first attempt came after the block before.
+    // What was thrown away before the first attempt came in after the previous block, so it counts for that
+    // one.
     watch_.Heard(link_.LastDiscarded());
     if (attempts == 0)
         watch_.NextBlock();

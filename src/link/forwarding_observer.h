@@ -39,7 +39,9 @@ class AftermathObserver : public ForwardingObserver
 
     void Message(const Problem& problem) override
     {
-        ForwardingObserver::Message({problem.text, problem.details, aftermath_});
+        Problem told = problem;
+        told.aftermath = aftermath_;
+        ForwardingObserver::Message(told);
     }
 
   private:

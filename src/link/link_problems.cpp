@@ -21,17 +21,24 @@ QString UserName()
     return name.isEmpty() ? QStringLiteral("$USER") : name;
 }
 
-QString PermissionRemedy(const QString& device)
+/// What gives the user access to a device; empty when only the administrator of the computer can tell.
+QString PermissionCommand(const QString& device)
 {
     const QFileInfo node(DeviceNode(device));
     const QString group = node.group();
     const bool groupMayUse = node.permission(QFile::ReadGroup) && node.permission(QFile::WriteGroup);
     if (group.isEmpty() || group == QLatin1String("root") || !groupMayUse)
+        return {};
+    return QStringLiteral("sudo usermod -aG %1 %2").arg(group, UserName());
+}
+
+QString PermissionRemedy(const QString& device)
+{
+    const QString command = PermissionCommand(device);
+    if (command.isEmpty())
         return Translate("Ask the administrator of this computer for access to the device.");
-    return Translate(
-               "The group \"%1\" may use it. Add yourself with \"sudo usermod -aG %1 %2\", "
-               "then log out and in again.")
-        .arg(group, UserName());
+    return Translate("The group \"%1\" may use it. Add yourself with \"%2\", then log out and in again.")
+        .arg(QFileInfo(DeviceNode(device)).group(), command);
 }
 
 QString PresentPorts()
@@ -86,7 +93,10 @@ Problem ComPortProblem(const SerialPort& port)
     const QString reason = port.Reason().isEmpty() ? Translate("the port failed") : port.Reason();
     const QString text = device + QStringLiteral(": ") + reason + QStringLiteral(". ") +
                          PortRemedy(port.Device(), port.Fault());
-    return {kComPortError, text.toStdString()};
+    const bool isForbidden = port.Fault() == PortFault::NoPermission;
+    return {.text = kComPortError,
+            .details = text.toStdString(),
+            .command = isForbidden ? PermissionCommand(port.Device()).toStdString() : std::string()};
 }
 
 Problem CommunicationProblem(int address, bool written, int attempts, ReplyOutcome outcome)

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <algorithm>
 
+#include "image/image_change.h"
 #include "link/block_link.h"
 #include "link/forwarding_observer.h"
 #include "link/line_notes.h"
@@ -29,17 +30,10 @@ class BackupObserver : public AftermathObserver
     void Stored() override {}
 };
 
-bool HasSameBanks(const CloneImage& a, const CloneImage& b)
-{
-    for (int bank = 0; bank < kBankSizes; ++bank)
-        if (a.BankSize(bank) != b.BankSize(bank))
-            return false;
-    return true;
-}
-
 RowRange RowsToBackUp(const CloneImage& image, const CloneImage& backup, int selector)
 {
-    return TransferRows(image, selector < kBanks && !HasSameBanks(image, backup) ? kSelectAll : selector);
+    return TransferRows(
+        image, selector < kBanks && !Difference(image, backup).BankSize.empty() ? kSelectAll : selector);
 }
 
 TransferResult ReadGroup(ReceiverReader& reader, const CloneImage& image, const CloneImage& backup,
@@ -53,7 +47,7 @@ TransferResult ReadGroup(ReceiverReader& reader, const CloneImage& image, const 
     });
 }
 
-/// A backup that is not what the receiver holds is none.
+/// A backup must be what the receiver holds, digit by digit; else nothing may be overwritten.
 TransferResult RefuseUnreadable(const ReceiverReader& reader, TransferObserver& observer)
 {
     const std::vector<std::string> blocks = reader.Unreadable();
@@ -64,77 +58,91 @@ TransferResult RefuseUnreadable(const ReceiverReader& reader, TransferObserver& 
 }
 
 /// Reads blocks back, from a first one on again when replies had shifted.
-struct BackReader
+class BackReader
 {
-    const std::vector<ExpectedBlock>& expected;
-    BlockLink blocks;
-    TransferObserver& observer;
-    std::vector<BlockDifference>& differences;
-    std::size_t doubtful = 0;        ///< from here on replies may have shifted
-    std::size_t differedBefore = 0;  ///< differences in front of it
-
-    TransferResult Run()
+  public:
+    BackReader(const std::vector<ExpectedBlock>& expected, RadioLink& link, TransferObserver& observer,
+               std::vector<BlockDifference>& differences)
+        : expected_(expected), blocks_(link, observer), observer_(observer), differences_(differences)
     {
-        std::size_t begin = 0;
-        for (int shifts = 0; shifts <= kMostShifts; ++shifts) {
-            if (const TransferResult result = RunFrom(begin); result != Done)
-                return result;
-            if (!blocks.HaveRepliesShifted())
-                return observer.IsCancelled() ? Cancelled : AskAgain();
-            begin = doubtful;
-            differences.resize(differedBefore);
-        }
-        observer.Message(ShiftedReplies());
-        return Failed;
     }
 
-    TransferResult RunFrom(std::size_t begin)
-    {
-        for (std::size_t i = begin; i < expected.size(); ++i) {
-            observer.ProgressMoved(static_cast<int>(i), MemoryRowAt(expected[i].address));
-            const bool wasInDoubt = blocks.IsInDoubt();
-            MemoryBlock read;
-            if (const TransferResult result = Read(expected[i].address, read); result != Done)
-                return result;
-            if (blocks.IsInDoubt() && !wasInDoubt) {
-                doubtful = i;
-                differedBefore = differences.size();
-            }
-            if (!Agrees(expected[i], read))
-                differences.push_back({expected[i], read});
-        }
-        return Done;
-    }
+    TransferResult Run();
 
-    /// What came with characters that are no hex digits may only have been disturbed.
-    TransferResult AskAgain()
-    {
-        for (BlockDifference& difference : differences)
-            for (int ask = 0; ask < kAsks && !difference.read.IsHex(); ++ask)
-                if (const TransferResult result = Read(difference.expected.address, difference.read);
-                    result != Done)
-                    return result;
-        std::erase_if(differences, [](const BlockDifference& difference) {
-            return Agrees(difference.expected, difference.read);
-        });
-        return Done;
-    }
+  private:
+    TransferResult RunFrom(std::size_t begin);
+    TransferResult AskAgain();
+    TransferResult Read(int address, MemoryBlock& read);
 
-    TransferResult Read(int address, MemoryBlock& read)
-    {
-        const BlockResult block = blocks.Read(address, read);
-        if (block.problem)
-            observer.Message(*block.problem);
-        return block.result;
-    }
+    const std::vector<ExpectedBlock>& expected_;
+    BlockLink blocks_;
+    TransferObserver& observer_;
+    std::vector<BlockDifference>& differences_;
+    std::size_t doubtful_ = 0;        ///< from here on replies may have shifted
+    std::size_t differedBefore_ = 0;  ///< differences in front of it
 };
+
+TransferResult BackReader::Run()
+{
+    std::size_t begin = 0;
+    for (int shifts = 0; shifts <= kMostShifts; ++shifts) {
+        if (const TransferResult result = RunFrom(begin); result != Done)
+            return result;
+        if (!blocks_.HaveRepliesShifted())
+            return observer_.IsCancelled() ? Cancelled : AskAgain();
+        begin = doubtful_;
+        differences_.resize(differedBefore_);
+    }
+    observer_.Message(ShiftedReplies());
+    return Failed;
+}
+
+TransferResult BackReader::RunFrom(std::size_t begin)
+{
+    for (std::size_t i = begin; i < expected_.size(); ++i) {
+        observer_.ProgressMoved(static_cast<int>(i), MemoryRowAt(expected_[i].address));
+        const bool wasInDoubt = blocks_.IsInDoubt();
+        MemoryBlock read;
+        if (const TransferResult result = Read(expected_[i].address, read); result != Done)
+            return result;
+        if (blocks_.IsInDoubt() && !wasInDoubt) {
+            doubtful_ = i;
+            differedBefore_ = differences_.size();
+        }
+        if (!Agrees(expected_[i], read))
+            differences_.push_back({expected_[i], read});
+    }
+    return Done;
+}
+
+/// What came with characters that are no hex digits may only have been disturbed.
+TransferResult BackReader::AskAgain()
+{
+    for (BlockDifference& difference : differences_)
+        for (int ask = 0; ask < kAsks && !difference.read.IsHex(); ++ask)
+            if (const TransferResult result = Read(difference.expected.address, difference.read);
+                result != Done)
+                return result;
+    std::erase_if(differences_, [](const BlockDifference& difference) {
+        return Agrees(difference.expected, difference.read);
+    });
+    return Done;
+}
+
+TransferResult BackReader::Read(int address, MemoryBlock& read)
+{
+    const BlockResult block = blocks_.Read(address, read);
+    if (block.problem)
+        observer_.Message(*block.problem);
+    return block.result;
+}
 
 }  // namespace
 
 TransferResult ReadBack(const std::vector<ExpectedBlock>& expected, RadioLink& link,
                         TransferObserver& observer, std::vector<BlockDifference>& differences)
 {
-    BackReader reader{expected, BlockLink(link, observer), observer, differences};
+    BackReader reader(expected, link, observer, differences);
     observer.ProgressStarted(std::max(0, static_cast<int>(expected.size()) - 1));
     const TransferResult result = reader.Run();
     observer.ProgressEnded();

@@ -146,7 +146,7 @@ TransferResult ReceiverReader::Read(const TransferScope& scope)
     auto result = Done;
     if (scope.settings)
         result = ReadSettings();
-    // What is kept of a whole read only gains nothing by going on after a failure.
+    // The caller keeps only a read that is complete, so going on after a failure is of no use.
     if (scope.memory && result == Done)
         result = ReadMemory(scope.selector);
     if (!scope.memory && scope.banks && result == Done)
@@ -234,8 +234,10 @@ TransferResult ReceiverReader::AskAgain(std::set<int>& asked, bool& hasMended)
     }
     if (blocks_.HaveRepliesShifted())
         return Done;  // it cannot be told what came right
-    for (const auto& [i, block] : mended)
+    for (const auto& [i, block] : mended) {
         read_[i].block = block;
+        observer_.BlockRead(read_[i].Address(), block);
+    }
     hasMended = !mended.empty();
     return Done;
 }

@@ -8,7 +8,7 @@ namespace rqm5 {
 
 void ReplyWatch::NextBlock()
 {
-    // What comes before the first command is late by right: it is what an earlier operation left.
+    // What comes before the first command answers an earlier operation and does not count.
     if (isWatching_ && commands_ > 0 && CountReplies(heard_) > commands_)
         hasShifted_ = true;
     commands_ = 0;

@@ -8,7 +8,7 @@ namespace rqm5 {
 namespace {
 
 constexpr int kWordsPerBlock = 8;
-/// Block 0120 behind the three sizes: the words 100, 100, 10 and 23, and a zero word.
+/// The last block of sizes, behind its three: the words 100, 100, 10 and 23, and a zero word.
 constexpr std::string_view kFixedWords = "640064000A0017000000";
 
 void AppendNumbers(std::vector<std::string>& labels, int count)
@@ -53,7 +53,7 @@ RowRange GroupRows(const CloneImage& image, int selector)
 
 RowRange TransferRows(const CloneImage& image, int selector)
 {
-    // The fixed ranges are taken from index 49 on, and 49 matches none of them.
+    // The protocol has no range for bank 49 of its own, so only its channel 0 is moved.
     return selector == kBanks - 1 ? RowRange{0, 1} : GroupRows(image, selector);
 }
 

@@ -8,6 +8,7 @@
 
 namespace rqm5 {
 class BankMoveOffer;
+class BankStrip;
 class FillBar;
 }  // namespace rqm5
 
@@ -28,8 +29,7 @@ class BankPage : public QWidget
 
     /// Checks the box that is being typed into as if the user had left it.
     /// \return false when what was typed was refused with a message: what made the user leave the box shall
-    /// not
-    ///         go on then, and the box, which holds its last accepted size again, has the focus
+    /// not go on then, and the box, which holds its last accepted size again, has the focus
     bool CommitPending();
 
     /// Gives the box of a bank's size the focus.
@@ -66,6 +66,7 @@ class BankPage : public QWidget
     std::array<QLineEdit*, kBanks> txtBank_{};
     std::array<QCheckBox*, kLinkFlags> chkLink_{};
     std::array<FillBar*, kBanks> barFill_{};
+    BankStrip* picBanks_;
     BankMoveOffer* offer_;
     QLabel* lblChannels_;
     QLabel* lblNoBank_;

@@ -75,6 +75,7 @@ void CellDelegate::setModelData(QWidget* editor, QAbstractItemModel* /*model*/,
                                 const QModelIndex& index) const
 {
     const CellEdit before = EditOf(index);
+    enteredRow_ = model_.MemoryRow(index.row());
     CellInput input;
     bool isSame = true;
     if (const auto* list = qobject_cast<QComboBox*>(editor)) {
@@ -103,7 +104,9 @@ void CellDelegate::Commit(QWidget* editor, int rows, int columns)
 {
     isRefused_ = false;
     emit commitData(editor);
-    emit closeEditor(editor, NoHint);
+    // A table that has lost rows to a filter has closed it already.
+    if (!editor->isHidden())
+        emit closeEditor(editor, NoHint);
     if (!isRefused_)
         emit Entered(rows, columns);
 }

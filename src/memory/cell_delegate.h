@@ -28,6 +28,9 @@ class CellDelegate : public QStyledItemDelegate
 
     void SetWriter(Writer writer) { writer_ = std::move(writer); }
 
+    /// The memory row of the cell that was last entered.
+    int EnteredRow() const { return enteredRow_; }
+
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
@@ -48,6 +51,7 @@ class CellDelegate : public QStyledItemDelegate
     const MemoryTableModel& model_;
     Writer writer_;
     mutable bool isRefused_ = false;
+    mutable int enteredRow_ = -1;
 };
 
 }  // namespace rqm5

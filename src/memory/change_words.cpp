@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "image/display_text.h"
-#include "image/number_text.h"
+#include "memory/row_fields.h"
 #include "memory/row_names.h"
 #include "settings/setting_texts.h"
 
@@ -15,11 +15,6 @@ using Lines = std::vector<std::string>;
 std::string FromTo(const std::string& from, const std::string& to)
 {
     return from + " -> " + to;
-}
-
-std::string OnOff(bool value)
-{
-    return value ? "on" : "off";
 }
 
 std::string Quoted(const std::string& text)
@@ -38,33 +33,13 @@ std::string Summary(const ChannelContents& contents, RowKind kind)
     return isEmpty ? "empty" : Text(contents, kind, kFrequency) + " " + Text(contents, kind, kMode);
 }
 
-/// The value of a code, for what two cells do not tell apart.
-int CodeOf(const ChannelContents& contents, Column column)
-{
-    for (const CodeField& field : kCodeFields)
-        if (field.column == column)
-            return contents.*field.value;
-    return 0;
-}
-
 void AddFields(const ChannelContents& a, const ChannelContents& b, RowKind kind, Lines& changes)
 {
-    const bool skipDiffers = a.IsSkipped() != b.IsSkipped();
-    for (const Column column : kColumns) {
-        if (column == kNote)
-            continue;
-        const std::string name = std::string(kColumnNames[column]) + " ";
-        const bool isSkipAlone = column == kOption && skipDiffers;
-        const int from = CodeOf(a, column);
-        const int to = CodeOf(b, column);
-        if (Text(a, kind, column) != Text(b, kind, column))
-            changes.push_back(name + FromTo(Text(a, kind, column), Text(b, kind, column)));
-        else if (from != to && !isSkipAlone)  // a shift byte of no meaning shows as "OFF", too
-            changes.push_back(name + FromTo(FormatMegahertz(from * kHertzPerMegahertz),
-                                            FormatMegahertz(to * kHertzPerMegahertz)));
-    }
-    if (skipDiffers)
-        changes.push_back("Skip " + FromTo(OnOff(a.IsSkipped()), OnOff(b.IsSkipped())));
+    // Note and flag are items of their own.
+    const FieldPairs fields = CompareFields({a, {}}, {b, {}}, kind);
+    for (int field = 0; field < kRowFields; ++field)
+        if (const FieldPair& pair = fields.at(static_cast<std::size_t>(field)); pair.differs)
+            changes.push_back(std::string(RowFieldName(field)) + " " + FromTo(pair.first, pair.second));
 }
 
 void AddContents(const ChangedItem<ChannelContents>& item, RowKind kind, Lines& changes)

@@ -1,5 +1,7 @@
 #include "memory/channel_delegate.h"
 
+#include <QPainter>
+
 #include "ui/off_colour.h"
 
 namespace rqm5 {
@@ -17,6 +19,19 @@ void ChannelDelegate::initStyleOption(QStyleOptionViewItem* option, const QModel
     for (const auto group : {QPalette::Active, QPalette::Inactive})
         option->palette.setColor(group, QPalette::HighlightedText,
                                  OffColour(option->palette, QPalette::Highlight, group));
+}
+
+void ChannelDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                            const QModelIndex& index) const
+{
+    QStyleOptionViewItem cell = option;
+    cell.state &= ~QStyle::State_HasFocus;
+    CellDelegate::paint(painter, cell, index);
+    if ((option.state & QStyle::State_HasFocus) == 0)
+        return;
+    const bool isSelected = (option.state & QStyle::State_Selected) != 0;
+    painter->setPen(option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text));
+    painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
 }
 
 }  // namespace rqm5

@@ -5,7 +5,7 @@
 namespace rqm5 {
 
 /// Delete and insert work on memory rows 0 to 199 by the number of the table row alone, whatever group is
-/// shown: owners know these two so, and rows that lie elsewhere stay where they are.
+/// shown. Deliberate: these two have always worked on these rows, and owners count on it.
 inline constexpr int kShiftedRows = 200;
 
 void ClearRows(CloneImage& image, const RowList& rows);

@@ -195,4 +195,9 @@ std::vector<int> FindChannels(const CloneImage& image, std::string_view query)
     return rows;
 }
 
+bool HoldsText(std::string_view text, std::string_view part)
+{
+    return Folded(text).find(Folded(part)) != std::u32string::npos;
+}
+
 }  // namespace rqm5

@@ -12,4 +12,7 @@ namespace rqm5 {
 /// those that the channel uses come first. Letters match in any case. Empty for a query without a word.
 std::vector<int> FindChannels(const CloneImage& image, std::string_view query);
 
+/// True when a text stands in another one, letters in any case.
+bool HoldsText(std::string_view text, std::string_view part);
+
 }  // namespace rqm5

@@ -2,6 +2,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <algorithm>
 
 #include "memory/channel_operations.h"
 #include "memory/fill_dialog.h"
@@ -45,7 +46,7 @@ bool ClipboardCommands::CanPaste()
 RowList ClipboardCommands::RowsFrom(int row) const
 {
     const RowRange group = selection_.Group();
-    return RowsOf(RowRange{row, group.first + group.count - row});
+    return RowsOf(RowRange{row, std::max(0, group.first + group.count - row)});
 }
 
 void ClipboardCommands::mnuEditCopy_Click()
@@ -91,9 +92,8 @@ void ClipboardCommands::Take(const QString& operation, const PastePlan& plan, bo
     selection_.Table().SelectRows(rows, column);
 }
 
-void ClipboardCommands::PasteFrom(const QMimeData& data, int row)
+void ClipboardCommands::Paste(const std::vector<ListedChannel>& channels, int row)
 {
-    const std::vector<ListedChannel> channels = ChannelsOf(data);
     if (channels.empty()) {
         TellNothing(tr("Paste"));
         return;
@@ -105,12 +105,14 @@ void ClipboardCommands::PasteFrom(const QMimeData& data, int row)
 void ClipboardCommands::mnuEditPaste_Click()
 {
     if (selection_.Current() >= 0)
-        PasteFrom(Clipboard(), selection_.Top());
+        Paste(ChannelsOf(Clipboard()), selection_.Top());
 }
 
 void ClipboardCommands::Drop(const QMimeData& data, int row)
 {
-    PasteFrom(data, row);
+    // The preview comes when the other program's drag has ended.
+    QMetaObject::invokeMethod(
+        this, [this, channels = ChannelsOf(data), row] { Paste(channels, row); }, Qt::QueuedConnection);
 }
 
 void ClipboardCommands::mnuEditPasteSpecial_Click()

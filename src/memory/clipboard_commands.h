@@ -32,7 +32,7 @@ class ClipboardCommands : public QObject
 
   private:
     RowList RowsFrom(int row) const;
-    void PasteFrom(const QMimeData& data, int row);
+    void Paste(const std::vector<ListedChannel>& channels, int row);
     void Take(const QString& operation, const PastePlan& plan, bool isShown);
     void TellNothing(const QString& title);
 

@@ -62,6 +62,8 @@ void MemoryPage::ConnectTable()
     connect(table_, &MemoryTable::RowChosen, this, &MemoryPage::Modify);
     connect(actions_, &RowActions::ModifyRequested, this, &MemoryPage::Modify);
     connect(table_, &MemoryTable::HintChanged, this, &MemoryPage::HintChanged);
+    connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &MemoryPage::SelectionChanged);
     connect(rows_, &RowCommands::Noted, this, &MemoryPage::Noted);
     connect(table_, &MemoryTable::InsertPressed, rows_, &RowCommands::cmbInsert_Click);
     connect(table_, &MemoryTable::DeletePressed, rows_, &RowCommands::cmbDelete_Click);
@@ -169,9 +171,9 @@ void MemoryPage::GoToFirstRow()
     table_->SelectTableRow(1);
 }
 
-bool MemoryPage::IsFiltered() const
+RowFilter MemoryPage::Filter() const
 {
-    return filter_->IsOn();
+    return filter_->Filter();
 }
 
 /// What is gone to is shown, whatever the filter leaves.
@@ -197,12 +199,15 @@ void MemoryPage::GoToRows(const std::vector<int>& rows)
     };
     if (rows.empty())
         return;
-    if (!holdsAll(Selector())) {
+    if (!selection_.Group().Contains(rows.front())) {
         const int smallest = SelectorOfRow(Image(), rows.front());
         SelectGroup(holdsAll(smallest) ? smallest : kSelectAll);
     }
-    ShowAllIfHidden(rows);
-    table_->SelectRows(rows, 0);
+    RowList here;
+    std::ranges::copy_if(rows, std::back_inserter(here),
+                         [group = selection_.Group()](int row) { return group.Contains(row); });
+    ShowAllIfHidden(here);
+    table_->SelectRows(here, 0);
 }
 
 void MemoryPage::FocusSelector()

@@ -39,14 +39,18 @@ class MemoryPage : public QWidget
     void GoToFirstRow();
 
     /// True while a filter hides rows of the group: what goes by table rows is off then.
-    bool IsFiltered() const;
+    bool IsFiltered() const { return Filter() != RowFilter::All; }
+    RowFilter Filter() const;
 
-    /// Selects memory rows: in the group shown when that holds all of them, else in the smallest group that
-    /// does.
+    /// Selects memory rows: in the group shown when that holds the first of them, else in the smallest group
+    /// that holds all.
     void GoToRows(const std::vector<int>& rows);
 
     /// Selects a memory row in its own bank or group.
     void GoToRow(int memoryRow);
+
+    /// The selected memory rows, rising.
+    std::vector<int> SelectedRows() const { return selection_.Rows(); }
 
     FindBar& Finder() { return *finder_; }
 
@@ -66,6 +70,7 @@ class MemoryPage : public QWidget
     void WriteRequested();
     void ModifyRequested(int memoryRow);  ///< memory row from 0
     void ModifySeveralRequested(const std::vector<int>& memoryRows);
+    void SelectionChanged();
     void Noted(const QString& text);  ///< what an operation has done out of sight; empty for nothing
 
     /// What the status bar says of the table with the focus is another text now.

@@ -2,8 +2,10 @@
 
 #include <QDrag>
 #include <QDropEvent>
+#include <QPainter>
 #include <QToolTip>
 #include <algorithm>
+#include <utility>
 
 #include "memory/channel_delegate.h"
 #include "memory/table_clipboard.h"
@@ -26,9 +28,9 @@ MemoryTable::MemoryTable(const CloneImage& image, QWidget* parent)
     setSelectionMode(ExtendedSelection);
     setEditTriggers(EditKeyPressed | AnyKeyPressed);
     setAcceptDrops(true);
-    setDropIndicatorShown(true);
+    setDropIndicatorShown(false);  // it is as short as a cell
     setDragDropOverwriteMode(false);
-    connect(cells_, &CellDelegate::Entered, this, &MemoryTable::MoveCell);
+    connect(cells_, &CellDelegate::Entered, this, &MemoryTable::LeaveCell);
     ChangeFont(*this);
 }
 
@@ -47,12 +49,32 @@ void MemoryTable::Refresh(int selector, RowFilter filter)
     const std::vector<int> before = model_.Rows();
     const bool isSameGroup = selector == model_.Selector();
     const int row = selected.size() > 1 && !isSameGroup ? selected.front() : CurrentTableRow();
+    const std::vector<int> selectedRows = SelectedRows();
+    const int current = CurrentRow();
+    const int column = currentIndex().column();
     model_.ShowGroup(selector, filter);
+    // The current row itself may have been taken out of the selection.
     const bool isSelected = isSameGroup && before == model_.Rows() && currentIndex().isValid() &&
-                            selectionModel()->isRowSelected(currentIndex().row(), QModelIndex());
-    if (!isSelected)
+                            selectionModel()->hasSelection();
+    if (isSameGroup && model_.IsFiltered() && !isSelected)
+        SelectAgain(selectedRows, current, row, column);
+    else if (!isSelected)
         SelectTableRow(row);
     ShowPlace();
+}
+
+/// After an edit that may have changed which rows a filter leaves: selects what is still shown of the rows
+/// that were selected; when nothing is, the place in the table stays.
+void MemoryTable::SelectAgain(const std::vector<int>& rows, int current, int tableRow, int column)
+{
+    if (!SelectRows(rows, column))
+        SelectTableRow(tableRow);
+    const int place = PlaceOf(current);
+    const QModelIndex cell =
+        place >= 0 ? model_.index(place, column) : currentIndex().siblingAtColumn(column);
+    if (cell.isValid())
+        selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
+    scrollTo(cell);
 }
 
 /// The data row of a memory row, -1 when it is not shown.
@@ -80,9 +102,7 @@ void MemoryTable::ShowPlace()
 {
     const int row = CurrentTableRow();
     const QString place = row > 0 ? model_.Place(row - 1) : QString();
-    const QString hint =
-        tr("Memory channels; grey ones are disabled. Enter or a double click edits the selected ones, "
-           "typing edits one cell.");
+    const QString hint = tr("Enter edits the rows, typing a cell");
     const QString shown = place.isEmpty() ? hint : place;
     if (shown == statusTip())
         return;
@@ -90,7 +110,7 @@ void MemoryTable::ShowPlace()
     emit HintChanged();
 }
 
-void MemoryTable::SelectRows(const std::vector<int>& rows, int column)
+bool MemoryTable::SelectRows(const std::vector<int>& rows, int column)
 {
     QItemSelection selection;
     QModelIndex first;
@@ -104,10 +124,11 @@ void MemoryTable::SelectRows(const std::vector<int>& rows, int column)
             first = cell;
     }
     if (!first.isValid())
-        return;
+        return false;
     selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     scrollTo(first);
+    return true;
 }
 
 std::vector<int> MemoryTable::SelectedRows() const
@@ -128,10 +149,13 @@ void MemoryTable::SetCellWriter(CellDelegate::Writer writer)
     cells_->SetWriter(std::move(writer));
 }
 
-void MemoryTable::MoveCell(int rows, int columns)
+void MemoryTable::LeaveCell(int rows, int columns)
 {
     if (model_.rowCount() == 0)
-        return;  // a filter may have taken the row away
+        return;
+    // When a filter has taken the row away, the one behind it stands there already.
+    if (PlaceOf(cells_->EnteredRow()) < 0)
+        rows = std::min(rows, 0);
     const int row = std::clamp(currentIndex().row() + rows, 0, model_.rowCount() - 1);
     const int column = std::clamp(currentIndex().column() + columns, 0, model_.columnCount() - 1);
     selectionModel()->setCurrentIndex(model_.index(row, column),
@@ -183,9 +207,10 @@ void MemoryTable::startDrag(Qt::DropActions /*actions*/)
     const std::vector<int> rows = SelectedRows();
     if (rows.empty())
         return;
-    QDrag drag(this);
-    drag.setMimeData(ClipOf(image_, rows));
-    drag.exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
+    // Another program asks for the data after the drop: Qt keeps the drag as long as that takes.
+    auto* drag = new QDrag(this);
+    drag->setMimeData(ClipOf(image_, rows));
+    drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
 }
 
 bool MemoryTable::IsOwnMove(const QDropEvent& event) const
@@ -202,13 +227,16 @@ bool MemoryTable::CanTake(const QDropEvent& event) const
     return IsOwnMove(event) ? model_.Selector() != kSelectAll : MayHoldChannels(*event.mimeData());
 }
 
-/// The memory row under a place, or the one that something is dropped before there.
-int MemoryTable::RowAt(const QPoint& position) const
+/// The memory row that rows are moved to before, or that a list is written from on.
+int MemoryTable::RowOfDrop(const QDropEvent& event) const
 {
+    const QPoint position = event.position().toPoint();
     const QModelIndex index = indexAt(position);
+    const int last = model_.Rows().back();
     if (!index.isValid())
-        return model_.Rows().back() + 1;
-    return model_.MemoryRow(index.row()) + (position.y() > visualRect(index).center().y() ? 1 : 0);
+        return IsOwnMove(event) ? last + 1 : last;
+    const int row = model_.MemoryRow(index.row()) + (position.y() > visualRect(index).center().y() ? 1 : 0);
+    return IsOwnMove(event) ? row : std::min(row, last);
 }
 
 void MemoryTable::dragEnterEvent(QDragEnterEvent* event)
@@ -222,25 +250,50 @@ void MemoryTable::dragMoveEvent(QDragMoveEvent* event)
     ChannelTable::dragMoveEvent(event);
     event->setDropAction(IsOwnMove(*event) ? Qt::MoveAction : Qt::CopyAction);
     event->setAccepted(CanTake(*event));
+    ShowDropLine(event->isAccepted() ? std::optional(RowOfDrop(*event)) : std::nullopt);
+}
+
+void MemoryTable::dragLeaveEvent(QDragLeaveEvent* event)
+{
+    ChannelTable::dragLeaveEvent(event);
+    ShowDropLine(std::nullopt);
+}
+
+void MemoryTable::ShowDropLine(std::optional<int> row)
+{
+    if (std::exchange(dropRow_, row) != row)
+        viewport()->update();
+}
+
+void MemoryTable::paintEvent(QPaintEvent* event)
+{
+    ChannelTable::paintEvent(event);
+    if (!dropRow_ || model_.Rows().empty())
+        return;
+    constexpr int kThickness = 3;
+    const int last = model_.rowCount() - 1;
+    const int place = PlaceOf(*dropRow_);
+    const int top = place >= 0 ? rowViewportPosition(place) : rowViewportPosition(last) + rowHeight(last);
+    QPainter(viewport()).fillRect(0, std::max(0, top - 2), viewport()->width(), kThickness, palette().text());
 }
 
 void MemoryTable::dropEvent(QDropEvent* event)
 {
     stopAutoScroll();
     setState(NoState);
-    viewport()->update();
+    ShowDropLine(std::nullopt);
     if (!CanTake(*event)) {
         event->ignore();
         return;
     }
-    const int row = RowAt(event->position().toPoint());
+    const int row = RowOfDrop(*event);
     const bool isMove = IsOwnMove(*event);
     event->setDropAction(isMove ? Qt::MoveAction : Qt::CopyAction);
     event->accept();
     if (isMove)
         emit RowsDragged(row);
     else
-        emit Dropped(*event->mimeData(), std::min(row, model_.Rows().back()));
+        emit Dropped(*event->mimeData(), row);
 }
 
 }  // namespace rqm5

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "memory/cell_delegate.h"
 #include "memory/memory_table_model.h"
 #include "ui/channel_table.h"
@@ -33,8 +35,8 @@ class MemoryTable : public ChannelTable
     void SelectMemoryRow(int memoryRow);
 
     /// Selects those memory rows that are shown and makes the first of them current, with the cell cursor in
-    /// a column.
-    void SelectRows(const std::vector<int>& rows, int column);
+    /// a column. \return false when none is shown
+    bool SelectRows(const std::vector<int>& rows, int column);
 
     /// The selected memory rows, rising, and the current one; -1 when the group is empty.
     std::vector<int> SelectedRows() const;
@@ -68,20 +70,25 @@ class MemoryTable : public ChannelTable
     void startDrag(Qt::DropActions actions) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
   private:
     int PlaceOf(int memoryRow) const;
+    void SelectAgain(const std::vector<int>& rows, int current, int tableRow, int column);
     void ShowPlace();
-    void MoveCell(int rows, int columns);
-    int RowAt(const QPoint& position) const;
+    void LeaveCell(int rows, int columns);
+    int RowOfDrop(const QDropEvent& event) const;
     bool IsOwnMove(const QDropEvent& event) const;
     bool CanTake(const QDropEvent& event) const;
+    void ShowDropLine(std::optional<int> row);
 
     const CloneImage& image_;
     MemoryTableModel model_;
     CellDelegate* cells_;
+    std::optional<int> dropRow_;  ///< something would be dropped before this memory row
 };
 
 }  // namespace rqm5

@@ -8,6 +8,7 @@
 #include <QShortcut>
 #include <QShowEvent>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "memory/bank_layout.h"
 #include "memory/modify_form.h"
@@ -83,9 +84,10 @@ QPushButton* dlgModify::AddStepButton(const char* name, const QString& text, con
     return button;
 }
 
-bool dlgModify::OpenMemory(int row, int selector)
+bool dlgModify::OpenMemory(int row, int selector, RowFilter filter)
 {
     selector_ = selector;
+    filter_ = filter;
     ShowRow({RowKind::Memory, row});
     return Run();
 }
@@ -149,9 +151,9 @@ void dlgModify::ShowForm(const QString& name, const SharedFields& shown)
     shift_.checked = QString::fromStdString(shown.fields.shiftFrequency);
     for (QPushButton* button : {PreviousButton_, NextButton_, OKNextButton_})
         button->setVisible(!IsSeveral());
-    PreviousButton_->setEnabled(IsNeighbour(-1));
-    NextButton_->setEnabled(IsNeighbour(1));
-    OKNextButton_->setEnabled(IsNeighbour(1));
+    PreviousButton_->setEnabled(Neighbour(-1).has_value());
+    NextButton_->setEnabled(Neighbour(1).has_value());
+    OKNextButton_->setEnabled(Neighbour(1).has_value());
 }
 
 QString dlgModify::RowName() const
@@ -170,25 +172,34 @@ QString dlgModify::RowName() const
     return tr("%1  CH %2").arg(QString::fromStdString(SelectorText(selector)), label);
 }
 
-/// The rows that Previous and Next go through.
-RowRange dlgModify::Neighbours() const
+/// The rows that Previous and Next go through: those that the table shows now.
+RowList dlgModify::Neighbours() const
 {
     const CloneImage& image = document_.Image();
-    return row_.IsMemory() ? GroupRows(image, selector_) : RowRange{0, RegionOf(image.ModelNo()).vfoBands};
+    return row_.IsMemory() ? FilterGroup(image, selector_, filter_).rows
+                           : RowsOf(RowRange{0, RegionOf(image.ModelNo()).vfoBands});
 }
 
-bool dlgModify::IsNeighbour(int step) const
+/// The next row in a direction; the row itself need not be shown any more.
+std::optional<int> dlgModify::Neighbour(int step) const
 {
-    return !IsSeveral() && Neighbours().Contains(row_.row + step);
+    const RowList rows = IsSeveral() ? RowList() : Neighbours();
+    const auto place = std::ranges::lower_bound(rows, step > 0 ? row_.row + 1 : row_.row);
+    if (step > 0)
+        return place != rows.end() ? std::optional(*place) : std::nullopt;
+    return place != rows.begin() ? std::optional(*std::prev(place)) : std::nullopt;
 }
 
 /// \param storesAlways  else a row that nobody touched stays as it is
 void dlgModify::GoOn(int step, bool storesAlways)
 {
-    if (!IsNeighbour(step) || ((storesAlways || isHeld_ || IsTouched()) && !Store()))
+    if (!Neighbour(step) || ((storesAlways || isHeld_ || IsTouched()) && !Store()))
         return;
-    ShowRow({row_.kind, row_.row + step});
-    emit RowShown(row_);
+    // What was stored may have hidden every other row from a filter.
+    const std::optional<int> next = Neighbour(step);
+    ShowRow({row_.kind, next.value_or(row_.row)});
+    if (next)
+        emit RowShown(row_);
     FocusFrequency();
 }
 

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "document/document.h"
+#include "memory/row_filter.h"
 #include "memory/several_rows.h"
 #include "ui/dialogs.h"
 
@@ -26,8 +27,9 @@ class dlgModify : public QDialog
     /// Lets the user edit a memory row (from 0).
     /// \param selector  the bank selector's index: names the row, and the Search Pass list has a rule of
     ///                  its own
+    /// \param filter    the rows of the group that Previous and Next go through
     /// \return true when the row was stored
-    bool OpenMemory(int row, int selector);
+    bool OpenMemory(int row, int selector, RowFilter filter = RowFilter::All);
 
     /// Lets the user edit a VFO row 0 to 13. Bands that the model region does not have do not open.
     /// \return true when the row was stored
@@ -61,8 +63,8 @@ class dlgModify : public QDialog
     bool Run();
     void ShowRow(RowId row);
     void ShowForm(const QString& name, const SharedFields& shown);
-    RowRange Neighbours() const;
-    bool IsNeighbour(int step) const;
+    RowList Neighbours() const;
+    std::optional<int> Neighbour(int step) const;
     void GoOn(int step, bool storesAlways);
     bool IsTouched() const;
     bool Store();
@@ -91,6 +93,7 @@ class dlgModify : public QDialog
     SharedFields shown_;  ///< what the form held when it was opened
     bool isHeld_ = false;
     int selector_ = 0;
+    RowFilter filter_ = RowFilter::All;
     ChannelFields Grid1Data_;
     ChannelFields Grid2Data_;
     Entry frequency_;

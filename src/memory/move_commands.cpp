@@ -9,7 +9,7 @@ MoveCommands::MoveCommands(const RowSelection& selection, Dialogs& dialogs, QWid
 {
 }
 
-/// Runs a move, unless nothing changes its place; what was selected stays so where it went.
+/// Runs a move, unless every row would stay in its place; the moved rows stay selected.
 void MoveCommands::MoveTo(const std::function<RowList(CloneImage&)>& move)
 {
     const RowList rows = selection_.Rows();

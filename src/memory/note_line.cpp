@@ -4,19 +4,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSettings>
 
 #include "files/safe_notes.h"
+#include "ui/settings_store.h"
 
 namespace rqm5 {
 namespace {
 
 const QString kChoice = QStringLiteral("Editor/SafeNotes");
-
-QSettings Store()
-{
-    return QSettings(QStringLiteral("Tervan"), QStringLiteral("Tervan RQ-M5 Clone Utility"));
-}
 
 }  // namespace
 
@@ -30,7 +25,7 @@ NoteLine::NoteLine(QLineEdit& note)
     cmbSafeNote_->setAutoDefault(false);
     cmbSafeNote_->setToolTip(
         tr("Put semicolons for commas and apostrophes for quotes, in this note and all that follow"));
-    cmbSafeNote_->setChecked(Store().value(kChoice, false).toBool());
+    cmbSafeNote_->setChecked(SettingsStore().value(kChoice, false).toBool());
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(lblNoteHint_, 1);
@@ -77,7 +72,7 @@ void NoteLine::MakeSafe()
 
 void NoteLine::cmbSafeNote_Click()
 {
-    Store().setValue(kChoice, cmbSafeNote_->isChecked());
+    SettingsStore().setValue(kChoice, cmbSafeNote_->isChecked());
     wasMended_ = wasMended_ && cmbSafeNote_->isChecked();
     if (cmbSafeNote_->isChecked() && !NoteSurvives(txtNote_.text().toStdString()))
         MakeSafe();

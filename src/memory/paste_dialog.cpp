@@ -10,7 +10,7 @@
 namespace rqm5 {
 namespace {
 
-constexpr QSize kUsualSize(760, 440);
+constexpr QSize kUsualSize(880, 440);
 constexpr QSize kWindowFrame(8, 36);
 
 }  // namespace

@@ -1,11 +1,16 @@
 #include "memory/paste_plan.h"
 
 #include <algorithm>
+#include <set>
 
 #include "memory/channel_editor.h"
+#include "memory/named_rows.h"
+#include "memory/receiver_range.h"
 
 namespace rqm5 {
 namespace {
+
+constexpr int kOptionUnit = 16;
 
 bool HoldsAnything(const Channel& row)
 {
@@ -27,6 +32,27 @@ void Settle(const CloneImage& image, const ListedChannel& comes, PlannedRow& pla
     } else {
         planned.refusal = "the row holds no channel, and no frequency comes";
     }
+}
+
+/// The same where a list names the row: what it does not say of the channel there stays as it is.
+void SettleNamed(const CloneImage& image, const ListedChannel& comes, PlannedRow& planned)
+{
+    if (!image.MemData(planned.row).HasChannel()) {
+        Settle(image, comes, planned);
+        return;
+    }
+    const Channel& present = image.MemData(planned.row);
+    Channel& channel = planned.channel;
+    channel = present;
+    CopyParts(comes.channel, comes.given, channel);
+    // A value that stays is shown as it was.
+    if (channel.option / kOptionUnit == present.option / kOptionUnit)
+        channel.isSecretEdited = present.isSecretEdited;
+    if (channel.IsSkipped() == present.IsSkipped())
+        channel.option = static_cast<std::uint8_t>(channel.option / kOptionUnit * kOptionUnit +
+                                                   present.option % kOptionUnit);
+    if (channel.carrier == present.carrier)
+        channel.isCarrierImported = present.isCarrierImported;
 }
 
 void Refuse(PlannedRow& planned, Verdict verdict)
@@ -109,6 +135,54 @@ PastePlan PlanPaste(const CloneImage& image, const RowList& rows, const std::vec
             planned.refusal = "there is no row left for it";
         if (planned.IsTaken())
             Settle(image, comes, planned);
+        plan.push_back(std::move(planned));
+    }
+    Judge(image, plan);
+    return plan;
+}
+
+PastePlan PlanOn(const CloneImage& image, const RowList& rows, const std::vector<ListedChannel>& channels)
+{
+    PastePlan plan;
+    plan.reserve(channels.size());
+    auto next = rows.begin();
+    for (const ListedChannel& comes : channels) {
+        PlannedRow planned{.source = comes.source,
+                           .channel = comes.channel,
+                           .refusal = comes.refusal,
+                           .remark = comes.remark};
+        if (planned.IsTaken() && comes.given.Has(kFrequency) && !IsInReceiverRange(comes.channel.frequency))
+            Refuse(planned, Verdict::OutOfRange);
+        if (planned.IsTaken() && next == rows.end())
+            planned.refusal = "there is no row left for it";
+        if (planned.IsTaken()) {
+            planned.row = *next++;
+            Settle(image, comes, planned);
+        }
+        plan.push_back(std::move(planned));
+    }
+    Judge(image, plan);
+    return plan;
+}
+
+PastePlan PlanNamed(const CloneImage& image, const std::vector<ListedChannel>& channels)
+{
+    PastePlan plan;
+    plan.reserve(channels.size());
+    std::set<int> taken;
+    for (const ListedChannel& comes : channels) {
+        PlannedRow planned{.source = comes.source,
+                           .channel = comes.channel,
+                           .refusal = comes.refusal,
+                           .remark = comes.remark};
+        const NamedRow named = FindNamedRow(image, comes.place);
+        planned.row = named.row == NamedRow::kNone ? PlannedRow::kNowhere : named.row;
+        if (planned.refusal.empty())
+            planned.refusal = named.refusal;
+        if (planned.IsTaken() && !taken.insert(planned.row).second)
+            planned.refusal = "the list names this row twice";
+        if (planned.IsTaken())
+            SettleNamed(image, comes, planned);
         plan.push_back(std::move(planned));
     }
     Judge(image, plan);

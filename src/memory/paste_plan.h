@@ -36,6 +36,13 @@ std::vector<ListedChannel> Listed(const std::vector<Channel>& channels);
 /// holds. Limits are those of the editor.
 PastePlan PlanPaste(const CloneImage& image, const RowList& rows, const std::vector<ListedChannel>& channels);
 
+/// The same for a long list: what cannot be taken takes no row, so no gaps are left.
+PastePlan PlanOn(const CloneImage& image, const RowList& rows, const std::vector<ListedChannel>& channels);
+
+/// Plans to write channels into the rows that their list names. What a list does not say of a channel that is
+/// there already stays as it is.
+PastePlan PlanNamed(const CloneImage& image, const std::vector<ListedChannel>& channels);
+
 /// Plans to write chosen parts of channels into the channels that rows hold, over and over when there are
 /// more rows. Rows without a channel are passed over unless the frequency is among the parts.
 PastePlan PlanParts(const CloneImage& image, const RowList& rows, const std::vector<ListedChannel>& channels,

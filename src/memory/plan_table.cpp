@@ -7,6 +7,7 @@
 #include <QPalette>
 #include <QTableView>
 #include <algorithm>
+#include <utility>
 
 #include "image/display_text.h"
 #include "memory/row_names.h"
@@ -20,6 +21,21 @@ constexpr const char* kTitles[kPlanColumns] = {QT_TRANSLATE_NOOP("rqm5::PlanTabl
                                                QT_TRANSLATE_NOOP("rqm5::PlanTableModel", "Holds now"),
                                                QT_TRANSLATE_NOOP("rqm5::PlanTableModel", "What comes"),
                                                QT_TRANSLATE_NOOP("rqm5::PlanTableModel", "Remark")};
+
+constexpr int kRowsMeasured = 100;
+
+/// The columns in front are as wide as what stands in them, within bounds: reasons are long, and get the
+/// rest.
+void FitColumns(QTableView& table)
+{
+    const int letter = table.fontMetrics().averageCharWidth();
+    const QAbstractItemView& cells = table;
+    for (const auto& [column, mostLetters] : {std::pair(kTarget, 24), {kPresent, 34}, {kComing, 34}}) {
+        const int title = table.horizontalHeader()->sectionSizeHint(column);
+        const int wanted = std::max(title, cells.sizeHintForColumn(column));
+        table.setColumnWidth(column, std::min(wanted, mostLetters * letter));
+    }
+}
 
 }  // namespace
 
@@ -119,10 +135,9 @@ QTableView* MakePlanTable(PlanTableModel& model, QWidget* parent)
     table->verticalHeader()->setDefaultSectionSize(line + 6);
     table->horizontalHeader()->setStretchLastSection(true);
     table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    const int letter = table->fontMetrics().averageCharWidth();
-    table->setColumnWidth(kTarget, 24 * letter);
-    table->setColumnWidth(kPresent, 34 * letter);
-    table->setColumnWidth(kComing, 34 * letter);
+    table->horizontalHeader()->setResizeContentsPrecision(kRowsMeasured);
+    QObject::connect(&model, &QAbstractItemModel::modelReset, table, [table] { FitColumns(*table); });
+    FitColumns(*table);
     return table;
 }
 
@@ -135,7 +150,8 @@ QString PlanSummary(const CloneImage& image, const PastePlan& plan)
     const auto refused = static_cast<std::ptrdiff_t>(plan.size()) - taken;
     QString text = PlanTableModel::tr("Rows that are written: %1").arg(taken);
     if (over > 0)
-        text += PlanTableModel::tr(", of which %1 hold a channel now").arg(over);
+        text += over == 1 ? PlanTableModel::tr(", of which 1 holds a channel now")
+                          : PlanTableModel::tr(", of which %1 hold a channel now").arg(over);
     return refused > 0 ? text + PlanTableModel::tr("; refused: %1").arg(refused) : text;
 }
 

@@ -89,7 +89,7 @@ void RowCommands::cmbDelete_Click()
                  tr("This deletes %1, %2.").arg(name, selection_.ContentsOf(row))))
         return;
     const QString note = DeleteNote(selection_.Image(), selection_.Group(), row + 1);
-    selection_.Edit(tr("Delete (%1)").arg(name),
+    selection_.Edit(tr("Delete (%1)").arg(selection_.NameOf(row)),
                     [row](CloneImage& image) { DeleteTableRow(image, row + 1); });
     HighlightCurrentRow();
     emit Noted(note);
@@ -100,9 +100,8 @@ void RowCommands::cmbInsert_Click()
     if (!IsShiftable())
         return;
     const int tableRow = selection_.Table().CurrentTableRow();
-    const QString name = QString::fromStdString(RowName(selection_.Image(), tableRow - 1));
     const QString note = InsertNote(selection_.Image(), selection_.Group(), tableRow);
-    selection_.Edit(tr("Insert (%1)").arg(name),
+    selection_.Edit(tr("Insert (%1)").arg(selection_.NameOf(tableRow - 1)),
                     [tableRow](CloneImage& image) { InsertTableRow(image, tableRow); });
     HighlightCurrentRow();
     emit Noted(note);

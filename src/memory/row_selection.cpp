@@ -13,6 +13,15 @@ QString Translated(const char* text)
     return QCoreApplication::translate("rqm5::MemoryPage", text);
 }
 
+/// "Bank 2, 15 channels"
+QString Counted(const QString& place, std::size_t channels)
+{
+    return channels == 1 ? Translated(QT_TRANSLATE_NOOP("rqm5::MemoryPage", "%1, 1 channel")).arg(place)
+                         : Translated(QT_TRANSLATE_NOOP("rqm5::MemoryPage", "%1, %2 channels"))
+                               .arg(place)
+                               .arg(channels);
+}
+
 }  // namespace
 
 RowSelection::RowSelection(Document& document, const QComboBox& cbbBank, MemoryTable& table)
@@ -35,11 +44,7 @@ QString RowSelection::NameOf(int row) const
 
 QString RowSelection::NameOf(const RowList& rows) const
 {
-    if (rows.size() == 1)
-        return NameOf(rows.front());
-    return Translated(QT_TRANSLATE_NOOP("rqm5::MemoryPage", "%1, %2 channels"))
-        .arg(NameOfSelector())
-        .arg(rows.size());
+    return rows.size() == 1 ? NameOf(rows.front()) : Counted(NameOfSelector(), rows.size());
 }
 
 QString RowSelection::NameOfSelector() const
@@ -50,7 +55,9 @@ QString RowSelection::NameOfSelector() const
 QString RowSelection::NameOfGroup() const
 {
     if (!IsFiltered())
-        return Translated(QT_TRANSLATE_NOOP("rqm5::MemoryPage", "%1, %2 channels"))
+        return Counted(NameOfSelector(), Shown().size());
+    if (Shown().size() == 1)
+        return Translated(QT_TRANSLATE_NOOP("rqm5::MemoryPage", "%1, the one channel shown of %2"))
             .arg(NameOfSelector())
             .arg(Group().count);
     return Translated(QT_TRANSLATE_NOOP("rqm5::MemoryPage", "%1, the %2 channels shown of %3"))

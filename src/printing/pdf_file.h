@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QPageLayout>
 #include <QString>
 #include <optional>
@@ -15,8 +16,13 @@ struct PdfOutcome
     std::optional<Problem> problem = {};  ///< why it failed
 };
 
+/// Makes the pages of a listing.
+/// \param pdf  takes the whole file; nothing when it could not be made or was cancelled
+PdfOutcome MakePdf(QByteArray& pdf, const QPageLayout& pageLayout, const Listing& listing,
+                   const PageTitle& title, const PageProgress& progress, const PagePicture& picture = {});
+
 /// Saves a listing as a PDF: the whole of it, or the file stays as it was.
 PdfOutcome SavePdf(const QString& path, const QPageLayout& pageLayout, const Listing& listing,
-                   const PageTitle& title, const PageProgress& progress);
+                   const PageTitle& title, const PageProgress& progress, const PagePicture& picture = {});
 
 }  // namespace rqm5

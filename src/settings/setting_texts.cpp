@@ -63,13 +63,6 @@ std::string OperatingModeText(int mode)
     }
 }
 
-std::string_view ModelText(int model)
-{
-    const auto names = ModelNames();
-    const bool hasName = model >= 0 && model < static_cast<int>(names.size());
-    return hasName ? names[static_cast<std::size_t>(model)] : std::string_view();
-}
-
 }  // namespace
 
 std::string_view SettingCaption(int setting)
@@ -85,7 +78,7 @@ std::string SettingValueText(int setting, int value)
     if (field.value == &ReceiverSettings::operatingMode)
         return OperatingModeText(value);
     const Choices* choices = kWords.at(static_cast<std::size_t>(setting)).choices;
-    const std::string_view name = field.value == &ReceiverSettings::model ? ModelText(value)
+    const std::string_view name = field.value == &ReceiverSettings::model ? ModelName(value)
                                   : choices != nullptr                    ? TextAt(*choices, value)
                                                                           : std::string_view();
     return name.empty() ? std::to_string(value) : std::string(name);

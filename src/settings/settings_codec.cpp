@@ -125,7 +125,7 @@ void DecodeBits(const MemoryBlock& block, ReceiverSettings& settings)
 MemoryBlock DefaultSetData1(int model)
 {
     MemoryBlock block("A500FF8100060000FFFFFFFF00011E03");
-    block.SetByte(1, model >= 0 && model < 3 ? model : 3);
+    block.SetByte(1, RegionNumber(model));
     return block;
 }
 
@@ -189,9 +189,9 @@ MemoryBlock SetData2(const CloneImage& image)
 {
     const ReceiverSettings& settings = image.Settings();
     MemoryBlock block("0000600000000000000000FFFFFFFFFF");
-    // The count byte belongs to the memory write. Only the first two models have a fixed value for it;
-    // the others keep what came with the block.
-    block.SetByte(kCountByte, settings.model > 1 ? settings.passCount : kFixedCount);
+    // The count byte belongs to the memory write. Some models have a fixed value for it; the
+    // others keep what came with the block.
+    block.SetByte(kCountByte, RegionOf(settings.model).hasFixedPassCount ? kFixedCount : settings.passCount);
     block.SetByte(kBatteryByte, settings.batterySave ? 1 : 0);
     EncodeBytes(settings, 2, block);
     EncodeBits(settings, block);

@@ -8,7 +8,7 @@
 
 namespace rqm5 {
 
-/// The two settings blocks, 0040 and 0050.
+/// The two settings blocks.
 struct SettingsBlocks
 {
     MemoryBlock SetData1;

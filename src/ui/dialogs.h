@@ -16,6 +16,7 @@ struct Prompt
     QString text;
     QString details = {};  ///< shown as informative text: device, reason, remedy, line number
     QString more = {};     ///< behind a "Show Details" button: what would be too long below the message
+    QString command = {};  ///< for a terminal; a button copies it
     QMessageBox::Icon icon = QMessageBox::Critical;
     QMessageBox::StandardButtons buttons = QMessageBox::Ok;
     QMessageBox::StandardButton defaultButton = QMessageBox::NoButton;
@@ -24,7 +25,7 @@ struct Prompt
     std::vector<std::pair<QMessageBox::StandardButton, QString>> captions = {};
 };
 
-enum class FileChoice { OpenClone, SaveClone, OpenCsv, SaveCsv, SavePdf, SaveText };
+enum class FileChoice { OpenClone, SaveClone, OpenCsv, SaveCsv, SaveList, SavePdf, SaveText, SavePicture };
 
 /// The seam between the windows and the person: every message, question and choice of a file. The real
 /// one shows boxes; tests answer by script.

@@ -22,6 +22,7 @@ Prompt ErrorPrompt(const Problem& problem)
     prompt.title = QCoreApplication::translate("Problem", "ERROR");
     prompt.text = QCoreApplication::translate("Problem", problem.text.c_str());
     prompt.details = QString::fromStdString(problem.details);
+    prompt.command = QString::fromStdString(problem.command);
     if (!problem.aftermath.empty())
         prompt.details += QStringLiteral("\n\n") + QString::fromStdString(problem.aftermath);
     return prompt;

@@ -1,9 +1,12 @@
 #include "ui/message_dialogs.h"
 
 #include <QAbstractButton>
+#include <QClipboard>
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QGuiApplication>
 #include <QLabel>
+#include <QPushButton>
 #include <algorithm>
 
 namespace rqm5 {
@@ -24,13 +27,18 @@ constexpr char kCsvFilters[] = QT_TRANSLATE_NOOP("MessageDialogs", "CSV Files (*
 constexpr char kPdfFilters[] = QT_TRANSLATE_NOOP("MessageDialogs", "PDF Files (*.pdf);;All Files (*.*)");
 constexpr char kTextFilters[] = QT_TRANSLATE_NOOP("MessageDialogs", "Text Files (*.txt);;All Files (*.*)");
 
+constexpr char kPictureFilters[] =
+    QT_TRANSLATE_NOOP("MessageDialogs", "Pictures (*.png *.svg);;All Files (*.*)");
+
 constexpr FileChoiceRow kFileChoices[] = {
     {FileChoice::OpenClone, QT_TRANSLATE_NOOP("MessageDialogs", "Open"), kCloneFilters, ""},
     {FileChoice::SaveClone, QT_TRANSLATE_NOOP("MessageDialogs", "Save As"), kCloneFilters, "RQ5"},
     {FileChoice::OpenCsv, QT_TRANSLATE_NOOP("MessageDialogs", "Import"), kCsvFilters, ""},
     {FileChoice::SaveCsv, QT_TRANSLATE_NOOP("MessageDialogs", "Export"), kCsvFilters, "csv"},
+    {FileChoice::SaveList, QT_TRANSLATE_NOOP("MessageDialogs", "Export List"), kCsvFilters, "csv"},
     {FileChoice::SavePdf, QT_TRANSLATE_NOOP("MessageDialogs", "Save as PDF"), kPdfFilters, "pdf"},
     {FileChoice::SaveText, QT_TRANSLATE_NOOP("MessageDialogs", "Save as Text"), kTextFilters, "txt"},
+    {FileChoice::SavePicture, QT_TRANSLATE_NOOP("MessageDialogs", "Save Picture"), kPictureFilters, "png"},
 };
 
 /// The details are sentences; in the narrow column under a short message they would be hard to read.
@@ -69,7 +77,16 @@ QMessageBox::StandardButton MessageDialogs::Ask(QWidget* parent, const Prompt& p
                                                 label->fontMetrics().size(0, prompt.details).width()));
             }
     }
-    return static_cast<QMessageBox::StandardButton>(box.exec());
+    QPushButton* copy = prompt.command.isEmpty()
+                            ? nullptr
+                            : box.addButton(Translated("&Copy Command"), QMessageBox::ActionRole);
+    if (copy != nullptr)
+        copy->setObjectName(QStringLiteral("cmbCopyCommand"));
+    const int answer = box.exec();
+    if (copy == nullptr || box.clickedButton() != copy)
+        return static_cast<QMessageBox::StandardButton>(answer);
+    QGuiApplication::clipboard()->setText(prompt.command);
+    return QMessageBox::Ok;
 }
 
 QString MessageDialogs::ChooseFile(QWidget* parent, FileChoice choice, const QString& suggested)

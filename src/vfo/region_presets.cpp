@@ -106,7 +106,7 @@ const std::vector<PresetBlock>& InitPriset(int variant)
 
 int PresetVariant(int model)
 {
-    return model == 0 || model == 1 ? model : 2;
+    return RegionOf(model).presets;
 }
 
 }  // namespace rqm5

@@ -16,8 +16,7 @@ struct PresetBlock
 };
 
 /// `InitPriset`: the broadcast bands and the television sound carriers of a variant 0 to 2, in the order in
-/// which they are sent: 68, 65 or 74 blocks. The user never edits them and they are
-/// never read back.
+/// which they are sent: 68, 65 or 74 blocks. The user never edits them and they are never read back.
 const std::vector<PresetBlock>& InitPriset(int variant);
 
 /// The variant that belongs to a model option: 0 for option 0, 1 for option 1, 2 for every other.

@@ -58,7 +58,7 @@ Channel DefaultVfoRow(int region, int row)
     channel.frequency = Hertz(from.frequency);
     channel.shiftFrequency = static_cast<std::int32_t>(Hertz(from.shift));
     channel.mode = from.mode;
-    channel.step = from.step[region == 0 ? 0 : 1];
+    channel.step = from.step[RegionOf(region).defaultSteps];
     channel.secret = kSecretCode;
     channel.carrier = kCarrierJr;
     channel.tone = kToneCode;

@@ -252,15 +252,5 @@ TEST_F(CurrentFileTest, RepairShowsTheNotesAndOpensWhatItWrites)
     EXPECT_TRUE(StatusText("lblHint").startsWith(QStringLiteral("There was nothing to repair")));
 }
 
-TEST_F(CurrentFileTest, AnImportOfNothingLeavesTheChangesUnsaved)
-{
-    Start();
-    EditSomething();
-    dialogs_.files = {file_};
-    Item("mnuFileImport").trigger();
-    EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("Changed"));
-    EXPECT_TRUE(StatusText("lblHint").startsWith(QStringLiteral("Nothing was imported")));
-}
-
 }  // namespace
 }  // namespace rqm5

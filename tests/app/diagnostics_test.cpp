@@ -5,6 +5,7 @@
 #include <QTableView>
 
 #include "app/diagnostics/diagnostics_panel.h"
+#include "app/diagnostics/exchange_log.h"
 #include "app/receiver_window_fixture.h"
 #include "image/channel_block.h"
 
@@ -44,7 +45,7 @@ TEST_F(DiagnosticsTest, RawReadShowsTheReplyAsReceivedAndWhatItMeans)
 {
     const std::string channel = Read("1000");
     EXPECT_THAT(channel, AllOf(HasSubstr("memory row 0"), HasSubstr("QT~F1000R\\r"), HasSubstr(" ms: "),
-                               HasSubstr(EncodeMemoryRow(demo_, 0).String() + "\\r\\n"),
+                               HasSubstr(EncodeMemoryRow(demo_, 0).String().append("\\r\\n")),
                                HasSubstr("Frequency: " + demo_.MemText(0, kFrequency)),
                                HasSubstr("Step: " + demo_.MemText(0, kStep))));
     EXPECT_THAT(Read("0xc30"),
@@ -105,6 +106,15 @@ TEST_F(DiagnosticsTest, LogKeepsExchangesAndSavesThem)
                                                     HasSubstr("\tQT~F1000R\\r\t"), EndsWith("\\r\\n\n")));
     Click("cmbSaveLog");
     EXPECT_EQ(dialogs_.asked.size(), 1U);
+    const QAbstractItemModel& log = *Find<QTableView>("tblExchanges").model();
+    EXPECT_TRUE(log.index(0, ExchangeLog::kReply)
+                    .data(Qt::ToolTipRole)
+                    .toString()
+                    .startsWith(QStringLiteral("<p>QT~F")));
+    for (std::size_t i = 0; i < ExchangeLog::kKept + 5; ++i)
+        emit window_->findChild<RadioLink*>()->Exchanged("<b>", false);
+    ASSERT_TRUE(QTest::qWaitFor([&log] { return log.rowCount() > 1; }));
+    EXPECT_EQ(log.rowCount(), static_cast<int>(ExchangeLog::kKept));
     Click("cmbClearLog");
     EXPECT_EQ(Find<QTableView>("tblExchanges").model()->rowCount(), 0);
 }

@@ -154,8 +154,8 @@ TEST_F(HistoryTest, EveryKindOfEditIsTakenBackAndMadeAgain)
         {"Enable (Bank 0, channel 4)", [this] { OnRow(4, "cmbEnable"); }},
         {"Disable All (All, 1210 channels)", [this] { OnRow(3, "cmbDisAll"); }},
         {"Enable All (All, 1210 channels)", [this] { OnRow(3, "cmbEnAll"); }},
-        {"Insert (memory row 3 (Bank 0, channel 3))", [this] { OnRow(3, "cmbInsert"); }},
-        {"Delete (memory row 3 (Bank 0, channel 3))", [this] { OnRow(3, "cmbDelete"); }},
+        {"Insert (Bank 0, channel 3)", [this] { OnRow(3, "cmbInsert"); }},
+        {"Delete (Bank 0, channel 3)", [this] { OnRow(3, "cmbDelete"); }},
         {"Clear (Bank 0, channel 3)", [this] { OnRow(3, "cmbClear"); }},
         {"Clear All (All, 1210 channels)", [this] { OnRow(3, "cmbClAll"); }},
         {"Modify (Bank 0 CH 3)",
@@ -421,14 +421,24 @@ TEST_F(HistoryTest, AClickInTheListOfStepsGoesThere)
     auto& list = Find<QListView>("lstHistory");
     ASSERT_TRUE(list.isVisible());
     ASSERT_EQ(list.model()->rowCount(), 4);
-    for (const int row : {1, 3, 0, 2}) {
+    for (const int row : {1, 3, 0, 2, 1, 2}) {
         const QRect place = list.visualRect(list.model()->index(row, 0));
-        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place.center());
+        if (row == list.currentIndex().row() + 1 || row == list.currentIndex().row() - 1)
+            Press(row > list.currentIndex().row() ? Qt::Key_Down : Qt::Key_Up);
+        else
+            QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place.center());
         EXPECT_EQ(UndoText(), names[row]);
         EXPECT_EQ(Find<QAbstractButton>("opbScanMode_1").isChecked(), row >= 1);
         EXPECT_EQ(Find<QAbstractButton>("chkLink_3").isChecked(), row >= 2);
         EXPECT_EQ(Find<QAbstractButton>("chkBeep").isChecked(), row < 3);
+        EXPECT_TRUE(list.hasFocus()) << "whoever walks through the list goes on walking";
     }
+    const auto hasIcon = [&list](int row) {
+        return !list.model()->index(row, 0).data(Qt::DecorationRole).value<QIcon>().isNull();
+    };
+    EXPECT_TRUE(hasIcon(0) && !hasIcon(2));
+    Item("mnuFileSave").trigger();
+    EXPECT_TRUE(hasIcon(2) && !hasIcon(0)) << "the mark goes with the file";
     Find<QDockWidget>("dckHistory").close();
     EXPECT_FALSE(Item("mnuViewHistory").isChecked());
 }
@@ -442,6 +452,13 @@ TEST_F(HistoryTest, AnImportTakenBackBringsBackItsFileAndNewForgetsEverything)
     EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("Changed"));
     Redo();
     EXPECT_TRUE(window_->windowTitle().startsWith(QStringLiteral("in.csv - ")));
+    EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("Saved"));
+    dialogs_.files = {Path("radio.RQ5")};
+    Item("mnuFileSaveAs").trigger();
+    Undo();
+    EXPECT_TRUE(window_->windowTitle().startsWith(QStringLiteral("radio.RQ5 - ")));
+    EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("Changed")) << "the file holds the import now";
+    Redo();
     EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("Saved"));
     Item("mnuFileNew").trigger();
     EXPECT_FALSE(Item("mnuHistoryUndo").isEnabled() || Item("mnuHistoryRedo").isEnabled());

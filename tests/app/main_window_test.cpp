@@ -1,6 +1,7 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QSignalSpy>
@@ -23,7 +24,7 @@ TEST_F(WindowTest, StartsWithAnUnchangedImageOnTheFirstTab)
     Start();
     EXPECT_EQ(window_->windowTitle(), kTitle);
     EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("New"));
-    EXPECT_EQ(StatusText("lblPort"), QStringLiteral("COM 1: %1").arg(DeviceOfComPort(1)));
+    EXPECT_TRUE(StatusText("lblPort").startsWith(QStringLiteral("COM 1: %1").arg(DeviceOfComPort(1))));
     EXPECT_EQ(Tabs().currentIndex(), 0);
     EXPECT_EQ(Find<QLineEdit>("txtBank_0").text(), QStringLiteral("200"));
     EXPECT_EQ(Find<QComboBox>("cbbBank").count(), 54);
@@ -250,6 +251,7 @@ TEST_F(WindowTest, DuplicatesAreListedBesideTheWindowAndAClickGoesThere)
     CloneImage image = StartUpImage(0);
     for (const int row : {3, 205, 206, 1201})
         image.MemData(row).frequency = row == 206 ? 146'000'000 : 145'000'000;
+    image.MemData(205).mode = 1;  // the frequency is what counts
     options_.commandFile = Path("twice.RQ5");
     ASSERT_FALSE(SaveCloneFile(options_.commandFile, image).problem);
     Start();
@@ -273,6 +275,33 @@ TEST_F(WindowTest, DuplicatesAreListedBesideTheWindowAndAClickGoesThere)
     dialogs_.answers = {QMessageBox::Ok};
     Click("cmbClear");
     EXPECT_EQ(list.topLevelItem(0)->childCount(), 2) << "it follows";
+}
+
+TEST_F(WindowTest, TheEditorStepsThroughTheRowsThatAFilterShows)
+{
+    CloneImage image = StartUpImage(0);
+    for (const int row : {3, 5, 6, 9}) {
+        image.MemData(row).frequency = 145'000'000 + row;
+        image.MemData(row).enabled = row == 6;
+    }
+    options_.commandFile = Path("off.RQ5");
+    ASSERT_FALSE(SaveCloneFile(options_.commandFile, image).problem);
+    Start();
+    GoTo(Tab::Memory);
+    Find<QComboBox>("cbbFilter").setCurrentText(QStringLiteral("Disabled"));
+    dialogs_.act = [](QDialog& dialog) {
+        const auto press = [&dialog](const char* button) {
+            dialog.findChild<QAbstractButton*>(QLatin1String(button))->click();
+            return dialog.findChild<QLabel*>(QStringLiteral("lblCH"))->text().toStdString();
+        };
+        EXPECT_EQ(press("NextButton"), "Bank 0  CH 5");
+        press("chkEnable");
+        EXPECT_EQ(press("OKNextButton"), "Bank 0  CH 9") << "row 5 is hidden now";
+        EXPECT_EQ(press("NextButton"), "Bank 0  CH 9") << "there is no other";
+        EXPECT_EQ(press("PreviousButton"), "Bank 0  CH 3");
+    };
+    Item("mnuEditUndo").trigger();
+    EXPECT_EQ(Find<QTableView>("MSFlexGrid1").model()->rowCount(), 2) << "the filter is still on";
 }
 
 TEST_F(WindowTest, ModifyOpensTheEditorOnTheRowOfTheTab)

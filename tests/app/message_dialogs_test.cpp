@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLabel>
@@ -41,6 +42,23 @@ TEST(MessageDialogs, TakeTextsOfStrangersAsPlainText)
             EXPECT_TRUE(label->text().toStdString() != evil || label->textFormat() == Qt::PlainText);
     });
     MessageDialogs().Ask(nullptr, ErrorPrompt({kComPortError, evil}));
+}
+
+TEST(MessageDialogs, CopyTheCommandThatTheyAdvise)
+{
+    const auto press = [](const Problem& problem) {
+        WhenShown<QMessageBox>([&](QMessageBox& box) {
+            auto* copy = box.findChild<QPushButton*>(QStringLiteral("cmbCopyCommand"));
+            ASSERT_EQ(copy != nullptr, !problem.command.empty());
+            QTest::mouseClick(copy != nullptr ? copy : box.button(QMessageBox::Ok), Qt::LeftButton);
+        });
+        EXPECT_EQ(MessageDialogs().Ask(nullptr, ErrorPrompt(problem)), QMessageBox::Ok);
+        return QApplication::clipboard()->text();
+    };
+    QApplication::clipboard()->clear();
+    EXPECT_EQ(press({kComPortError, "no such device"}), QString());
+    EXPECT_EQ(press({.text = kComPortError, .details = "denied", .command = "sudo usermod"}),
+              QStringLiteral("sudo usermod"));
 }
 
 TEST(MessageDialogs, HaveTheDefaultButtonAndTheCaptionsThatAreWanted)

@@ -150,7 +150,7 @@ TEST_F(WindowTest, ImportOverwritesTheRowsItNamesWithoutAQuestion)
 
 TEST_F(WindowTest, AnImportOfNothingIsSaidAndChangesNothing)
 {
-    std::ofstream(Path("in.csv").toStdString()) << "\"other\",\"MEMORY\",\"3\"\r\n";
+    std::ofstream(Path("in.csv").toStdString()) << "\"RQ-M5\",\"OTHER\",\"3\"\r\n";
     Start();
     EditSomething();
     dialogs_.files = {Path("in.csv")};

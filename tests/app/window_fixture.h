@@ -13,7 +13,11 @@
 #include <QTest>
 #include <memory>
 
+#include "app/menus.h"
+#include "app/pages.h"
 #include "app/start_up.h"
+#include "app/status_bar.h"
+#include "app/tool_bar.h"
 #include "link/com_ports.h"
 #include "link/qt_serial_port.h"
 #include "ui/scripted_dialogs.h"

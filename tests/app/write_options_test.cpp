@@ -60,7 +60,8 @@ TEST_F(WriteOptionsTest, EachWriteKeepsABackupFirstAndReadsBackAfterwards)
             Trigger(control);
             EXPECT_EQ(OrderOfVerbs(), isChecked ? checked : plain) << name;
             EXPECT_EQ(Backups().filter(QLatin1String(name)).size(), isChecked ? 1 : 0);
-            EXPECT_EQ(StatusText("lblHint").startsWith(QStringLiteral("Written and verified")), isChecked);
+            EXPECT_EQ(StatusText("lblHint").contains(QStringLiteral(" and verified.")), isChecked);
+            EXPECT_TRUE(StatusText("lblHint").startsWith(QStringLiteral("Written in ")));
         }
     EXPECT_TRUE(dialogs_.asked.empty());
 }
@@ -102,11 +103,12 @@ TEST_F(WriteOptionsTest, AGroupThatTakesFlagsFromTheReceiverSaysHowMany)
     int others = 0;
     for (int row = 0; row < kRadioRows; ++row)
         others += demo_.MemEnable(row) && !kPriority.rows.Contains(row) ? 1 : 0;
-    const QString note =
-        QStringLiteral("Enable flags of other rows replaced by the receiver's: %1.").arg(others);
+    const QString flags =
+        QStringLiteral(". Enable flags of other rows replaced by the receiver's: %1.").arg(others);
     QSignalSpy drawn(Find<QTableView>("MSFlexGrid1").model(), &QAbstractItemModel::dataChanged);
     Click("cmbTxData");
-    EXPECT_EQ(StatusText("lblHint"), note);
+    const QString note = StatusText("lblHint");
+    EXPECT_TRUE(note.startsWith(QStringLiteral("Written in ")) && note.endsWith(flags)) << qPrintable(note);
     EXPECT_FALSE(drawn.empty()) << "their colour";
     EXPECT_EQ(StatusText("lblEnabled"), QStringLiteral("Channels enabled: %1").arg(others));
 
@@ -127,8 +129,8 @@ TEST_F(WriteOptionsTest, AGroupThatTakesFlagsFromTheReceiverSaysHowMany)
     Item("mnuFileNew").trigger();
     dialogs_.asked.clear();
     Item("mnuWrMemory").trigger();
-    EXPECT_TRUE(StatusText("lblHint").startsWith(QStringLiteral("Written and verified: ")))
-        << "first of the two";
+    EXPECT_TRUE(StatusText("lblHint").contains(QStringLiteral(" and verified.")))
+        << qPrintable(StatusText("lblHint"));
 }
 
 TEST_F(WriteOptionsTest, NoBackupReplacesAnother)
@@ -161,6 +163,11 @@ TEST_F(WriteOptionsTest, VerifyNamesTheRowsThatDiffer)
     EXPECT_EQ(lines.constFirst(), QStringLiteral("Row 0 (Bank 0, channel 0)"));
     EXPECT_EQ(lines.constLast(), QStringLiteral("and 10 more"));
     EXPECT_TRUE(dialogs_.asked[0].more.endsWith(QStringLiteral("\nRow 29 (Bank 0, channel 29)")));
+
+    receiver_.SetFaults({{.kind = FaultKind::Ng, .count = 10, .after = 2}});
+    receiver_.ClearCommandLog();
+    Item("mnuWrSettings").trigger();
+    EXPECT_EQ(receiver_.CommandLog().size(), 12U) << "a write that failed is not verified";
 }
 
 TEST_F(WriteOptionsTest, WithoutItsBackupNothingIsWrittenAndACancelTellsWhatWas)

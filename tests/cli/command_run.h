@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <fstream>

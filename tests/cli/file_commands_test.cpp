@@ -99,6 +99,36 @@ TEST_F(FileCommands, ImportTakesRowsIntoAFileOrANewOneAndNamesNotesThatAreLost)
     EXPECT_EQ(RunProgramFile({"import", csv, file}).status, 0) << "quotes inside a note come back";
 }
 
+TEST_F(FileCommands, ImportTakesListsOfOtherPrograms)
+{
+    const std::string list = folder / "list.csv";
+    PutBytes(list, "Frequenz;Name\n145,500;Ulm\n2400;Funk\n433,5;Ost\n");
+    ExpectFailure({"import", list, file}, "Data Error: ", "--from-row");
+    ExpectFailure({"import", list, file, "--map", "Ort=note", "--from-row", "0"},
+                  "Data Error: ", "no column \"Ort\"");
+    const RunResult dry = RunProgramFile({"import", list, file, "--from-row", "0:3", "--dry-run"});
+    EXPECT_TRUE(dry.status == 0 && Has(dry.out, "2 rows would be taken") && Has(dry.out, "145.500000"))
+        << dry.out;
+    EXPECT_TRUE(Bytes(file).empty()) << "nothing is written";
+    PutBytes(file, DemoFile());
+    const RunResult run = RunProgramFile({"import", list, file, "--from-row=3", "--keep", "--map=Name=none"});
+    EXPECT_TRUE(run.status == 0 && Has(run.out, "semicolon") && Has(run.out, "2 rows taken")) << run.out;
+    EXPECT_TRUE(Has(run.err, "Line 3: The receiver takes 0.1 to 1299.995 MHz.")) << run.err;
+    EXPECT_EQ(Bytes(file + "~"), DemoFile());
+    CloneImage image;
+    EXPECT_FALSE(ParseCloneFile(Bytes(file), image));
+    EXPECT_EQ(image.MemData(3).frequency, 145'500'000);
+    EXPECT_EQ(image.MemData(4).frequency, 433'500'000);
+
+    // A file of this program keeps its rules, but not in silence.
+    PutBytes(list, CsvRecord("MEMORY", 7, "2400,5", ""));
+    const RunResult own = RunProgramFile({"import", list, file});
+    EXPECT_TRUE(Has(own.err, "Line 1: memory row 7")) << own.err;
+    EXPECT_TRUE(Has(RunProgramFile({"check", file}).err, "0.1 to 1299.995 MHz):\n  memory row 7"));
+    EXPECT_TRUE(Has(RunProgramFile({"write", "--port", "/dev/no", file}).err,
+                    "are written as they are:\n  memory row 7"));
+}
+
 TEST_F(FileCommands, ImportSpoilsNoFile)
 {
     const std::string csv = folder / "rows.csv";
@@ -162,6 +192,7 @@ TEST_F(FileCommands, ExportAndPdfReplaceOnlyTheirOwnKind)
     PutBytes(file, DemoFile());
     ASSERT_EQ(::link(file.c_str(), link.c_str()), 0);
     ExpectFailure({"export", file, link, "--force"}, "File Open Error: ", "the same file");
+    ExpectFailure({"print", file, "--force", "--pdf", link}, "File Open Error: ", "the same file");
     EXPECT_TRUE(Has(RunProgramFile({"new", link, "--force"}).err, "one of 2 names"));
     EXPECT_EQ(Bytes(file), DemoFile());
     const std::pair<Words, const char*> cases[] = {{{"export", file}, ""},
@@ -198,11 +229,13 @@ TEST_F(FileCommands, ShowPrintsTheTableOfAGroupInColumns)
     const std::string out = RunProgramFile({"show", "--bank", "priority", file}).out;
     EXPECT_TRUE(
         Has(out,
-            "       Frequency   Mode  Step  Option  Skip  Carrier  Tone    Shift   ShiftFreq.  Note\n"
-            "   1   145.500000  FM    9KHz  OFF     *     300Hz    67.0Hz  +Shift  0.600000    東京\n"
-            "-  2   145.500000  FM    9KHz  OFF     *     300Hz    67.0Hz  +Shift  0.600000    x\\x1B[2J\n"))
+            "   Off  Frequency   Mode  Step  Option  Skip  Carrier  Tone    Shift   ShiftFreq.  Note\n"
+            "1       145.500000  FM    9KHz  OFF     *     300Hz    67.0Hz  +Shift  0.600000    東京\n"
+            "2  x    145.500000  FM    9KHz  OFF     *     300Hz    67.0Hz  +Shift  0.600000    x\\x1B[2J\n"))
         << out;
-    EXPECT_TRUE(Has(RunProgramFile({"show", file}).out, "   Pr0  145.500000"));
+    EXPECT_FALSE(Has(out, "\n3"));
+    EXPECT_TRUE(Has(RunProgramFile({"show", file, "--all", "--tsv"}).out, "\tPr0\t\t145.500000\tFM"));
+    EXPECT_TRUE(Has(RunProgramFile({"show", "--all", file}).out, "\nPr2\n"));
 }
 
 TEST_F(FileCommands, CheckSaysWhatAFileHoldsAndWarns)
@@ -220,13 +253,13 @@ TEST_F(FileCommands, CheckSaysWhatAFileHoldsAndWarns)
                              "\nBank 1        150   1         1   1        1\n"})
         EXPECT_TRUE(Has(run.out, part)) << run.out;
     EXPECT_TRUE(Has(run.err, "formulas:\n  memory row 205") && !Has(run.err, "LF")) << run.err;
-    EXPECT_FALSE(Has(run.err, "otherwise") || Has(run.err, "loses")) << run.err;
+    EXPECT_FALSE(Has(run.err, "differently") || Has(run.err, "loses")) << run.err;
     image.MemData(205).shiftFrequency = 50000;
     image.MemData(206).note = "\"a, b\"";  // is read, and lost by the next save
     PutBytes(file, FormatCloneFile(image));
     const RunResult limits = RunProgramFile({"check", file});
     EXPECT_EQ(limits.status, 0);
-    EXPECT_TRUE(Has(limits.err, "read otherwise:\n  memory row 205 (Bank 1, channel 5): Shift frequency"))
+    EXPECT_TRUE(Has(limits.err, "what the file says:\n  memory row 205 (Bank 1, channel 5): Shift frequency"))
         << limits.err;
     EXPECT_TRUE(Has(limits.err, "loses these notes; take commas and quotes out of them:\n  memory row 206"))
         << limits.err;
@@ -238,7 +271,7 @@ TEST_F(FileCommands, CheckSaysWhatAFileHoldsAndWarns)
     const RunResult odd = RunProgramFile({"check", file});
     EXPECT_EQ(odd.status, 0);
     EXPECT_TRUE(Has(odd.err, "\n  line 2 (settings block")) << odd.err;
-    EXPECT_TRUE(Has(odd.err, "LF in place of CR LF") && Has(odd.err, "behind the last line")) << odd.err;
+    EXPECT_TRUE(Has(odd.err, "LF instead of CR LF") && Has(odd.err, "behind the last line")) << odd.err;
 }
 
 TEST_F(FileCommands, DiffNamesWhatDiffersAndIsSilentOtherwise)

@@ -1,24 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "cli/progress_bar.h"
-#include "image/display_text.h"
 
 namespace rqm5 {
 namespace {
 
 using std::chrono::seconds;
-
-TEST(DisplayText, CountsColumnsNotBytesAndMakesVisibleWhatATerminalWouldObey)
-{
-    EXPECT_EQ(VisibleText("a\r\n\t\x1b[2J\x7f"), "a\\r\\n\\t\\x1B[2J\\x7F");
-    EXPECT_EQ(VisibleText("\u202Egnp.exe \u0085"), "\\u202Egnp.exe \\u0085");
-    EXPECT_EQ(VisibleText("\u061C\u200B\U000E0041"), "\\u061C\\u200B\\U000E0041");
-    EXPECT_EQ(VisibleText("\xC0\xAF \xED\xA0\x80 \xE3\x81"), "\\xC0\\xAF \\xED\\xA0\\x80 \\xE3\\x81");
-    EXPECT_EQ(VisibleText("日本 é 😀"), "日本 é 😀");
-    EXPECT_EQ(DisplayWidth("日本é") + DisplayWidth("e\u0301ｱ"), 5 + 2);
-    EXPECT_EQ(PadToWidth("東", 4), "東  ");
-    EXPECT_EQ(CutToWidth("a東b", 2), "a");
-}
 
 TEST(ProgressLine, ShowsRowPercentageAndTimeInTheRoomThereIs)
 {
@@ -28,6 +17,15 @@ TEST(ProgressLine, ShowsRowPercentageAndTimeInTheRoomThereIs)
     EXPECT_EQ(ProgressLine(1, 4, -1, std::nullopt, 30), "[#####.................]  25 %");
     EXPECT_EQ(ProgressLine(9, 4, -1, seconds(0), 8), "100 %  0");
     EXPECT_EQ(ProgressLine(0, 0, -1, seconds(0), 0), "");
+
+    std::ostringstream out, err;
+    Console console{out, err, 80};
+    ProgressBar bar(console);
+    bar.Begin(1000);  // estimated from a file with larger banks
+    bar.ProgressStarted(0);
+    bar.ProgressMoved(0, 7);
+    bar.BlockDone(0x1070, false);
+    EXPECT_NE(err.str().find("100 %  row    7"), std::string::npos) << err.str();
 }
 
 }  // namespace

@@ -8,8 +8,12 @@
 #include <csignal>
 #include <filesystem>
 #include <future>
+#include <mutex>
+#include <regex>
+#include <sstream>
 
 #include "cli/command_run.h"
+#include "cli/program.h"
 #include "files/clone_file.h"
 #include "files/file_store.h"
 #include "memory/start_image.h"
@@ -82,6 +86,19 @@ TEST_F(Transfers, ReadChangeWriteAndVerifyTheWholeMemory)
                 Has(differs.out, "  bytes 0 to 3 (Frequency), byte 5 (Mode), "))
         << differs.out;
     EXPECT_EQ(Transfer("verify", receiver, file, {"--only=settings"}).out, "") << "the count is the memory's";
+
+    EXPECT_TRUE(
+        Has(Transfer("verify", receiver, file, {"--json"}).out,
+            R"({"complete":true,"differences":[{"address":"0050","block":"Settings 2","expected":")"));
+    const RunResult fields = Transfer("diff", receiver, file, {"-v"});
+    EXPECT_TRUE(fields.status == 1 &&
+                Has(fields.out, "memory row 1107 (Search Pass S7): 145.625000 AM -> empty"))
+        << fields.out;
+    EXPECT_FALSE(Has(fields.out, "Note")) << "the receiver has none";
+    EXPECT_TRUE(Has(fields.err, "QT~F5530R\\r -> ")) << fields.err.substr(0, 200);
+    EXPECT_TRUE(Has(Transfer("diff", receiver, file, {"--json"}).out,
+                    R"("row":1107,"place":"search-pass/8","before":)"));
+    EXPECT_TRUE(Transfer("read", receiver, "-").out.starts_with("Tervan  RQ-M5  Clone  File Start\r\n"));
 
     EXPECT_EQ(Transfer("write", receiver, file).status, 0);
     EXPECT_EQ(receiver.Memory().At(0x5530).Text().substr(0, 10), "0145625000");
@@ -376,7 +393,7 @@ TEST_F(Transfers, ReadTwiceOnRequestAndNameWhatCameOtherwise)
     run = Transfer("read", receiver, file, settings);
     EXPECT_EQ(run.status, 1);
     EXPECT_TRUE(
-        run.err.starts_with("Communication Error: 1 block came otherwise when it was read again:\n"
+        run.err.starts_with("Communication Error: 1 block was different when it was read again:\n"
                             "  VFO 3: first "))
         << run.err;
     EXPECT_EQ(Bytes(file + "~"), right);
@@ -436,6 +453,41 @@ TEST_F(Transfers, NameThePortThatTheyChoseThemselves)
         qunsetenv(qPrintable(QStringLiteral("RQM5_COM%1").arg(number)));
 }
 
+TEST_F(Transfers, EndWithALineAtATerminalUnlessTheyAreToBeQuiet)
+{
+    const std::tuple<Words, const char*, const char*> cases[] = {
+        {{"new", file}, "", ""},
+        {{"read", "--bank", "3", file},
+         "^Read in [0-9]+:[0-9][0-9]: [0-9]+ channels on, [0-9]+ rows, .* changed\\n$",
+         "--quiet"},
+        {{"read", "--bank", "3", "--verify", file},
+         "^Read in [0-9]+:[0-9][0-9] and verified: [0-9]+ channels on, nothing changed\\n$",
+         "-q"},
+        {{"write", "--bank", "3", "--verify", file}, "^Written in [0-9]+:[0-9][0-9] and verified\n$", "-q"},
+        {{"verify", "--bank", "3", file}, "^Compared in [0-9]+:[0-9][0-9]: no block differs\n$", "-q"},
+    };
+    const SimSession receiver(Demo());
+    for (auto [words, line, quiet] : cases)
+        for (const int columns : {80, 0, 80}) {
+            std::ostringstream out;
+            std::ostringstream err;
+            Console console{out, err, columns};
+            if (*line != '\0')
+                words.insert(words.begin() + 1, {"--port", receiver.Device().toStdString()});
+            EXPECT_EQ(RunProgram(words, console), Status::Done) << err.str();
+            const std::string shown = err.str().substr(err.str().rfind('\r') + 1);
+            if (columns > 0 && words.back() == file)
+                EXPECT_TRUE(std::regex_search(shown, std::regex(line))) << shown;
+            else
+                EXPECT_EQ(err.str(), "");
+            if (*line == '\0')
+                break;
+            words.erase(words.begin() + 1, words.begin() + 3);
+            if (columns == 0)
+                words.emplace_back(quiet);
+        }
+}
+
 TEST(RawCommand, ShowsTheReplyAndWhatItMeans)
 {
     SimOptions options = Demo();
@@ -477,6 +529,33 @@ TEST_F(Transfers, CtrlCEndsThemCleanly)
             EXPECT_EQ(Bytes(file), before) << command;
             EXPECT_LT(receiver.CommandLog().size(), 100U) << command;
         }
+}
+
+TEST_F(Transfers, ASignalEndsARawReadAndUnderNohupNoRead)
+{
+    const std::tuple<int, Words, FaultKind, int, const char*> cases[] = {
+        {SIGINT, {"raw", "0040"}, FaultKind::Silent, 130, "Cancelled.\n"},
+        {SIGHUP, {"read", file, "--only=settings"}, FaultKind::None, 0, ""},
+    };
+    for (const auto& [signal, words, fault, status, text] : cases) {
+        std::promise<void> isBusy;
+        std::once_flag isFirst;
+        SimOptions options = Demo({{.kind = fault}});
+        options.baud = 9600;
+        options.onCommand = [&](const std::string&) { std::call_once(isFirst, [&] { isBusy.set_value(); }); };
+        const SimSession receiver(options);
+        QProcess process;
+        process.setChildProcessModifier([] { std::signal(SIGHUP, SIG_IGN); });
+        Words all = words;
+        all.insert(all.end(), {"--port", receiver.Device().toStdString()});
+        StartProgram(process, all);
+        ASSERT_TRUE(process.waitForStarted());
+        isBusy.get_future().wait();
+        kill(static_cast<pid_t>(process.processId()), signal);
+        const RunResult run = FinishProgram(process);
+        EXPECT_EQ(run.status, status) << words[0];
+        EXPECT_EQ(run.err, text);
+    }
 }
 
 }  // namespace

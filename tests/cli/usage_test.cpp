@@ -31,7 +31,16 @@ TEST(CommandLine, WrongUsageEndsWithStatusTwoAndAHint)
         {{"print", "x.RQ5", "--pdf", "o.pdf", "--paper", "a5"}, "it is a4 or letter"},
         {{"print", "x.RQ5", "--pdf", "x.RQ5"}, "the same file"}, {{"print", "x.RQ5", "--force"}, "add --pdf"},
         {{"repair", "x.RQ5", "--in-place", "--to", "y"}, "choose one"}, {{"repair", "x.RQ5", "--to", ""}, "needs a value"},
-        {{"check", "--", "--", "x"}, "too many arguments"},
+        {{"repair", "--", "--", "x"}, "too many arguments"}, {{"check"}, "FILE is missing"},
+        {{"set", "x", "bank:50", "mode=AM"}, "banks are 0 to 49"}, {{"set", "x", "mode=XM", "mode=AM"}, "FM, AM or WFM"},
+        {{"set", "x", "all", "tune=1"}, "freq, mode, step"}, {{"set", "x", "all"}, "FIELD=VALUE is missing"},
+        {{"enable", "x", "freq:9..1"}, "lower end"}, {{"enable", "x", "mode:AM"}, "with \"=\""},
+        {{"enable", "x", "vfo,mode=AM"}, "beside"}, {{"copy", "x", "all", "mode=AM"}, "one place"},
+        {{"merge", "x", "y"}, "--take"}, {{"sort", "x", "all", "--by", "moed"}, "did you mean \"mode\""},
+        {{"find", "145"}, "FILE is missing"}, {{"show", "x", "--json", "--tsv"}, "choose one"},
+        {{"diff", "x"}, "B is missing"}, {{"diff", "x", "y", "--port", "3"}, "leave B out"},
+        {{"export", "x", "y", "z"}, "--to FOLDER"}, {{"print", "x", "y", "--pdf", "z"}, "takes one FILE"},
+        {{"help", "raed"}, "did you mean \"read\""}, {{"completion", "sh"}, "bash, zsh or fish"},
         {{"raw", "--port", "3", "1008"}, "last digit is 0"}, {{"raw", "--port", "3", "12G0"}, "hexadecimal"},
         {{"raw", "--port", "3", "10000"}, "highest address is FFF0"},
     };
@@ -46,10 +55,12 @@ TEST(CommandLine, WrongUsageEndsWithStatusTwoAndAHint)
 TEST(CommandLine, HelpAndVersionAreOnStandardOutput)
 {
     EXPECT_EQ(RunProgramFile({"--version"}).out, "rq-m5 " RQM5_VERSION "\n");
+    EXPECT_EQ(RunProgramFile({"-V"}).out, "rq-m5 " RQM5_VERSION "\n");
+    EXPECT_EQ(RunProgramFile({"help", "read"}).out, RunProgramFile({"read", "-h"}).out);
     const RunResult help = RunProgramFile({"--help"});
     EXPECT_EQ(help.status, 0);
     for (const char* command : {"new", "read", "write", "verify", "export", "import", "show", "check",
-                                "repair", "diff", "ports", "raw"}) {
+                                "repair", "diff", "ports", "raw", "set", "merge"}) {
         EXPECT_TRUE(Has(help.out, std::string("\n  ") + command + ' ')) << command;
         const RunResult own = RunProgramFile({command, "--help"});
         EXPECT_EQ(own.status, 0) << command;

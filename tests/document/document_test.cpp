@@ -141,6 +141,7 @@ TEST_F(DocumentTest, KnowsWhetherAFileHoldsTheStateThatItIsIn)
         {"edit import undo undo", false, 2, 30},
         {"edit import undo redo", false, 2, 50},
         {"edit save import undo", false, 2, 31},
+        {"edit save import save undo", true, 2, 31},
         {"edit import edit undo", false, 3, 50},
         {"edit import edit undo undo", true, 3, 31},
         {"import undo edit save undo", true, 1, 30},

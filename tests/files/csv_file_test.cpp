@@ -80,7 +80,7 @@ TEST(Csv, ImportFindsTheRowOfARecord)
     const std::pair<const char*, int> cases[] = {
         // clang-format off
         {"RQ-M5,MEMORY,999,", 999}, {"RQ-M5,memory, 12 ,", 12}, {"RQ-M5,MEMORY,1000,", -1}, {"RQ-M5,MEMORY,-1,", -1},
-        {"RQ-M5,MEMORY,,", -1}, {"RQ-M5,MEMORY,x,", -1}, {"RQ-M5,MEMORY,99999999999,", -1}, {"RQ-M5,BANK,1,", -1},
+        {"RQ-M5,MEMORY,,", -1}, {"RQ-M5,MEMORY,x,", -1}, {"RQ-M5,MEMORY,7.5,", -1}, {"RQ-M5,MEMORY,99999999999,", -1}, {"RQ-M5,BANK,1,", -1},
         {"RQ-M6,MEMORY,1,", -1}, {"rq-m5,MEMORY,1,", -1}, {"RQ-M5,PROGRAM SCAN,P0A,", 1000},
         {"RQ-M5,PROGRAM SCAN,49b,", 1099}, {"RQ-M5,PROGRAM SCAN,P50A,", -1}, {"RQ-M5,PROGRAM SCAN,0,", -1},
         {"RQ-M5,SEARCH PASS,0,", 1100}, {"RQ-M5,SEARCH PASS,S99,", 1199}, {"RQ-M5,SEARCH PASS,100,", -1},
@@ -126,13 +126,74 @@ TEST(Csv, ImportTurnsTextsBackOrKeepsWhatTheRowHad)
 
 TEST(Csv, ImportKnowsSeveralFormsOfTrue)
 {
-    for (const char* skip : {"#TRUE#", "\"#True#\"", "true", "#FALSE#", "1", ""}) {
-        const bool isTrue = std::string_view(skip).find_first_of("tT") != std::string_view::npos;
+    for (const char* skip : {"#TRUE#", "\"#True#\"", "true", "1", "-1", "Yes", "WAHR", "vrai", "VERDADERO",
+                             "vero", "#FALSE#", "0", "", "FALSCH", "faux", "FALSO", "#NAME?"}) {
+        const bool isFalse =
+            std::string_view("#FALSE#0FALSCHfauxFALSO#NAME?").find(skip) != std::string_view::npos;
         CloneImage image;
-        ParseCsv(Record("RQ-M5,MEMORY,3,", kOption, "Tone", skip), image);
-        EXPECT_EQ(image.MemData(3).option, isTrue ? 56 : 48) << skip;
+        const CsvTaken taken = ParseCsv(Record("RQ-M5,MEMORY,3,", kOption, "Tone", skip), image);
+        EXPECT_EQ(image.MemData(3).option, isFalse ? 48 : 56) << skip;
         EXPECT_TRUE(image.MemEnable(3));
+        EXPECT_EQ(taken.findings.IsEmpty(), std::string_view(skip) != "#NAME?") << skip;
     }
+}
+
+TEST(Csv, ImportNamesWhatItReadsOtherwise)
+{
+    // The row before: 433.25 MHz, WFM, 8MHz, Tone + skip, code 5, code 7, tone 9, minus, 7.6 MHz.
+    const std::tuple<Column, const char*, const char*> cases[] = {
+        {kFrequency, "\"145,500\"", "FREQUENCY \"145,500\" is read as 145: it has a decimal comma"},
+        {kFrequency, "1.455E+02", "FREQUENCY \"1.455E+02\" is read as 1.455"},
+        {kFrequency, "2400", "2400.000000 MHz is outside the receiver's range (0.1 to 1299.995 MHz)"},
+        {kFrequency, "10000", "FREQUENCY \"10000\" is out of range; the row keeps 433.250000"},
+        {kFrequency, "x", "FREQUENCY \"x\" is no number"},
+        {kMode, "NFM", "MODE \"NFM\" is none of the receiver's; the row keeps WFM"},
+        {kMode, "", "MODE is empty; the row keeps WFM"},
+        {kTone, "88.4Hz", "TONE \"88.4Hz\" is none of the receiver's; the row keeps 91.5Hz"},
+        {kShift, "minus", "SHIFT \"minus\" is read as OFF"},
+        {kMode, "AM", ""},
+        {kFrequency, "145.5 MHz", ""},
+        {kFrequency, "", ""},
+    };
+    for (const auto& [column, text, finding] : cases) {
+        CloneImage image;
+        DecodeMemoryBlock(image, MemoryBlock("04332500000212380507092007600000"), 3);
+        const CsvFindings findings = ParseCsv(Record("RQ-M5,MEMORY,3,", column, text), image).findings;
+        EXPECT_EQ(findings.IsEmpty(), *finding == '\0') << text;
+        if (!findings.IsEmpty()) {
+            EXPECT_EQ(findings.Lines().front(), "Line 1: memory row 3 (in no bank): " + std::string(finding));
+        }
+    }
+    CloneImage image;
+    const std::string lines = "RQ-M6,a\r\nRQ-M5,BANK,1\r\nRQ-M5,MEMORY,1000\r\n" +
+                              Record("RQ-M5,MEMORY,3,", kNote, "a,b") + "RQ-M5,MEMORY,4,145.5,FM\r\n" +
+                              Record("RQ-M5,MEMORY,5,", kNote, "") + "RQ-M5,MEMORY,6,";
+    std::string told;
+    for (const CsvFinding& finding : ParseCsv(lines, image).findings.all)
+        if (finding.text.find("passed over") != std::string::npos ||
+            finding.text.find("short") != std::string::npos)
+            told += std::to_string(finding.line) + finding.text.substr(finding.text.size() - 7) + "|";
+    EXPECT_EQ(told, "1ed over|2ed over|3ed over|4ed over|5into it|7ed over|");
+
+    CloneImage commas;
+    const CsvTaken taken =
+        ParseCsv(Record("RQ-M5,MEMORY,3,", kFrequency, "\"145,5\""), commas, CsvNumbers::DecimalCommas);
+    EXPECT_TRUE(taken.findings.IsEmpty() && commas.MemText(3, kFrequency) == "145.500000");
+}
+
+TEST(Csv, AFileIsOursByItsTitlesOrItsModel)
+{
+    const std::string titles = FormatCsv(CloneImage()).substr(0, 130);
+    const std::pair<std::string, bool> cases[] = {
+        {FormatCsv(CloneImage()), true},
+        {"\xEF\xBB\xBF\r\n" + Record("RQ-M5,MEMORY,3,", kMode, "AM"), true},
+        {"BANK,MODEL" + titles.substr(titles.find(",\"CHANNEL")), false},
+        {"Frequency\n145.5\nRQ-M5,MEMORY\n", false},
+        {"\"RQ-M5\";\"MEMORY\";\"3\"\r\n", false},
+        {"", false},
+    };
+    for (const auto& [text, isOurs] : cases)
+        EXPECT_EQ(IsOwnCsv(text), isOurs) << text.substr(0, 60);
 }
 
 TEST(Csv, VfoRowsHaveTheirOwnOptionTextAndRowsWithoutFrequencyAreEmptied)
@@ -156,6 +217,7 @@ TEST(Csv, NotesComeInAsOneLine)
         // clang-format off
         {"\"two\r\nlines, \"\"quoted\"\"\"", "two lines, \"quoted\""}, {"  as it stands ", "  as it stands "},
         {"\"\tx\x01\x7F\"", " x  "}, {"say \"hi\"", "say \"hi\""}, {"\x93\x8C\x8B\x9E", "\xE6\x9D\xB1\xE4\xBA\xAC"},
+        {"Z\xFCrich", "Zürich"},
         // clang-format on
     };
     for (const auto& [field, note] : cases) {

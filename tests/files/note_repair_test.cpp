@@ -95,9 +95,9 @@ TEST(RoundTrip, NamesWhatReadsBackOtherwiseAndNothingElse)
         DecodeMemoryBlock(image, MemoryBlock("01455000000000080000001000600000"), row);
     image.MemData(3).step = 19;
     image.MemData(4).shiftFrequency = 50000;
-    image.MemData(5).isSecretEdited = true;  // wording only
-    image.MemData(6).tone = 5;               // an empty row
-    image.VFOData(0).step = 19;              // VFO rows bring it back
+    image.MemData(5).isSecretEdited = image.MemData(5).isCarrierImported = true;  // wording only
+    image.MemData(6).tone = 5;                                                    // an empty row
+    image.VFOData(0).step = 19;                                                   // VFO rows bring it back
     const std::vector<std::string> expected = {
         "memory row 3 (Bank 0, channel 3): Step 1KHz -> 9KHz",
         "memory row 4 (Bank 0, channel 4): Shift frequency 0.050000 -> 0.500000"};

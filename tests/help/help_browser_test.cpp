@@ -56,6 +56,7 @@ TEST_F(HelpBrowserTest, F1OpensThePageForWhatHasTheFocus)
     const std::tuple<int, const char*, const char*> cases[] = {
         {0, "opbModel_0", "vfo-and-regions.md#choosing-the-model-region"},
         {1, "cmbTxData2", "reading-and-writing.md"},
+        {1, "chkBeep", "settings.md#settings-2"},
         {2, "MSFlexGrid1", "editing-channels.md"},
         {2, "cmbInsert", "channels-and-banks.md#the-operation-buttons"},
         {3, "txtBank_12", "channels-and-banks.md#the-bank-page"},
@@ -73,8 +74,14 @@ TEST_F(HelpBrowserTest, F1OpensThePageForWhatHasTheFocus)
 TEST_F(HelpBrowserTest, F1WorksInDialogsAndMessageBoxes)
 {
     dialogs_.act = [this](QDialog& dialog) { PressF1(*dialog.focusWidget()); };
-    Item("mnuToolsOptions").trigger();
-    EXPECT_EQ(Source(), "ports.md");
+    const std::pair<const char*, const char*> topics[] = {
+        {"mnuToolsOptions", "ports.md"},
+        {"mnuFilePrint", "printing.md"},
+        {"mnuEditUndo", "channels-and-banks.md#the-channel-editor"}};
+    for (const auto& [item, topic] : topics) {
+        Item(item).trigger();
+        EXPECT_EQ(Source(), topic);
+    }
 
     // A modal box blocks every window but its own children.
     QMessageBox box(QMessageBox::Critical, {}, QStringLiteral("Communication Error"), QMessageBox::Ok,
@@ -105,6 +112,21 @@ TEST_F(HelpBrowserTest, FollowsLinksGoesBackAndForwardAndSearches)
     QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("spreadsheet CSV"));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_EQ(Source(), "files-and-csv.md") << "the first page that a search finds";
+    const auto place = [this] { return Page().textCursor().selectionStart(); };
+    const int first = place();
+    int before = first - 1;
+    while (place() > before) {
+        before = place();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    }
+    EXPECT_GT(before, first);
+    EXPECT_EQ(place(), first) << "behind the last one comes the first one";
+
+    for (const auto& [key, size] :
+         {std::pair(Qt::Key_Plus, 1), {Qt::Key_Minus, 0}, {Qt::Key_Minus, -1}, {Qt::Key_0, 0}}) {
+        QTest::keyClick(&Page(), key, Qt::ControlModifier);
+        EXPECT_EQ(Page().TextSize(), size);
+    }
 }
 
 TEST_F(HelpBrowserTest, TheFirstHitOpensWhileTypingAndEscClearsFirst)

@@ -6,6 +6,7 @@
 #include <QMap>
 #include <QTextBlock>
 
+#include "help/about_facts.h"
 #include "help/heading_anchors.h"
 #include "help/help_topics.h"
 
@@ -100,11 +101,27 @@ TEST(Manual, EveryHelpTopicAndMessageHasItsPlace)
           "The program ended before your changes were saved. They were kept.",
           "The receiver does not hold what was written. Write again.",
           "The receiver is another model. Write to it all the same?",
+          "Write this backup to the receiver?",
+          "Delete the selected backups? They",
+          "Not every backup could be deleted.",
+          "The banks would hold more than 1000 channels together.",
           "What the receiver holds must be read first.",
           "This link leads out of the manual. Open it in the web browser?"})
         topics << MessageTopic(QString::fromLatin1(message));
     for (const QString& topic : topics)
         EXPECT_TRUE(LeadsSomewhere(pages, {}, topic)) << qPrintable(topic);
+}
+
+TEST(Manual, ASearchWantsAllItsWordsAndPutsTitlesFirst)
+{
+    EXPECT_EQ(SearchManual(QStringLiteral("DIAGNOSTIC")).constFirst().file, QStringLiteral("diagnostics.md"));
+    EXPECT_TRUE(SearchManual(QStringLiteral("print nosuchword")).isEmpty());
+}
+
+TEST(AboutFacts, NameThePort)
+{
+    for (const auto& [device, text] : {std::pair("/dev/x", "COM 3, /dev/x"), {"", "COM 3 (no device)"}})
+        EXPECT_EQ(AboutFacts({}, 3, QLatin1String(device)).constLast().value, QLatin1String(text));
 }
 
 }  // namespace

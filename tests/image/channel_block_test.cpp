@@ -96,17 +96,5 @@ TEST(ChannelBlock, ShiftFractionLosesItsLeadingZeros)
     }
 }
 
-TEST(ChannelBlock, EncodesWhatTheReceiverHolds)
-{
-    ChannelContents channel;
-    EXPECT_EQ(EncodeChannel(channel).Text(), std::string(32, '0'));
-    channel.frequency = 145'500'000;
-    channel.shift = 16;
-    channel.shiftFrequency = 600'000;
-    EXPECT_EQ(EncodeChannel(channel).Text(), "01455000000000000000001000600000");
-    channel = {1299'995'000, 99'999'999, 2, 19, 72, 16, 28, 38, 32};
-    EXPECT_EQ(EncodeChannel(channel).Text(), "1299995000021348101C262099999999");
-}
-
 }  // namespace
 }  // namespace rqm5

@@ -42,6 +42,7 @@ TEST(FlagBits, DigitsThatAreNoneAreFourFlagsOff)
         const int bit = row % 128;
         EXPECT_EQ(image.MemEnable(row), (bit >= 4 && bit < 8) || bit == 15) << row;
     }
+    EXPECT_EQ(BankFlagData(image).Text(), "00000000000000FFFFFFFFFFFFFFFFFF");
 }
 
 }  // namespace

@@ -24,13 +24,5 @@ TEST(ValueTables, LimitsAreTheNumbersOfTheTextsButForThreeRows)
     }
 }
 
-TEST(ValueTables, ToneCodesSkipTheTonesTheReceiverLacks)
-{
-    EXPECT_EQ(ToneName[32], "203.5Hz");
-    EXPECT_EQ(ToneName[38], "250.3Hz");
-    for (const char* missing : {"159.8Hz", "165.5Hz", "171.3Hz", "199.5Hz", "229.1Hz"})
-        EXPECT_EQ(IndexOf(ToneName, missing), -1);
-}
-
 }  // namespace
 }  // namespace rqm5

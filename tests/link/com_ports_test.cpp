@@ -32,6 +32,13 @@ TEST(ComPorts, TheEnvironmentGoesBeforeTheUsersChoiceBeforeTheUsualDevice)
     EXPECT_EQ(DeviceOfComPort(3), QStringLiteral("/dev/fromEnvironment"));
     EXPECT_FALSE(ComPorts()[2].isPresent);
     qunsetenv("RQM5_COM3");
+    if (const auto ports = SystemPorts(); !ports.isEmpty()) {
+        for (const char* variable : {"RQM5_COM1", "RQM5_COM9"})
+            qputenv(variable, ports[0].device.toLocal8Bit());
+        EXPECT_EQ(SystemPorts()[0].number, 1) << "the lowest of its numbers";
+        for (const char* variable : {"RQM5_COM1", "RQM5_COM9"})
+            qunsetenv(variable);
+    }
     SetDeviceOfComPort(3, {});
     EXPECT_EQ(DeviceOfComPort(3), QStringLiteral("/dev/ttyS2"));
 }

@@ -18,8 +18,6 @@ void EnableRows(CloneImage& image, RowRange rows, bool isEnabled)
         image.MemData(row).enabled = isEnabled;
 }
 
-constexpr RowRange kAllRows{0, kMemoryRows};
-
 TEST(MemoryRead, KeepsWhatCameBeforeAFailureOrACancel)
 {
     for (const bool fails : {true, false}) {
@@ -92,24 +90,6 @@ TEST(SettingsRead, DecodesTheBlocksAndTellsWhenTheyMayBeShown)
     for (int row = 0; row < kVfoRows; ++row)
         EXPECT_TRUE(line.image.VFOData(row) == held.VFOData(row)) << row;
     EXPECT_EQ(line.observer.stores, 3);
-}
-
-TEST(MemoryWrite, KeepsTheReceiversFlagsOutsideTheGroup)
-{
-    CloneImage held = DemoImage(0);
-    EnableRows(held, kAllRows, false);
-    for (const int row : {99, 150, 1239})
-        held.MemData(row).enabled = true;
-    SimulatedLine line(held);
-    line.image = DemoImage(0);
-    EnableRows(line.image, kAllRows, true);
-    ReceiverWriter writer(line.image, MemoryOf(2), line.link, line.observer);
-    EXPECT_EQ(writer.Write(), TransferResult::Done);
-    EnableRows(held, {100, 100}, true);
-    EXPECT_TRUE(writer.Written() == held);
-    const CloneImage after = ImageFromMemory(line.receiver.Memory(), {});
-    for (int row = 0; row < kMemoryRows; ++row)
-        EXPECT_EQ(after.MemEnable(row), held.MemEnable(row)) << row;
 }
 
 TEST(MemoryWrite, ListsTheSearchPassRowsAndPatchesTheirCountIntoTheBlockOfTheReceiver)

@@ -41,15 +41,6 @@ std::map<int, int> Places(const CloneImage& image)
     return places;
 }
 
-TEST(BankFill, CountsWhatBanksHoldAndWhatNoneHolds)
-{
-    CloneImage image = SmallBanks();
-    Put(image, {0, 3, 4, 9, 999, 1000});
-    EXPECT_EQ(FillOf(image, GroupRows(image, 0)), (Fill{2, 4}));
-    EXPECT_EQ(FillOf(image, GroupRows(image, 2)), (Fill{0, 2}));
-    EXPECT_EQ(FillOf(image, RowsInNoBank(image)), (Fill{2, 991}));
-}
-
 TEST(BankFill, KeepingBanksMovesChannelsAfterTheSizesAndLosesNone)
 {
     struct

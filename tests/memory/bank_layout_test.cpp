@@ -13,8 +13,8 @@ TEST(BankLayout, SelectionMapsToRows)
 {
     const CloneImage image = StartUpImage(0);
     const std::tuple<int, int, int> cases[] = {
-        {0, 0, 200},     {1, 200, 150},   {9, 950, 50},   {10, 1000, 0}, {49, 1000, 0},
-        {50, 1000, 100}, {51, 1100, 100}, {52, 1200, 10}, {53, 0, 1210},
+        {0, 0, 200},   {1, 200, 150},   {6, 750, 80},    {9, 950, 50},   {10, 1000, 0},
+        {49, 1000, 0}, {50, 1000, 100}, {51, 1100, 100}, {52, 1200, 10}, {53, 0, 1210},
     };
     for (const auto& [selector, first, count] : cases) {
         EXPECT_EQ(GroupRows(image, selector), (RowRange{first, count})) << selector;

@@ -23,20 +23,6 @@ CloneImage FilledImage()
     return image;
 }
 
-TEST(ChannelOperations, EnableNeedsAFrequency)
-{
-    CloneImage image = StartUpImage(0);
-    PutChannel(image, 1, "");
-    PutChannel(image, 2, "");
-    image.MemData(2).frequency = 0;
-    EnableRows(image, RowsOf({0, 4}));
-    for (int row = 0; row < 5; ++row)
-        EXPECT_EQ(image.MemEnable(row), row == 1) << row;
-    DisableRows(image, {1});
-    EXPECT_FALSE(image.MemEnable(1));
-    EXPECT_EQ(image.MemData(1).frequency, Hertz(101));
-}
-
 /// The notes that some rows hold afterwards, "" for an empty row.
 void ExpectNotes(const CloneImage& image, std::initializer_list<std::pair<int, const char*>> notes)
 {

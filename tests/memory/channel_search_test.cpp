@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "memory/duplicates.h"
 #include "memory/row_filter.h"
 #include "memory/start_image.h"
 
@@ -112,23 +111,6 @@ TEST(RowFilter, LeavesRowsWithTheLabelsThatTheyHave)
     EXPECT_EQ(FilterGroup(image, 1, RowFilter::All).rows.size(), 150U);
     EXPECT_EQ(FilterGroup(image, kSelectAll, RowFilter::Duplicates).labels,
               (std::vector<std::string>{"202", "349", "351", "2A"}));
-}
-
-TEST(Duplicates, AreListedByFrequencyWhateverTheMode)
-{
-    const CloneImage image = ImageOf({
-        {7, 147000, 0, 0, 0, ""},
-        {12, 145000, 0, 0, 0, ""},
-        {13, 145001, 0, 0, 0, ""},
-        {1150, 145000, 1, 0, 0, "", false},
-        {1209, 147000, 0, 0, 0, ""},
-    });
-    const auto repeated = RepeatedFrequencies(image);
-    ASSERT_EQ(repeated.size(), 2U);
-    EXPECT_EQ(repeated[0].frequency, 145'000'000);
-    EXPECT_EQ(repeated[0].rows, (std::vector{12, 1150}));
-    EXPECT_EQ(repeated[1].rows, (std::vector{7, 1209}));
-    EXPECT_TRUE(RepeatedFrequencies(StartUpImage(0)).empty());
 }
 
 }  // namespace

@@ -133,6 +133,10 @@ TEST_F(MemoryPageTest, OperationsActOnTheSelectedRowOrTheGroupShown)
     EXPECT_FALSE(image_.MemEnable(200));
     EXPECT_EQ(Steps(), 6);
     EXPECT_TRUE(Table().hasFocus());
+    document_.Absorb([](CloneImage& image) { image.SetBankSize(0, 1); });
+    page_.SelectGroup(0);
+    Click(page_, "cmbDisAll");
+    EXPECT_EQ(document_.History().undoText().toStdString(), "Disable All (Bank 0, 1 channel)");
 }
 
 TEST_F(MemoryPageTest, EveryOperationIsDrawnAtOnceAndOffIsGrey)
@@ -185,7 +189,8 @@ TEST_F(MemoryPageTest, GoesToRowsInTheGroupShownOrTheSmallestThatHoldsThem)
         {kSelectAll, {202}, kSelectAll, 203},
         {1, {202, 203}, 1, 3},
         {0, {202, 203}, 1, 3},
-        {0, {199, 200}, kSelectAll, 200},
+        {0, {199, 200}, 0, 200},
+        {2, {199, 200}, kSelectAll, 200},
         {0, {1101}, kSelectSearchPass, 2},
         {1, {}, 1, 1},
     };

@@ -5,6 +5,7 @@
 #include "image/number_text.h"
 #include "memory/channel_clip.h"
 #include "memory/fill_series.h"
+#include "memory/named_rows.h"
 #include "memory/start_image.h"
 
 namespace rqm5 {
@@ -172,6 +173,57 @@ TEST_F(PastePlanTest, ASeriesGoesOverOccupiedRowsOrAroundThem)
                                                      {117.9, 25, 0}, {117.9, -25, 5}, {118.1, 0, 0}};
     for (const auto& [last, spacing, count] : cases)
         EXPECT_EQ(CountUpTo(Hertz(118), Hertz(spacing / 1000), Hertz(last)), count) << last;
+}
+
+TEST_F(PastePlanTest, AListGoesToTheRowsThatItNames)
+{
+    const std::pair<ListedPlace, int> cases[] = {
+        {{"Bank 1", "5", {}}, 205},
+        {{"1", "5", {}}, 205},
+        {{"Bank 0", "200", {}}, -1},
+        {{"MEMORY", "999", {}}, 999},
+        {{"Program Scan", "0B", {}}, 1001},
+        {{"search pass", "S5", {}}, 1105},
+        {{"Seach Pass", "5", {}}, 1105},
+        {{"Priority", "Pr9", {}}, 1209},
+        {{"Priority", "10", {}}, -1},
+        {{"", "", "1209"}, 1209},
+        {{"", "", "1210"}, -1},
+        {{"Bank 50", "0", {}}, -1},
+        {{"", "5", {}}, -1},
+    };
+    std::vector<ListedChannel> channels = Channels({100});
+    for (const auto& [place, row] : cases) {
+        channels[0].place = place;
+        const PastePlan plan = PlanNamed(image_, channels);
+        EXPECT_EQ(plan[0].row, row) << place.bank << " " << place.channel << place.row;
+        EXPECT_EQ(plan[0].IsTaken(), row >= 0);
+    }
+    // What the list does not say of a channel stays; a row that is named twice takes the first.
+    Put(7, 433);
+    image_.MemData(7).tone = 5;
+    channels = Channels({434, 435});
+    for (ListedChannel& channel : channels) {
+        channel.given = {kFrequency};
+        channel.place = {"", "", "7"};
+    }
+    const PastePlan plan = PlanNamed(image_, channels);
+    EXPECT_EQ(Told(plan), "7 434.000000\n7 the list names this row twice\n");
+    EXPECT_EQ(plan[0].channel.tone, 5);
+}
+
+TEST_F(PastePlanTest, ALongListLeavesNoGapsWhereSomethingIsRefused)
+{
+    std::vector<ListedChannel> channels = Channels({100, 2400, 101, 102});
+    channels[2].refusal = "no";
+    EXPECT_EQ(Told(PlanOn(image_, {3, 5}, channels)),
+              "3 100.000000\n-1 The receiver takes 0.1 to 1299.995 MHz.\n-1 no\n5 102.000000\n");
+    const std::pair<const char*, int> words[] = {{"17", 17},   {"1:5", 205},  {"1:", 200}, {"priority", 1200},
+                                                 {"1210", -1}, {"0:200", -1}, {"x", -1}};
+    for (const auto& [word, row] : words)
+        EXPECT_EQ(RowOfWord(image_, word).value_or(-1), row) << word;
+    EXPECT_EQ(RowsOnFrom(image_, 150), (RowRange{150, 850}));
+    EXPECT_EQ(RowsOnFrom(image_, 1150), (RowRange{1150, 50}));
 }
 
 }  // namespace

@@ -59,6 +59,9 @@ TEST(Listing, MarksDisabledChannelsAndLeavesEmptyRowsOutOnlyWhenAsked)
     PutChannel(image, 2, 146'000'000, "東京");
     image.MemData(2).enabled = false;
     image.SetBankLink(0, true);
+    image.SetBankLink(kSelectProgramScan, true);  // a flag that the receiver keeps for no bank
+    EXPECT_EQ(MemoryListing(image, kSelectProgramScan).front().title,
+              "Memory: Program Scan (0 of 100 rows used)");
     const std::string one =
         "0       145.000000  FM    10KHz  OFF           JR       88.5Hz  OFF    0.600000    one";
     const std::string two =

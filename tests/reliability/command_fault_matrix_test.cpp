@@ -19,13 +19,7 @@ struct Operation
 
 const Operation kOperations[] = {
     {{"read"}, false},
-    {{"write"}, true},
-    {{"read", "--only=settings"}, false},
-    {{"write", "--only=settings"}, true},
-    {{"read", "--only=memory"}, false},
-    {{"write", "--only=memory"}, true},
-    {{"read", "--only=memory", "--bank=1"}, false},
-    {{"write", "--only=memory", "--bank=1"}, true},
+    {{"write", "--bank=1"}, true},
     {{"verify"}, false},
     {{"raw"}, false},
 };

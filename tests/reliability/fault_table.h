@@ -1,7 +1,9 @@
 #pragma once
 
+#include <algorithm>
 #include <cctype>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "link/reply_outcome.h"
@@ -54,5 +56,10 @@ inline constexpr FaultCase kFaults[] = {
     {"hang-up", "device", "device", false, ReplyOutcome::PortFailed, true},
     {"silent", "sent nothing", "sent nothing", false, ReplyOutcome::Nothing, true},
 };
+
+inline const FaultCase& FaultNamed(std::string_view text)
+{
+    return *std::ranges::find(kFaults, text, &FaultCase::text);
+}
 
 }  // namespace rqm5

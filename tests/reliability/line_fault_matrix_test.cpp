@@ -28,18 +28,9 @@ struct Operation
 };
 
 const Operation kOperations[] = {
-    {"ReadSettings", Kind::Read, kSettingsOnly},
-    {"WriteSettings", Kind::Write, kSettingsOnly},
-    {"ReadOneBank", Kind::Read, MemoryOf(1)},
-    {"WriteOneBank", Kind::Write, MemoryOf(1)},
-    {"ReadSearchPass", Kind::Read, MemoryOf(kSelectSearchPass)},
-    {"WriteSearchPass", Kind::Write, MemoryOf(kSelectSearchPass)},
-    {"ReadBanks", Kind::Read, kBanksOnly},
-    {"WriteBanks", Kind::Write, kBanksOnly},
-    {"ReadAll", Kind::Read, kEverything},
-    {"WriteAll", Kind::Write, kEverything},
-    {"VerifySettings", Kind::Verify, kSettingsOnly},
-    {"VerifyOneBank", Kind::Verify, MemoryOf(1)},
+    {"WriteOneBank", Kind::Write, MemoryOf(1)}, {"VerifyOneBank", Kind::Verify, MemoryOf(1)},
+    {"ReadBanks", Kind::Read, kBanksOnly},      {"WriteBanks", Kind::Write, kBanksOnly},
+    {"ReadAll", Kind::Read, kEverything},       {"WriteAll", Kind::Write, kEverything},
 };
 
 struct PortFolder

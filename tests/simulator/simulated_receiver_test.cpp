@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "simulator/line_pacer.h"
+#include "simulator/sim_session.h"
 
 namespace rqm5 {
 namespace {
@@ -69,6 +72,16 @@ TEST(FaultPlan, StrikesByCountByProbabilityAndAfterGoodCommands)
     for (const char* text : {"", "dropp", "drop:", "drop:x", "drop:-1", "drop:1.5", "drop:101%", "drop:3x",
                              "drop:after=", "drop:after=-2", "drop:1:"})
         EXPECT_FALSE(ParseFault(text)) << text;
+}
+
+TEST(SimSession, LeavesNothingOpen)
+{
+    const auto open = [] {
+        return std::distance(begin(std::filesystem::directory_iterator("/proc/self/fd")), {});
+    };
+    const auto before = open();
+    SimSession(SimOptions{}).Stop();
+    EXPECT_EQ(open(), before);
 }
 
 TEST(LinePacer, ACharacterTakesTenBits)

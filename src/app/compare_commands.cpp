@@ -1,0 +1,157 @@
+#include "app/compare_commands.h"
+
+#include <QFileInfo>
+#include <QLocale>
+
+#include "files/file_store.h"
+#include "link/separate_read.h"
+#include "ui/error_prompt.h"
+#include "ui/plain_text.h"
+
+namespace rqm5 {
+namespace {
+
+QString ShortTime(const QDateTime& time)
+{
+    return QLocale().toString(time, QLocale::ShortFormat);
+}
+
+/// A read beside the document: shows its progress, and its messages over the window that asked.
+class SeparateObserver : public TransferObserver
+{
+  public:
+    SeparateObserver(TransferCommands& transfers, Dialogs& dialogs, QWidget& window)
+        : transfers_(transfers), dialogs_(dialogs), window_(window)
+    {
+    }
+
+    void ProgressStarted(int maximum) override { transfers_.ShowProgress(maximum); }
+    void ProgressMoved(int value, int /*row*/) override { transfers_.MoveProgress(value); }
+    void Message(const Problem& problem) override { dialogs_.Ask(&window_, ErrorPrompt(problem)); }
+    bool IsCancelled() override { return transfers_.IsStopped(); }
+
+  private:
+    TransferCommands& transfers_;
+    Dialogs& dialogs_;
+    QWidget& window_;
+};
+
+/// A change of nothing but one place, for going there.
+ImageChange PlaceOf(ItemId id)
+{
+    ImageChange change;
+    switch (id.kind) {
+        case ItemKind::MemoryRow:
+            change.MemEnable.push_back({id.index, false, true});
+            break;
+        case ItemKind::VfoRow:
+            change.VFONotes.push_back({id.index, {}, {}});
+            break;
+        case ItemKind::BankSize:
+            change.BankSize.push_back({id.index, 0, 0});
+            break;
+        case ItemKind::BankLink:
+            change.BankLink.push_back({id.index, false, true});
+            break;
+        case ItemKind::Setting:
+            change.Settings.push_back({id.index, 0, 0});
+            break;
+    }
+    return change;
+}
+
+}  // namespace
+
+CompareCommands::CompareCommands(Document& document, RadioLink& link, TransferCommands& transfers,
+                                 Dialogs& dialogs, Pages& pages, QWidget& window)
+    : QObject(&window),
+      document_(document),
+      link_(link),
+      transfers_(transfers),
+      dialogs_(dialogs),
+      pages_(pages),
+      window_(window)
+{
+}
+
+void CompareCommands::MakeWindow()
+{
+    compare_ = new dlgCompare(document_, dialogs_, &window_);
+    connect(compare_, &dlgCompare::FileWanted, this, &CompareCommands::CompareWithFile);
+    connect(compare_, &dlgCompare::BackupWanted, this, &CompareCommands::BackupWanted);
+    connect(compare_, &dlgCompare::LastReadWanted, this, &CompareCommands::CompareWithLastRead);
+    connect(compare_, &dlgCompare::ReceiverWanted, this, &CompareCommands::CompareWithReceiver);
+    connect(compare_, &dlgCompare::PlaceChosen, this, &CompareCommands::GoTo);
+    connect(&transfers_, &TransferCommands::Started, compare_,
+            [this] { compare_->SetTransferRunning(true); });
+    connect(&transfers_, &TransferCommands::Ended, compare_, [this] {
+        compare_->SetTransferRunning(false);
+        compare_->SetLastRead(transfers_.LastFullRead().has_value());
+    });
+}
+
+void CompareCommands::mnuToolsCompare_Click()
+{
+    if (compare_ == nullptr)
+        MakeWindow();
+    compare_->SetLastRead(transfers_.LastFullRead().has_value());
+    compare_->Present();
+}
+
+void CompareCommands::CompareWith(dlgCompare::Source source)
+{
+    mnuToolsCompare_Click();
+    compare_->ShowSource(std::move(source));
+}
+
+void CompareCommands::CompareWithFile()
+{
+    const QString path = dialogs_.ChooseFile(compare_, FileChoice::OpenClone, document_.FileName());
+    if (path.isEmpty())
+        return;
+    CloneImage image = document_.Image();
+    if (const auto problem = LoadCloneFile(path, image)) {
+        dialogs_.Ask(compare_, ErrorPrompt(*problem));
+        return;
+    }
+    const QFileInfo file(path);
+    CompareWith({VisibleText(file.fileName()),
+                 tr("Other side: the file %1, saved %2")
+                     .arg(VisibleText(file.fileName()), ShortTime(file.lastModified())),
+                 std::move(image), ComparedParts()});
+}
+
+void CompareCommands::CompareWithLastRead()
+{
+    if (const auto last = transfers_.LastFullRead())
+        CompareWith({tr("the last read"),
+                     tr("Other side: the receiver as it was read at %1").arg(ShortTime(last->time)),
+                     last->image, kReceiverParts});
+}
+
+void CompareCommands::CompareWithReceiver()
+{
+    CloneImage image;
+    auto result = TransferResult::Failed;
+    transfers_.RunOther([&] {
+        SeparateObserver observer(transfers_, dialogs_, window_);
+        result = ReadSeparately(link_, observer, image);
+        if (result == TransferResult::Done)
+            transfers_.KeepLastRead(image);
+    });
+    if (result != TransferResult::Done)
+        return;
+    CompareWith(
+        {tr("the receiver"),
+         tr("Other side: the receiver, read just now (%1)").arg(ShortTime(transfers_.LastFullRead()->time)),
+         std::move(image), kReceiverParts});
+}
+
+void CompareCommands::GoTo(ItemId id)
+{
+    // While a transfer runs the pages are off.
+    if (!transfers_.IsRunning())
+        pages_.GoTo(PlaceOf(id));
+}
+
+}  // namespace rqm5

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QStringList>
+
+#include "ui/message_bar.h"
+
+namespace rqm5 {
+
+/// Says in the message bar which rows a write sends with a frequency outside the receiver's range; without
+/// any it takes back what an earlier write said.
+void TellOutOfRange(const QStringList& rows, MessageBar& bar);
+
+}  // namespace rqm5

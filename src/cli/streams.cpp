@@ -1,0 +1,131 @@
+#include "cli/streams.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <array>
+#include <cstdio>
+#include <iostream>
+#include <memory>
+#include <string_view>
+
+#include "cli/clone_files.h"
+#include "files/file_store.h"
+
+#ifdef Q_OS_UNIX
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace rqm5 {
+namespace {
+
+constexpr std::size_t kLongestInput = 16 * 1024 * 1024;
+constexpr int kUsualColumns = 80;
+
+/// True for what is read as it comes: pipes, terminals and what else is a device of characters.
+bool IsStream([[maybe_unused]] const std::string& path)
+{
+#ifdef Q_OS_UNIX
+    struct stat found = {};
+    return ::stat(path.c_str(), &found) == 0 &&
+           (S_ISFIFO(found.st_mode) || S_ISCHR(found.st_mode) || S_ISSOCK(found.st_mode));
+#else
+    return false;
+#endif
+}
+
+std::optional<Problem> ReadStream(std::FILE* stream, const std::string& name, std::string& bytes)
+{
+    std::array<char, 1 << 16> buffer;
+    bytes.clear();
+    while (bytes.size() <= kLongestInput) {
+        const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), stream);
+        bytes.append(buffer.data(), count);
+        if (count == 0)
+            break;
+    }
+    if (bytes.size() > kLongestInput)
+        return Problem{kFileOpenError, name +
+                                           ": more than 16 MiB came. No clone file and no CSV file of a "
+                                           "receiver is as long; check what is sent."};
+    if (std::ferror(stream) != 0)
+        return Problem{kFileOpenError, name + ": it cannot be read. Give the name of a file."};
+    return std::nullopt;
+}
+
+bool IsTerminal([[maybe_unused]] int descriptor)
+{
+#ifdef Q_OS_UNIX
+    return isatty(descriptor) != 0;
+#else
+    return false;
+#endif
+}
+
+bool TakesColour(int descriptor)
+{
+    const std::string_view terminal = qEnvironmentVariableIsSet("TERM") ? std::getenv("TERM") : "";
+    return IsTerminal(descriptor) && qEnvironmentVariableIsEmpty("NO_COLOR") && !terminal.empty() &&
+           terminal != "dumb";
+}
+
+/// Columns of the terminal on standard error, 0 when it is none.
+int ErrorColumns()
+{
+#ifdef Q_OS_UNIX
+    if (!IsTerminal(STDERR_FILENO))
+        return 0;
+    winsize size = {};
+    const bool isKnown = ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+    return isKnown ? size.ws_col : kUsualColumns;
+#else
+    return 0;
+#endif
+}
+
+}  // namespace
+
+std::optional<Problem> ReadInput(const std::string& path, std::string& bytes)
+{
+    if (IsStandard(path))
+        return ReadStream(stdin, kStandardInput, bytes);
+    if (!IsStream(path))
+        return ReadWholeFile(PathOf(path), bytes);
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> stream(
+        std::fopen(path.c_str(), "rb"), [](std::FILE* file) { return std::fclose(file); });
+    if (!stream)
+        return Problem{kFileOpenError, path + ": it cannot be opened. Check its permissions."};
+    return ReadStream(stream.get(), path, bytes);
+}
+
+std::ostream& NotesOf(const std::string& path, Console& console)
+{
+    return IsStandard(path) ? console.err : console.out;
+}
+
+Console StandardConsole()
+{
+    // A whole table in one piece: a reader such as head that leaves early does not cut a command short.
+    static std::array<char, 1 << 16> buffer;
+    std::ios::sync_with_stdio(false);
+    std::cout.rdbuf()->pubsetbuf(buffer.data(), buffer.size());
+    std::cin.tie(nullptr);
+    Console console{std::cout, std::cerr, ErrorColumns()};
+#ifdef Q_OS_UNIX
+    console.paintsOut = TakesColour(STDOUT_FILENO);
+    console.paintsErr = TakesColour(STDERR_FILENO);
+#endif
+    return console;
+}
+
+int Finish(Status status, Console& console)
+{
+    console.out.flush();
+    if (console.out || status != Status::Done)
+        return static_cast<int>(status);
+    console.err << kFileOpenError << ": the output could not be written; is the disk full?\n";
+    return static_cast<int>(Status::Failed);
+}
+
+}  // namespace rqm5

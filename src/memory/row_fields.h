@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "image/channel.h"
+
+namespace rqm5 {
+
+/// The fields of a row as they are compared: its columns up to the shift frequency, whether scanning skips
+/// it, its note and its flag.
+enum RowField { kSkipField = kTextColumns, kEnabledField, kRowFields };
+
+/// What a field is called: "Mode", "Skip", "Enabled".
+std::string_view RowFieldName(int field);
+
+/// A field of two rows.
+struct FieldPair
+{
+    std::string first;
+    std::string second;
+    bool differs = false;
+};
+
+using FieldPairs = std::vector<FieldPair>;
+
+/// The fields of two rows, by their numbers. The texts are visible ones.
+FieldPairs CompareFields(const Channel& first, const Channel& second, RowKind kind);
+
+/// "on" or "off".
+std::string OnOff(bool value);
+
+}  // namespace rqm5
