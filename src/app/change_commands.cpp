@@ -82,15 +82,16 @@ TransferResult ChangeCommands::Run(ChangePlan& plan, bool keepsBackup, bool veri
     TransferResult result = Check(plan);
     if (result == Done && !(DecideConflicts(plan) && transfers_.MayWriteToThisModel()))
         result = Cancelled;
-    if (result == Done && keepsBackup)
+    const bool isWritten = !plan.Wanted().empty();  // not when all of it is decided for the receiver
+    if (result == Done && keepsBackup && isWritten)
         result = KeepBackup(plan);
-    if (result == Cancelled && !transfers_.HasNote())
+    if ((result == Cancelled || !isWritten) && !transfers_.HasNote())
         transfers_.AddNote(QString::fromStdString(NothingChanged()));
     if (result != Done)
         return result;
     before.Forget();
     TakeOver(plan);
-    return Write(plan, verifies);
+    return isWritten ? Write(plan, verifies) : Done;
 }
 
 /// Reads each block that is to be written: somebody may have edited at the receiver itself.

@@ -23,7 +23,7 @@ QString Text(const std::string& text)
 dlgWriteConflicts::dlgWriteConflicts(const CloneImage& image, const ChangePlan& plan, QWidget* parent)
     : QDialog(parent)
 {
-    constexpr int kLetters = 100;
+    constexpr int kLetters = 130;
     constexpr int kLines = 20;
     setObjectName(QStringLiteral("dlgWriteConflicts"));
     setWindowTitle(tr("Changed at the Receiver, Too"));
@@ -40,7 +40,9 @@ dlgWriteConflicts::dlgWriteConflicts(const CloneImage& image, const ChangePlan& 
         AddConflict(DescribeConflict(image, plan, conflict), *list);
     list->expandAll();
     const int letter = fontMetrics().averageCharWidth();
-    list->setColumnWidth(kWhat, letter * kLetters / 3);
+    list->setColumnWidth(kWhat, letter * kLetters * 2 / 7);
+    for (const int column : {kKnown, kNow, kHere})
+        list->setColumnWidth(column, letter * kLetters / 7);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     const auto addForAll = [&](const char* name, const QString& caption, Decision decision) {

@@ -72,7 +72,7 @@ dlgWriteChanges::dlgWriteChanges(const CloneImage& image, const ChangePlan& plan
 
 void dlgWriteChanges::Build(const std::vector<RowChange>& changes)
 {
-    constexpr int kLetters = 80;
+    constexpr int kLetters = 100;
     constexpr int kLines = 24;
     auto* list = new QTreeWidget(this);
     list->setObjectName(QStringLiteral("lstChanges"));
@@ -86,8 +86,8 @@ void dlgWriteChanges::Build(const std::vector<RowChange>& changes)
     }
     list->expandAll();
     const int letter = fontMetrics().averageCharWidth();
-    list->setColumnWidth(kWhat, letter * kLetters / 2);
-    list->setColumnWidth(kHeld, letter * kLetters / 4);
+    list->setColumnWidth(kWhat, letter * kLetters * 4 / 9);
+    list->setColumnWidth(kHeld, letter * kLetters * 2 / 9);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     QPushButton* write = buttons->button(QDialogButtonBox::Ok);
     write->setObjectName(QStringLiteral("OKButton"));

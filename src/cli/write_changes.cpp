@@ -109,6 +109,8 @@ class ChangesCommand
         plan_->Check(read);
         if (!plan_->Conflicts().empty())
             return RefuseConflicts();
+        if (plan_->Wanted().empty())
+            return Status::Done;  // somebody has made the same change there
         const int wanted = image_.Settings().model;
         const int model = ModelOf(plan_->Held().at(AreaOf(Area::Settings).address)).value_or(wanted);
         if (model == wanted || arguments_.Has("--force"))
@@ -139,8 +141,9 @@ class ChangesCommand
     Status KeepBackup()
     {
         const std::string path = arguments_.Value("--backup");
-        return path.empty() ? Status::Done
-                            : SaveRead(path, ImageOfBlocks(plan_->Held()), console_, NothingWritten());
+        return path.empty() || plan_->Wanted().empty()
+                   ? Status::Done
+                   : SaveRead(path, ImageOfBlocks(plan_->Held()), console_, NothingWritten());
     }
 
     Status Write()

@@ -126,7 +126,9 @@ std::string AboutTime(std::size_t exchanges)
     constexpr int kMinute = 60;
     constexpr int kNearlyAMinute = 50;
     const auto seconds = static_cast<int>(std::lround(kSecondsOfABlock * static_cast<double>(exchanges)));
-    if (seconds <= 1)
+    if (seconds == 0)
+        return Translate("less than a second").toStdString();
+    if (seconds == 1)
         return Translate("about one second").toStdString();
     if (seconds < kNearlyAMinute)
         return Translate("about %1 seconds").arg(seconds).toStdString();

@@ -254,7 +254,7 @@ TEST_F(WriteOptionsTest, ChangesAreShownCheckedBackedUpWrittenAndVerified)
     EXPECT_EQ(
         std::exchange(shown, {}),
         (std::vector<QString>{QStringLiteral("Settings 2"), QStringLiteral("Scan Mode|Busy Scan|Timer Scan"),
-                              QStringLiteral("1 block is written, about one second.")}));
+                              QStringLiteral("1 block is written, less than a second.")}));
     EXPECT_EQ(receiver_.CommandLog().size(), 3U);
     EXPECT_EQ(OrderOfVerbs(), "RWR");
     EXPECT_EQ(Backups().filter(QStringLiteral("changes.RQ5")).size(), 1);
@@ -266,6 +266,8 @@ TEST_F(WriteOptionsTest, ChangesAreShownCheckedBackedUpWrittenAndVerified)
     Click("opbScanMode_0");
     Item("mnuWrChanges").trigger();
     EXPECT_EQ(receiver_.Memory(), memory) << "the receiver's was taken";
+    EXPECT_EQ(StatusText("lblHint"), QStringLiteral("Nothing was written."));
+    EXPECT_EQ(Backups().size(), 1);
     EXPECT_EQ(shown.back(), QStringLiteral("Scan Mode|Timer Scan|Timer Scan|Busy Scan"));
     EXPECT_TRUE(Find<QAbstractButton>("opbScanMode_1").isChecked()) << "in the window, too";
     Item("mnuHistoryUndo").trigger();

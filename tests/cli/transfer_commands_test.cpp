@@ -266,7 +266,7 @@ TEST_F(Write, ChangesAreAllThatIsMovedAndNothingThatWasChangedThereIsLost)
     } cases[] = {
         {{"--known", old}, 1, 11, 11, "Row 1107 (Search Pass S7), Frequency: known "},
         {{"--known", folder / "none.RQ5"}, 1, 0, 0, "Nothing was written."},
-        {{}, 1, 20 + 7 + 11, 20 + 7 + 11, "Not known of the receiver: 7 blocks, about one second.\n"},
+        {{}, 1, 20 + 7 + 11, 20 + 7 + 11, "Not known of the receiver: 7 blocks, less than a second.\n"},
         {{}, 1, 20 + 11, 20 + 11, "Row 1107 (Search Pass S7), Frequency: known "},
         {{"--bank=3"}, 2, 0, 0, "leave out --bank"},
     };
