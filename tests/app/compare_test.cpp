@@ -109,9 +109,16 @@ TEST_F(CompareTest, ComparesWithTheReceiverAndItsLastReadWithoutTouchingTheImage
     Button("cmbTakeSelected").click();
     EXPECT_EQ(Count(), QStringLiteral("Nothing differs."));
 
-    // A read that is cancelled leaves the comparison as it was.
+    // A read that is cancelled or fails leaves the comparison as it was.
     At(100, [this] { Click("cmbCancel"); });
     Button("cmbCompareReceiver").click();
+    EXPECT_TRUE(dialogs_.asked.empty());
+    port_.Close();
+    port_.SetDevice(Path("nowhere"));
+    Button("cmbCompareReceiver").click();
+    ASSERT_EQ(dialogs_.asked.size(), 1U);
+    EXPECT_EQ(dialogs_.asked[0].text, QStringLiteral("COM Port Error"));
+    EXPECT_FALSE(Button("cmbCompareLastRead").isEnabled()) << "another port may have another receiver";
     EXPECT_TRUE(StatusText("lblCompareSource").contains(QStringLiteral("as it was read")));
 }
 
