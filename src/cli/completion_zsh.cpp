@@ -42,11 +42,11 @@ std::string Action(const Offer& offer)
         case Offer::Kind::AnyFile:
             return "_files";
         case Offer::Kind::CloneFile:
-            return "_files -g \"*.(#i)rq5\"";
+            return "_files -g \"*.(RQ5|rq5)\"";
         case Offer::Kind::CsvFile:
-            return "_files -g \"*.(#i)csv\"";
+            return "_files -g \"*.(csv|CSV)\"";
         case Offer::Kind::PdfFile:
-            return "_files -g \"*.(#i)pdf\"";
+            return "_files -g \"*.(pdf|PDF)\"";
         case Offer::Kind::Nothing:
             break;
     }
