@@ -81,20 +81,25 @@ StatusBar::StatusBar(QWidget* parent)
 
 bool StatusBar::eventFilter(QObject* watched, QEvent* event)
 {
-    if (!note_.isEmpty() && IsAction(*event) && watched->isWidgetType() && !IsOnLink(watched, *event) &&
+    if (!note_.isEmpty() && IsAction(*event) && watched->isWidgetType() && !IsOnLink(*event) &&
         static_cast<QWidget*>(watched)->window() == window())
         ShowNote({});
     return QStatusBar::eventFilter(watched, event);
 }
 
-/// On the way to the link of a note and on it, the note stays.
-bool StatusBar::IsOnLink(const QObject* watched, const QEvent& event) const
+/// On the way to the link of a note and on it, the note stays. A press that the link does not take for itself
+/// goes on to what lies below it.
+bool StatusBar::IsOnLink(const QEvent& event) const
 {
     if (!details_)
         return false;
-    const bool isKey = event.type() != QEvent::MouseButtonPress;
-    const int key = isKey ? static_cast<const QKeyEvent&>(event).key() : 0;
-    return watched == lblNoteDetails_ || key == Qt::Key_Tab || key == Qt::Key_Backtab;
+    if (event.type() == QEvent::MouseButtonPress) {
+        const QPoint place = static_cast<const QMouseEvent&>(event).globalPosition().toPoint();
+        return lblNoteDetails_->rect().contains(lblNoteDetails_->mapFromGlobal(place));
+    }
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    const bool opens = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    return key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab || (opens && lblNoteDetails_->hasFocus());
 }
 
 void StatusBar::ShowDocument(const Document& document)

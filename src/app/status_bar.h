@@ -42,7 +42,7 @@ class StatusBar : public QStatusBar
 
   private:
     void ShowFirstText();
-    bool IsOnLink(const QObject* watched, const QEvent& event) const;
+    bool IsOnLink(const QEvent& event) const;
 
     QString pointerHint_;
     QString note_;
