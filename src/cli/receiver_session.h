@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
