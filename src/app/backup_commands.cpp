@@ -29,7 +29,7 @@ void BackupCommands::mnuFileBackups_Click()
     dialogs_.Run(backups);
     switch (backups.ChosenAction()) {
         case dlgBackups::Action::Open:
-            files_.OpenDropped(backups.Chosen().path);
+            files_.OpenAnother(backups.Chosen().path);
             break;
         case dlgBackups::Action::Compare:
             Compare(backups.Chosen());
