@@ -11,12 +11,11 @@ namespace {
 
 constexpr int kFieldMargin = 6;
 constexpr int kPortColumns = 36;
-QString ModelName(int model)
+QString ModelText(int model)
 {
-    if (model < 0 || model >= kRegions)
-        return StatusBar::tr("Sibling model");
-    const std::string_view name = RegionOf(model).model;
-    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+    const std::string_view name = model < kRegions ? ModelName(model) : std::string_view();
+    return name.empty() ? StatusBar::tr("Sibling model")
+                        : QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
 }
 
 int EnabledChannels(const CloneImage& image)
@@ -106,7 +105,7 @@ void StatusBar::ShowDocument(const Document& document)
 {
     const bool hasFile = !document.FileName().isEmpty();
     lblFileState_->setText(document.DataChanged() ? tr("Changed") : hasFile ? tr("Saved") : tr("New"));
-    lblRegion_->setText(ModelName(document.Image().Settings().model));
+    lblRegion_->setText(ModelText(document.Image().Settings().model));
     lblEnabled_->setText(tr("Channels enabled: %1").arg(EnabledChannels(document.Image())));
 }
 

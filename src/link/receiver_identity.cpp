@@ -8,10 +8,7 @@
 namespace rqm5 {
 QString NameOfModel(int model)
 {
-    const auto names = ModelNames();
-    const std::string_view name = model >= 0 && model < static_cast<int>(names.size())
-                                      ? names[static_cast<std::size_t>(model)]
-                                      : std::string_view("?");
+    const std::string_view name = ModelName(model).empty() ? std::string_view("?") : ModelName(model);
     return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
 }
 
