@@ -3,9 +3,9 @@
 #include <QDrag>
 #include <QDropEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QToolTip>
 #include <algorithm>
-#include <utility>
 
 #include "memory/channel_delegate.h"
 #include "memory/table_clipboard.h"
@@ -31,6 +31,11 @@ MemoryTable::MemoryTable(const CloneImage& image, QWidget* parent)
     setDropIndicatorShown(false);  // it is as short as a cell
     setDragDropOverwriteMode(false);
     connect(cells_, &CellDelegate::Entered, this, &MemoryTable::LeaveCell);
+    // At an edge the rows move along below what is held there.
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+        if (drop_)
+            viewport()->update();
+    });
     ChangeFont(*this);
 }
 
@@ -228,15 +233,14 @@ bool MemoryTable::CanTake(const QDropEvent& event) const
 }
 
 /// The memory row that rows are moved to before, or that a list is written from on.
-int MemoryTable::RowOfDrop(const QDropEvent& event) const
+int MemoryTable::RowOfDrop(const DropPlace& drop) const
 {
-    const QPoint position = event.position().toPoint();
-    const QModelIndex index = indexAt(position);
-    const int last = model_.Rows().back();
+    const QModelIndex index = indexAt(drop.position);
+    const int end = model_.Rows().back() + (drop.isMove ? 1 : 0);
     if (!index.isValid())
-        return IsOwnMove(event) ? last + 1 : last;
-    const int row = model_.MemoryRow(index.row()) + (position.y() > visualRect(index).center().y() ? 1 : 0);
-    return IsOwnMove(event) ? row : std::min(row, last);
+        return end;
+    const bool isBelow = drop.position.y() > visualRect(index).center().y();
+    return std::min(end, model_.MemoryRow(index.row()) + (isBelow ? 1 : 0));
 }
 
 void MemoryTable::dragEnterEvent(QDragEnterEvent* event)
@@ -250,7 +254,8 @@ void MemoryTable::dragMoveEvent(QDragMoveEvent* event)
     ChannelTable::dragMoveEvent(event);
     event->setDropAction(IsOwnMove(*event) ? Qt::MoveAction : Qt::CopyAction);
     event->setAccepted(CanTake(*event));
-    ShowDropLine(event->isAccepted() ? std::optional(RowOfDrop(*event)) : std::nullopt);
+    const DropPlace drop{event->position().toPoint(), IsOwnMove(*event)};
+    ShowDropLine(event->isAccepted() ? std::optional(drop) : std::nullopt);
 }
 
 void MemoryTable::dragLeaveEvent(QDragLeaveEvent* event)
@@ -259,20 +264,20 @@ void MemoryTable::dragLeaveEvent(QDragLeaveEvent* event)
     ShowDropLine(std::nullopt);
 }
 
-void MemoryTable::ShowDropLine(std::optional<int> row)
+void MemoryTable::ShowDropLine(std::optional<DropPlace> drop)
 {
-    if (std::exchange(dropRow_, row) != row)
-        viewport()->update();
+    drop_ = drop;
+    viewport()->update();
 }
 
 void MemoryTable::paintEvent(QPaintEvent* event)
 {
     ChannelTable::paintEvent(event);
-    if (!dropRow_ || model_.Rows().empty())
+    if (!drop_ || model_.Rows().empty())
         return;
     constexpr int kThickness = 3;
     const int last = model_.rowCount() - 1;
-    const int place = PlaceOf(*dropRow_);
+    const int place = PlaceOf(RowOfDrop(*drop_));
     const int top = place >= 0 ? rowViewportPosition(place) : rowViewportPosition(last) + rowHeight(last);
     QPainter(viewport()).fillRect(0, std::max(0, top - 2), viewport()->width(), kThickness, palette().text());
 }
@@ -286,8 +291,8 @@ void MemoryTable::dropEvent(QDropEvent* event)
         event->ignore();
         return;
     }
-    const int row = RowOfDrop(*event);
     const bool isMove = IsOwnMove(*event);
+    const int row = RowOfDrop({event->position().toPoint(), isMove});
     event->setDropAction(isMove ? Qt::MoveAction : Qt::CopyAction);
     event->accept();
     if (isMove)

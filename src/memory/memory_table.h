@@ -76,19 +76,25 @@ class MemoryTable : public ChannelTable
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
   private:
+    struct DropPlace
+    {
+        QPoint position;
+        bool isMove;  ///< of this table's own rows
+    };
+
     int PlaceOf(int memoryRow) const;
     void SelectAgain(const std::vector<int>& rows, int current, int tableRow, int column);
     void ShowPlace();
     void LeaveCell(int rows, int columns);
-    int RowOfDrop(const QDropEvent& event) const;
+    int RowOfDrop(const DropPlace& drop) const;
     bool IsOwnMove(const QDropEvent& event) const;
     bool CanTake(const QDropEvent& event) const;
-    void ShowDropLine(std::optional<int> row);
+    void ShowDropLine(std::optional<DropPlace> drop);
 
     const CloneImage& image_;
     MemoryTableModel model_;
     CellDelegate* cells_;
-    std::optional<int> dropRow_;  ///< something would be dropped before this memory row
+    std::optional<DropPlace> drop_;  ///< while something that can be dropped is over the table
 };
 
 }  // namespace rqm5
