@@ -81,7 +81,7 @@ inline constexpr MenuItem kMenuItems[] = {
      During::Off},
     {"mnuRead", "", "", "", "", During::Stays},
     {"mnuRead", "mnuReVerify", TEXT("&Verify after reading"), "",
-     TEXT("Read everything twice, and list what came otherwise"), During::Off},
+     TEXT("Read everything twice, and list what was different"), During::Off},
 
     {"mnuWrite", "mnuWrAll", TEXT("ALL(&A)"), "Ctrl+Shift+W", TEXT("Write everything to the receiver"),
      During::Off},

@@ -114,7 +114,8 @@ void AddDigits(std::string_view bytes, Warnings& warnings)
     for (int number = kStartLine; const auto line = reader.NextLine(); ++number)
         if (HoldsBlock(number) && line->find_first_not_of("0123456789ABCDEF") != std::string_view::npos)
             lines.push_back("line " + std::to_string(number + 1) + " (" + CloneLineName(number) + ")");
-    AddRows("digits", "what is no upper-case hexadecimal digit may be read as 0; other characters stand in:",
+    AddRows("digits",
+            "characters other than upper-case hexadecimal digits may be read as 0; there are some in:",
             std::move(lines), warnings);
 }
 
@@ -124,7 +125,7 @@ Warnings WarningsOf(std::string_view bytes, const CloneImage& image)
     AddForm(bytes, warnings);
     AddDigits(bytes, warnings);
     AddRows("values",
-            "the file says these values, but they are read otherwise:", ValuesReadOtherwise(bytes, image),
+            "these values are read differently from what the file says:", ValuesReadOtherwise(bytes, image),
             warnings);
     AddRows("notes",
             "a save loses these notes; take commas and quotes out of them:", NotesThatDoNotSurvive(image),
@@ -156,8 +157,8 @@ void PrintLine(const InputFile& file, const CloneImage& image, const Warnings& w
     const Counts counts = CountsOf(image);
     const int model = SettingIndex(&ReceiverSettings::model);
     console.out << VisibleText(file.name) << ": " << Painted("whole", Paint::Green, console.paintsOut) << ", "
-                << SettingText(image.Settings(), model) << ", " << counts.channels << " channels, "
-                << counts.enabled << " on";
+                << SettingText(image.Settings(), model) << ", " << counts.channels
+                << (counts.channels == 1 ? " channel, " : " channels, ") << counts.enabled << " on";
     if (!warnings.empty())
         console.out << ", " << warnings.size() << (warnings.size() == 1 ? " warning" : " warnings");
     console.out << '\n';

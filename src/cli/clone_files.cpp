@@ -52,7 +52,7 @@ Status Tell(const std::string& path, const SaveOutcome& outcome, Console& consol
              outcome.accessChanges);
     if (!outcome.changedValues.empty())
         Warn(console,
-             "a clone file cannot hold these values; they read back otherwise:", outcome.changedValues);
+             "a clone file cannot hold these values; they read back differently:", outcome.changedValues);
     if (outcome.lostNotes.empty())
         return Status::Done;
     return FailForRows(console,
@@ -61,6 +61,7 @@ Status Tell(const std::string& path, const SaveOutcome& outcome, Console& consol
                        outcome.lostNotes);
 }
 
+/// What a reader of the other end will not get back is told as after a save.
 Status WriteOut(const CloneImage& image, Console& console)
 {
     console.out << FormatCloneFile(image);

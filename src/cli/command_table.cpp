@@ -13,14 +13,14 @@ namespace {
 constexpr Option kNewOptions[] = {
     {"--region", "0..3", "model region (default 0)", RegionFault},
     {"--empty", "", "no banks: all 1000 channels unassigned"},
-    {"--force", "", "replace FILE when it exists"},
+    {"--force", "", "replace FILE if it exists"},
 };
 constexpr Option kVerifyOptions[] = {kPort, kOnly, kTransferBank, kJson, kTsv};
 constexpr Option kReadOptions[] = {
     kPort,
     kOnly,
     kTransferBank,
-    {"--verify", "", "read everything twice and list each block that came otherwise"},
+    {"--verify", "", "read everything twice and list each block that was different the second time"},
 };
 constexpr Option kWriteOptions[] = {
     kPort,
@@ -28,7 +28,7 @@ constexpr Option kWriteOptions[] = {
     kTransferBank,
     {"--backup", "COPY", "first read what will be replaced and save it as COPY, a new file", FileNameFault},
     {"--verify", "", "read back afterwards and list each block that differs"},
-    {"--force", "", "write although the backup shows that the receiver is another model"},
+    {"--force", "", "write even if the backup shows that the receiver is another model"},
 };
 constexpr Option kShowOptions[] = {
     kBank, {"--all", "", "empty rows, too"}, kJson, kTsv, kFromFile,
@@ -90,14 +90,13 @@ constexpr Command kCommands[] = {
     {"new", "write the start-up image of a model region",
      "It has default settings, VFO bands and bank sizes and no channels.", kFile, kNewOptions, RunNew},
     {"read", "read the receiver into FILE",
-     "Starts from FILE when it exists, so that notes and what is not read stay; a transfer that fails "
-     "leaves FILE untouched. Where a block came disturbed or, with --verify, otherwise the second time, it "
-     "is "
-     "named, the status is 1, and FILE as it was is kept as FILE~.",
+     "If FILE exists, it is the starting point: notes and what is not read stay. If the transfer fails, FILE "
+     "is left untouched. If a block arrives damaged or, with --verify, different the second time, it is "
+     "listed, the status is 1, and the old file is kept as FILE~.",
      kFile, kReadOptions, RunRead, ScopeConflict},
     {"write", "write FILE to the receiver",
      "Sends settings, VFO bands and presets, then banks and channels. Without --verify nothing is read "
-     "back. A backup that fails keeps everything from being written.",
+     "back. If the backup fails, nothing is written.",
      kFile, kWriteOptions, RunWrite, ScopeConflict},
     {"verify", "compare the receiver with FILE",
      "Compares with what write of the same parts leaves behind. Says nothing and ends with status 0 when "
@@ -120,10 +119,10 @@ constexpr Command kCommands[] = {
      kFiles, kPrintOptions, RunPrint, PrintFault},
     {"check", "check that each FILE is complete, and say what it holds",
      "Names the line that is wrong and why. Warns of notes that a save loses or a spreadsheet would run, and "
-     "of values that are read otherwise than the file says them. Several files take one line each; --verbose "
-     "lists their warnings, --quiet names only those that are not whole.",
+     "of values that are read differently from what the file says. Several files take one line each; "
+     "--verbose lists their warnings, --quiet names only those that are not whole.",
      kFiles, kCheckOptions, RunCheck, FilesFault},
-    {"repair", "open a file again that its notes spoil",
+    {"repair", "mend a file that cannot be opened because of its notes",
      "Commas in notes become semicolons, quotes apostrophes; each such note is shown. Without --to and "
      "--in-place nothing is written.",
      kFile, kRepairOptions, RunRepair, RepairConflict},

@@ -36,8 +36,6 @@ Status ReadReceiver(const Arguments& arguments, CloneImage& image, Console& cons
             console.err << "  " << VisibleText(block) << '\n';
         status = Status::Failed;
     }
-    if (status == Status::Done)
-        session.TellEnd("Read");
     return status;
 }
 

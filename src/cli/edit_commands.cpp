@@ -65,7 +65,7 @@ std::variant<RowList, Problem> RoomAt(const CloneImage& image, const std::string
     RowList room = EmptyRows(image, target);
     if (target.count == 1) {
         const int selector = target.first < kRadioRows ? SelectorOfRow(image, target.first) : kSelectAll;
-        const RowRange group = selector == kSelectAll ? RowRange{0, kRadioRows} : GroupRows(image, selector);
+        const RowRange group = selector == kSelectAll ? RowRange{0, kBankRows} : GroupRows(image, selector);
         room = RowsOf({target.first, std::max(0, group.Last() - target.first + 1)});
     }
     if (room.size() < wanted)
@@ -115,8 +115,10 @@ std::string SortFault(const RowChoice& choice, const std::vector<MoveGroup>& gro
     if (choice.HasConditions() || groups.empty())
         return "sort takes places such as bank:3 or program-scan, and no conditions";
     for (const MoveGroup& group : groups)
-        if (group.rows.first % group.unit != 0 || group.rows.count % group.unit != 0 ||
-            (group.unit > 1 && !kProgramScan.rows.Contains(group.rows.Last())))
+        if (group.rows.count > 0 && GroupOfRow(group.rows.first) != GroupOfRow(group.rows.Last()))
+            return "rows of two groups cannot be sorted as one; name them apart";
+    for (const MoveGroup& group : groups)
+        if (group.rows.first % group.unit != 0 || group.rows.count % group.unit != 0)
             return "the two edges of a Program Scan pair stay together; name whole pairs";
     return {};
 }

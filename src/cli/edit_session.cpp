@@ -4,6 +4,7 @@
 
 #include "cli/clone_files.h"
 #include "cli/streams.h"
+#include "files/file_kind.h"
 #include "files/safe_notes.h"
 #include "image/display_text.h"
 #include "memory/change_words.h"
@@ -32,8 +33,9 @@ std::string Summary(const ImageChange& change)
 Status SaveEdited(const std::string& path, const Arguments& arguments, const CloneImage& image,
                   const ImageChange& change, Console& console)
 {
+    QString kept;
     if (arguments.Has("--keep") && !IsStandard(path))
-        if (const auto problem = KeepOldFile(path))
+        if (const auto problem = KeepOldFile(PathOf(path), kept))
             return Fail(console, {problem->text, problem->details, path + " is as it was."});
     const SaveEnd end =
         Save(path, image, console, arguments.Has("--force") ? Unopenable::IsWritten : Unopenable::IsRefused);

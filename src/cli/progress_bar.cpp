@@ -17,13 +17,13 @@ std::string Padded(int number, std::size_t digits)
     return text.size() < digits ? std::string(digits - text.size(), ' ') + text : text;
 }
 
-}  // namespace
-
 std::string TimeText(std::chrono::seconds time)
 {
     const auto seconds = static_cast<int>(time.count() % 60);
     return std::to_string(time.count() / 60) + (seconds < 10 ? ":0" : ":") + std::to_string(seconds);
 }
+
+}  // namespace
 
 std::string ProgressLine(int done, int total, int row, std::optional<std::chrono::seconds> left, int columns)
 {

@@ -15,9 +15,6 @@ namespace rqm5 {
 /// \param left  nothing as long as it cannot be told
 std::string ProgressLine(int done, int total, int row, std::optional<std::chrono::seconds> left, int columns);
 
-/// "1:05".
-std::string TimeText(std::chrono::seconds time);
-
 /// What a transfer tells a user at a terminal: one line on err that is rewritten as blocks go by, and
 /// messages.
 class ProgressBar : public TransferObserver

@@ -64,13 +64,6 @@ void ReceiverSession::TellExchange(const std::string& command)
                  << link_.LastDuration().count() / 1000 << " ms)\n";
 }
 
-void ReceiverSession::TellEnd(const std::string& done, const std::string& result)
-{
-    const auto time =
-        std::chrono::duration_cast<std::chrono::seconds>(std::chrono::steady_clock::now() - begin_);
-    rqm5::TellEnd(console_, done + " in " + TimeText(time) + (result.empty() ? "" : ": " + result));
-}
-
 void ReceiverSession::TellPort()
 {
     if (number_ == 0)

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -50,10 +49,6 @@ class ReceiverSession
     /// Says which port was chosen when the command line names none, now and in every message of a transfer.
     void TellPort();
 
-    /// Says at a terminal what was done, how long it took and what came of it: "Read in 1:01: 105 channels
-    /// on".
-    void TellEnd(const std::string& done, const std::string& result = {});
-
     /// What the command ends with after a transfer. Says so when it was cancelled; failures were
     /// reported when they happened.
     Status Finish(TransferResult result);
@@ -65,7 +60,6 @@ class ReceiverSession
     Console& console_;
     const int number_;  ///< the COM number from RQ-M5.ini; 0 when --port says the port
     bool isCtrlC_ = false;
-    const std::chrono::steady_clock::time_point begin_ = std::chrono::steady_clock::now();
     ProgressBar progress_;
     QtSerialPort port_;
     RadioLink link_;

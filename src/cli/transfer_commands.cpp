@@ -7,7 +7,6 @@
 #include "cli/values.h"
 #include "files/file_store.h"
 #include "image/display_text.h"
-#include "image/image_change.h"
 #include "link/forwarding_observer.h"
 #include "link/line_notes.h"
 #include "link/memory_map.h"
@@ -112,17 +111,6 @@ Status SaveDoubtful(const std::string& path, const CloneImage& image, Console& c
     return Status::Failed;
 }
 
-/// "105 channels on, 3 rows changed".
-std::string ReadResult(const CloneImage& before, const CloneImage& after)
-{
-    int enabled = 0;
-    for (int row = 0; row < kRadioRows; ++row)
-        enabled += after.MemEnable(row) ? 1 : 0;
-    const std::size_t rows = Difference(before, after).MemoryRows().size();
-    return std::to_string(enabled) + " channels on, " + std::to_string(rows) +
-           (rows == 1 ? " row changed" : " rows changed");
-}
-
 Status Write(const CloneImage& image, const TransferScope& scope, bool isVerified, ReceiverSession& session,
              Console& console)
 {
@@ -155,7 +143,6 @@ Status RunRead(const Arguments& arguments, Console& console)
     ReceiverSession session(arguments, console);
     session.TellPort();
     session.Observer().Begin(BlocksToBackUp(image, scope));
-    const CloneImage before = image;
     ReceiverReader reader(image, session.Link(), session.Observer());
     if (const Status status = session.Finish(reader.Read(scope)); status != Status::Done)
         return status;
@@ -168,7 +155,6 @@ Status RunRead(const Arguments& arguments, Console& console)
     if (arguments.Has("--verify"))
         if (const Status status = ReadTwice(reader, session, console, agrees); status != Status::Done)
             return status;
-    session.TellEnd("Read", ReadResult(before, image));
     if (agrees)
         return SaveRead(arguments[0], image, console);
     return SaveDoubtful(arguments[0], image, console);
@@ -197,11 +183,8 @@ Status RunWrite(const Arguments& arguments, Console& console)
                                 "Nothing was written."});
     if (status == Status::Done)
         status = Write(image, scope, arguments.Has("--verify"), session, console);
-    const bool isVerified = status == Status::Done && arguments.Has("--verify");
-    if (isVerified)
+    if (status == Status::Done && arguments.Has("--verify"))
         status = CompareWithReceiver(ExpectedAfterWrite(image, scope), session, console, NotVerified());
-    if (status == Status::Done)
-        session.TellEnd(isVerified ? "Written and verified" : "Written");
     return status;
 }
 

@@ -84,11 +84,8 @@ Status RunVerify(const Arguments& arguments, Console& console)
         return Fail(console, *problem);
     ReceiverSession session(arguments, console);
     session.TellPort();
-    const std::vector<ExpectedBlock> expected = ExpectedInReceiver(image, ScopeOf(arguments));
-    const Status status = CompareWithReceiver(expected, session, console, {}, FormOf(arguments));
-    if (status == Status::Done)
-        session.TellEnd("Compared " + std::to_string(expected.size()) + " blocks", "no difference");
-    return status;
+    return CompareWithReceiver(ExpectedInReceiver(image, ScopeOf(arguments)), session, console, {},
+                               FormOf(arguments));
 }
 
 }  // namespace rqm5

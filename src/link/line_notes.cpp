@@ -34,8 +34,8 @@ std::string UnreadableNote(int blocks)
 
 std::string OtherwiseNote(int blocks)
 {
-    return Counted(blocks, QT_TRANSLATE_NOOP("LineNote", "1 block came otherwise when it was read again"),
-                   QT_TRANSLATE_NOOP("LineNote", "%1 blocks came otherwise when they were read again"));
+    return Counted(blocks, QT_TRANSLATE_NOOP("LineNote", "1 block was different when it was read again"),
+                   QT_TRANSLATE_NOOP("LineNote", "%1 blocks were different when they were read again"));
 }
 
 Problem UnreadableBlocks(const std::vector<std::string>& names)

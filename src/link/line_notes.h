@@ -13,7 +13,7 @@ std::string RepeatNote(int blocks);
 /// "2 blocks were read with characters that are no hex digits"; empty for none.
 std::string UnreadableNote(int blocks);
 
-/// "2 blocks came otherwise when they were read again"; empty for none.
+/// "2 blocks were different when they were read again"; empty for none.
 std::string OtherwiseNote(int blocks);
 
 /// That a read cannot be relied on for these blocks, of which the first is named.

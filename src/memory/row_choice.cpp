@@ -50,8 +50,10 @@ std::optional<int> IndexOfLabel(const RowGroup& group, std::string_view label)
     return std::nullopt;
 }
 
+using RowsOrFault = std::variant<RowRange, std::string>;
+
 /// The rows of "program-scan" or "program-scan/0A-3B"; nothing when the term is no such group.
-std::optional<std::variant<RowRange, std::string>> ReadGroup(std::string_view term)
+std::optional<RowsOrFault> ReadGroup(std::string_view term)
 {
     const std::size_t slash = term.find('/');
     const auto* group = std::ranges::find(kRowGroups, term.substr(0, slash), &RowGroup::option);
@@ -75,6 +77,18 @@ std::optional<std::string_view> Behind(std::string_view term, std::string_view n
     return term.starts_with(name) && term.size() > name.size() && term[name.size()] == ':'
                ? std::optional(term.substr(name.size() + 1))
                : std::nullopt;
+}
+
+/// The rows of a term that names them whatever the banks are; nothing when it does not.
+std::optional<RowsOrFault> FixedRows(std::string_view term)
+{
+    const auto rows =
+        term == "all" ? std::optional<std::string_view>("0-1209") : Behind(term, "memory", "0-1209");
+    if (!rows)
+        return ReadGroup(term);
+    if (const auto span = ReadSpan(*rows, kMemoryRows, ReadIndex))
+        return *span;
+    return Quoted(term) + ": memory rows are 0 to " + std::to_string(kMemoryRows - 1);
 }
 
 }  // namespace
@@ -102,34 +116,29 @@ std::string RowChoice::Add(std::string_view term)
         (term == "settings" ? hasSettings_ : hasBanks_) = true;
         return {};
     }
-    if (term == "all") {
-        places_.push_back({-1, {0, kRadioRows}});
-        return {};
-    }
     if (const auto banks = Behind(term, "bank", {}))
         return AddBanks(*banks);
-    if (const auto rows = Behind(term, "memory", "0-1209")) {
-        const auto span = ReadSpan(*rows, kMemoryRows, ReadIndex);
-        if (span)
-            places_.push_back({-1, *span});
-        return span ? "" : Quoted(term) + ": memory rows are 0 to " + std::to_string(kMemoryRows - 1);
-    }
-    if (const auto rows = Behind(term, "vfo", "0-13")) {
-        const auto span = ReadSpan(*rows, kVfoRows, ReadIndex);
-        for (int row = 0; span && row < span->count; ++row)
-            vfoRows_.push_back(span->first + row);
-        return span ? "" : Quoted(term) + ": VFO rows are 0 to " + std::to_string(kVfoRows - 1);
-    }
-    if (const auto group = ReadGroup(term)) {
-        if (const auto* fault = std::get_if<std::string>(&*group))
+    if (const auto rows = Behind(term, "vfo", "0-13"))
+        return AddVfoRows(*rows);
+    if (const auto rows = FixedRows(term)) {
+        if (const auto* fault = std::get_if<std::string>(&*rows))
             return *fault;
-        places_.push_back({-1, std::get<RowRange>(*group)});
+        places_.push_back({-1, std::get<RowRange>(*rows)});
         return {};
     }
     const std::size_t at = term.find_first_of("=:~");
     if (at != std::string_view::npos && PartOfWord(term.substr(0, at)))
         return AddCondition(term, at);
     return Quoted(term) + ": " + kExpected;
+}
+
+std::string RowChoice::AddVfoRows(std::string_view rows)
+{
+    const auto span = ReadSpan(rows, kVfoRows, ReadIndex);
+    for (int row = 0; span && row < span->count; ++row)
+        vfoRows_.push_back(span->first + row);
+    return span ? ""
+                : Quoted("vfo:" + std::string(rows)) + ": VFO rows are 0 to " + std::to_string(kVfoRows - 1);
 }
 
 std::string RowChoice::AddBanks(std::string_view numbers)

@@ -59,6 +59,7 @@ class RowChoice
     };
 
     std::string AddBanks(std::string_view numbers);
+    std::string AddVfoRows(std::string_view rows);
     std::string AddCondition(std::string_view term, std::size_t at);
     static bool Meets(const Channel& channel, const Condition& condition);
     bool IsChosen(const Channel& channel) const;

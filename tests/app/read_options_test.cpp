@@ -42,7 +42,7 @@ TEST_F(ReadOptionsTest, ReadTwiceAndNameWhatCameOtherwise)
     EXPECT_EQ(read("flip:1:after=5"), 32U);
     ASSERT_EQ(dialogs_.asked.size(), 1U);
     EXPECT_EQ(dialogs_.asked[0].details, QStringLiteral("VFO 3"));
-    EXPECT_TRUE(dialogs_.asked[0].text.startsWith(QStringLiteral("1 block came otherwise")));
+    EXPECT_TRUE(dialogs_.asked[0].text.startsWith(QStringLiteral("1 block was different")));
 }
 
 TEST_F(ReadOptionsTest, TheClosingNoteTellsOfRepeatedAndUnreadableBlocks)

@@ -222,13 +222,13 @@ TEST_F(FileCommands, CheckSaysWhatAFileHoldsAndWarns)
                              "\nBank 1        150   1         1   1        1\n"})
         EXPECT_TRUE(Has(run.out, part)) << run.out;
     EXPECT_TRUE(Has(run.err, "formulas:\n  memory row 205") && !Has(run.err, "LF")) << run.err;
-    EXPECT_FALSE(Has(run.err, "otherwise") || Has(run.err, "loses")) << run.err;
+    EXPECT_FALSE(Has(run.err, "differently") || Has(run.err, "loses")) << run.err;
     image.MemData(205).shiftFrequency = 50000;
     image.MemData(206).note = "\"a, b\"";  // is read, and lost by the next save
     PutBytes(file, FormatCloneFile(image));
     const RunResult limits = RunProgramFile({"check", file});
     EXPECT_EQ(limits.status, 0);
-    EXPECT_TRUE(Has(limits.err, "read otherwise:\n  memory row 205 (Bank 1, channel 5): Shift frequency"))
+    EXPECT_TRUE(Has(limits.err, "what the file says:\n  memory row 205 (Bank 1, channel 5): Shift frequency"))
         << limits.err;
     EXPECT_TRUE(Has(limits.err, "loses these notes; take commas and quotes out of them:\n  memory row 206"))
         << limits.err;

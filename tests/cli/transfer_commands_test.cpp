@@ -330,7 +330,7 @@ TEST_F(Transfers, ReadTwiceOnRequestAndNameWhatCameOtherwise)
     run = Transfer("read", receiver, file, settings);
     EXPECT_EQ(run.status, 1);
     EXPECT_TRUE(
-        run.err.starts_with("Communication Error: 1 block came otherwise when it was read again:\n"
+        run.err.starts_with("Communication Error: 1 block was different when it was read again:\n"
                             "  VFO 3: first "))
         << run.err;
     EXPECT_EQ(Bytes(file + "~"), right);
