@@ -3,7 +3,7 @@
 namespace rqm5 {
 namespace {
 
-/// Text within single quotes and within a specification of _arguments.
+/// Text within single quotes, as _arguments takes it.
 std::string Quoted(std::string_view text)
 {
     std::string quoted;
@@ -53,21 +53,21 @@ std::string Action(const Offer& offer)
     return " ";
 }
 
-std::string OptionSpec(const Option& option)
+std::string OptionLine(const Option& option)
 {
-    std::string spec = "'" + std::string(option.name) + "[" + Quoted(option.help) + "]";
+    std::string line = "'" + std::string(option.name) + "[" + Quoted(option.help) + "]";
     if (!option.value.empty())
-        spec += ":" + Quoted(option.value) + ":" + Action(OfferOf(option.value));
-    return spec + "'";
+        line += ":" + Quoted(option.value) + ":" + Action(OfferOf(option.value));
+    return line + "'";
 }
 
-std::string Specs(const Command& command)
+std::string ArgumentLines(const Command& command)
 {
     constexpr char kNext[] = " \\\n                ";
     std::string text = "_arguments '(- *)'{-h,--help}'[explain the command]'";
     for (const std::span<const Option> options : {command.options, CommonOptions()})
         for (const Option& option : options)
-            text += kNext + OptionSpec(option);
+            text += kNext + OptionLine(option);
     for (std::size_t i = 0; i < command.operands.size(); ++i) {
         const Operand& operand = command.operands[i];
         const std::string place = operand.count == Count::Any ? "*" : std::to_string(i + 1);
@@ -112,8 +112,8 @@ std::string ZshCompletion()
         "        argument)\n"
         "            case $words[1] in\n";
     for (const Command& command : Commands())
-        script += "            " + std::string(command.name) + ")\n                " + Specs(command) +
-                  "\n                ;;\n";
+        script += "            " + std::string(command.name) + ")\n                " +
+                  ArgumentLines(command) + "\n                ;;\n";
     return script +
            "            esac\n"
            "            ;;\n"

@@ -75,17 +75,21 @@ std::vector<std::string> Titles()
     return titles;
 }
 
+/// The label of a row in the view of its bank or group.
+std::string LabelOf(const CloneImage& image, int row, int selector)
+{
+    const RowGroup* group = GroupOfRow(row);
+    const int index = row - GroupRows(image, selector).first;
+    return group != nullptr ? GroupLabel(*group, index) : std::to_string(index);
+}
+
 std::vector<std::string> Line(const std::string& file, const CloneImage& image, int row)
 {
     std::vector<std::string> cells = ChannelCells(image, row);
     const int selector = SelectorOfRow(image, row);
-    const RowRange group = GroupRows(image, selector);
     const bool isInNone = selector == kSelectAll;
-    cells.insert(
-        cells.begin(),
-        {file, isInNone ? "-" : SelectorText(selector),
-         isInNone ? "-" : BuildChannelLabels(image, selector).at(static_cast<std::size_t>(row - group.first)),
-         std::to_string(row)});
+    cells.insert(cells.begin(), {file, isInNone ? "-" : SelectorText(selector),
+                                 isInNone ? "-" : LabelOf(image, row, selector), std::to_string(row)});
     return cells;
 }
 

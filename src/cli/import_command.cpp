@@ -4,6 +4,7 @@
 #include "cli/clone_files.h"
 #include "cli/command.h"
 #include "cli/list_import.h"
+#include "cli/streams.h"
 #include "files/csv_file.h"
 #include "files/file_store.h"
 #include "files/safe_notes.h"
@@ -20,7 +21,7 @@ std::string Counted(int count)
 
 void SayTaken(int rows, const Arguments& arguments, Console& console)
 {
-    console.out << Counted(rows) << (arguments.Has("--dry-run") ? " would be taken from " : " taken from ")
+    NotesOf(arguments[1], console) << Counted(rows) << (arguments.Has("--dry-run") ? " would be taken from " : " taken from ")
                 << VisibleText(arguments[0]) << '\n';
 }
 
@@ -55,7 +56,7 @@ SaveEnd Finish(const CloneImage& before, CloneImage image, const Arguments& argu
     if (arguments.Has("--dry-run"))
         return {ShowChanges(before, image, arguments, rows, console), false};
     QString kept;
-    if (arguments.Has("--keep") && Exists(arguments[1]))
+    if (arguments.Has("--keep") && !IsStandard(arguments[1]) && Exists(arguments[1]))
         if (const auto problem = KeepOldFile(PathOf(arguments[1]), kept))
             return {Fail(console, *problem), false};
     const SaveEnd end = Save(arguments[1], image, console,
@@ -91,7 +92,7 @@ Status ImportList(const std::string& bytes, const CloneImage& before, const Argu
     const ListImport list = PlanListImport(bytes, before, arguments);
     if (list.problem)
         return Fail(console, *list.problem);
-    console.out << "Read as a list: " << VisibleText(list.description) << '\n';
+    NotesOf(arguments[1], console) << "Read as a list: " << VisibleText(list.description) << '\n';
     if (!list.refused.empty())
         Warn(console, "not taken: " + Counted(static_cast<int>(list.refused.size())), list.refused);
     if (!list.remarks.empty())
@@ -115,7 +116,7 @@ Status RunImport(const Arguments& arguments, Console& console)
     if (AreSameFile(arguments[0], arguments[1]))
         return Fail(console, SameFileProblem(arguments[1]));
     std::string bytes;
-    if (const auto problem = ReadWholeFile(PathOf(arguments[0]), bytes))
+    if (const auto problem = ReadInput(arguments[0], bytes))
         return Fail(console, *problem);
     // What asks for a place or a mapping asks for a list, whatever titles the file has.
     const bool isList = arguments.Has("--map") || arguments.Has("--from-row") || !IsOwnCsv(bytes);

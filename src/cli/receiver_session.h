@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
