@@ -133,21 +133,6 @@ TEST_F(WindowTest, SaveGoesToTheCurrentFileWhicheverItIs)
     EXPECT_EQ(dialogs_.choices.size(), 2U);
 }
 
-TEST_F(WindowTest, ImportOverwritesTheRowsItNamesWithoutAQuestion)
-{
-    std::ofstream(Path("in.csv").toStdString())
-        << "\"RQ-M5\",\"MEMORY\",\"3\",\"145.500000\",\"FM\",\"10KHz\",\"OFF\",\"0\",\"300Hz\",\"88.5Hz\","
-           "\"OFF\",\"0.600000\",\"\",\"#FALSE#\",#TRUE#\r\n";
-    Start();
-    EditSomething();
-    dialogs_.files = {Path("in.csv")};
-    Item("mnuFileImport").trigger();
-    EXPECT_TRUE(dialogs_.asked.empty());
-    EXPECT_TRUE(window_->windowTitle().startsWith(QStringLiteral("in.csv - ")));
-    EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("Saved"));
-    EXPECT_EQ(StatusText("lblEnabled"), QStringLiteral("Channels enabled: 1"));
-}
-
 TEST_F(WindowTest, AnImportOfNothingIsSaidAndChangesNothing)
 {
     std::ofstream(Path("in.csv").toStdString()) << "\"RQ-M5\",\"OTHER\",\"3\"\r\n";

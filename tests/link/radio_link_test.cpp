@@ -199,6 +199,21 @@ TEST(QuietLine, LateRepliesAreHeardOutBeforeTheNextCommand)
     }
 }
 
+TEST(QuietLine, HearsAPauseWithinAFrameOutAfterAnAttemptAndALongerOneAfterAMissingReply)
+{
+    // In parts of the time-out. Timers of one thread end in the order of their times, however busy it is.
+    for (const auto& [wait, percent] : {std::pair(&RadioLink::Rest, 7), std::pair(&RadioLink::Settle, 16)}) {
+        Link port({}, 300ms);
+        ASSERT_TRUE(port.Open());
+        QTimer::singleShot(300ms * percent / 100, Qt::PreciseTimer, &port, [&port] {
+            port.pending = "late";
+            emit port.Received();
+        });
+        EXPECT_EQ((port.link.*wait)(), Silence::Kept);
+        EXPECT_EQ(port.link.LastHeard(), "late") << percent;
+    }
+}
+
 TEST(QuietLine, EndsAnOperationWhenThePortFailsOrTheUserCancelsOrItNeverFallsSilent)
 {
     for (const char* what : {"port", "cancel", "noise"}) {

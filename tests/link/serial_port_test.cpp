@@ -64,6 +64,8 @@ TEST(QtSerialPort, SaysWhyAPortCannotBeOpened)
         const std::string details = ComPortProblem(port).details;
         EXPECT_NE(details.find(reason), std::string::npos) << details;
     }
+    holder.SetDevice(pipe);
+    EXPECT_FALSE(holder.IsOpen());
 }
 
 TEST(QtSerialPort, SetsTheLineUp)
