@@ -25,7 +25,9 @@ void AddEntry(QListWidget& list, const QString& text, int value, bool isChecked)
 
 QListWidget* MakeList(const char* name, const QString& accessibleName)
 {
+    constexpr int kLines = 16;
     auto* list = new QListWidget;
+    list->setMinimumHeight(kLines * list->fontMetrics().height());
     list->setObjectName(QLatin1String(name));
     list->setAccessibleName(accessibleName);
     return list;
