@@ -9,6 +9,7 @@
 #include "link/change_writer.h"
 #include "link/forwarding_observer.h"
 #include "link/line_notes.h"
+#include "link/range_check.h"
 #include "link/receiver_checks.h"
 
 namespace rqm5 {
@@ -43,7 +44,12 @@ void ChangeCommands::mnuWrChanges_Click()
     dlgWriteChanges dialog(document_.Image(), plan, knowledge.LastHeld()->since, &window_);
     if (dialogs_.Run(dialog) != QDialog::Accepted)
         return;
-    transfers_.RunPart([&](TransferObserver&) { return Run(plan, dialog.KeepsBackup(), dialog.Verifies()); });
+    const auto count = [](const auto& blocks) { return static_cast<int>(blocks.size()); };
+    std::vector<TransferPart> parts = {{Work::Check, count(plan.BlocksToCheck()), 0},
+                                       {Work::WriteChanges, count(plan.Wanted()), 0}};
+    if (dialog.Verifies())
+        parts.push_back({Work::Verify, count(ExpectedAfterChanges(document_.Image(), plan)), 0});
+    transfers_.RunParts(std::move(parts), [&] { return Run(plan, dialog.KeepsBackup(), dialog.Verifies()); });
 }
 
 /// Reads until nothing is unknown that is needed to tell what differs.
@@ -53,10 +59,12 @@ bool ChangeCommands::LearnReceiver()
          wanted = BlocksToLearn(link_.Knowledge())) {
         if (!MayRead(wanted.size()))
             return false;
-        const TransferResult result = transfers_.RunPart([&](TransferObserver& observer) {
-            AftermathObserver telling(observer, NothingChanged());
+        const int blocks = static_cast<int>(wanted.size());
+        const TransferResult result = transfers_.RunParts({{Work::Learn, blocks, 0}}, [&] {
+            transfers_.BeginPart();
+            AftermathObserver observer(transfers_.Observer(), NothingChanged());
             BlockMap read;
-            return ReadBlocks(wanted, document_.Image(), link_, telling, read);
+            return ReadBlocks(wanted, document_.Image(), link_, observer, read);
         });
         if (result != Done)
             return false;
@@ -110,7 +118,7 @@ bool ChangeCommands::DecideConflicts(ChangePlan& plan)
     if (plan.Conflicts().empty())
         return true;
     dlgWriteConflicts dialog(document_.Image(), plan, &window_);
-    if (dialogs_.Run(dialog) != QDialog::Accepted)
+    if (transfers_.Run(dialog) != QDialog::Accepted)
         return false;
     plan.Decide(dialog.TakesReceivers());
     return true;
@@ -126,17 +134,22 @@ TransferResult ChangeCommands::KeepBackup(const ChangePlan& plan)
 
 TransferResult ChangeCommands::Write(const ChangePlan& plan, bool verifies)
 {
+    QStringList outside;
+    for (const std::string& row : RowsWrittenOutOfRange(document_.Image(), plan.Wanted()))
+        outside << QString::fromStdString(row);
+    emit transfers_.OutOfRange(outside);
+    transfers_.BeginPart();
     ChangeWriter writer(document_.Image(), plan, link_, transfers_.Observer());
-    const TransferResult result = writer.Write();
+    TransferResult result = writer.Write();
     transfers_.TellWritten(writer.Plan(), document_.Image(), result);
-    if (result != Done)
-        return result;
-    if (verifies)
-        return transfers_.Verify(ExpectedAfterChanges(document_.Image(), plan));
-    if (!writer.IsInDoubt())
-        return Done;
-    transfers_.Observer().Message(DoubtfulWrite());
-    return Failed;
+    if (result == Done && verifies)
+        result = transfers_.Verify(ExpectedAfterChanges(document_.Image(), plan));
+    if (result == Done && writer.IsInDoubt() && !verifies) {
+        transfers_.Observer().Message(DoubtfulWrite());
+        result = Failed;
+    }
+    transfers_.NoteWritten(result, verifies);
+    return result;
 }
 
 /// What stays as the receiver has it comes into the image: rows that were decided so as an edit, flags and

@@ -67,10 +67,14 @@ void TransferCommands::Occupy(const std::function<TransferResult()>& work)
         emit Noted(notes_.join(QLatin1Char(' ')));
 }
 
-TransferResult TransferCommands::RunPart(const std::function<TransferResult(TransferObserver&)>& work)
+TransferResult TransferCommands::RunParts(std::vector<TransferPart> parts,
+                                          const std::function<TransferResult()>& work)
 {
     auto result = TransferResult::Cancelled;
-    Occupy([&] { return result = work(*this); });
+    Occupy([&] {
+        progress_.Begin(std::move(parts));
+        return result = work();
+    });
     return result;
 }
 

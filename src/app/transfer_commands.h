@@ -7,6 +7,7 @@
 #include <functional>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "app/transfer_progress.h"
 #include "document/document.h"
@@ -54,15 +55,19 @@ class TransferCommands : public QObject, private TransferObserver
     /// What the receiver at this port held when all of it was last read in this run, if it was.
     std::optional<LastRead> LastFullRead() const;
     void KeepLastRead(const CloneImage& image);
-    /// Runs a part of an operation that tells how it goes as a transfer does. \return what the part returned
-    TransferResult RunPart(const std::function<TransferResult(TransferObserver&)>& work);
+
+    /// Runs an operation of several parts in the place of a transfer. \return what it returned
+    TransferResult RunParts(std::vector<TransferPart> parts, const std::function<TransferResult()>& work);
 
     // What the parts of a write have in common, while one runs.
 
     TransferObserver& Observer() { return *this; }
+    void BeginPart();
+    int Run(QDialog& dialog);
     bool MayWriteToThisModel();
     bool SaveBackup(const QString& path, const CloneImage& backup);
     TransferResult Verify(const std::vector<ExpectedBlock>& expected);
+    void NoteWritten(TransferResult result, bool isVerified);
 
     /// A sentence for the end of the transfer.
     void AddNote(const QString& note) { notes_ << note; }
@@ -125,10 +130,8 @@ class TransferCommands : public QObject, private TransferObserver
     // What is told while a transfer runs and at its end.
     void BeginReading(const TransferScope& scope);
     void BeginWriting(const TransferScope& scope, bool keepsBackup, bool isVerified);
-    void BeginPart();
     void NoteRead(TransferResult result, const TransferScope& scope, const CloneImage& before,
                   bool hadUnsavedChanges);
-    void NoteWritten(TransferResult result, bool isVerified);
     std::chrono::seconds Taken() const;
 
     void ProgressStarted(int maximum) override;

@@ -33,6 +33,15 @@ constexpr WorkTexts kTexts[] = {
      QT_TRANSLATE_NOOP("TransferProgress", "Writing channels")},
     {Work::Verify, QT_TRANSLATE_NOOP("TransferProgress", "Verifying"),
      QT_TRANSLATE_NOOP("TransferProgress", "Verifying"), QT_TRANSLATE_NOOP("TransferProgress", "Verifying")},
+    {Work::Learn, QT_TRANSLATE_NOOP("TransferProgress", "Reading what is not known"),
+     QT_TRANSLATE_NOOP("TransferProgress", "Reading what is not known"),
+     QT_TRANSLATE_NOOP("TransferProgress", "Reading what is not known")},
+    {Work::Check, QT_TRANSLATE_NOOP("TransferProgress", "Reading what is replaced"),
+     QT_TRANSLATE_NOOP("TransferProgress", "Reading what is replaced"),
+     QT_TRANSLATE_NOOP("TransferProgress", "Reading what is replaced")},
+    {Work::WriteChanges, QT_TRANSLATE_NOOP("TransferProgress", "Writing changes"),
+     QT_TRANSLATE_NOOP("TransferProgress", "Writing changes"),
+     QT_TRANSLATE_NOOP("TransferProgress", "Writing changes")},
 };
 
 /// A time that is far away goes in steps of five seconds, so that it does not jump about.

@@ -8,7 +8,7 @@
 namespace rqm5 {
 
 /// What the parts of a transfer do.
-enum class Work { Read, ReadAgain, Backup, Write, Verify };
+enum class Work { Read, ReadAgain, Backup, Write, Verify, Learn, Check, WriteChanges };
 
 /// A part of a transfer: so many blocks in all, the settings and VFO bands first.
 struct TransferPart

@@ -100,6 +100,15 @@ void TransferCommands::NoteWritten(TransferResult result, bool isVerified)
                                               : note + QLatin1Char('.'));
 }
 
+int TransferCommands::Run(QDialog& dialog)
+{
+    emit Asking(dialog.windowTitle());
+    const auto shown = std::chrono::steady_clock::now();
+    const int answer = dialogs_.Run(dialog);
+    asked_ += std::chrono::steady_clock::now() - shown;
+    return answer;
+}
+
 QMessageBox::StandardButton TransferCommands::Ask(const Prompt& prompt)
 {
     emit Asking(prompt.details.isEmpty() ? prompt.text : prompt.text + QStringLiteral(" ") + prompt.details);

@@ -135,6 +135,15 @@ Status Write(const CloneImage& image, const TransferScope& scope, bool isVerifie
 
 }  // namespace
 
+void WarnOutOfRange(const std::vector<std::string>& rows, Console& console)
+{
+    if (!rows.empty())
+        Warn(console,
+             "these rows are outside the receiver's range (" + std::string(kReceiverRangeText) +
+                 ") and are written as they are:",
+             rows);
+}
+
 Status RunRead(const Arguments& arguments, Console& console)
 {
     CloneImage image = StartUpImage(0);
@@ -180,14 +189,12 @@ Status RunWrite(const Arguments& arguments, Console& console)
     if (const auto problem = BackupObstacle(backup))
         return Fail(console, {problem->text, problem->details, NothingWritten()});
     const TransferScope scope = ScopeOf(arguments);
-    if (const auto rows = RowsWrittenOutOfRange(image, scope); !rows.empty())
-        Warn(console,
-             "these rows are outside the receiver's range (" + std::string(kReceiverRangeText) +
-                 ") and are written as they are:",
-             rows);
+    const bool isOfChanges = arguments.Has("--changes");
+    if (!isOfChanges)
+        WarnOutOfRange(RowsWrittenOutOfRange(image, scope), console);
     ReceiverSession session(arguments, console);
     session.TellPort();
-    if (arguments.Has("--changes"))
+    if (isOfChanges)
         return WriteChanges(arguments, image, session, console);
     Status status = Status::Done;
     std::optional<int> model;

@@ -9,8 +9,10 @@
 #include "image/display_text.h"
 #include "link/change_list.h"
 #include "link/change_writer.h"
+#include "link/closing_notes.h"
 #include "link/forwarding_observer.h"
 #include "link/line_notes.h"
+#include "link/range_check.h"
 #include "link/receiver_checks.h"
 #include "link/receiver_identity.h"
 #include "settings/settings_codec.h"
@@ -41,11 +43,13 @@ class ChangesCommand
             if (const Status status = (this->*part)(); status != Status::Done)
                 return status;
         before.Forget();
-        if (const Status status = Write(); status != Status::Done)
-            return status;
-        return arguments_.Has("--verify") ? CompareWithReceiver(ExpectedAfterChanges(image_, *plan_),
-                                                                session_, console_, NotVerified())
-                                          : Status::Done;
+        Status status = Write();
+        if (status == Status::Done && arguments_.Has("--verify"))
+            status =
+                CompareWithReceiver(ExpectedAfterChanges(image_, *plan_), session_, console_, NotVerified());
+        if (status == Status::Done)
+            session_.Close(WrittenNote(session_.Taken(), arguments_.Has("--verify")));
+        return status;
     }
 
   private:
@@ -148,6 +152,7 @@ class ChangesCommand
 
     Status Write()
     {
+        WarnOutOfRange(RowsWrittenOutOfRange(image_, plan_->Wanted()), console_);
         ChangeWriter writer(image_, *plan_, session_.Link(), session_.Observer());
         session_.Observer().Begin(writer.Plan().BlockCount());
         const TransferResult result = writer.Write();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "cli/arguments.h"
 #include "cli/console.h"
@@ -12,6 +13,9 @@ namespace rqm5 {
 /// What write --changes does: reads what is not known of the receiver, and writes what it holds otherwise.
 Status WriteChanges(const Arguments& arguments, const CloneImage& image, ReceiverSession& session,
                     Console& console);
+
+/// Warns of rows that the receiver does not take.
+void WarnOutOfRange(const std::vector<std::string>& rows, Console& console);
 
 /// What is wrong with the options of write together; empty when nothing is.
 std::string WriteConflict(const Arguments& arguments);

@@ -1,5 +1,8 @@
 #include "link/range_check.h"
 
+#include <utility>
+
+#include "link/memory_map.h"
 #include "memory/bank_layout.h"
 #include "memory/receiver_range.h"
 
@@ -13,6 +16,21 @@ std::vector<std::string> RowsWrittenOutOfRange(const CloneImage& image, const Tr
     if (scope.memory)
         for (std::string& row : RowsOutOfRange(image, TransferRows(image, scope.selector)))
             rows.push_back(std::move(row));
+    return rows;
+}
+
+std::vector<std::string> RowsWrittenOutOfRange(const CloneImage& image, const BlockMap& written)
+{
+    std::vector<std::string> rows;
+    bool hasVfoBands = false;
+    for (const auto& [address, block] : written) {
+        const auto place = PlaceOf(address);
+        if (place && place->area->id == Area::Vfo && !std::exchange(hasVfoBands, true))
+            rows = VfoRowsOutOfRange(image);
+        if (place && place->area->id == Area::Channels)
+            for (std::string& row : RowsOutOfRange(image, {place->index, 1}))
+                rows.push_back(std::move(row));
+    }
     return rows;
 }
 
