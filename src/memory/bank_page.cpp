@@ -9,6 +9,7 @@
 
 #include "memory/bank_layout.h"
 #include "memory/bank_move_offer.h"
+#include "memory/bank_strip.h"
 #include "memory/fill_bar.h"
 #include "ui/key_filter.h"
 #include "ui/leave_watch.h"
@@ -28,6 +29,7 @@ BankPage::BankPage(Document& document, Dialogs& dialogs, QWidget* parent)
     : QWidget(parent),
       document_(document),
       dialogs_(dialogs),
+      picBanks_(new BankStrip(document.Image(), this)),
       offer_(new BankMoveOffer(document, this)),
       lblChannels_(new QLabel(this)),
       lblNoBank_(new QLabel(this))
@@ -49,6 +51,8 @@ BankPage::BankPage(Document& document, Dialogs& dialogs, QWidget* parent)
     grid->setRowStretch(kBanksPerColumn + 1, 1);
     auto* area = new TallArea(boxes, this);
     area->ScrollSidewaysToo();
+    page->addWidget(picBanks_);
+    connect(picBanks_, &BankStrip::BankClicked, this, &BankPage::GoToBank);
     page->addWidget(area, 1);
     page->addWidget(offer_);
     page->addLayout(BuildBottomRow());
@@ -136,6 +140,7 @@ void BankPage::ShowBanks()
 void BankPage::ShowFills()
 {
     const CloneImage& image = document_.Image();
+    picBanks_->ShowImage();
     for (int bank = 0; bank < kBanks; ++bank)
         barFill_.at(bank)->Show(FillOf(image, GroupRows(image, bank)));
     const Fill outside = FillOf(image, RowsInNoBank(image));

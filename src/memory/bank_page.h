@@ -8,6 +8,7 @@
 
 namespace rqm5 {
 class BankMoveOffer;
+class BankStrip;
 class FillBar;
 }  // namespace rqm5
 
@@ -66,6 +67,7 @@ class BankPage : public QWidget
     std::array<QLineEdit*, kBanks> txtBank_{};
     std::array<QCheckBox*, kLinkFlags> chkLink_{};
     std::array<FillBar*, kBanks> barFill_{};
+    BankStrip* picBanks_;
     BankMoveOffer* offer_;
     QLabel* lblChannels_;
     QLabel* lblNoBank_;

@@ -62,6 +62,8 @@ void MemoryPage::ConnectTable()
     connect(table_, &MemoryTable::RowChosen, this, &MemoryPage::Modify);
     connect(actions_, &RowActions::ModifyRequested, this, &MemoryPage::Modify);
     connect(table_, &MemoryTable::HintChanged, this, &MemoryPage::HintChanged);
+    connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &MemoryPage::SelectionChanged);
     connect(rows_, &RowCommands::Noted, this, &MemoryPage::Noted);
     connect(table_, &MemoryTable::InsertPressed, rows_, &RowCommands::cmbInsert_Click);
     connect(table_, &MemoryTable::DeletePressed, rows_, &RowCommands::cmbDelete_Click);

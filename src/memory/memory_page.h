@@ -48,6 +48,9 @@ class MemoryPage : public QWidget
     /// Selects a memory row in its own bank or group.
     void GoToRow(int memoryRow);
 
+    /// The selected memory rows, rising.
+    std::vector<int> SelectedRows() const { return selection_.Rows(); }
+
     FindBar& Finder() { return *finder_; }
 
     void FocusSelector();
@@ -66,6 +69,7 @@ class MemoryPage : public QWidget
     void WriteRequested();
     void ModifyRequested(int memoryRow);  ///< memory row from 0
     void ModifySeveralRequested(const std::vector<int>& memoryRows);
+    void SelectionChanged();
     void Noted(const QString& text);  ///< what an operation has done out of sight; empty for nothing
 
     /// What the status bar says of the table with the focus is another text now.

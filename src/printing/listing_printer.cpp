@@ -51,6 +51,13 @@ class PagePainter
         }
     }
 
+    /// What the lines of a page leave of it.
+    QRectF Below(const Page& page) const
+    {
+        const double top = static_cast<double>(page.size()) * lineHeight_;
+        return {0, top, area_.width(), area_.height() - top};
+    }
+
   private:
     void PaintLine(const PageLine& line, double top)
     {
@@ -77,19 +84,21 @@ class PagePainter
 }  // namespace
 
 PrintEnd PrintListing(QPagedPaintDevice& device, const Listing& listing, const PageTitle& title,
-                      const PageProgress& progress)
+                      const PageProgress& progress, const PagePicture& picture)
 {
     QPainter painter;
     if (!painter.begin(&device))
         return PrintEnd::Failed;
     PagePainter pagePainter(device, painter, PageColumns(listing));
-    const std::vector<Page> pages = LayOutPages(listing, title, pagePainter.LinesPerPage());
+    const std::vector<Page> pages = LayOutPages(listing, title, pagePainter.LinesPerPage(), picture ? 1 : 0);
     for (std::size_t i = 0; i < pages.size(); ++i) {
         if (!progress(static_cast<int>(i), static_cast<int>(pages.size())))
             return PrintEnd::Cancelled;
         if (i > 0 && !device.newPage())
             return PrintEnd::Failed;
         pagePainter.Paint(pages[i]);
+        if (picture && i + 1 == pages.size())
+            picture(painter, pagePainter.Below(pages[i]));
     }
     return painter.end() ? PrintEnd::Done : PrintEnd::Failed;
 }

@@ -23,6 +23,12 @@ class PageFiller
         BeginPage();
     }
 
+    void AddEmptyPage()
+    {
+        if (pages_.back().size() > kPageHead)
+            BeginPage();
+    }
+
     void Add(const ListingSection& section)
     {
         const std::size_t heads = section.columnHead.empty() ? 1 : 2;
@@ -91,11 +97,13 @@ int PageColumns(const Listing& listing)
     return std::max(ListingWidth(listing), kLowestColumns);
 }
 
-std::vector<Page> LayOutPages(const Listing& listing, const PageTitle& title, int linesPerPage)
+std::vector<Page> LayOutPages(const Listing& listing, const PageTitle& title, int linesPerPage, int pictures)
 {
     PageFiller filler(linesPerPage);
     for (const ListingSection& section : listing)
         filler.Add(section);
+    for (int i = 0; i < pictures; ++i)
+        filler.AddEmptyPage();
     std::vector<Page> pages = filler.Take();
     const int columns = PageColumns(listing);
     for (std::size_t i = 0; i < pages.size(); ++i)

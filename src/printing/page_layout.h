@@ -31,6 +31,8 @@ int PageColumns(const Listing& listing);
 ///
 /// Each page begins with the title line and a blank one. A section that goes on on the next page repeats
 /// its title and its column head there; neither stands at the foot of a page without a row below it.
-std::vector<Page> LayOutPages(const Listing& listing, const PageTitle& title, int linesPerPage);
+/// \param pictures  so many pages follow with nothing but their title line; without a listing they are all
+std::vector<Page> LayOutPages(const Listing& listing, const PageTitle& title, int linesPerPage,
+                              int pictures = 0);
 
 }  // namespace rqm5

@@ -17,6 +17,6 @@ struct PdfOutcome
 
 /// Saves a listing as a PDF: the whole of it, or the file stays as it was.
 PdfOutcome SavePdf(const QString& path, const QPageLayout& pageLayout, const Listing& listing,
-                   const PageTitle& title, const PageProgress& progress);
+                   const PageTitle& title, const PageProgress& progress, const PagePicture& picture = {});
 
 }  // namespace rqm5

@@ -78,7 +78,10 @@ QWidget* dlgPrint::ContentsBox()
     rows->setContentsMargins(24, 0, 0, 0);
     column->addLayout(rows);
     chkSkipEmpty_ = CheckBox(tr("&Leave out empty rows"), QStringLiteral("chkSkipEmpty"), *rows);
-    for (QCheckBox* part : {chkPrintSettings_, chkPrintVfo_, chkPrintMemory_})
+    chkPrintSpectrum_ =
+        CheckBox(tr("Sp&ectrum of all channels"), QStringLiteral("chkPrintSpectrum"), *column);
+    chkPrintSpectrum_->setChecked(false);
+    for (QCheckBox* part : {chkPrintSettings_, chkPrintVfo_, chkPrintMemory_, chkPrintSpectrum_})
         connect(part, &QCheckBox::toggled, this, &dlgPrint::ShowPossible);
     return box;
 }
@@ -138,7 +141,7 @@ QWidget* dlgPrint::Buttons()
 void dlgPrint::ShowPossible()
 {
     const ListingChoice choice = Choice();
-    const bool isAnything = choice.settings || choice.vfo || choice.memory;
+    const bool isAnything = choice.settings || choice.vfo || choice.memory || HasSpectrum();
     cmbPreview_->setEnabled(isAnything);
     cmbPrint_->setEnabled(isAnything);
     cbbPrintGroup_->setEnabled(choice.memory);

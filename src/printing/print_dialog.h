@@ -23,6 +23,10 @@ class dlgPrint : public QDialog
     dlgPrint(const QStringList& printers, QWidget* parent);
 
     ListingChoice Choice() const;
+
+    /// A page with the spectrum of all channels is wanted behind the listing.
+    bool HasSpectrum() const { return chkPrintSpectrum_->isChecked(); }
+
     QPageLayout Layout() const;
 
     /// Shows paper and orientation chosen elsewhere; a paper that is not on offer changes nothing.
@@ -47,6 +51,7 @@ class dlgPrint : public QDialog
     QCheckBox* chkPrintMemory_;
     QComboBox* cbbPrintGroup_;
     QCheckBox* chkSkipEmpty_;
+    QCheckBox* chkPrintSpectrum_;
     QComboBox* cbbPaper_;
     QButtonGroup* opbOrientation_;
     QButtonGroup* opbPrintTo_;

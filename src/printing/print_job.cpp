@@ -11,6 +11,7 @@
 #include <QScreen>
 
 #include "printing/pdf_file.h"
+#include "spectrum/spectrum_file.h"
 #include "ui/error_prompt.h"
 
 namespace rqm5 {
@@ -79,13 +80,21 @@ PageTitle PrintJob::Title() const
     return {name.toStdString(), QDate::currentDate().toString(Qt::ISODate).toStdString()};
 }
 
+PagePicture PrintJob::Picture() const
+{
+    if (!dialog_.HasSpectrum())
+        return {};
+    return [this](QPainter& painter, const QRectF& area) { PaintSpectrumPage(painter, area, image_); };
+}
+
 void PrintJob::cmbPreview_Click()
 {
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageLayout(dialog_.Layout());
     QPrintPreviewDialog preview(&printer, &dialog_);
     connect(&preview, &QPrintPreviewDialog::paintRequested, this, [this](QPrinter* paper) {
-        PrintListing(*paper, ChosenListing(), Title(), [](int, int) { return true; });
+        PrintListing(
+            *paper, ChosenListing(), Title(), [](int, int) { return true; }, Picture());
     });
     preview.resize(kPreviewSize.boundedTo(dialog_.screen()->availableSize()));
     bool printsNow = false;
@@ -117,7 +126,7 @@ void PrintJob::PrintToPdf()
     const PdfOutcome outcome = [this, &path] {
         // Gone before anything is asked: it would pop up over the question.
         ProgressBox box(dialog_);
-        return SavePdf(path, dialog_.Layout(), ChosenListing(), Title(), box.Progress());
+        return SavePdf(path, dialog_.Layout(), ChosenListing(), Title(), box.Progress(), Picture());
     }();
     if (outcome.problem)
         dialogs_.Ask(&dialog_, ErrorPrompt(*outcome.problem));
@@ -157,12 +166,13 @@ PrintEnd PrintJob::PrintOn(QPrinter& printer)
     printer.setDocName(QString::fromStdString(title.fileName));
     ProgressBox box(dialog_);
     const PageProgress progress = box.Progress();
-    return PrintListing(printer, ChosenListing(), title, [&printer, &progress](int page, int pages) {
-        const bool goesOn = progress(page, pages);
-        if (!goesOn)
+    const auto goesOn = [&printer, &progress](int page, int pages) {
+        const bool isWanted = progress(page, pages);
+        if (!isWanted)
             printer.abort();
-        return goesOn;
-    });
+        return isWanted;
+    };
+    return PrintListing(printer, ChosenListing(), title, goesOn, Picture());
 }
 
 void PrintJob::Refuse(const QString& reason)

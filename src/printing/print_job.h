@@ -30,6 +30,9 @@ class PrintJob : public QObject
     Listing ChosenListing() const;
     PageTitle Title() const;
 
+    /// Empty when none is wanted.
+    PagePicture Picture() const;
+
     const CloneImage& image_;
     QString fileName_;
     Dialogs& dialogs_;

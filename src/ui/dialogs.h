@@ -24,7 +24,7 @@ struct Prompt
     std::vector<std::pair<QMessageBox::StandardButton, QString>> captions = {};
 };
 
-enum class FileChoice { OpenClone, SaveClone, OpenCsv, SaveCsv, SavePdf, SaveText };
+enum class FileChoice { OpenClone, SaveClone, OpenCsv, SaveCsv, SavePdf, SaveText, SavePicture };
 
 /// The seam between the windows and the person: every message, question and choice of a file. The real
 /// one shows boxes; tests answer by script.

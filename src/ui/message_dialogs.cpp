@@ -24,6 +24,9 @@ constexpr char kCsvFilters[] = QT_TRANSLATE_NOOP("MessageDialogs", "CSV Files (*
 constexpr char kPdfFilters[] = QT_TRANSLATE_NOOP("MessageDialogs", "PDF Files (*.pdf);;All Files (*.*)");
 constexpr char kTextFilters[] = QT_TRANSLATE_NOOP("MessageDialogs", "Text Files (*.txt);;All Files (*.*)");
 
+constexpr char kPictureFilters[] =
+    QT_TRANSLATE_NOOP("MessageDialogs", "Pictures (*.png *.svg);;All Files (*.*)");
+
 constexpr FileChoiceRow kFileChoices[] = {
     {FileChoice::OpenClone, QT_TRANSLATE_NOOP("MessageDialogs", "Open"), kCloneFilters, ""},
     {FileChoice::SaveClone, QT_TRANSLATE_NOOP("MessageDialogs", "Save As"), kCloneFilters, "RQ5"},
@@ -31,6 +34,7 @@ constexpr FileChoiceRow kFileChoices[] = {
     {FileChoice::SaveCsv, QT_TRANSLATE_NOOP("MessageDialogs", "Export"), kCsvFilters, "csv"},
     {FileChoice::SavePdf, QT_TRANSLATE_NOOP("MessageDialogs", "Save as PDF"), kPdfFilters, "pdf"},
     {FileChoice::SaveText, QT_TRANSLATE_NOOP("MessageDialogs", "Save as Text"), kTextFilters, "txt"},
+    {FileChoice::SavePicture, QT_TRANSLATE_NOOP("MessageDialogs", "Save Picture"), kPictureFilters, "png"},
 };
 
 /// The details are sentences; in the narrow column under a short message they would be hard to read.

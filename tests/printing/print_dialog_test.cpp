@@ -57,6 +57,26 @@ TEST_F(PrintDialog, WritesTheChosenPartsToAPdfOfTheChosenPaper)
     EXPECT_FALSE(PdfWords(pdf, QSizeF(792, 612)).isEmpty());
 }
 
+TEST_F(PrintDialog, PutsTheSpectrumOnAPageOfItsOwnBehindWhatElseIsPrinted)
+{
+    const auto pages = [&](std::initializer_list<const char*> clicks) {
+        Open();
+        for (const char* click : clicks)
+            Click(click);
+        dialogs.files = {pdf};
+        Click("cmbPrint");
+        return PdfPages(pdf);
+    };
+    const QStringList without = pages({"chkPrintMemory"});
+    const QStringList with = pages({"chkPrintMemory", "chkPrintSpectrum"});
+    ASSERT_EQ(with.size(), without.size() + 1);
+    EXPECT_TRUE(with.last().contains(QStringLiteral("100 MHz"))) << qPrintable(with.last());
+    const QStringList alone =
+        pages({"chkPrintSettings", "chkPrintVfo", "chkPrintMemory", "chkPrintSpectrum"});
+    ASSERT_EQ(alone.size(), 1);
+    EXPECT_TRUE(alone[0].contains(QStringLiteral("Page 1 of 1"))) << qPrintable(alone[0]);
+}
+
 TEST_F(PrintDialog, SaysWhyNothingWasPrintedAndStaysOpen)
 {
     Open({QStringLiteral("No such printer <b>")});
