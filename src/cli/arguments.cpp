@@ -69,8 +69,9 @@ class ArgumentParser
     {
         const std::size_t equals = word.find('=');
         const std::string name = word.substr(0, equals);
-        const auto option = std::find_if(options_.begin(), options_.end(),
-                                         [&name](const Option& known) { return known.name == name; });
+        const auto option = std::find_if(options_.begin(), options_.end(), [&name](const Option& known) {
+            return known.name == name || known.shortName == name;
+        });
         if (option == options_.end()) {
             fault_ = "unknown option " + Quoted(name) + DidYouMean(name, OptionNames());
             return;

@@ -24,6 +24,7 @@ struct Option
     std::string_view value;  ///< what stands for its value in the usage line; empty for a switch
     std::string_view help;
     ValueCheck fault = nullptr;
+    std::string_view shortName = {};  ///< with its dash; empty for none
 };
 
 /// What a user typed behind a command, checked against what the command takes.

@@ -34,8 +34,9 @@ class ReceiverSession;
 
 /// Lists each block that the receiver holds otherwise, and which of its bytes differ.
 /// \param aftermath  what it means when the comparison itself fails
+/// \param found      takes the number of blocks that differ; may be null
 Status CompareWithReceiver(const std::vector<ExpectedBlock>& expected, ReceiverSession& session,
-                           Console& console, const std::string& aftermath);
+                           Console& console, const std::string& aftermath, int* found = nullptr);
 
 // The handlers.
 Status RunNew(const Arguments& arguments, Console& console);

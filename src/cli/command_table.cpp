@@ -27,12 +27,13 @@ constexpr Option kNewOptions[] = {
     {"--empty", "", "no banks: all 1000 channels unassigned"},
     {"--force", "", "replace FILE when it exists"},
 };
-constexpr Option kTransferOptions[] = {kPort, kOnly, kTransferBank};
+constexpr Option kQuiet = {"--quiet", "", "show no progress, and say nothing when all goes well", nullptr,
+                           "-q"};
+constexpr Option kTransferOptions[] = {kPort, kOnly, kTransferBank, kQuiet};
 constexpr Option kReadOptions[] = {
-    kPort,
-    kOnly,
-    kTransferBank,
-    {"--verify", "", "read everything twice and list each block that came otherwise"},
+    kPort,         kOnly,
+    kTransferBank, {"--verify", "", "read everything twice and list each block that came otherwise"},
+    kQuiet,
 };
 constexpr Option kWriteOptions[] = {
     kPort,
@@ -41,6 +42,7 @@ constexpr Option kWriteOptions[] = {
     {"--backup", "COPY", "first read what will be replaced and save it as COPY, a new file", FileNameFault},
     {"--verify", "", "read back afterwards and list each block that differs"},
     {"--force", "", "write although the backup shows that the receiver is another model"},
+    kQuiet,
 };
 constexpr Option kShowOptions[] = {kBank};
 constexpr Option kPrintOptions[] = {
@@ -97,7 +99,7 @@ constexpr Command kCommands[] = {
      "back. A backup that fails keeps everything from being written.",
      kFile, kWriteOptions, RunWrite, ScopeConflict},
     {"verify", "compare the receiver with FILE",
-     "Compares with what write of the same parts leaves behind. Says nothing and ends with status 0 when "
+     "Compares with what write of the same parts leaves behind. Prints nothing and ends with status 0 when "
      "they agree, else lists each block that differs, with the bytes in words.",
      kFile, kTransferOptions, RunVerify, ScopeConflict},
     {"export", "write FILE as CSV",

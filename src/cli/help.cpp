@@ -17,6 +17,12 @@ std::string OptionText(const Option& option)
     return text;
 }
 
+/// The same with the short name in front.
+std::string OptionNames(const Option& option)
+{
+    return (option.shortName.empty() ? "" : std::string(option.shortName) + ", ") + OptionText(option);
+}
+
 /// Blanks for line ends, so that no line is longer than the text width.
 std::string Wrapped(std::string_view text)
 {
@@ -73,10 +79,10 @@ std::string CommandHelp(const Command& command)
         return help;
     int width = 0;
     for (const Option& option : command.options)
-        width = std::max(width, DisplayWidth(OptionText(option)));
+        width = std::max(width, DisplayWidth(OptionNames(option)));
     help += "\nOptions:\n";
     for (const Option& option : command.options)
-        help += "  " + PadToWidth(OptionText(option), width + 2) + std::string(option.help) + '\n';
+        help += "  " + PadToWidth(OptionNames(option), width + 2) + std::string(option.help) + '\n';
     return help;
 }
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <ostream>
 
+#include "link/closing_notes.h"
+
 namespace rqm5 {
 namespace {
 
@@ -15,12 +17,6 @@ std::string Padded(int number, std::size_t digits)
 {
     std::string text = std::to_string(number);
     return text.size() < digits ? std::string(digits - text.size(), ' ') + text : text;
-}
-
-std::string TimeText(std::chrono::seconds time)
-{
-    const auto seconds = static_cast<int>(time.count() % 60);
-    return std::to_string(time.count() / 60) + (seconds < 10 ? ":0" : ":") + std::to_string(seconds);
 }
 
 }  // namespace
@@ -61,7 +57,7 @@ void ProgressBar::BlockDone(int /*address*/, bool /*written*/)
 {
     if (++done_ == 1)
         first_ = Clock::now();
-    if (console_.progressColumns > 0 && Clock::now() - drawn_ >= kRedraw)
+    if (!isQuiet_ && console_.progressColumns > 0 && Clock::now() - drawn_ >= kRedraw)
         Draw();
 }
 

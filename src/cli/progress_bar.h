@@ -37,6 +37,9 @@ class ProgressBar : public TransferObserver
 
     void Cancel() { isCancelled_ = true; }
 
+    /// No progress is shown.
+    void BeQuiet() { isQuiet_ = true; }
+
     /// Takes the line off the terminal.
     void Clear();
 
@@ -63,6 +66,7 @@ class ProgressBar : public TransferObserver
     int row_ = -1;
     int drawnColumns_ = 0;
     bool isCancelled_ = false;
+    bool isQuiet_ = false;
     Clock::time_point first_;  ///< when the first block was done; opening a port takes its own time
     Clock::time_point drawn_;
 };

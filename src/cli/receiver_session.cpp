@@ -43,6 +43,7 @@ EventLoopHost::EventLoopHost()
 ReceiverSession::ReceiverSession(const Arguments& arguments, Console& console)
     : console_(console),
       number_(NumberFromFile(arguments)),
+      isQuiet_(arguments.Has("--quiet")),
       progress_(console),
       port_(DeviceOf(arguments, number_)),
       link_(port_),
@@ -52,6 +53,8 @@ ReceiverSession::ReceiverSession(const Arguments& arguments, Console& console)
           link_.Cancel();
       })
 {
+    if (isQuiet_)
+        progress_.BeQuiet();
 }
 
 void ReceiverSession::TellPort()
@@ -60,8 +63,9 @@ void ReceiverSession::TellPort()
         return;
     const std::string device = port_.Device().toStdString();
     const std::string name = "COM " + std::to_string(number_);
-    console_.err << "Port: " << VisibleText(name + ", " + (device.empty() ? "no device" : device))
-                 << " (without --port, that of RQ-M5.ini)\n";
+    if (!isQuiet_)
+        console_.err << "Port: " << VisibleText(name + ", " + (device.empty() ? "no device" : device))
+                     << " (without --port, that of RQ-M5.ini)\n";
     progress_.NamePort(name, device);
 }
 
@@ -80,6 +84,17 @@ Status ReceiverSession::Finish(TransferResult result)
     if (result == TransferResult::Cancelled && isCtrlC_)
         return Status::Interrupted;
     return result == TransferResult::Done ? Status::Done : Status::Failed;
+}
+
+std::chrono::seconds ReceiverSession::Taken() const
+{
+    return std::chrono::round<std::chrono::seconds>(std::chrono::steady_clock::now() - begin_);
+}
+
+void ReceiverSession::Close(const std::string& note)
+{
+    if (console_.progressColumns > 0 && !isQuiet_)
+        console_.err << note << '\n';
 }
 
 }  // namespace rqm5

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -53,10 +54,18 @@ class ReceiverSession
     /// reported when they happened.
     Status Finish(TransferResult result);
 
+    /// How long the command has taken until now.
+    std::chrono::seconds Taken() const;
+
+    /// One line at the end of a command that went well, for whoever sits at a terminal.
+    void Close(const std::string& note);
+
   private:
     EventLoopHost host_;
     Console& console_;
     const int number_;  ///< the COM number from RQ-M5.ini; 0 when --port says the port
+    const bool isQuiet_;
+    const std::chrono::steady_clock::time_point begin_ = std::chrono::steady_clock::now();
     bool isCtrlC_ = false;
     ProgressBar progress_;
     QtSerialPort port_;

@@ -6,6 +6,7 @@
 #include "cli/values.h"
 #include "files/file_store.h"
 #include "image/display_text.h"
+#include "link/closing_notes.h"
 #include "link/forwarding_observer.h"
 #include "link/line_notes.h"
 #include "link/memory_map.h"
@@ -134,6 +135,7 @@ Status RunRead(const Arguments& arguments, Console& console)
     if (problem)
         return Fail(console, *problem);
     const TransferScope scope = ScopeOf(arguments);
+    const CloneImage before = image;
     ReceiverSession session(arguments, console);
     session.TellPort();
     session.Observer().Begin(BlocksToBackUp(image, scope));
@@ -149,9 +151,13 @@ Status RunRead(const Arguments& arguments, Console& console)
     if (arguments.Has("--verify"))
         if (const Status status = ReadTwice(reader, session, console, agrees); status != Status::Done)
             return status;
-    if (agrees)
-        return SaveRead(arguments[0], image, console);
-    return SaveDoubtful(arguments[0], image, console);
+    if (!agrees)
+        return SaveDoubtful(arguments[0], image, console);
+    const Status status = SaveRead(arguments[0], image, console);
+    if (status == Status::Done)
+        session.Close(
+            ReadNote(session.Taken(), arguments.Has("--verify"), scope, image, Difference(before, image)));
+    return status;
 }
 
 Status RunWrite(const Arguments& arguments, Console& console)
@@ -179,6 +185,8 @@ Status RunWrite(const Arguments& arguments, Console& console)
         status = Write(image, scope, arguments.Has("--verify"), session, console);
     if (status == Status::Done && arguments.Has("--verify"))
         status = CompareWithReceiver(ExpectedAfterWrite(image, scope), session, console, NotVerified());
+    if (status == Status::Done)
+        session.Close(WrittenNote(session.Taken(), arguments.Has("--verify")));
     return status;
 }
 

@@ -6,6 +6,7 @@
 #include "cli/text_table.h"
 #include "cli/values.h"
 #include "link/byte_names.h"
+#include "link/closing_notes.h"
 #include "link/forwarding_observer.h"
 #include "link/receiver_checks.h"
 
@@ -27,7 +28,7 @@ std::string ExpectedIn(const ExpectedBlock& block, const MemoryBlock& read)
 }  // namespace
 
 Status CompareWithReceiver(const std::vector<ExpectedBlock>& expected, ReceiverSession& session,
-                           Console& console, const std::string& aftermath)
+                           Console& console, const std::string& aftermath, int* found)
 {
     session.Observer().Begin(static_cast<int>(expected.size()));
     std::vector<BlockDifference> differences;
@@ -41,6 +42,8 @@ Status CompareWithReceiver(const std::vector<ExpectedBlock>& expected, ReceiverS
         table.AddRow({HexAddress(block.address), block.label, "expected " + ExpectedIn(block, read),
                       "receiver " + read.String(), DifferingBytes(block, read)});
     table.Print(console.out);
+    if (found != nullptr)
+        *found = static_cast<int>(differences.size());
     return differences.empty() || status == Status::Interrupted ? status : Status::Failed;
 }
 
@@ -51,7 +54,12 @@ Status RunVerify(const Arguments& arguments, Console& console)
         return Fail(console, *problem);
     ReceiverSession session(arguments, console);
     session.TellPort();
-    return CompareWithReceiver(ExpectedInReceiver(image, ScopeOf(arguments)), session, console, {});
+    int found = 0;
+    const Status status =
+        CompareWithReceiver(ExpectedInReceiver(image, ScopeOf(arguments)), session, console, {}, &found);
+    if (status == Status::Done || found > 0)
+        session.Close(ComparedNote(session.Taken(), found));
+    return status;
 }
 
 }  // namespace rqm5

@@ -122,6 +122,18 @@ QString DeviceNode(const QString& device)
 #endif
 }
 
+bool IsDevicePresent(const QString& device)
+{
+#ifdef Q_OS_WIN
+    for (const PortInfo& port : ListedPorts())
+        if (port.device == device)
+            return true;
+    return false;
+#else
+    return !device.isEmpty() && QFileInfo::exists(DeviceNode(device));
+#endif
+}
+
 QList<PortInfo> SystemPorts()
 {
     QList<PortInfo> ports = ListedPorts();

@@ -30,6 +30,9 @@ QList<PortInfo> ComPorts();
 /// Where the system keeps a device: a bare name such as ttyUSB0 stands for a node in /dev.
 QString DeviceNode(const QString& device);
 
+/// True while a device is there, as far as it shows without opening it.
+bool IsDevicePresent(const QString& device);
+
 /// Every serial port that the system lists now.
 QList<PortInfo> SystemPorts();
 

@@ -6,9 +6,7 @@
 #include "settings/settings_codec.h"
 
 namespace rqm5 {
-namespace {
-
-QString NameOf(int model)
+QString NameOfModel(int model)
 {
     const auto names = ModelNames();
     const std::string_view name = model >= 0 && model < static_cast<int>(names.size())
@@ -16,8 +14,6 @@ QString NameOf(int model)
                                       : std::string_view("?");
     return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
 }
-
-}  // namespace
 
 void ReceiverIdentity::GoTo(const QString& device)
 {
@@ -54,7 +50,7 @@ std::string OtherModelText(int receiver, int image)
 {
     return QCoreApplication::translate("WriteRecord",
                                        "The receiver is an %1, and what is to be written is for an %2.")
-        .arg(NameOf(receiver), NameOf(image))
+        .arg(NameOfModel(receiver), NameOfModel(image))
         .toStdString();
 }
 

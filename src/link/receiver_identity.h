@@ -31,6 +31,9 @@ class ReceiverIdentity
     std::optional<int> written_;
 };
 
+/// "RQ-M5 E"; "?" for a number that no model has.
+QString NameOfModel(int model);
+
 /// "The receiver is an RQ-M5 E, and what is to be written is for an RQ-M5 J."
 std::string OtherModelText(int receiver, int image);
 

@@ -8,8 +8,11 @@
 #include <csignal>
 #include <filesystem>
 #include <future>
+#include <regex>
+#include <sstream>
 
 #include "cli/command_run.h"
+#include "cli/program.h"
 #include "files/clone_file.h"
 #include "files/file_store.h"
 #include "memory/start_image.h"
@@ -375,6 +378,41 @@ TEST_F(Transfers, NameThePortThatTheyChoseThemselves)
                     "\nCommunication Error: COM 1, " + receiver.Device().toStdString() + ": Block 0040"));
     for (int number = 1; number <= 14; ++number)
         qunsetenv(qPrintable(QStringLiteral("RQM5_COM%1").arg(number)));
+}
+
+TEST_F(Transfers, EndWithALineAtATerminalUnlessTheyAreToBeQuiet)
+{
+    const std::tuple<Words, const char*, const char*> cases[] = {
+        {{"new", file}, "", ""},
+        {{"read", "--bank", "3", file},
+         "^Read in [0-9]+:[0-9][0-9]: [0-9]+ channels on, [0-9]+ rows, .* changed\\n$",
+         "--quiet"},
+        {{"read", "--bank", "3", "--verify", file},
+         "^Read in [0-9]+:[0-9][0-9] and verified: [0-9]+ channels on, nothing changed\\n$",
+         "-q"},
+        {{"write", "--bank", "3", "--verify", file}, "^Written in [0-9]+:[0-9][0-9] and verified\n$", "-q"},
+        {{"verify", "--bank", "3", file}, "^Compared in [0-9]+:[0-9][0-9]: no block differs\n$", "-q"},
+    };
+    const SimSession receiver(Demo());
+    for (auto [words, line, quiet] : cases)
+        for (const int columns : {80, 0, 80}) {
+            std::ostringstream out;
+            std::ostringstream err;
+            Console console{out, err, columns};
+            if (*line != '\0')
+                words.insert(words.begin() + 1, {"--port", receiver.Device().toStdString()});
+            EXPECT_EQ(RunProgram(words, console), Status::Done) << err.str();
+            const std::string shown = err.str().substr(err.str().rfind('\r') + 1);
+            if (columns > 0 && words.back() == file)
+                EXPECT_TRUE(std::regex_search(shown, std::regex(line))) << shown;
+            else
+                EXPECT_EQ(err.str(), "");
+            if (*line == '\0')
+                break;
+            words.erase(words.begin() + 1, words.begin() + 3);
+            if (columns == 0)
+                words.emplace_back(quiet);
+        }
 }
 
 TEST(RawCommand, ShowsTheReplyAndWhatItMeans)
