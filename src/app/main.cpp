@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "app/command_file.h"
+#include "app/desktop_link.h"
 #include "app/ending.h"
 #include "app/recovery.h"
 #include "app/start_up.h"
@@ -93,6 +94,8 @@ int main(int argc, char** argv)
     options.portFile = rqm5::PortFilePath(QApplication::applicationDirPath());
     options.stateFolder = rqm5::StateFolder();
     options.useDevice = [&port](const QString& device) { port.SetDevice(device); };
+    options.showProgress = rqm5::ShowProgressOnDesktop;
+    options.notify = rqm5::NotifyOnDesktop;
     rqm5::ProgramEnd end;
     const auto window = rqm5::StartUp(port, dialogs, options);
     return end.Exec(*window);

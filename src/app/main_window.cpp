@@ -13,8 +13,10 @@
 #include <QVBoxLayout>
 
 #include "app/clone_drop.h"
+#include "app/desktop_news.h"
 #include "app/file_news.h"
 #include "app/placement.h"
+#include "app/spectrum_commands.h"
 #include "memory/start_image.h"
 #include "ui/form_texts.h"
 #include "ui/icons.h"
@@ -82,8 +84,11 @@ void frmMain::Compose()
     readOptions_ = new ReadOptionItems(*menus_, this);
     writeOptions_ = new WriteOptionItems(*menus_, dialogs_, *this);
     transfers_ = new TransferCommands(document_, link_, dialogs_, *this);
+    offers_ = new Offers(document_, *transfers_, *writeOptions_, *menus_, *messageBar_);
+    new DesktopNews(*transfers_, options_, *this);
     shell_ = new TransferShell(*transfers_, *menus_, *pages_, *history_, *transferBar_, *sbStatusBar_, *this);
     sides_ = new SideWindows(document_, link_, *transfers_, dialogs_, *ports_, options_, *this);
+    new SpectrumCommands(document_, dialogs_, *pages_, *transfers_, menus_->Item("mnuViewSpectrum"), *this);
     recovery_ = new Recovery(document_, options_.stateFolder, options_.recoveryDelay, this);
     recovery_->SetMark([this] { return currentFile_->KnownMark(); });
 }
@@ -204,6 +209,7 @@ void frmMain::Form_Load()
     const bool isRecovered = RecoverWork();
     if (!isRecovered && !wanted.isEmpty())
         files_->Load(wanted);
+    offers_->ShowFirstLook();
     if (isRecovered && !wanted.isEmpty() && QFileInfo(wanted).absoluteFilePath() != document_.FileName())
         sbStatusBar_->ShowNote(tr("Recovered changes came first; not opened: %1").arg(VisibleText(wanted)));
 }

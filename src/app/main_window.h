@@ -10,6 +10,7 @@
 #include "app/find_commands.h"
 #include "app/history_commands.h"
 #include "app/menus.h"
+#include "app/offers.h"
 #include "app/pages.h"
 #include "app/port_commands.h"
 #include "app/read_option_items.h"
@@ -102,6 +103,7 @@ class frmMain : public QMainWindow
     PortCommands* ports_ = nullptr;
     ReadOptionItems* readOptions_ = nullptr;
     WriteOptionItems* writeOptions_ = nullptr;
+    Offers* offers_ = nullptr;
     TransferCommands* transfers_ = nullptr;
     TransferShell* shell_ = nullptr;
     SideWindows* sides_ = nullptr;

@@ -70,6 +70,8 @@ inline constexpr MenuItem kMenuItems[] = {
     {"mnuView", "mnuStatusBar", TEXT("&Status Bar"), "", TEXT("Show or hide the status bar"), During::Stays},
     {"mnuView", "mnuViewHistory", TEXT("&History"), "",
      TEXT("Show every change that can be taken back; a click goes there"), During::Stays},
+    {"mnuView", "mnuViewSpectrum", TEXT("S&pectrum"), "",
+     TEXT("Show every channel by its frequency; a click selects its row"), During::Stays},
     {"mnuView", "mnuViewDiagnostics", TEXT("&Diagnostics"), "",
      TEXT("Send single read commands and see the replies"), During::Stays},
 

@@ -38,9 +38,10 @@ Menus::Menus(QMenuBar& bar) : QObject(&bar), bar_(bar)
                 actions_[i] = AddItem(*menu, kMenuItems[i]);
     }
     isPossible_.fill(true);
-    for (const ItemName name : {ItemName("mnuViewToolbar"), ItemName("mnuStatusBar"),
-                                ItemName("mnuViewHistory"), ItemName("mnuViewDiagnostics"),
-                                ItemName("mnuWrBackup"), ItemName("mnuWrVerify"), ItemName("mnuReVerify")})
+    for (const ItemName name :
+         {ItemName("mnuViewToolbar"), ItemName("mnuStatusBar"), ItemName("mnuViewHistory"),
+          ItemName("mnuViewSpectrum"), ItemName("mnuViewDiagnostics"), ItemName("mnuWrBackup"),
+          ItemName("mnuWrVerify"), ItemName("mnuReVerify")})
         Item(name).setCheckable(true);
     Item("mnuViewToolbar").setChecked(true);
     Item("mnuStatusBar").setChecked(true);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 #include <QWidget>
 
 #include "app/start_options.h"
@@ -26,16 +27,22 @@ class PortCommands : public QObject
     void mnuToolsOptions_Click();
 
   signals:
-    void PortChosen(int number, const QString& device);
+    /// Another port was chosen, or its device has come or gone.
+    void PortChosen(int number, const QString& device, bool isPresent);
 
   private:
     void SetCommPort(int number);
+    void LookForDevice();
+    bool IsPresent() const;
 
     SerialPort& port_;
     Dialogs& dialogs_;
     const StartOptions& options_;
     QWidget& window_;
     int CommPort_ = 1;
+    QString device_;
+    bool wasPresent_ = false;
+    QTimer look_;
 };
 
 }  // namespace rqm5

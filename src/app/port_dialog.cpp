@@ -1,11 +1,13 @@
 #include "app/port_dialog.h"
 
+#include <QAbstractItemView>
 #include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <chrono>
 
 #include "ui/elided_label.h"
 #include "ui/tall_area.h"
@@ -15,6 +17,9 @@ namespace rqm5 {
 namespace {
 
 constexpr int kPathColumns = 40;
+
+/// Between two looks at the ports: soon enough for whoever has just plugged a cable in.
+constexpr std::chrono::milliseconds kLookAgain{1000};
 
 /// A number that the environment gives a device keeps it, whatever the user chooses here.
 bool IsFixed(int number)
@@ -39,9 +44,11 @@ dlgCOM::dlgCOM(QWidget* parent) : QDialog(parent), opbCom_(this)
     list->setFrameShape(QFrame::StyledPanel);
     column->addWidget(list, 1);
     column->addLayout(MakeDeviceRow());
+    column->addLayout(MakeSearchRow());
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("OKButton"));
+    OKButton_ = buttons->button(QDialogButtonBox::Ok);
+    OKButton_->setObjectName(QStringLiteral("OKButton"));
     buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("CancelButton"));
     column->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &dlgCOM::OKButton_Click);
@@ -50,6 +57,8 @@ dlgCOM::dlgCOM(QWidget* parent) : QDialog(parent), opbCom_(this)
         if (isChecked)
             opbCom_Click();
     });
+    connect(&look_, &QTimer::timeout, this, &dlgCOM::LookAgain);
+    look_.start(kLookAgain);
 }
 
 void dlgCOM::AddOption(QGridLayout& rows, int index)
@@ -100,6 +109,29 @@ void dlgCOM::ShowPorts(int number)
     opbCom_Click();
 }
 
+/// What the user has typed, and which number is selected, stays.
+void dlgCOM::LookAgain()
+{
+    // A list that is open would change under the pointer.
+    if (ports_.isEmpty() || cbbDevice_->view()->isVisible())
+        return;
+    const QList<PortInfo> now = ComPorts();
+    found_ = SystemPorts();
+    for (int i = 0; i < kComPorts; ++i) {
+        if (ports_.at(i).device == current_.at(i).device)
+            ports_[i] = now.at(i);
+        else
+            ShowPresence(ports_[i]);
+        ShowDeviceText(i);
+    }
+    current_ = now;
+    FillFoundPorts();
+    if (txtDevice_->text().trimmed() != Selected().device)
+        txtDevice_->setText(Selected().device);
+    cbbDevice_->setCurrentIndex(cbbDevice_->findData(Selected().device));
+    cbbDevice_->setEnabled(txtDevice_->isEnabled() && !found_.isEmpty());
+}
+
 void dlgCOM::FillFoundPorts()
 {
     cbbDevice_->clear();
@@ -146,12 +178,17 @@ void dlgCOM::txtDevice_Change()
 {
     PortInfo& port = Selected();
     port.device = txtDevice_->text().trimmed();
+    ShowPresence(port);
+    ShowDeviceText(opbCom_.checkedId());
+    cbbDevice_->setCurrentIndex(cbbDevice_->findData(port.device));
+}
+
+void dlgCOM::ShowPresence(PortInfo& port) const
+{
     const auto known = std::ranges::find(found_, port.device, &PortInfo::device);
     const bool isListed = known != found_.end();
     port.isPresent = isListed || (!port.device.isEmpty() && QFileInfo::exists(DeviceNode(port.device)));
     port.description = isListed ? known->description : QString();
-    ShowDeviceText(opbCom_.checkedId());
-    cbbDevice_->setCurrentIndex(cbbDevice_->findData(port.device));
 }
 
 void dlgCOM::OKButton_Click()

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDir>
+#include <QDockWidget>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QTabWidget>
@@ -122,6 +123,16 @@ void SaveBankMove(PictureDialogs& dialogs, QWidget& window)
     tabs.setCurrentIndex(2);
 }
 
+void SaveSpectrum(PictureDialogs& dialogs, QWidget& window)
+{
+    Trigger(window, "mnuViewSpectrum");
+    auto& dock = Find<QDockWidget>(window, "dckSpectrum");
+    dock.setFloating(true);
+    dock.resize(1000, 520);
+    dialogs.Save(dock, QStringLiteral("spectrum"));
+    dock.close();
+}
+
 void SaveDiagnostics(PictureDialogs& dialogs, QWidget& window)
 {
     Trigger(window, "mnuViewDiagnostics");
@@ -154,6 +165,7 @@ int main(int argc, char** argv)
     rqm5::StartOptions options;
     options.portFile = settings.filePath(QStringLiteral("RQ-M5.ini"));
     rqm5::WritePortFile(options.portFile, kUsualCable);
+    options.isPresent = [](const QString&) { return true; };
     options.splashTime = std::chrono::milliseconds(0);
     const auto window = rqm5::StartUp(port, dialogs, options);
     QObject::connect(window->findChild<QProgressBar*>(), &QProgressBar::valueChanged, window.get(),
@@ -173,5 +185,6 @@ int main(int argc, char** argv)
     SavePaste(*window);
     Trigger(*window, "mnuToolsOptions");
     Trigger(*window, "mnuFilePrint");
+    SaveSpectrum(dialogs, *window);
     SaveDiagnostics(dialogs, *window);
 }

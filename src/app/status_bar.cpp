@@ -103,9 +103,10 @@ void StatusBar::ShowPointerHint(const QString& text)
     ShowFirstText();
 }
 
-void StatusBar::ShowPort(int number, const QString& device)
+void StatusBar::ShowPort(int number, const QString& device, bool isPresent)
 {
-    lblPort_->setText(tr("COM %1: %2").arg(number).arg(device.isEmpty() ? tr("no device") : device));
+    const QString text = tr("COM %1: %2").arg(number).arg(device.isEmpty() ? tr("no device") : device);
+    lblPort_->setText(isPresent || device.isEmpty() ? text : tr("%1, not present").arg(text));
 }
 
 void StatusBar::ShowHintOf(const QWidget* focused)

@@ -32,7 +32,7 @@ class StatusBar : public QStatusBar
     /// What the control with the focus does; behind all else.
     void ShowHintOf(const QWidget* focused);
 
-    void ShowPort(int number, const QString& device);
+    void ShowPort(int number, const QString& device, bool isPresent);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

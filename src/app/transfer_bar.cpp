@@ -5,9 +5,28 @@
 
 namespace rqm5 {
 
+/// Shows a text also while nobody knows how far it will go.
+class TextProgressBar : public QProgressBar
+{
+  public:
+    using QProgressBar::QProgressBar;
+
+    void SetText(const QString& text)
+    {
+        text_ = text;
+        setAccessibleDescription(text);
+        update();
+    }
+
+    QString text() const override { return text_.isEmpty() ? QProgressBar::text() : text_; }
+
+  private:
+    QString text_;
+};
+
 TransferBar::TransferBar(QWidget* parent)
     : QWidget(parent),
-      progressBar_(new QProgressBar(this)),
+      progressBar_(new TextProgressBar(this)),
       Text3_(new QLineEdit(this)),
       cmbCancel_(new QPushButton(tr("Cancel"), this))
 {
@@ -38,6 +57,7 @@ TransferBar::TransferBar(QWidget* parent)
 void TransferBar::Begin()
 {
     progressBar_->setRange(0, 0);
+    progressBar_->SetText({});
     Text3_->clear();
     show();
     cmbCancel_->setFocus();
@@ -58,6 +78,11 @@ void TransferBar::MoveProgress(int value, int row)
 {
     Text3_->setText(row >= 0 ? QString::number(row) : QString());
     progressBar_->setValue(value);
+}
+
+void TransferBar::Tell(const QString& text)
+{
+    progressBar_->SetText(text);
 }
 
 }  // namespace rqm5

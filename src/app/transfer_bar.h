@@ -7,6 +7,8 @@
 
 namespace rqm5 {
 
+class TextProgressBar;
+
 /// What shows while a transfer runs: progress, the channel that is being moved, and the way out.
 class TransferBar : public QWidget
 {
@@ -21,11 +23,14 @@ class TransferBar : public QWidget
     void StartProgress(int maximum);
     void MoveProgress(int value, int row);
 
+    /// Says in the bar what is being done and how long it will take; an empty text makes room for percents.
+    void Tell(const QString& text);
+
   signals:
     void CancelRequested();
 
   private:
-    QProgressBar* progressBar_;
+    TextProgressBar* progressBar_;
     QLineEdit* Text3_;
     QPushButton* cmbCancel_;
 };

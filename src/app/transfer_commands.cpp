@@ -50,6 +50,10 @@ void TransferCommands::Occupy(const std::function<TransferResult()>& work)
     isCancelled_ = false;
     notes_.clear();
     repeated_ = 0;
+    isReadTwice_ = isVerified_ = false;
+    progress_ = {};
+    begin_ = std::chrono::steady_clock::now();
+    asked_ = {};
     emit Started();
     const TransferResult result = work();
     if (repeated_ > 0)
@@ -72,14 +76,17 @@ TransferResult TransferCommands::RunOperation(Transfer transfer, int selector)
 {
     switch (transfer) {
         case Transfer::ReadAll:
-            return Read(tr("Read ALL"), [](ReceiverReader& reader) { return reader.ReadAll(); });
+            return Read(tr("Read ALL"), {}, [](ReceiverReader& reader) { return reader.ReadAll(); });
         case Transfer::ReadMemory:
             return Read(tr("Read Memory (%1)").arg(QString::fromStdString(SelectorText(selector))),
+                        {.settings = false, .selector = selector},
                         [selector](ReceiverReader& reader) { return reader.ReadMemory(selector); });
         case Transfer::ReadSettings:
-            return Read(tr("Read Settings"), [](ReceiverReader& reader) { return reader.ReadSettings(); });
+            return Read(tr("Read Settings"), {.memory = false},
+                        [](ReceiverReader& reader) { return reader.ReadSettings(); });
         case Transfer::ReadBankPage:
-            return Read(tr("Read Bank"), [](ReceiverReader& reader) { return reader.ReadBankPage(); });
+            return Read(tr("Read Bank"), {.settings = false, .memory = false, .banks = true},
+                        [](ReceiverReader& reader) { return reader.ReadBankPage(); });
         case Transfer::WriteAll:
             return Write({});
         case Transfer::WriteMemory:
@@ -92,9 +99,12 @@ TransferResult TransferCommands::RunOperation(Transfer transfer, int selector)
     return TransferResult::Failed;
 }
 
-TransferResult TransferCommands::Read(const QString& name,
+TransferResult TransferCommands::Read(const QString& name, const TransferScope& scope,
                                       const std::function<TransferResult(ReceiverReader&)>& read)
 {
+    const CloneImage before = document_.Image();
+    const bool hadUnsavedChanges = document_.DataChanged();
+    BeginReading(scope);
     std::vector<std::string> unreadable;
     std::vector<ExpectedBlock> blocks;
     auto result = TransferResult::Done;
@@ -114,6 +124,7 @@ TransferResult TransferCommands::Read(const QString& name,
         NameUnreadable(unreadable);
     if (result == TransferResult::Done && LoadReadTwice())
         result = ReadTwice(blocks);
+    NoteRead(result, scope, before, hadUnsavedChanges);
     return result;
 }
 
@@ -133,6 +144,7 @@ void TransferCommands::NameUnreadable(const std::vector<std::string>& names)
 TransferResult TransferCommands::ReadTwice(const std::vector<ExpectedBlock>& blocks)
 {
     std::vector<BlockDifference> differences;
+    BeginPart();
     AftermathObserver observer(*this, NotReadTwice());
     const TransferResult result = ReadBack(blocks, link_, observer, differences);
     if (result == TransferResult::Cancelled)
@@ -142,8 +154,7 @@ TransferResult TransferCommands::ReadTwice(const std::vector<ExpectedBlock>& blo
                      tr("%1. Check the cable, then read again.")
                          .arg(QString::fromStdString(OtherwiseNote(static_cast<int>(differences.size())))),
                      LabelsOf(differences));
-    else if (result == TransferResult::Done)
-        notes_.prepend(tr("Read and verified: a second read brought the same."));
+    isReadTwice_ = result == TransferResult::Done && differences.empty();
     return result;
 }
 
@@ -156,6 +167,7 @@ void TransferCommands::Stored()
 TransferResult TransferCommands::Write(const TransferScope& scope)
 {
     const WriteOptions options = LoadWriteOptions();
+    BeginWriting(scope, options.keepsBackup, options.verifies);
     auto result = TransferResult::Done;
     if (options.keepsBackup)
         result = KeepBackup(scope, options.backupFolder);
@@ -165,6 +177,7 @@ TransferResult TransferCommands::Write(const TransferScope& scope)
         result = WriteBlocks(scope, options.verifies);
     if (result == TransferResult::Done && options.verifies)
         result = Verify(scope);
+    NoteWritten(result, options.verifies);
     return result;
 }
 
@@ -177,6 +190,7 @@ TransferResult TransferCommands::KeepBackup(const TransferScope& scope, const QS
         return TransferResult::Failed;
     }
     CloneImage backup;
+    BeginPart();
     const TransferResult result = ReadBackup(document_.Image(), scope, link_, *this, backup);
     if (result == TransferResult::Cancelled)
         notes_ << QString::fromStdString(NothingWritten());
@@ -207,13 +221,12 @@ bool TransferCommands::MayWriteToThisModel()
     const std::pair models(known, wanted);
     if (known == wanted || models == agreed_)
         return true;
-    const bool isMeant =
-        dialogs_.Ask(&window_, {.title = tr("Write"),
-                                .text = tr("The receiver is another model. Write to it all the same?"),
-                                .details = QString::fromStdString(OtherModelText(known, wanted)),
-                                .icon = QMessageBox::Warning,
-                                .buttons = QMessageBox::Yes | QMessageBox::No,
-                                .defaultButton = QMessageBox::No}) == QMessageBox::Yes;
+    const bool isMeant = Ask({.title = tr("Write"),
+                              .text = tr("The receiver is another model. Write to it all the same?"),
+                              .details = QString::fromStdString(OtherModelText(known, wanted)),
+                              .icon = QMessageBox::Warning,
+                              .buttons = QMessageBox::Yes | QMessageBox::No,
+                              .defaultButton = QMessageBox::No}) == QMessageBox::Yes;
     if (isMeant)
         agreed_ = models;
     else
@@ -223,6 +236,7 @@ bool TransferCommands::MayWriteToThisModel()
 
 TransferResult TransferCommands::WriteBlocks(const TransferScope& scope, bool isVerified)
 {
+    BeginPart();
     ReceiverWriter writer(document_.Image(), scope, link_, *this);
     const TransferResult result = writer.Write();
     document_.Absorb([&writer](CloneImage& image) { image = writer.Written(); });
@@ -243,6 +257,7 @@ TransferResult TransferCommands::WriteBlocks(const TransferScope& scope, bool is
 TransferResult TransferCommands::Verify(const TransferScope& scope)
 {
     std::vector<BlockDifference> differences;
+    BeginPart();
     AftermathObserver observer(*this, NotVerified());
     const TransferResult result =
         ReadBack(ExpectedAfterWrite(document_.Image(), scope), link_, observer, differences);
@@ -251,8 +266,7 @@ TransferResult TransferCommands::Verify(const TransferScope& scope)
     if (!differences.empty())
         WarnOfBlocks(tr("Verify"), tr("The receiver does not hold what was written. Write again."),
                      LabelsOf(differences));
-    else if (result == TransferResult::Done)
-        notes_.prepend(tr("Written and verified: the receiver holds what was written."));
+    isVerified_ = result == TransferResult::Done && differences.empty();
     return result;
 }
 
@@ -277,12 +291,12 @@ void TransferCommands::WarnOfBlocks(const QString& title, const QString& text,
 void TransferCommands::Warn(Prompt warning)
 {
     warning.icon = QMessageBox::Warning;
-    dialogs_.Ask(&window_, warning);
+    Ask(warning);
 }
 
 void TransferCommands::Message(const Problem& problem)
 {
-    dialogs_.Ask(&window_, ErrorPrompt(problem));
+    Ask(ErrorPrompt(problem));
 }
 
 }  // namespace rqm5

@@ -3,9 +3,11 @@
 #include <QObject>
 #include <QStringList>
 #include <QWidget>
+#include <chrono>
 #include <functional>
 #include <utility>
 
+#include "app/transfer_progress.h"
 #include "document/document.h"
 #include "link/radio_link.h"
 #include "link/receiver_identity.h"
@@ -59,8 +61,15 @@ class TransferCommands : public QObject, private TransferObserver
   signals:
     void Started();
     void Ended(rqm5::TransferResult result);
+    void WriteBegan();
     void ProgressBegan(int maximum);
     void ProgressAdvanced(int value, int row);
+
+    /// What is being done, how far it is and how long it will take, in words and from 0 to 1.
+    void ProgressTold(const QString& text, double fraction);
+
+    /// A message or question is about to be shown.
+    void Asking(const QString& text);
     void GroupWanted(int selector);  ///< an "all" operation moves the bank selector
 
     /// What there is to say about a transfer without a message, once it has ended: that nothing was written,
@@ -70,7 +79,8 @@ class TransferCommands : public QObject, private TransferObserver
   private:
     void Occupy(const std::function<TransferResult()>& work);
     TransferResult RunOperation(Transfer transfer, int selector);
-    TransferResult Read(const QString& name, const std::function<TransferResult(ReceiverReader&)>& read);
+    TransferResult Read(const QString& name, const TransferScope& scope,
+                        const std::function<TransferResult(ReceiverReader&)>& read);
     TransferResult ReadTwice(const std::vector<ExpectedBlock>& blocks);
     void NameUnreadable(const std::vector<std::string>& names);
     TransferResult Write(const TransferScope& scope);
@@ -82,8 +92,20 @@ class TransferCommands : public QObject, private TransferObserver
     void WarnOfBlocks(const QString& title, const QString& text, const std::vector<std::string>& names);
     bool SaveBackup(const QString& path, const CloneImage& backup);
 
-    void ProgressStarted(int maximum) override { emit ProgressBegan(maximum); }
-    void ProgressMoved(int value, int row) override { emit ProgressAdvanced(value, row); }
+    QMessageBox::StandardButton Ask(const Prompt& prompt);
+
+    // What is told while a transfer runs and at its end.
+    void BeginReading(const TransferScope& scope);
+    void BeginWriting(const TransferScope& scope, bool keepsBackup, bool isVerified);
+    void BeginPart();
+    void NoteRead(TransferResult result, const TransferScope& scope, const CloneImage& before,
+                  bool hadUnsavedChanges);
+    void NoteWritten(TransferResult result, bool isVerified);
+    std::chrono::seconds Taken() const;
+
+    void ProgressStarted(int maximum) override;
+    void ProgressMoved(int value, int row) override;
+    void BlockDone(int address, bool written) override;
     void BlockRepeated(int /*address*/) override { ++repeated_; }
     void GroupChosen(int selector) override { emit GroupWanted(selector); }
     void Stored() override;
@@ -100,8 +122,13 @@ class TransferCommands : public QObject, private TransferObserver
     ReceiverIdentity receiver_;
     std::pair<int, int> agreed_;  ///< models of receiver and image that the user has said yes to
     int repeated_ = 0;            ///< blocks that needed more than one attempt
+    bool isReadTwice_ = false;    ///< with the same result
+    bool isVerified_ = false;     ///< the receiver was found to hold what was written
     bool isRunning_ = false;
     bool isCancelled_ = false;
+    TransferProgress progress_;
+    std::chrono::steady_clock::time_point begin_;
+    std::chrono::steady_clock::duration asked_{0};  ///< how long messages and questions have stood open
 };
 
 }  // namespace rqm5

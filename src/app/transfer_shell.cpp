@@ -41,6 +41,7 @@ void TransferShell::ConnectTransfers()
     connect(&transfers_, &TransferCommands::GroupWanted, &pages_.Memory(), &MemoryPage::SelectGroup);
     connect(&transfers_, &TransferCommands::ProgressBegan, &bar_, &TransferBar::StartProgress);
     connect(&transfers_, &TransferCommands::ProgressAdvanced, &bar_, &TransferBar::MoveProgress);
+    connect(&transfers_, &TransferCommands::ProgressTold, &bar_, &TransferBar::Tell);
     connect(&transfers_, &TransferCommands::Noted, &statusBar_, &StatusBar::ShowNote);
     connect(&bar_, &TransferBar::CancelRequested, &transfers_, &TransferCommands::Cancel);
 }

@@ -18,6 +18,13 @@ void WriteOptionItems::Keep()
                       LoadWriteOptions().backupFolder});
 }
 
+void WriteOptionItems::TurnOn()
+{
+    menus_.Item("mnuWrBackup").setChecked(true);
+    menus_.Item("mnuWrVerify").setChecked(true);
+    Keep();
+}
+
 void WriteOptionItems::mnuWrBackupFolder_Click()
 {
     WriteOptions options = LoadWriteOptions();

@@ -20,6 +20,9 @@ class WriteOptionItems : public QObject
     /// What mnuWrBackup and mnuWrVerify do.
     void Keep();
 
+    /// Both from now on.
+    void TurnOn();
+
     void mnuWrBackupFolder_Click();
 
   private:

@@ -12,6 +12,7 @@ namespace {
 
 const QString kBackup = QStringLiteral("Write/Backup");
 const QString kVerify = QStringLiteral("Write/Verify");
+const QString kOffered = QStringLiteral("Write/Offered");
 const QString kFolder = QStringLiteral("Write/BackupFolder");
 
 QSettings Store()
@@ -50,6 +51,15 @@ void SaveWriteOptions(const WriteOptions& options)
     store.setValue(kBackup, options.keepsBackup);
     store.setValue(kVerify, options.verifies);
     store.setValue(kFolder, options.backupFolder);
+}
+
+bool TakeWriteOffer()
+{
+    QSettings store = Store();
+    if (store.contains(kBackup) || store.contains(kVerify) || store.contains(kOffered))
+        return false;
+    store.setValue(kOffered, true);
+    return true;
 }
 
 QString NewBackupPath(const QString& folder, const TransferScope& scope, const QDateTime& now)

@@ -18,6 +18,9 @@ struct WriteOptions
 WriteOptions LoadWriteOptions();
 void SaveWriteOptions(const WriteOptions& options);
 
+/// True once, to an owner who has never said whether he wants a backup and a verification.
+bool TakeWriteOffer();
+
 /// The path of a new backup: date, time and what it holds are in its name. No file of that name exists.
 QString NewBackupPath(const QString& folder, const TransferScope& scope, const QDateTime& now);
 

@@ -58,6 +58,9 @@ constexpr Topic kTopics[] = {
     {"cmbLinkTest", "diagnostics.md#link-test"},
     {"tblExchanges", "diagnostics.md#exchange-log"},
     {"dckDiagnostics", "diagnostics.md"},
+    {"dckSpectrum", "spectrum.md"},
+    {"picBanks", "channels-and-banks.md#the-bank-page"},
+    {"cmbFindReceiver", "ports.md#finding-the-receiver"},
     {"dckHistory", "undo.md#the-list-of-steps"},
     {"frmHelp", "index.md#finding-your-way-in-this-window"},
 };

@@ -44,7 +44,7 @@ TEST_F(DiagnosticsTest, RawReadShowsTheReplyAsReceivedAndWhatItMeans)
 {
     const std::string channel = Read("1000");
     EXPECT_THAT(channel, AllOf(HasSubstr("memory row 0"), HasSubstr("QT~F1000R\\r"), HasSubstr(" ms: "),
-                               HasSubstr(EncodeMemoryRow(demo_, 0).String() + "\\r\\n"),
+                               HasSubstr(EncodeMemoryRow(demo_, 0).String().append("\\r\\n")),
                                HasSubstr("Frequency: " + demo_.MemText(0, kFrequency)),
                                HasSubstr("Step: " + demo_.MemText(0, kStep))));
     EXPECT_THAT(Read("0xc30"),

@@ -5,6 +5,9 @@
 #include <QRadioButton>
 
 #include "link/com_ports.h"
+#include "simulator/demo_image.h"
+#include "simulator/pseudo_terminal.h"
+#include "simulator/sim_session.h"
 #include "window_fixture.h"
 
 namespace rqm5 {
@@ -52,6 +55,41 @@ TEST_F(WindowTest, PortDialogKeepsNumberAndDeviceOnOkOnly)
     EXPECT_EQ(port_.Device(), QStringLiteral("/dev/null"));
     EXPECT_EQ(DeviceOfComPort(3), QStringLiteral("/dev/null"));
     EXPECT_EQ(StatusText("lblPort"), QStringLiteral("COM 3: /dev/null"));
+}
+
+TEST_F(WindowTest, PortDialogFindsTheReceiverAndSeesAdaptersComeAndGo)
+{
+    SimSession receiver({.memory = MemoryFromImage(DemoImage(1))});
+    PseudoTerminal silent;
+    ASSERT_TRUE(silent.Open()) << silent.Error();
+    qputenv("RQM5_COM2", silent.Device().c_str());
+    qputenv("RQM5_COM7", Path("adapter").toLocal8Bit());
+    Start();
+    const QString device = Path("adapter");
+    const auto find = [](QDialog& dialog) {
+        In<QPushButton>(dialog, "cmbFindReceiver").click();
+        return In<QLabel>(dialog, "lblFound").text();
+    };
+    dialogs_.act = [&](QDialog& dialog) {
+        EXPECT_TRUE(receiver.CommandLog().empty());
+        EXPECT_TRUE(find(dialog).startsWith(QStringLiteral("No receiver answers. ")))
+            << qPrintable(In<QLabel>(dialog, "lblFound").text());
+        EXPECT_EQ(In<QLabel>(dialog, "lblDevice_6").text(), device + QStringLiteral(", not present"));
+        ASSERT_TRUE(QFile::link(receiver.Device(), device));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return In<QLabel>(dialog, "lblDevice_6").text() == device; }));
+        EXPECT_EQ(find(dialog),
+                  QStringLiteral("A receiver (RQ-M5 E) answers at %1. OK takes it as COM 7.").arg(device));
+        EXPECT_EQ(receiver.CommandLog(), std::vector<std::string>{"QT~F0040R"});
+        EXPECT_TRUE(Option(dialog, 6).isChecked());
+        In<QPushButton>(dialog, "OKButton").click();
+    };
+    Item("mnuToolsOptions").trigger();
+    qunsetenv("RQM5_COM2");
+    EXPECT_EQ(StatusText("lblPort"), QStringLiteral("COM 7: ") + device);
+    QFile::remove(device);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return StatusText("lblPort") == QStringLiteral("COM 7: %1, not present").arg(device); }));
+    qunsetenv("RQM5_COM7");
 }
 
 }  // namespace

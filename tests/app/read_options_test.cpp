@@ -10,6 +10,8 @@ class ReadOptionsTest : public ReceiverWindowTest
   protected:
     ReadOptionsTest() { SaveReadTwice(false); }
     ~ReadOptionsTest() override { SaveReadTwice(false); }
+
+    QString Note() { return StatusText("lblHint"); }
 };
 
 TEST_F(ReadOptionsTest, AreOffAtFirstAndRemembered)
@@ -38,7 +40,7 @@ TEST_F(ReadOptionsTest, ReadTwiceAndNameWhatCameOtherwise)
     EXPECT_TRUE(dialogs_.asked.empty());
     Item("mnuReVerify").trigger();
     EXPECT_EQ(read(""), 32U);
-    EXPECT_EQ(StatusText("lblHint"), QStringLiteral("Read and verified: a second read brought the same."));
+    EXPECT_TRUE(Note().contains(QStringLiteral(" and verified: 1 VFO band changed."))) << qPrintable(Note());
     EXPECT_EQ(read("flip:1:after=5"), 32U);
     ASSERT_EQ(dialogs_.asked.size(), 1U);
     EXPECT_EQ(dialogs_.asked[0].details, QStringLiteral("VFO 3"));
@@ -49,7 +51,7 @@ TEST_F(ReadOptionsTest, TheClosingNoteTellsOfRepeatedAndUnreadableBlocks)
 {
     receiver_.SetFaults({ParseFault("garble:2:after=3").value(), ParseFault("garble:1:after=7").value()});
     Item("mnuReSettings").trigger();
-    EXPECT_EQ(StatusText("lblHint"), QStringLiteral("2 blocks needed more than one attempt."));
+    EXPECT_TRUE(Note().endsWith(QStringLiteral("changed. 2 blocks needed more than one attempt.")));
     EXPECT_TRUE(dialogs_.asked.empty());
 
     receiver_.SetFaults({ParseFault("smear:1:after=3").value()});
@@ -60,8 +62,9 @@ TEST_F(ReadOptionsTest, TheClosingNoteTellsOfRepeatedAndUnreadableBlocks)
     memory.At(0x0C50) = MemoryBlock("no hex digits");
     receiver_.SetMemory(memory);
     Item("mnuReSettings").trigger();
-    EXPECT_EQ(StatusText("lblHint"),
-              QStringLiteral("1 block was read with characters that are no hex digits: VFO 5."));
+    EXPECT_TRUE(
+        Note().endsWith(QStringLiteral("1 block was read with characters that are no hex digits: VFO 5.")))
+        << qPrintable(Note());
     ASSERT_EQ(dialogs_.asked.size(), 1U);
     EXPECT_EQ(dialogs_.asked[0].details, QStringLiteral("VFO 5"));
     EXPECT_EQ(dialogs_.asked[0].icon, QMessageBox::Warning);

@@ -12,8 +12,9 @@ namespace rqm5 {
 namespace {
 
 /// Menu items that neither start a transfer nor edit or replace the image.
-constexpr const char* kOnDuringTransfer[] = {"mnuFileExit",    "mnuViewToolbar",     "mnuStatusBar",
-                                             "mnuViewHistory", "mnuViewDiagnostics", "mnuHelpContents"};
+constexpr const char* kOnDuringTransfer[] = {"mnuFileExit",    "mnuViewToolbar",  "mnuStatusBar",
+                                             "mnuViewHistory", "mnuViewSpectrum", "mnuViewDiagnostics",
+                                             "mnuHelpContents"};
 constexpr const char* kControlsOff[] = {
     "opbModel_0", "Slider1",   "MSFlexGrid2", "cmbRxData1",   "cmbTxData1", "cmbTxData2",
     "cmbRxData2", "cbbBank",   "MSFlexGrid1", "cmbInsert",    "cmbRxData",  "cmbTxData",
