@@ -48,7 +48,7 @@ class TransferProgress
     QString Where() const;
 
     std::vector<TransferPart> parts_;
-    std::size_t next_ = 0;  ///< part 1 is the first that runs
+    std::size_t next_ = 0;  ///< counted from 1 when one runs
     int done_ = 0;          ///< of all parts
     int doneInPart_ = 0;
     int leftInPart_ = 0;

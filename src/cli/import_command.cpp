@@ -21,8 +21,9 @@ std::string Counted(int count)
 
 void SayTaken(int rows, const Arguments& arguments, Console& console)
 {
-    NotesOf(arguments[1], console) << Counted(rows) << (arguments.Has("--dry-run") ? " would be taken from " : " taken from ")
-                << VisibleText(arguments[0]) << '\n';
+    NotesOf(arguments[1], console) << Counted(rows)
+                                   << (arguments.Has("--dry-run") ? " would be taken from " : " taken from ")
+                                   << VisibleText(arguments[0]) << '\n';
 }
 
 /// What an import of a file of this program read otherwise than it stands there.
