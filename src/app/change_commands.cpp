@@ -105,6 +105,7 @@ TransferResult ChangeCommands::Run(ChangePlan& plan, bool keepsBackup, bool veri
 /// Reads each block that is to be written: somebody may have edited at the receiver itself.
 TransferResult ChangeCommands::Check(ChangePlan& plan)
 {
+    transfers_.BeginPart();
     AftermathObserver observer(transfers_.Observer(), NothingChanged());
     BlockMap read;
     const TransferResult result = ReadBlocks(plan.BlocksToCheck(), document_.Image(), link_, observer, read);

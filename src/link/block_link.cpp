@@ -116,7 +116,8 @@ bool BlockLink::HaveRepliesShifted()
     const Silence silence = link_.Listen();
     watch_.Heard(link_.LastHeard());
     const bool haveShifted = watch_.End();
-    link_.Knowledge().EndDoubt(haveShifted || silence != Silence::Kept);
+    const bool isCutShort = silence == Silence::Stopped || silence == Silence::PortFailed;
+    link_.Knowledge().EndDoubt(haveShifted || isCutShort);
     return haveShifted;
 }
 
