@@ -3,6 +3,7 @@
 //   long_use transfers [ROUNDS]   whole reads and writes over a line with random faults, in one process
 //   long_use files [ROUNDS]       open, edit, save in the real windows, which nobody sees
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QDir>

@@ -129,7 +129,7 @@ TransferResult ChangeCommands::KeepBackup(const ChangePlan& plan)
 {
     const QString folder = LoadWriteOptions().backupFolder;
     QDir().mkpath(folder);  // where it cannot be made, what follows says why
-    const QString path = NewBackupPath(folder, QStringLiteral("changes"), QDateTime::currentDateTime());
+    const QString path = NewBackupNamed(folder, QStringLiteral("changes"), QDateTime::currentDateTime());
     return transfers_.SaveBackup(path, ImageOfBlocks(plan.Held())) ? Done : Failed;
 }
 

@@ -64,10 +64,10 @@ bool TakeWriteOffer()
 
 QString NewBackupPath(const QString& folder, const TransferScope& scope, const QDateTime& now)
 {
-    return NewBackupPath(folder, NameOfScope(scope), now);
+    return NewBackupNamed(folder, NameOfScope(scope), now);
 }
 
-QString NewBackupPath(const QString& folder, const QString& what, const QDateTime& now)
+QString NewBackupNamed(const QString& folder, const QString& what, const QDateTime& now)
 {
     const QString name =
         QStringLiteral("RQ-M5 %1 %2").arg(now.toString(QStringLiteral("yyyy-MM-dd HH-mm-ss")), what);

@@ -26,6 +26,6 @@ bool TakeWriteOffer();
 
 /// The path of a new backup: date, time and what it holds are in its name. No file of that name exists.
 QString NewBackupPath(const QString& folder, const TransferScope& scope, const QDateTime& now);
-QString NewBackupPath(const QString& folder, const QString& what, const QDateTime& now);
+QString NewBackupNamed(const QString& folder, const QString& what, const QDateTime& now);
 
 }  // namespace rqm5

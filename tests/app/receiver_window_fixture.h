@@ -3,7 +3,9 @@
 #include <QProgressBar>
 #include <functional>
 
+#include "app/transfer_commands.h"
 #include "app/window_fixture.h"
+#include "image/problem.h"
 #include "simulator/demo_image.h"
 #include "simulator/sim_session.h"
 
