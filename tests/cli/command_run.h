@@ -68,7 +68,7 @@ inline void PutBytes(const std::string& path, const std::string& bytes)
 }
 
 /// A CSV record for an enabled channel.
-inline std::string CsvRecord(const std::string& group, int channel, const std::string& frequency,
+inline std::string CsvLineOf(const std::string& group, int channel, const std::string& frequency,
                              const std::string& note)
 {
     return "\"RQ-M5\",\"" + group + "\",\"" + std::to_string(channel) + "\",\"" + frequency +

@@ -85,7 +85,7 @@ TEST_F(FileCommands, ImportTakesRowsIntoAFileOrANewOneAndNamesNotesThatAreLost)
 {
     const std::string csv = folder / "rows.csv";
     const std::string junk = folder / "junk.csv";
-    PutBytes(csv, CsvRecord("MEMORY", 7, "145.5", "東京"));
+    PutBytes(csv, CsvLineOf("MEMORY", 7, "145.5", "東京"));
     PutBytes(junk, DemoFile());
     EXPECT_EQ(RunProgramFile({"import", csv, file}).status, 0);
     EXPECT_TRUE(Has(RunProgramFile({"show", file, "--bank", "0"}).out, "145.500000  AM    5KHz  OFF     "));
@@ -95,7 +95,7 @@ TEST_F(FileCommands, ImportTakesRowsIntoAFileOrANewOneAndNamesNotesThatAreLost)
 
     EXPECT_EQ(RunProgramFile({"import", csv, file}).out, "1 row taken from " + csv + "\n");
     EXPECT_TRUE(Has(RunProgramFile({"import", csv, file}).err, "carrier code of 1 row moved one up"));
-    PutBytes(csv, CsvRecord("PRIORITY", 3, "145.5", "home\"\" sweet"));
+    PutBytes(csv, CsvLineOf("PRIORITY", 3, "145.5", "home\"\" sweet"));
     EXPECT_EQ(RunProgramFile({"import", csv, file}).status, 0) << "quotes inside a note come back";
 }
 
@@ -121,7 +121,7 @@ TEST_F(FileCommands, ImportTakesListsOfOtherPrograms)
     EXPECT_EQ(image.MemData(4).frequency, 433'500'000);
 
     // A file of this program keeps its rules, but not in silence.
-    PutBytes(list, CsvRecord("MEMORY", 7, "2400,5", ""));
+    PutBytes(list, CsvLineOf("MEMORY", 7, "2400,5", ""));
     const RunResult own = RunProgramFile({"import", list, file});
     EXPECT_TRUE(Has(own.err, "Line 1: memory row 7")) << own.err;
     EXPECT_TRUE(Has(RunProgramFile({"check", file}).err, "0.1 to 1299.995 MHz):\n  memory row 7"));
@@ -133,7 +133,7 @@ TEST_F(FileCommands, ImportSpoilsNoFile)
 {
     const std::string csv = folder / "rows.csv";
     const std::string full = folder / "none/new.RQ5";
-    PutBytes(csv, CsvRecord("PRIORITY", 3, "145.5", "home, sweet"));
+    PutBytes(csv, CsvLineOf("PRIORITY", 3, "145.5", "home, sweet"));
     for (const bool isThere : {false, true}) {
         const std::string before = isThere ? DemoFile() : "";
         if (isThere)
@@ -156,7 +156,7 @@ TEST_F(FileCommands, ImportSpoilsNoFile)
     EXPECT_TRUE(failed.status == 1 && failed.out.empty()) << "nothing was taken: " << failed.out;
 
     // A note that changes but does not keep the file from being opened is written, and named.
-    PutBytes(csv, CsvRecord("PRIORITY", 3, "145.5", "\"\"q\"\""));
+    PutBytes(csv, CsvLineOf("PRIORITY", 3, "145.5", "\"\"q\"\""));
     PutBytes(file, DemoFile());
     ExpectFailure({"import", csv, file}, "Data Error: ", "is written, but");
 }

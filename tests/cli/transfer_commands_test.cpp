@@ -74,7 +74,7 @@ TEST_F(Transfers, ReadChangeWriteAndVerifyTheWholeMemory)
     const RunResult same = Transfer("verify", receiver, file);
     EXPECT_TRUE(same.status == 0 && (same.out + same.err).empty()) << same.out << same.err;
 
-    PutBytes(csv, CsvRecord("SEARCH PASS", 7, "145.625", "new"));
+    PutBytes(csv, CsvLineOf("SEARCH PASS", 7, "145.625", "new"));
     EXPECT_EQ(RunProgramFile({"import", csv, file}).status, 0);
     const RunResult differs = Transfer("verify", receiver, file);
     EXPECT_EQ(differs.status, 1);
@@ -250,7 +250,7 @@ TEST_F(Write, ChangesAreAllThatIsMovedAndNothingThatWasChangedThereIsLost)
     SimSession receiver(Demo());
     ASSERT_EQ(Transfer("read", receiver, file).status, 0);
     PutBytes(old, Bytes(file));
-    PutBytes(folder / "edit.csv", CsvRecord("SEARCH PASS", 7, "145.625", "new"));
+    PutBytes(folder / "edit.csv", CsvLineOf("SEARCH PASS", 7, "145.625", "new"));
     ASSERT_EQ(RunProgramFile({"import", folder / "edit.csv", file}).status, 0);
     const ReceiverMemory before = receiver.Memory();
     // In the row that the file changes, too.
