@@ -120,7 +120,7 @@ TEST(Manual, DialogsAndPagesHaveTheirOwnTopic)
                                                           {"Frame1_0", "settings.md#settings-1"},
                                                           {"Frame1_1", "settings.md#settings-2"}};
     for (const auto& [name, topic] : topics)
-        EXPECT_EQ(HelpTopic({QLatin1String(name)}), QLatin1String(topic));
+        EXPECT_EQ(HelpTopic(QStringList{QString::fromLatin1(name)}), QLatin1String(topic));
 }
 
 TEST(AboutFacts, NameThePort)
