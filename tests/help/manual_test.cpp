@@ -118,10 +118,20 @@ TEST(Manual, ASearchWantsAllItsWordsAndPutsTitlesFirst)
     EXPECT_TRUE(SearchManual(QStringLiteral("print nosuchword")).isEmpty());
 }
 
+TEST(Manual, DialogsAndPagesHaveTheirOwnTopic)
+{
+    const std::pair<const char*, const char*> topics[] = {{"dlgPrint", "printing.md"},
+                                                          {"dlgCOM", "ports.md"},
+                                                          {"Frame1_0", "settings.md#settings-1"},
+                                                          {"Frame1_1", "settings.md#settings-2"}};
+    for (const auto& [name, topic] : topics)
+        EXPECT_EQ(HelpTopic(QStringList{QString::fromLatin1(name)}), QLatin1String(topic));
+}
+
 TEST(AboutFacts, NameThePort)
 {
-    for (const auto& [device, text] : {std::pair("/dev/x", "COM 3, /dev/x"), {"", "COM 3 (no device)"}})
-        EXPECT_EQ(AboutFacts({}, 3, QLatin1String(device)).constLast().value, QLatin1String(text));
+    EXPECT_EQ(AboutFacts({}, 3, QStringLiteral("/dev/x")).constLast().value, QStringLiteral("COM 3, /dev/x"));
+    EXPECT_EQ(AboutFacts({}, 3, {}).constLast().value, QStringLiteral("COM 3 (no device)"));
 }
 
 }  // namespace
