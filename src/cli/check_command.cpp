@@ -81,7 +81,7 @@ struct Warning
 
 using Warnings = std::vector<Warning>;
 
-void AddRows(const char* kind, const char* text, std::vector<std::string> rows, Warnings& warnings)
+void AddRows(const char* kind, const std::string& text, std::vector<std::string> rows, Warnings& warnings)
 {
     if (!rows.empty())
         warnings.push_back({kind, text, std::move(rows)});
@@ -128,6 +128,11 @@ Warnings WarningsOf(std::string_view bytes, const CloneImage& image)
     AddRows("values",
             "these values are read differently from what the file says:", ValuesReadOtherwise(bytes, image),
             warnings);
+    std::vector<std::string> outside = VfoRowsOutOfRange(image);
+    for (std::string& row : RowsOutOfRange(image, {0, kRadioRows}))
+        outside.push_back(std::move(row));
+    AddRows("range", "these rows are outside the receiver's range (" + std::string(kReceiverRangeText) + "):",
+            std::move(outside), warnings);
     AddRows("notes",
             "a save loses these notes; take commas and quotes out of them:", NotesThatDoNotSurvive(image),
             warnings);
