@@ -255,7 +255,7 @@ TEST_F(Write, ChangesAreAllThatIsMovedAndNothingThatWasChangedThereIsLost)
     const ReceiverMemory before = receiver.Memory();
     // In the row that the file changes, too.
     ReceiverMemory turned = before;
-    turned.At(0x5530).SetByte(5, 2);
+    turned.At(0x5530) = turned.At(0x54C0);
     receiver.SetMemory(turned);
     const struct
     {
