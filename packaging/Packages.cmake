@@ -20,21 +20,20 @@ if(RQM5_HOMEPAGE)
   set(CPACK_DEBIAN_PACKAGE_HOMEPAGE ${RQM5_HOMEPAGE})
 endif()
 
-set(about "It reads the whole memory of the receiver through a serial cable: 1210 channels in fifty banks,
- the VFO bands and the settings. The memory is edited, kept in files, and written back.")
+set(about "The memory of the receiver is read through a serial cable: 1210 channels in
+fifty banks, the VFO bands and the settings. It is edited, kept in files, and
+written back.
+")
 set(CPACK_COMPONENT_RQ-M5_DESCRIPTION "clone utility for the RQ-M5 receiver (command line)
 ${about}
- .
- This package has rq-m5, the program for the command line and for scripts.")
+This package has rq-m5, the program for the command line and for scripts.")
 set(CPACK_COMPONENT_RQ-M5-CLONE_DESCRIPTION "clone utility for the RQ-M5 receiver (desktop)
 ${about}
- .
- This package has rq-m5-clone, the program for the desktop.")
+This package has rq-m5-clone, the program for the desktop.")
 set(CPACK_COMPONENT_RQ-M5-SIM_DESCRIPTION "simulated RQ-M5 receiver
 ${about}
- .
- This package has rq-m5-sim, which answers on a pseudo-terminal as the receiver does, so that the programs can
- be tried without one.")
+This package has rq-m5-sim, which answers on a pseudo-terminal as the receiver
+does, so that the programs can be tried without one.")
 foreach(name RQ-M5 RQ-M5-CLONE RQ-M5-SIM)
   string(TOLOWER ${name} package)
   set(CPACK_DEBIAN_${name}_PACKAGE_NAME ${package})
@@ -48,29 +47,17 @@ set(CPACK_DEBIAN_RQ-M5-CLONE_PACKAGE_SUGGESTS "rq-m5-sim")
 set(CPACK_DEBIAN_RQ-M5_PACKAGE_SUGGESTS "rq-m5-clone, rq-m5-sim")
 
 # Licence and changes, where the distribution wants them.
-find_program(GZIP gzip)
-if(GZIP)
-  configure_file(deb/changelog.in changelog.Debian @ONLY)
-  foreach(pair "changelog.Debian=${CMAKE_CURRENT_BINARY_DIR}/changelog.Debian"
-               "changelog=${CMAKE_SOURCE_DIR}/CHANGELOG.md")
-    string(REPLACE "=" ";" pair ${pair})
-    list(GET pair 0 name)
-    list(GET pair 1 file)
-    # Without name and time, so that two builds give the same bytes.
-    add_custom_command(OUTPUT ${name}.gz DEPENDS ${file} VERBATIM
-      COMMAND ${GZIP} -9nc ${file} > ${name}.gz)
-  endforeach()
-  add_custom_target(package_documents ALL DEPENDS changelog.Debian.gz changelog.gz)
-  foreach(component ${CPACK_COMPONENTS_ALL})
-    install(FILES deb/copyright ${CMAKE_CURRENT_BINARY_DIR}/changelog.Debian.gz
-                  ${CMAKE_CURRENT_BINARY_DIR}/changelog.gz
-            DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${component} COMPONENT ${component})
-    if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/deb/${component}.overrides)
-      install(FILES deb/${component}.overrides RENAME ${component}
-              DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides COMPONENT ${component})
-    endif()
-  endforeach()
-endif()
+configure_file(deb/changelog.in changelog.Debian @ONLY)
+rqm5_compress(changelog.Debian.gz ${CMAKE_CURRENT_BINARY_DIR}/changelog.Debian)
+rqm5_compress(changelog.gz ${CMAKE_SOURCE_DIR}/CHANGELOG.md)
+foreach(component ${CPACK_COMPONENTS_ALL})
+  configure_file(deb/overrides.in overrides/${component} @ONLY)
+  install(FILES deb/copyright ${CMAKE_CURRENT_BINARY_DIR}/changelog.Debian.gz
+                ${CMAKE_CURRENT_BINARY_DIR}/changelog.gz
+          DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${component} COMPONENT ${component})
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/overrides/${component}
+          DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides COMPONENT ${component})
+endforeach()
 
 set(CPACK_SOURCE_GENERATOR TXZ)
 set(CPACK_SOURCE_PACKAGE_FILE_NAME rq-m5-${PROJECT_VERSION})
