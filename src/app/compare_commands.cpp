@@ -3,8 +3,8 @@
 #include <QFileInfo>
 #include <QLocale>
 
+#include "app/write_changes_dialog.h"
 #include "files/file_store.h"
-#include "link/separate_read.h"
 #include "ui/error_prompt.h"
 #include "ui/plain_text.h"
 
@@ -15,26 +15,6 @@ QString ShortTime(const QDateTime& time)
 {
     return QLocale().toString(time, QLocale::ShortFormat);
 }
-
-/// A read beside the document: shows its progress, and its messages over the window that asked.
-class SeparateObserver : public TransferObserver
-{
-  public:
-    SeparateObserver(TransferCommands& transfers, Dialogs& dialogs, QWidget& window)
-        : transfers_(transfers), dialogs_(dialogs), window_(window)
-    {
-    }
-
-    void ProgressStarted(int maximum) override { transfers_.ShowProgress(maximum); }
-    void ProgressMoved(int value, int /*row*/) override { transfers_.MoveProgress(value); }
-    void Message(const Problem& problem) override { dialogs_.Ask(&window_, ErrorPrompt(problem)); }
-    bool IsCancelled() override { return transfers_.IsStopped(); }
-
-  private:
-    TransferCommands& transfers_;
-    Dialogs& dialogs_;
-    QWidget& window_;
-};
 
 /// A change of nothing but one place, for going there.
 ImageChange PlaceOf(ItemId id)
@@ -123,23 +103,22 @@ void CompareCommands::CompareWithFile()
 
 void CompareCommands::CompareWithLastRead()
 {
-    if (const auto last = transfers_.LastFullRead())
-        CompareWith({tr("the last read"),
-                     tr("Other side: the receiver as it was read at %1").arg(ShortTime(last->time)),
-                     last->image, kReceiverParts});
+    link_.Knowledge().CatchUp();
+    const auto last = transfers_.LastFullRead();
+    if (!last)
+        return compare_->SetLastRead(false);
+    const QString time = ShortTime(last->time);
+    const QString title = last->isOfParts
+                              ? tr("Other side: the receiver as it was read or written since %1, %2")
+                                    .arg(time, AgeText(last->time, QDateTime::currentDateTime()))
+                              : tr("Other side: the receiver as it was read at %1").arg(time);
+    CompareWith({tr("the last read"), title, last->image, kReceiverParts});
 }
 
 void CompareCommands::CompareWithReceiver()
 {
     CloneImage image;
-    auto result = TransferResult::Failed;
-    transfers_.RunOther([&] {
-        SeparateObserver observer(transfers_, dialogs_, window_);
-        result = ReadSeparately(link_, observer, image);
-        if (result == TransferResult::Done)
-            transfers_.KeepLastRead(image);
-    });
-    if (result != TransferResult::Done)
+    if (transfers_.ReadBeside(image) != TransferResult::Done)
         return;
     CompareWith(
         {tr("the receiver"),

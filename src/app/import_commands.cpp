@@ -59,8 +59,7 @@ void ImportCommands::ImportOwn(const QString& path, std::string bytes, CsvNumber
     last_ = {path, std::move(bytes), std::move(taken.findings), document_.History().index()};
     const QString notes = ImportNote(NotesThatDoNotSurvive(image));
     if (!last_.findings.IsEmpty())
-        emit ReadOtherwise(tr("Imported; read otherwise than it stands: %1.")
-                               .arg(QString::fromStdString(last_.findings.Summary())) +
+        emit ReadOtherwise(tr("Imported with %1.").arg(QString::fromStdString(last_.findings.Summary())) +
                            (notes.isEmpty() ? QString() : QLatin1Char(' ') + notes));
     else if (!notes.isEmpty())
         emit Noted(notes);

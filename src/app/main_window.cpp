@@ -27,6 +27,7 @@
 #include "ui/form_texts.h"
 #include "ui/icons.h"
 #include "ui/message_bar.h"
+#include "ui/off_colour.h"
 #include "ui/plain_text.h"
 
 namespace rqm5 {
@@ -44,6 +45,7 @@ frmMain::frmMain(SerialPort& port, Dialogs& dialogs, const StartOptions& options
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowIcon(ProgramIcon());
+    KeepPlaceholdersReadable();
     setContextMenuPolicy(
         Qt::NoContextMenu);  // its own menu could hide the toolbar, and View > Toolbar would stay checked
     Timer1_.setSingleShot(true);
@@ -185,6 +187,9 @@ void frmMain::closeEvent(QCloseEvent* event)
 
 bool frmMain::event(QEvent* event)
 {
+    // Later, because every widget is still being told.
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        QMetaObject::invokeMethod(this, &KeepPlaceholdersReadable, Qt::QueuedConnection);
     if (event->type() != QEvent::StatusTip)
         return QMainWindow::event(event);
     parts_.statusBar->ShowPointerHint(static_cast<QStatusTipEvent*>(event)->tip());

@@ -108,10 +108,13 @@ void MenuCommands::ConnectFiles()
 {
     connect(parts_.files, &FileCommands::Used, parts_.recentFiles, &RecentFiles::Add);
     connect(parts_.files, &FileCommands::Refused, parts_.recentFiles, &RecentFiles::Remove);
-    connect(parts_.recentFiles, &RecentFiles::Chosen, parts_.files, [this](const QString& path) {
+    const auto open = [this](const QString& path) {
         if (parts_.pages->Banks().CommitPending())
             parts_.files->OpenAnother(path);
-    });
+    };
+    connect(parts_.recentFiles, &RecentFiles::Chosen, parts_.files, open);
+    connect(new CloneDrop(window_, parts_.menus->Item("mnuFileOpen")), &CloneDrop::Dropped, parts_.files,
+            open);
     connect(parts_.files, &FileCommands::Noted, parts_.statusBar, &StatusBar::ShowNote);
     connect(parts_.files, &FileCommands::NotesLost, this,
             [this](const QString& text) { parts_.warnings->Set(StandingWarnings::Kind::Notes, text); });
@@ -130,8 +133,6 @@ void MenuCommands::ConnectNews()
         parts_.statusBar->ShowPointerHint({});
         parts_.statusBar->ShowHintOf(window_.focusWidget());
     });
-    connect(new CloneDrop(window_, parts_.menus->Item("mnuFileOpen")), &CloneDrop::Dropped, parts_.files,
-            &FileCommands::OpenAnother);
     connect(parts_.ports, &PortCommands::PortChosen, parts_.statusBar, &StatusBar::ShowPort);
 }
 

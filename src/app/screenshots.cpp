@@ -107,6 +107,16 @@ void SavePaste(QWidget& window)
     Trigger(window, "mnuEditPaste");
 }
 
+void SaveImport(PictureDialogs& dialogs, QWidget& window, const QTemporaryDir& folder)
+{
+    const QString path = folder.filePath(QStringLiteral("airport.csv"));
+    rqm5::WriteWholeFile(path,
+                         "Dienst;Frequenz MHz;Betriebsart;Ort\nTower;118,100;AM;EDDK\n"
+                         "Ground;121,850;AM;EDDK\nATIS;132,130;AM;EDDK\nRichtfunk;2400,000;FM;\n");
+    dialogs.NextFile(path);
+    Trigger(window, "mnuFileImport");
+}
+
 /// Channels found while somebody types, and frequencies that are stored twice.
 void SaveFinds(PictureDialogs& dialogs, QWidget& window)
 {
@@ -245,6 +255,7 @@ int main(int argc, char** argv)
     Trigger(*window, "mnuEditUndo");
     Trigger(*window, "mnuEditFillSeries");
     SavePaste(*window);
+    SaveImport(dialogs, *window, settings);
     Trigger(*window, "mnuToolsOptions");
     Trigger(*window, "mnuFilePrint");
     SaveSpectrum(dialogs, *window);

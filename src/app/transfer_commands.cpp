@@ -140,8 +140,11 @@ void TransferCommands::KeepLastRead(const CloneImage& image)
 std::optional<LastRead> TransferCommands::LastFullRead() const
 {
     // Another port may have another receiver.
-    const bool isSame = lastRead_ && lastRead_->device == link_.Port().Device();
-    return isSame ? lastRead_ : std::nullopt;
+    if (lastRead_ && lastRead_->device == link_.Port().Device())
+        return lastRead_;
+    const std::optional<HeldImage> held = link_.Knowledge().LastHeld();
+    return held ? std::optional(LastRead{held->image, held->since.toLocalTime(), link_.Port().Device(), true})
+                : std::nullopt;
 }
 
 TransferResult TransferCommands::Read(const QString& name, const TransferScope& scope,
@@ -215,7 +218,7 @@ TransferResult TransferCommands::Write(const TransferScope& scope)
     BeginWriting(scope, options.keepsBackup, options.verifies);
     auto result = TransferResult::Done;
     QStringList outside;
-    for (const std::string& row : RowsWrittenOutOfRange(document_.Image(), scope))
+    for (const std::string& row : RowsWrittenOutOfRange(Source(), scope))
         outside << QString::fromStdString(row);
     emit OutOfRange(outside);
     if (options.keepsBackup)

@@ -52,9 +52,13 @@ class TransferCommands : public QObject, private TransferObserver
     /// Writes another image than the open one, which stays as it is.
     void WriteBack(const CloneImage& image, const TransferScope& scope);
 
-    /// What the receiver at this port held when all of it was last read in this run, if it was.
+    /// Reads all of the receiver into an image of its own; the open one stays as it is.
+    /// \param image  what the receiver holds when it is done, else unspecified
+    TransferResult ReadBeside(CloneImage& image);
+
+    /// What the receiver at this port held when all of it was last read in this run; else what is known of
+    /// all of it, maybe from an earlier run.
     std::optional<LastRead> LastFullRead() const;
-    void KeepLastRead(const CloneImage& image);
 
     /// Runs an operation of several parts in the place of a transfer. \return what it returned
     TransferResult RunParts(std::vector<TransferPart> parts, const std::function<TransferResult()>& work);
@@ -114,6 +118,7 @@ class TransferCommands : public QObject, private TransferObserver
     void Occupy(const std::function<TransferResult()>& work);
     TransferResult RunOperation(Transfer transfer, int selector);
     TransferResult ReadAll();
+    void KeepLastRead(const CloneImage& image);
     TransferResult Read(const QString& name, const TransferScope& scope,
                         const std::function<TransferResult(ReceiverReader&)>& read);
     TransferResult ReadTwice(const std::vector<ExpectedBlock>& blocks);

@@ -2,8 +2,10 @@
 #include "app/transfer_commands.h"
 #include "link/closing_notes.h"
 #include "link/expected_memory.h"
+#include "link/forwarding_observer.h"
 #include "link/memory_map.h"
 #include "link/receiver_checks.h"
+#include "link/separate_read.h"
 #include "link/write_plan.h"
 
 namespace rqm5 {
@@ -25,7 +27,31 @@ TransferPart WritingPart(const CloneImage& image, const TransferScope& scope)
     return {Work::Write, plan.BlockCount(), settings};
 }
 
+/// The pages show the open image, which such a read is not about.
+class BesideObserver : public ForwardingObserver
+{
+  public:
+    using ForwardingObserver::ForwardingObserver;
+
+    void GroupChosen(int /*selector*/) override {}
+};
+
 }  // namespace
+
+TransferResult TransferCommands::ReadBeside(CloneImage& image)
+{
+    return RunParts({ReadingPart(Work::Read, document_.Image(), {})}, [&] {
+        BeginPart();
+        BesideObserver observer(*this);
+        const TransferResult result = ReadSeparately(link_, observer, image);
+        if (result != TransferResult::Done)
+            return result;
+        KeepLastRead(image);
+        notes_.prepend(tr("Read in %1 to compare; the open image is as it was.")
+                           .arg(QString::fromStdString(TimeText(Taken()))));
+        return result;
+    });
+}
 
 void TransferCommands::BeginReading(const TransferScope& scope)
 {
@@ -38,7 +64,7 @@ void TransferCommands::BeginReading(const TransferScope& scope)
 
 void TransferCommands::BeginWriting(const TransferScope& scope, bool keepsBackup, bool isVerified)
 {
-    const CloneImage& image = document_.Image();
+    const CloneImage& image = Source();
     std::vector<TransferPart> parts;
     if (keepsBackup)
         parts.push_back(ReadingPart(Work::Backup, image, scope));

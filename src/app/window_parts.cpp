@@ -15,6 +15,7 @@
 #include "app/history_commands.h"
 #include "app/import_commands.h"
 #include "app/menus.h"
+#include "app/note_news.h"
 #include "app/offers.h"
 #include "app/pages.h"
 #include "app/port_commands.h"
@@ -64,10 +65,16 @@ void MakeCommands(Document& document, RadioLink& link, Dialogs& dialogs, const S
     parts.files = new FileCommands(document, *parts.currentFile, dialogs, window);
     parts.imports = new ImportCommands(document, *parts.currentFile, dialogs, window);
     new FileNews(document, *parts.currentFile, *parts.files, *parts.messageBar);
+    new NoteNews(document, parts.pages->Memory(), *parts.messageBar);
     parts.edits = new EditCommands(document, dialogs, *parts.pages, window);
     parts.history = new HistoryCommands(document, *parts.menus, window);
     parts.finds = new FindCommands(document, *parts.pages, window);
     parts.ports = new PortCommands(link.Port(), dialogs, options, window);
+    QObject::connect(parts.ports, &PortCommands::PortChosen, &link,
+                     [&link](int /*number*/, const QString& /*device*/, bool isPresent) {
+                         if (!isPresent)
+                             link.Knowledge().Leave();
+                     });
     parts.readOptions = new ReadOptionItems(*parts.menus, &window);
     parts.writeOptions = new WriteOptionItems(*parts.menus, dialogs, window);
     parts.transfers = new TransferCommands(document, link, dialogs, window);

@@ -5,6 +5,7 @@
 #include "cli/clone_files.h"
 #include "cli/command.h"
 #include "cli/file_list.h"
+#include "cli/streams.h"
 #include "cli/text_table.h"
 #include "files/clone_file.h"
 #include "files/clone_lines.h"
@@ -210,7 +211,7 @@ void PrintReport(const InputFile& file, const CloneImage& image, const Warnings&
     if (!console.isQuiet && file.isOneOfSeveral) {
         PrintLine(file, image, warnings, console);
     } else if (!console.isQuiet) {
-        console.out << VisibleText(file.name) << " is whole.\n";
+        console.out << VisibleText(SourceName(file.name)) << " is whole.\n";
         PrintContents(image, console.out);
     }
     if (file.isOneOfSeveral && !console.isVerbose)

@@ -79,6 +79,16 @@ QString PathOf(const std::string& typed)
     return QFile::decodeName(QByteArray::fromStdString(typed));
 }
 
+std::optional<Problem> NameProblem(const std::string& typed)
+{
+    const bool isOther =
+        PathOf(typed).contains(QChar::ReplacementCharacter) && typed.find("\uFFFD") == std::string::npos;
+    if (!isOther)
+        return std::nullopt;
+    return Problem{kFileOpenError,
+                   typed + ": the name is not written in UTF-8. Rename the file, or use \"-\"."};
+}
+
 std::string PathText(const QString& path)
 {
     return VisibleText(path.toStdString());
@@ -114,7 +124,7 @@ std::optional<Problem> Load(const std::string& path, CloneImage& image, std::str
 
 std::optional<Problem> LoadOrStart(const std::string& path, CloneImage& image)
 {
-    if (IsStandard(path) || Exists(path))
+    if (IsStandard(path) || Exists(path) || NameProblem(path))
         return Load(path, image);
     image = StartUpImage(0);
     return std::nullopt;
@@ -143,6 +153,8 @@ Problem SameFileProblem(const std::string& path)
 
 std::optional<Problem> ReplaceProblem(const Arguments& arguments, const std::string& path, FileKind kind)
 {
+    if (auto problem = NameProblem(path))
+        return problem;
     if (AreSameFile(arguments[0], path))
         return SameFileProblem(path);
     return arguments.Has("--force") || IsStandard(path) ? std::nullopt : OtherKindProblem(PathOf(path), kind);
@@ -150,12 +162,15 @@ std::optional<Problem> ReplaceProblem(const Arguments& arguments, const std::str
 
 SaveEnd Save(const std::string& path, const CloneImage& image, Console& console, Unopenable unopenable)
 {
+    if (const auto problem = NameProblem(path))
+        return {Fail(console, *problem), false};
     const Rows spoiling = unopenable == Unopenable::IsRefused ? NotesThatSpoil(image) : Rows();
     if (!spoiling.empty())
         return {FailForRows(console,
-                            {kDataError, path + " is as it was: with these notes it could not be opened any "
-                                                "more. --safe-notes stores them without commas and quotes, "
-                                                "--force as they are:"},
+                            {kDataError, Unchanged(path) +
+                                             ": with these notes it could not be opened any "
+                                             "more. --safe-notes stores them without commas and quotes, "
+                                             "--force as they are:"},
                             spoiling),
                 false};
     if (IsStandard(path))
@@ -176,8 +191,8 @@ Status SaveRead(const std::string& path, const CloneImage& image, Console& conso
     if (const Rows spoiling = NotesThatSpoil(image); !spoiling.empty())
         return FailForRows(console,
                            {kDataError,
-                            path + " is as it was: with the notes below it could not be opened any more; "
-                                   "take commas and quotes out of them.",
+                            Unchanged(path) + ": with the notes below it could not be opened any more; "
+                                              "take commas and quotes out of them.",
                             rescue()},
                            spoiling);
     if (IsStandard(path))

@@ -15,6 +15,9 @@ namespace rqm5 {
 /// A file name as it was typed.
 QString PathOf(const std::string& typed);
 
+/// Why no file can be found or made under a name: Qt would turn it into that of another file.
+std::optional<Problem> NameProblem(const std::string& typed);
+
 /// A file name for people: what no terminal should obey made visible.
 std::string PathText(const QString& path);
 

@@ -36,11 +36,11 @@ Status SaveEdited(const std::string& path, const Arguments& arguments, const Clo
     QString kept;
     if (arguments.Has("--keep") && !IsStandard(path))
         if (const auto problem = KeepOldFile(PathOf(path), kept))
-            return Fail(console, {problem->text, problem->details, path + " is as it was."});
+            return Fail(console, {problem->text, problem->details, Unchanged(path) + "."});
     const SaveEnd end =
         Save(path, image, console, arguments.Has("--force") ? Unopenable::IsWritten : Unopenable::IsRefused);
     if (end.isWritten && !console.isQuiet)
-        NotesOf(path, console) << Summary(change) << " in " << VisibleText(path) << '\n';
+        NotesOf(path, console) << Summary(change) << " in " << VisibleText(SourceName(path)) << '\n';
     return end.status;
 }
 
@@ -53,7 +53,7 @@ Status EditFile(const std::string& path, const Arguments& arguments, Console& co
         return Fail(console, *problem);
     CloneImage after = before;
     if (const auto problem = edit(after))
-        return Fail(console, {problem->text, problem->details, path + " is as it was."});
+        return Fail(console, {problem->text, problem->details, Unchanged(path) + "."});
     if (arguments.Has("--safe-notes"))
         after = WithSafeNotes(std::move(after));
     const ImageChange change = Difference(before, after);

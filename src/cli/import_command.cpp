@@ -23,14 +23,15 @@ void SayTaken(int rows, const Arguments& arguments, Console& console)
 {
     NotesOf(arguments[1], console) << Counted(rows)
                                    << (arguments.Has("--dry-run") ? " would be taken from " : " taken from ")
-                                   << VisibleText(arguments[0]) << '\n';
+                                   << VisibleText(SourceName(arguments[0])) << '\n';
 }
 
-/// What an import of a file of this program read otherwise than it stands there.
+/// What an import of a file of this program could not read as written.
 void WarnOf(const CsvTaken& taken, Console& console)
 {
     if (!taken.findings.IsEmpty())
-        Warn(console, "not all was read as it stands: " + taken.findings.Summary(), taken.findings.Lines());
+        Warn(console, "not everything was read as written; " + taken.findings.Summary(),
+             taken.findings.Lines());
     if (taken.movedCarriers > 0)
         Warn(console,
              "the carrier code of " + Counted(taken.movedCarriers) +
@@ -69,8 +70,8 @@ SaveEnd Finish(const CloneImage& before, CloneImage image, const Arguments& argu
 
 Status NothingTaken(const Arguments& arguments, Console& console)
 {
-    return Fail(console, {kDataError,
-                          arguments[0] + " holds no record of an RQ-M5; " + arguments[1] + " is as it was"});
+    return Fail(console, {kDataError, SourceName(arguments[0]) + " holds no record of an RQ-M5; " +
+                                          Unchanged(arguments[1])});
 }
 
 Status ImportOwn(const std::string& bytes, const CloneImage& before, const Arguments& arguments,
@@ -100,8 +101,8 @@ Status ImportList(const std::string& bytes, const CloneImage& before, const Argu
         Warn(console, "left out:", list.remarks);
     const auto rows = static_cast<int>(RowsWritten(list.plan).size());
     if (rows == 0)
-        return Fail(console, {kDataError, "no row of " + arguments[0] + " can be taken; " + arguments[1] +
-                                              " is as it was"});
+        return Fail(console, {kDataError, "no row of " + SourceName(arguments[0]) + " can be taken; " +
+                                              Unchanged(arguments[1])});
     CloneImage image = before;
     ApplyPlan(list.plan, image);
     return Finish(before, std::move(image), arguments, rows, console).status;

@@ -90,13 +90,25 @@ std::optional<Problem> ReadInput(const std::string& path, std::string& bytes)
 {
     if (IsStandard(path))
         return ReadStream(stdin, kStandardInput, bytes);
-    if (!IsStream(path))
-        return ReadWholeFile(PathOf(path), bytes);
+    if (!IsStream(path)) {
+        auto problem = NameProblem(path);
+        return problem ? problem : ReadWholeFile(PathOf(path), bytes);
+    }
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> stream(
         std::fopen(path.c_str(), "rb"), [](std::FILE* file) { return std::fclose(file); });
     if (!stream)
         return Problem{kFileOpenError, path + ": it cannot be opened. Check its permissions."};
     return ReadStream(stream.get(), path, bytes);
+}
+
+std::string SourceName(const std::string& path)
+{
+    return IsStandard(path) ? kStandardInput : path;
+}
+
+std::string Unchanged(const std::string& path)
+{
+    return IsStandard(path) ? "nothing is written" : path + " is as it was";
 }
 
 std::ostream& NotesOf(const std::string& path, Console& console)

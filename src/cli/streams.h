@@ -21,6 +21,12 @@ inline bool IsStandard(const std::string& path)
 /// Reads a file, a pipe, a device or standard input to its end, as far as files may be long.
 std::optional<Problem> ReadInput(const std::string& path, std::string& bytes);
 
+/// The name of a file that is read, for messages.
+std::string SourceName(const std::string& path);
+
+/// "FILE is as it was", for messages: a command that fails changes nothing.
+std::string Unchanged(const std::string& path);
+
 /// Where a command says what it did: beside the file when that goes to standard output.
 std::ostream& NotesOf(const std::string& path, Console& console);
 

@@ -7,6 +7,7 @@
 #include "files/formula_guard.h"
 #include "files/list_columns.h"
 #include "files/list_encoding.h"
+#include "files/list_values.h"
 #include "image/value_tables.h"
 
 namespace rqm5 {
@@ -16,14 +17,27 @@ constexpr std::size_t kMostRecords = 5000;
 constexpr int kOptionUnit = 16;
 constexpr std::size_t kLongestNote = 255;
 
+/// The front of a text that is longer, without a broken character at its end.
+std::string CutToWholeCharacters(const std::string& text, std::size_t most)
+{
+    std::size_t end = most;
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U)
+        --end;
+    return text.substr(0, end);
+}
+
 std::string LineName(const ListRecord& record)
 {
     return "Line " + std::to_string(record.line);
 }
 
+/// A field for messages: its front when it is long.
 std::string Quoted(const std::string& text)
 {
-    return "\"" + text + "\"";
+    constexpr std::size_t kMost = 60;
+    if (text.size() <= kMost)
+        return "\"" + text + "\"";
+    return "\"" + CutToWholeCharacters(text, kMost) + "...\"";
 }
 
 /// "1.455E+02"
@@ -158,10 +172,7 @@ void RecordReader::TakeNote(const std::string& text)
 {
     row_.channel.note = PlainNote(WithoutGuard(text));
     if (row_.channel.note.size() > kLongestNote) {
-        std::size_t end = kLongestNote;
-        while (end > 0 && (static_cast<unsigned char>(row_.channel.note[end]) & 0xC0U) == 0x80U)
-            --end;
-        row_.channel.note.resize(end);
+        row_.channel.note = CutToWholeCharacters(row_.channel.note, kLongestNote);
         row_.remark += row_.remark.empty() ? "" : "; ";
         row_.remark += "the note is cut to 255 characters";
     }

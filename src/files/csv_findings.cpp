@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <optional>
 
-#include "files/list_values.h"
+#include "files/list_words.h"
 #include "files/truth_words.h"
 #include "image/display_text.h"
 #include "image/number_text.h"
@@ -199,9 +199,10 @@ std::string CsvFindings::Summary() const
 {
     std::string text = Counted(static_cast<int>(all.size()), " remark", " remarks");
     if (keptRows > 0)
-        text += ", " + Counted(keptRows, " row keeps an old value", " rows keep an old value");
+        text += ": " + Counted(keptRows, " row keeps an old value", " rows keep an old value");
     if (decimalCommas > 0)
-        text += ", " + Counted(decimalCommas, " number has a decimal comma", " numbers have a decimal comma");
+        text += (keptRows > 0 ? ", " : ": ") +
+                Counted(decimalCommas, " number has a decimal comma", " numbers have a decimal comma");
     return text;
 }
 

@@ -4,6 +4,8 @@
 #include <array>
 
 #include "files/csv_record.h"
+#include "files/list_values.h"
+#include "files/list_words.h"
 #include "image/channel.h"
 
 namespace rqm5 {

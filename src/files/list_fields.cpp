@@ -1,9 +1,13 @@
 #include "files/list_fields.h"
 
 #include <algorithm>
+#include <functional>
 #include <map>
+#include <optional>
 
-#include "files/list_values.h"
+#include "files/list_numbers.h"
+#include "files/list_titles.h"
+#include "files/list_words.h"
 
 namespace rqm5 {
 namespace {
@@ -115,12 +119,43 @@ std::size_t RegularRecords(std::string_view text, char delimiter)
     return most;
 }
 
+/// "Ch,Freq" above "1,145.500"
+bool HasTitlesWithCommas(std::string_view text, const std::vector<ListRecord>& lines)
+{
+    const auto records = SplitList(text, ',', 1);
+    return !lines.empty() && !records.empty() && records.front().fields.size() > 1 &&
+           !ReadTitle(lines.front().fields.front()) && AreTitles(records.front().fields);
+}
+
+/// The number before a comma, where one with decimals comes behind it: 1 in "1,145.500".
+std::optional<std::int64_t> CountIn(const ListRecord& line)
+{
+    const std::string& text = line.fields.front();
+    const std::size_t comma = text.find(',');
+    const auto count = comma != std::string::npos && text.find('.', comma) != std::string::npos
+                           ? ReadFrequency(std::string_view(text).substr(0, comma))
+                           : std::nullopt;
+    return count && !count->hasFraction ? std::optional(count->whole) : std::nullopt;
+}
+
+/// "1,145.500" and "2,146.500": lines that are numbered, not thousands.
+bool AreNumbered(const std::vector<ListRecord>& lines)
+{
+    const auto follows = [](const ListRecord& before, const ListRecord& line) {
+        const auto count = CountIn(before);
+        return count && CountIn(line) == *count + 1;
+    };
+    return lines.size() > 1 && std::ranges::adjacent_find(lines, std::not_fn(follows)) == lines.end();
+}
+
 /// The comma, unless most of them belong to numbers.
 char DelimiterBesideDecimals(std::string_view text)
 {
     if (text.find(',') == std::string_view::npos)
         return '\0';
     const auto lines = SplitList(text, '\0', kLooked);
+    if (HasTitlesWithCommas(text, lines) || AreNumbered(lines))
+        return ',';
     const auto commas = std::ranges::count_if(
         lines, [](const ListRecord& line) { return line.fields.front().find(',') != std::string::npos; });
     const auto decimals = std::ranges::count_if(lines, [](const ListRecord& line) {

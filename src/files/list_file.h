@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "files/list_numbers.h"
 #include "files/list_titles.h"
-#include "files/list_values.h"
 #include "image/clone_image.h"
 
 namespace rqm5 {

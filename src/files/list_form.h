@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "files/list_fields.h"
+#include "files/list_numbers.h"
 #include "files/list_titles.h"
-#include "files/list_values.h"
 
 namespace rqm5 {
 

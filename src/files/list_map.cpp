@@ -4,6 +4,7 @@
 #include <array>
 
 #include "files/list_encoding.h"
+#include "files/list_words.h"
 #include "memory/channel_parts.h"
 
 namespace rqm5 {

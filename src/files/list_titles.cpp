@@ -1,8 +1,10 @@
 #include "files/list_titles.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
+#include "files/list_words.h"
 #include "memory/channel_parts.h"
 
 namespace rqm5 {
@@ -23,7 +25,8 @@ constexpr Titles kTitles[] = {
      " frequency freq frq qrg rx rx_frequency rx_freq receive_frequency receive_freq "
      "channel_frequency output output_frequency frequenz frequenzen empfangsfrequenz "
      "rx_frequenz kanalfrequenz ausgabefrequenz frequence frequences frequence_rx "
-     "frequence_de_reception frecuencia frecuencias frecuencia_rx frecuencia_de_recepcion "
+     "frequence_de_reception frecuencia frecuencias frecuencia_rx frecuencia_de_recepcion frequenza "
+     "frequenze "
      "周波数 受信周波数 受信 "},
     {kMode,
      " mode modulation modulation_mode mod modus betriebsart modulationsart type_de_modulation "
@@ -55,7 +58,8 @@ constexpr Titles kTitles[] = {
      "remarks memo station service callsign call_sign user title text notiz notizen bemerkung "
      "bemerkungen bezeichnung beschreibung kommentar kanalname sender dienst rufzeichen nom "
      "nom_du_canal libelle remarque remarques commentaire commentaires indicatif nota notas "
-     "nombre etiqueta descripcion comentario comentarios observaciones estacion indicativo 備考 "
+     "nombre etiqueta descripcion comentario comentarios observaciones estacion indicativo nome descrizione "
+     "備考 "
      "メモ 名称 名前 チャンネル名 局名 説明 コメント コールサイン "},
     {kSkipPart,
      " skip lockout l_o uberspringen ueberspringen auslassen sauter ignorer omitir saltar "
@@ -67,7 +71,8 @@ constexpr Titles kTitles[] = {
     {ListColumn::kChannel, " channel ch kanal canal voie チャンネル チャネル "},
     {ListColumn::kRow, " row memory_row speicherzeile ligne_de_memoire fila_de_memoria "},
     {kIgnored,
-     " model no nr number location memory date time country city id modell nummer speicher "
+     " model bandwidth bw bandbreite largeur_de_bande ancho_de_banda 帯域幅 spacing channel_spacing "
+     "deviation hub no nr number location memory date time country city id modell nummer speicher "
      "speicherplatz zeile land stadt ort datum zeit uhrzeit kanalnummer modele numero memoire "
      "ligne pays ville heure modelo memoria fila pais ciudad fecha hora 機種 番号 メモリー "
      "メモリ 行 国 都市 日付 時刻 "},
@@ -107,6 +112,44 @@ Unit TakeUnit(std::string& words)
     return unit;
 }
 
+struct LikelyTitle
+{
+    int points = 0;
+    Unit unit = Unit::None;
+};
+
+/// How surely a title that is none of the known ones is that of the frequencies: "Sendefrequenz",
+/// "Downlink MHz".
+LikelyTitle LikelyFrequency(std::string_view title)
+{
+    constexpr std::array<std::string_view, 3> kWords = {"freq", "frecuen", "周波数"};
+    if (ReadTitle(title))
+        return {};
+    std::string words = FoldedWords(title);
+    const bool isNamed = std::ranges::any_of(
+        kWords, [&words](std::string_view word) { return words.find(word) != std::string::npos; });
+    const Unit unit = TakeUnit(words);
+    const int points = unit == Unit::None ? 0 : unit == Unit::Hz ? 1 : unit == Unit::KHz ? 2 : 3;
+    return {isNamed ? points + 4 : points, unit};
+}
+
+/// Where no title says frequency, the one that most likely means it.
+void TakeLikeliest(const std::vector<std::string>& titles, std::vector<ListColumn>& columns)
+{
+    if (std::ranges::find(columns, int{kFrequency}, &ListColumn::part) != columns.end())
+        return;
+    const auto points = [](const std::string& title) { return LikelyFrequency(title).points; };
+    const auto best = std::ranges::max_element(titles, {}, points);
+    if (best == titles.end() || points(*best) == 0)
+        return;
+    columns[static_cast<std::size_t>(best - titles.begin())] = {kFrequency, LikelyFrequency(*best).unit};
+}
+
+bool BeginsWithDigit(const std::string& field)
+{
+    return !field.empty() && field[0] >= '0' && field[0] <= '9';
+}
+
 }  // namespace
 
 std::optional<ListColumn> ReadTitle(std::string_view title)
@@ -124,10 +167,12 @@ bool AreTitles(const std::vector<std::string>& fields)
     std::size_t texts = 0;
     std::size_t titles = 0;
     bool hasFrequency = false;
+    // Words of any kind are titles only where nothing looks like a value.
+    const bool mayGuess = std::ranges::none_of(fields, BeginsWithDigit);
     for (const std::string& field : fields) {
         const auto title = ReadTitle(field);
         texts += field.empty() ? 0 : 1;
-        titles += title ? 1 : 0;
+        titles += title || (mayGuess && LikelyFrequency(field).points > 0) ? 1 : 0;
         hasFrequency = hasFrequency || (title && title->part == kFrequency);
         if (!title && ReadFrequency(field))
             return false;
@@ -143,6 +188,7 @@ std::vector<ListColumn> ColumnsUnder(const std::vector<std::string>& titles)
         const bool isTaken = std::ranges::find(columns, column.part, &ListColumn::part) != columns.end();
         columns.push_back(isTaken ? ListColumn{} : column);
     }
+    TakeLikeliest(titles, columns);
     return columns;
 }
 

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "files/list_values.h"
+#include "files/list_numbers.h"
 
 namespace rqm5 {
 

@@ -4,7 +4,7 @@
 #include <iterator>
 #include <utility>
 
-#include "files/list_values.h"
+#include "files/list_words.h"
 
 namespace rqm5 {
 

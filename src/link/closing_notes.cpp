@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QStringList>
+#include <algorithm>
 
 namespace rqm5 {
 namespace {
@@ -27,6 +28,12 @@ QString ChannelsOn(const CloneImage& image)
         channels += image.MemEnable(row) ? 1 : 0;
     return channels == 1 ? Translate(QT_TRANSLATE_NOOP("ClosingNote", "1 channel on"))
                          : Translate(QT_TRANSLATE_NOOP("ClosingNote", "%1 channels on")).arg(channels);
+}
+
+/// Nothing takes no time.
+QString TookText(std::chrono::seconds took)
+{
+    return QString::fromStdString(TimeText(std::max(took, std::chrono::seconds(1))));
 }
 
 }  // namespace
@@ -62,19 +69,19 @@ std::string ReadNote(std::chrono::seconds took, bool isVerified, const TransferS
                   : Translate(QT_TRANSLATE_NOOP("ClosingNote", "%1 changed")).arg(changed.join(comma)));
     const char* const text = isVerified ? QT_TRANSLATE_NOOP("ClosingNote", "Read in %1 and verified: %2")
                                         : QT_TRANSLATE_NOOP("ClosingNote", "Read in %1: %2");
-    return Translate(text).arg(QString::fromStdString(TimeText(took)), parts.join(comma)).toStdString();
+    return Translate(text).arg(TookText(took), parts.join(comma)).toStdString();
 }
 
 std::string WrittenNote(std::chrono::seconds took, bool isVerified)
 {
     const char* const text = isVerified ? QT_TRANSLATE_NOOP("ClosingNote", "Written in %1 and verified")
                                         : QT_TRANSLATE_NOOP("ClosingNote", "Written in %1");
-    return Translate(text).arg(QString::fromStdString(TimeText(took))).toStdString();
+    return Translate(text).arg(TookText(took)).toStdString();
 }
 
 std::string ComparedNote(std::chrono::seconds took, int differences)
 {
-    const QString time = QString::fromStdString(TimeText(took));
+    const QString time = TookText(took);
     if (differences == 0)
         return Translate(QT_TRANSLATE_NOOP("ClosingNote", "Compared in %1: no block differs"))
             .arg(time)

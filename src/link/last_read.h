@@ -7,12 +7,13 @@
 
 namespace rqm5 {
 
-/// What the receiver held when all of it was last read in this run.
+/// What the receiver held when all of it was last read.
 struct LastRead
 {
     CloneImage image;
     QDateTime time;
     QString device;
+    bool isOfParts = false;  ///< blocks of several transfers, some written; the time is that of the oldest
 };
 
 }  // namespace rqm5

@@ -1,17 +1,17 @@
 #include "memory/bank_move_offer.h"
 
-#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include "ui/elided_label.h"
 
 namespace rqm5 {
 
 BankMoveOffer::BankMoveOffer(Document& document, QWidget* parent)
-    : QWidget(parent), document_(document), lblBankMove_(new QLabel(this))
+    : QWidget(parent), document_(document), lblBankMove_(new ElidedLabel(Qt::ElideRight, this))
 {
     setObjectName(QStringLiteral("frmBankMove"));
     lblBankMove_->setObjectName(QStringLiteral("lblBankMove"));
-    lblBankMove_->setWordWrap(true);
     auto* leave = new QPushButton(tr("&Leave the rows where they are"), this);
     leave->setObjectName(QStringLiteral("cmbBankLeave"));
     leave->setStatusTip(tr("Nothing moves; the channels named here belong to other banks now"));

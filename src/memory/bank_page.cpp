@@ -11,6 +11,7 @@
 #include "memory/bank_move_offer.h"
 #include "memory/bank_strip.h"
 #include "memory/fill_bar.h"
+#include "ui/elided_label.h"
 #include "ui/key_filter.h"
 #include "ui/leave_watch.h"
 #include "ui/tall_area.h"
@@ -32,7 +33,7 @@ BankPage::BankPage(Document& document, Dialogs& dialogs, QWidget* parent)
       picBanks_(new BankStrip(document.Image(), this)),
       offer_(new BankMoveOffer(document, this)),
       lblChannels_(new QLabel(this)),
-      lblNoBank_(new QLabel(this))
+      lblNoBank_(new ElidedLabel(Qt::ElideRight, this))
 {
     auto* boxes = new QWidget;
     auto* grid = new QGridLayout(boxes);
@@ -117,7 +118,6 @@ QLayout* BankPage::BuildBottomRow()
     lblChannels_->setObjectName(QStringLiteral("lblChannels"));
     lblChannels_->setTextFormat(Qt::PlainText);
     lblNoBank_->setObjectName(QStringLiteral("lblNoBank"));
-    lblNoBank_->setTextFormat(Qt::PlainText);
     const TransferButtons buttons("cmbReadBank", tr("Read Ban&k"), "cmbWriteBank", tr("Write &Bank"));
     buttons.read->setStatusTip(tr("Read bank sizes and links from the receiver"));
     buttons.write->setStatusTip(tr("Write bank sizes and links to the receiver"));

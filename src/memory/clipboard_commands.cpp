@@ -4,8 +4,10 @@
 #include <QGuiApplication>
 #include <algorithm>
 
+#include "files/safe_notes.h"
 #include "memory/channel_operations.h"
 #include "memory/fill_dialog.h"
+#include "memory/note_line.h"
 #include "memory/parts_dialog.h"
 #include "memory/paste_dialog.h"
 #include "memory/table_clipboard.h"
@@ -29,6 +31,12 @@ Parts PartsOf(const std::vector<ListedChannel>& channels)
             if (channel.given.Has(part))
                 parts.Add(part);
     return parts;
+}
+
+void MakeNotesSafe(CloneImage& image, const RowList& rows)
+{
+    for (const int row : rows)
+        image.MemData(row).note = SafeNote(image.MemData(row).note);
 }
 
 }  // namespace
@@ -87,9 +95,13 @@ void ClipboardCommands::Take(const QString& operation, const PastePlan& plan, bo
     if (rows.empty())
         return;
     const int column = selection_.Table().currentIndex().column();
-    selection_.Edit(tr("%1 (%2)").arg(operation, selection_.NameOf(rows)),
-                    [&plan](CloneImage& image) { ApplyPlan(plan, image); });
+    selection_.Edit(tr("%1 (%2)").arg(operation, selection_.NameOf(rows)), [&](CloneImage& image) {
+        ApplyPlan(plan, image);
+        if (WantsSafeNotes())
+            MakeNotesSafe(image, rows);
+    });
     selection_.Table().SelectRows(rows, column);
+    emit Written(rows);
 }
 
 void ClipboardCommands::Paste(const std::vector<ListedChannel>& channels, int row)

@@ -30,6 +30,9 @@ class ClipboardCommands : public QObject
     /// True when the clipboard may hold channels.
     static bool CanPaste();
 
+  signals:
+    void Written(const RowList& rows);  ///< channels have come to these memory rows
+
   private:
     RowList RowsFrom(int row) const;
     void Paste(const std::vector<ListedChannel>& channels, int row);

@@ -14,7 +14,7 @@ FilterBox::FilterBox(QWidget* parent)
     cbbFilter_->setObjectName(QStringLiteral("cbbFilter"));
     cbbFilter_->setStatusTip(tr("Which rows of the group the table shows"));
     lblShown_->setObjectName(QStringLiteral("lblShown"));
-    auto* label = new QLabel(tr("Sho&w:"), this);
+    auto* label = new QLabel(tr("Sh&ow:"), this);
     label->setBuddy(cbbFilter_);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);

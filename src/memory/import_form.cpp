@@ -62,7 +62,7 @@ void Fill(QComboBox& box, const Choice (&choices)[N])
 void ShowFound(QComboBox& box, const QString& found)
 {
     box.setItemText(
-        0, box.currentIndex() == 0 ? ImportForm::tr("Found out: %1").arg(found) : ImportForm::tr("Find out"));
+        0, box.currentIndex() == 0 ? ImportForm::tr("Detected: %1").arg(found) : ImportForm::tr("Detect"));
 }
 
 std::vector<std::pair<QString, QString>> LoadMappings()

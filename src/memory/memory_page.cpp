@@ -6,10 +6,12 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "files/safe_notes.h"
 #include "memory/bank_list.h"
 #include "memory/filter_box.h"
 #include "memory/find_bar.h"
 #include "memory/memory_table.h"
+#include "memory/note_line.h"
 #include "memory/operation_buttons.h"
 #include "memory/refusal_prompt.h"
 #include "memory/row_actions.h"
@@ -65,6 +67,7 @@ void MemoryPage::ConnectTable()
     connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &MemoryPage::SelectionChanged);
     connect(rows_, &RowCommands::Noted, this, &MemoryPage::Noted);
+    connect(clipboard_, &ClipboardCommands::Written, this, &MemoryPage::NotesEntered);
     connect(table_, &MemoryTable::InsertPressed, rows_, &RowCommands::cmbInsert_Click);
     connect(table_, &MemoryTable::DeletePressed, rows_, &RowCommands::cmbDelete_Click);
     connect(table_, &MemoryTable::TogglePressed, rows_, &RowCommands::Toggle);
@@ -261,9 +264,13 @@ bool MemoryPage::WriteCell(int row, Column column, const CellInput& input)
         document_.Edit(name, [&](CloneImage& image) { StoreCellChoice(image, row, column, input.choice); });
         return true;
     }
-    const CheckedEntry checked = CheckCell(Image(), row, column, Selector(), input.text);
+    CheckedEntry checked = CheckCell(Image(), row, column, Selector(), input.text);
+    if (column == kNote && WantsSafeNotes())
+        checked.text = SafeNote(checked.text);
     if (checked.verdict == Verdict::Accepted && checked.text != EditorOfCell(Image(), row, column).text)
         document_.Edit(name, [&](CloneImage& image) { StoreCellText(image, row, column, checked.text); });
+    if (column == kNote)
+        emit NotesEntered({row});
     if (checked.verdict == Verdict::OutOfRange)
         table_->ShowHint(QString::fromStdString(std::string(
             column == kFrequency ? VerdictText(checked.verdict) : "The offset is below 100 MHz.")));

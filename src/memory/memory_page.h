@@ -73,6 +73,9 @@ class MemoryPage : public QWidget
     void SelectionChanged();
     void Noted(const QString& text);  ///< what an operation has done out of sight; empty for nothing
 
+    /// Notes were typed or pasted into these rows, among others perhaps.
+    void NotesEntered(const std::vector<int>& memoryRows);
+
     /// What the status bar says of the table with the focus is another text now.
     void HintChanged();
 

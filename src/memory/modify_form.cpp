@@ -153,6 +153,11 @@ QWidget* ModifyForm::BuildCodes()
     form->addRow(tr("&Secret code"), cbbSec_);
     form->addRow(tr("T&rain tone"), cbbAir_);
     form->addRow(tr("&CTCSS tone"), cbbTxTone_);
+    // On a screen whose scale is no whole number a text can be a little wider than it says.
+    for (QWidget* list : {cbbSec_, cbbAir_, cbbTxTone_}) {
+        QWidget* label = form->labelForField(list);
+        label->setMinimumWidth(label->sizeHint().width() + 2);
+    }
     return box;
 }
 

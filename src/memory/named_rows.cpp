@@ -4,7 +4,7 @@
 
 #include "files/csv_record.h"
 #include "files/csv_rows.h"
-#include "files/list_values.h"
+#include "files/list_words.h"
 #include "memory/bank_layout.h"
 
 namespace rqm5 {

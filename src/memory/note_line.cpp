@@ -15,6 +15,11 @@ const QString kChoice = QStringLiteral("Editor/SafeNotes");
 
 }  // namespace
 
+bool WantsSafeNotes()
+{
+    return SettingsStore().value(kChoice, false).toBool();
+}
+
 NoteLine::NoteLine(QLineEdit& note)
     : txtNote_(note), lblNoteHint_(new QLabel(this)), cmbSafeNote_(new QPushButton(tr("&Use ; and '"), this))
 {
@@ -25,7 +30,7 @@ NoteLine::NoteLine(QLineEdit& note)
     cmbSafeNote_->setAutoDefault(false);
     cmbSafeNote_->setToolTip(
         tr("Put semicolons for commas and apostrophes for quotes, in this note and all that follow"));
-    cmbSafeNote_->setChecked(SettingsStore().value(kChoice, false).toBool());
+    cmbSafeNote_->setChecked(WantsSafeNotes());
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(lblNoteHint_, 1);

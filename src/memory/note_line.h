@@ -8,6 +8,9 @@ class QPushButton;
 
 namespace rqm5 {
 
+/// True once somebody has pressed the button of the line below a note, and until it is released.
+bool WantsSafeNotes();
+
 /// The line below a note: says at once that the note will not survive a save, with a button that puts it into
 /// the form that does. Whoever has pressed the button gets that form from then on while typing, until it is
 /// released; the choice is remembered.

@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QItemSelectionModel>
+#include <algorithm>
 
 namespace rqm5 {
 namespace {
@@ -62,9 +63,9 @@ const std::vector<RowActions::Item>& RowActions::Items()
          TEXT("Give the selected rows chosen columns of the first of them"), Needs::Rows, true,
          [](RowActions& to) { to.clipboard_.mnuEditFillDown_Click(); }},
         {"", "", "", "", Needs::Row, false, nullptr},
-        {"mnuEditMoveUp", TEXT("Move Up"), "Alt+Up", TEXT("Move the selected rows up by one"),
+        {"mnuEditMoveUp", TEXT("Mo&ve Up"), "Alt+Up", TEXT("Move the selected rows up by one"),
          Needs::MovableRow, true, [](RowActions& to) { to.moves_.mnuEditMoveUp_Click(); }},
-        {"mnuEditMoveDown", TEXT("Move Down"), "Alt+Down", TEXT("Move the selected rows down by one"),
+        {"mnuEditMoveDown", TEXT("Move Dow&n"), "Alt+Down", TEXT("Move the selected rows down by one"),
          Needs::MovableRow, true, [](RowActions& to) { to.moves_.mnuEditMoveDown_Click(); }},
         {"mnuEditCopyToBank", TEXT("Copy to &Bank"), "",
          TEXT("Copy the selected channels into empty rows of a bank"), Needs::Channel, false, nullptr},
@@ -159,13 +160,20 @@ void RowActions::AddSortItem(const char* name, const char* text, void (MoveComma
     connect(item, &QAction::triggered, &moves_, run);
 }
 
-#undef TEXT
-
 void RowActions::AddTo(QMenu& menu)
 {
+    // One menu with everything would not fit on a small screen with large letters.
+    const auto moves = std::ranges::find(actions_, QStringLiteral("mnuEditMoveUp"), &QAction::objectName);
     menu.addSeparator();
-    menu.addActions({actions_.begin(), actions_.end()});
+    menu.addActions({actions_.begin(), moves});
+    QMenu* rows = menu.addMenu(QString::fromUtf8(TEXT("R&ows")));
+    rows->setObjectName(QStringLiteral("mnuEditRows"));
+    rows->menuAction()->setStatusTip(
+        QString::fromUtf8(TEXT("Move, copy, insert, delete and sort rows of the group shown")));
+    rows->addActions({moves, actions_.end()});
 }
+
+#undef TEXT
 
 void RowActions::AddPasteKeyTo(QWidget& control)
 {

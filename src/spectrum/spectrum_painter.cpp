@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <algorithm>
 
+#include "spectrum/spectrum_marks.h"
+
 namespace rqm5 {
 namespace {
 
@@ -11,16 +13,10 @@ QString Tr(const char* text)
     return QCoreApplication::translate("Spectrum", text);
 }
 
-/// The colours of FM, AM and WFM, and of what is stored twice, on a light and on a dark ground.
-constexpr QRgb kModeColours[2][3] = {{0xff1f6fb4, 0xffb85400, 0xff23803a},
-                                     {0xff74b7f5, 0xfff0a24e, 0xff74cc80}};
-constexpr QRgb kDuplicateColours[2] = {0xffc2185b, 0xffff7aa8};
-constexpr int kModes = 3;
 constexpr float kGridStrength = 0.22F;
-constexpr double kLabelGap = 5.5;   ///< of two labels of the axis, in heights of the font
-constexpr double kHatchGap = 0.5;   ///< of the font's height
-constexpr double kRingSize = 1.75;  ///< of a mark
-constexpr double kHaloSize = 2.1;
+constexpr double kLabelGap = 5.5;  ///< of two labels of the axis, in heights of the font
+constexpr double kHatchGap = 0.5;  ///< of the font's height
+constexpr double kHaloSize = 2.1;  ///< of a mark
 
 class SpectrumPainter
 {
@@ -33,8 +29,9 @@ class SpectrumPainter
           palette_(palette),
           metrics_(painter.font(), painter.device()),
           at_(area, metrics_, scene.picture, scene.scroll),
-          isDark_(palette.color(QPalette::Base).lightness() < 128),
-          pen_(metrics_.height() / 14)
+          isOnScreen_(painter.device()->devType() == QInternal::Widget),
+          pen_(metrics_.height() / 14),
+          marks_(palette, pen_)
     {
         grid_ = Soft(kGridStrength);
     }
@@ -207,18 +204,16 @@ class SpectrumPainter
         const double radius = at_.MarkRadius() * (index == scene_.hovered ? 1.3 : 1);
         if (IsSelected(mark))
             PaintSelection(centre, radius);
-        if (mark.isDuplicate) {
-            painter_.setPen(QPen(QColor(kDuplicateColours[isDark_ ? 1 : 0]), pen_ * 1.3));
-            painter_.setBrush(Qt::NoBrush);
-            painter_.drawEllipse(centre, radius * kRingSize, radius * kRingSize);
-        }
         if (index == scene_.current) {
             painter_.setPen(QPen(palette_.color(QPalette::Text), pen_, Qt::DotLine));
             painter_.setBrush(Qt::NoBrush);
             const double side = radius * kHaloSize;
             painter_.drawRect(QRectF(centre.x() - side, centre.y() - side, 2 * side, 2 * side));
         }
-        DrawForm(mark.mode, mark.isOn, centre, radius);
+        if (isOnScreen_ && index != scene_.hovered)
+            marks_.Stamp(painter_, mark, centre, radius);
+        else
+            marks_.Draw(painter_, mark, centre, radius);
     }
 
     void PaintSelection(QPointF centre, double radius)
@@ -235,23 +230,6 @@ class SpectrumPainter
         painter_.drawRoundedRect(QRectF(centre.x() - radius * kHaloSize, centre.y() - radius * kHaloSize,
                                         2 * radius * kHaloSize, 2 * radius * kHaloSize),
                                  radius / 2, radius / 2);
-    }
-
-    void DrawForm(int mode, bool isOn, QPointF centre, double radius)
-    {
-        const QColor colour(kModeColours[isDark_ ? 1 : 0][std::clamp(mode, 0, kModes - 1)]);
-        painter_.setPen(QPen(colour, pen_ * 1.3));
-        painter_.setBrush(isOn ? QBrush(colour) : palette_.base());
-        if (mode == 1) {
-            const QPointF corners[] = {centre + QPointF(0, -radius), centre + QPointF(radius, radius * 0.85),
-                                       centre + QPointF(-radius, radius * 0.85)};
-            painter_.drawPolygon(corners, 3);
-        } else if (mode == 2) {
-            painter_.drawRect(
-                QRectF(centre.x() - radius * 0.85, centre.y() - radius * 0.85, radius * 1.7, radius * 1.7));
-        } else {
-            painter_.drawEllipse(centre, radius, radius);
-        }
     }
 
     void PaintFrame()
@@ -278,15 +256,13 @@ class SpectrumPainter
             x += width + metrics_.height() * 0.7;
         };
         const double radius = metrics_.height() * 0.3;
-        for (int mode = 0; mode < kModes; ++mode)
+        for (int mode = 0; mode < SpectrumMarks::kModes; ++mode)
             entry(QString::fromUtf8(ModeName[static_cast<std::size_t>(mode)].data()),
-                  [&](QPointF at) { DrawForm(mode, true, at, radius); });
-        entry(Tr(QT_TRANSLATE_NOOP("Spectrum", "off")), [&](QPointF at) { DrawForm(0, false, at, radius); });
-        entry(Tr(QT_TRANSLATE_NOOP("Spectrum", "stored twice")), [&](QPointF at) {
-            painter_.setPen(QPen(QColor(kDuplicateColours[isDark_ ? 1 : 0]), pen_ * 1.3));
-            painter_.setBrush(Qt::NoBrush);
-            painter_.drawEllipse(at, radius * 1.4, radius * 1.4);
-        });
+                  [&](QPointF at) { marks_.DrawForm(painter_, mode, true, at, radius); });
+        entry(Tr(QT_TRANSLATE_NOOP("Spectrum", "off")),
+              [&](QPointF at) { marks_.DrawForm(painter_, 0, false, at, radius); });
+        entry(Tr(QT_TRANSLATE_NOOP("Spectrum", "stored twice")),
+              [&](QPointF at) { marks_.DrawRing(painter_, at, radius * 1.4); });
         if (!scene_.picture.blocked.empty())
             entry(Tr(QT_TRANSLATE_NOOP("Spectrum", "blocked")), [&](QPointF at) {
                 Hatch({at.x() - radius * 1.4, at.y() - radius, radius * 2.8, radius * 2});
@@ -299,9 +275,10 @@ class SpectrumPainter
     const QPalette& palette_;
     const QFontMetricsF metrics_;
     const SpectrumGeometry at_;
-    const bool isDark_;
+    const bool isOnScreen_;
     const double pen_;  ///< width of a line
     QColor grid_;
+    SpectrumMarks marks_;
 };
 
 }  // namespace

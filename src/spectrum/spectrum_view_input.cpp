@@ -30,6 +30,8 @@ void SpectrumView::wheelEvent(QWheelEvent* event)
             axis_.Pan(-static_cast<double>(delta.x()) / kNotch / 10);
         TellMoved();
     }
+    // The pointer has stayed, and the marks have not.
+    Hover(MarkUnder(event->position()), event->globalPosition().toPoint());
     event->accept();
 }
 

@@ -1,5 +1,6 @@
 #include "ui/off_colour.h"
 
+#include <QGuiApplication>
 #include <algorithm>
 #include <cmath>
 
@@ -53,6 +54,17 @@ QColor OffColour(const QPalette& palette, QPalette::ColorRole ground, QPalette::
 {
     const QColor below = palette.color(group, ground);
     return Readable(Opaque(palette.color(QPalette::Disabled, QPalette::WindowText), below), below);
+}
+
+void KeepPlaceholdersReadable()
+{
+    constexpr double kVisible = 3;
+    QPalette palette = QGuiApplication::palette();
+    const QColor below = palette.color(QPalette::Base);
+    if (Contrast(Opaque(palette.color(QPalette::PlaceholderText), below), below) >= kVisible)
+        return;
+    palette.setColor(QPalette::PlaceholderText, OffColour(palette, QPalette::Base));
+    QGuiApplication::setPalette(palette);
 }
 
 }  // namespace rqm5

@@ -14,4 +14,8 @@ double Contrast(const QColor& text, const QColor& ground);
 QColor OffColour(const QPalette& palette, QPalette::ColorRole ground,
                  QPalette::ColorGroup group = QPalette::Active);
 
+/// Gives the hints inside empty boxes a colour that can be read, where the desktop's theme has none: dark
+/// themes often leave it black.
+void KeepPlaceholdersReadable();
+
 }  // namespace rqm5

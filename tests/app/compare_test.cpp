@@ -1,4 +1,5 @@
 #include <QComboBox>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTableView>
 #include <QTreeWidget>
@@ -94,8 +95,10 @@ TEST_F(CompareTest, ComparesWithTheReceiverAndItsLastReadWithoutTouchingTheImage
     At(600, [this] {
         EXPECT_FALSE(Button("cmbCompareFile").isEnabled());
         EXPECT_FALSE(Button("cmbTakeAll").isEnabled());
+        EXPECT_TRUE(Find<QProgressBar>("ProgressBar1").text().startsWith(QStringLiteral("Reading ")));
     });
     Button("cmbCompareReceiver").click();
+    EXPECT_TRUE(StatusText("lblHint").contains(QStringLiteral(" to compare; "))) << "how long it took";
     EXPECT_EQ(StepName(), untouched);
     EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("New"));
     EXPECT_GT(Tree().topLevelItemCount(), 3);
@@ -120,6 +123,15 @@ TEST_F(CompareTest, ComparesWithTheReceiverAndItsLastReadWithoutTouchingTheImage
     EXPECT_EQ(dialogs_.asked[0].text, QStringLiteral("COM Port Error"));
     EXPECT_FALSE(Button("cmbCompareLastRead").isEnabled()) << "another port may have another receiver";
     EXPECT_TRUE(StatusText("lblCompareSource").contains(QStringLiteral("as it was read")));
+}
+
+TEST_F(CompareTest, LastReadIsWhatIsKnownOfTheReceiverUntilItIsRead)
+{
+    Item("mnuWrAll").trigger();
+    Item("mnuToolsCompare").trigger();
+    Button("cmbCompareLastRead").click();
+    EXPECT_TRUE(StatusText("lblCompareSource").contains(QStringLiteral("read or written since")));
+    EXPECT_EQ(Count(), QStringLiteral("Nothing differs."));
 }
 
 }  // namespace

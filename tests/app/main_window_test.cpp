@@ -1,9 +1,11 @@
+#include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMenuBar>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTranslator>
@@ -320,6 +322,66 @@ TEST_F(WindowTest, ModifyOpensTheEditorOnTheRowOfTheTab)
     Item("mnuEditUndo").trigger();
     EXPECT_EQ(StatusText("lblFileState"), QStringLiteral("Changed"));
     EXPECT_EQ(StatusText("lblEnabled"), QStringLiteral("Channels enabled: 1"));
+}
+
+TEST_F(WindowTest, NotesInTheTableThatWillNotSurviveAreToldAtOnce)
+{
+    Start();
+    GoTo(Tab::Memory);
+    auto& table = Find<QTableView>("MSFlexGrid1");
+    const auto note = [&](int row) { return table.model()->index(row, 9).data().toString().toStdString(); };
+    const auto paste = [&](const char* text) {
+        QApplication::clipboard()->setText(QString::fromUtf8(text));
+        Item("mnuEditPaste").trigger();
+    };
+    paste("145.5\ta, b\n145.6\tfine\n145.7\tx, y");
+    EXPECT_EQ(StatusText("lblMessage").toStdString(),
+              "Notes whose comma or quotes will not survive a save: 2");
+    Click("cmbMessage_0");
+    EXPECT_EQ(note(0) + note(1) + note(2), "a; bfinex; y");
+    EXPECT_TRUE(Find<QWidget>("barMessage").isHidden());
+    table.setFocus();
+    table.setCurrentIndex(table.model()->index(1, 9));
+    for (const char key : std::string_view("d,"))
+        QTest::keyClick(QApplication::focusWidget(), key);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(StatusText("lblMessage").toStdString(), "A comma or quotes in a note will not survive a save.");
+    Item("mnuHistoryUndo").trigger();
+    EXPECT_EQ(note(1), "fine");
+    EXPECT_TRUE(Find<QWidget>("barMessage").isHidden());
+}
+
+TEST_F(WindowTest, NoLetterIsUsedTwiceInAMenuOrOnAPage)
+{
+    Start();
+    const auto expectUnique = [](const QStringList& texts) {
+        QStringList letters;
+        for (const QString& text : texts)
+            if (const QKeySequence key = QKeySequence::mnemonic(text); !key.isEmpty())
+                letters << key.toString();
+        EXPECT_EQ(letters.removeDuplicates(), 0) << texts.join(u'|').toStdString();
+    };
+    QStringList titles;
+    for (const QMenu* menu : window_->findChildren<QMenu*>()) {
+        QStringList texts;
+        for (const QAction* item : menu->actions())
+            texts << item->text();
+        expectUnique(texts);
+        if (menu->parent() == window_->menuBar())
+            titles << menu->title();
+    }
+    EXPECT_GE(titles.size(), 7);
+    for (const Tab tab : {Tab::Settings1, Tab::Settings2, Tab::Memory, Tab::Bank}) {
+        GoTo(tab);
+        QStringList texts = titles;
+        for (const auto* button : window_->findChildren<QAbstractButton*>())
+            if (button->isVisible())
+                texts << button->text();
+        for (const auto* label : window_->findChildren<QLabel*>())
+            if (label->isVisible() && label->buddy() != nullptr)
+                texts << label->text();
+        expectUnique(texts);
+    }
 }
 
 /// Puts every text of the main window's own context in brackets.

@@ -86,9 +86,12 @@ TEST_F(WindowTest, PortDialogFindsTheReceiverAndSeesAdaptersComeAndGo)
     Item("mnuToolsOptions").trigger();
     qunsetenv("RQM5_COM2");
     EXPECT_EQ(StatusText("lblPort"), QStringLiteral("COM 7: ") + device);
+    ReceiverKnowledge& knowledge = window_->findChild<RadioLink*>()->Knowledge();
+    knowledge.TakeRead(0x0040, MemoryBlock(std::string(kBlockChars, '0')));
     QFile::remove(device);
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return StatusText("lblPort") == QStringLiteral("COM 7: %1, not present").arg(device); }));
+    EXPECT_EQ(knowledge.Find(0x0040), nullptr) << "another receiver may come back";
     qunsetenv("RQM5_COM7");
 }
 

@@ -57,11 +57,17 @@ TEST_F(SpectrumWindow, AClickSelectsTheRowAndTheSelectionIsMarked)
 TEST_F(SpectrumWindow, MovesByWheelDragDoubleClickAndKeys)
 {
     const QPoint middle = View().rect().center();
-    const auto wheel = [&](int notches) {
-        QWheelEvent event(middle, View().mapToGlobal(middle), {}, {0, 120 * notches}, {}, {}, {}, false);
+    const auto wheel = [&](QPoint at, int notches) {
+        QWheelEvent event(at, View().mapToGlobal(at), {}, {0, 120 * notches}, {}, {}, {}, false);
         QCoreApplication::sendEvent(&View(), &event);
     };
-    wheel(8);
+    const QPoint beside = View().PlaceOfMark(0).center() + QPoint(3, 0);
+    QTest::mouseMove(&View(), beside);
+    EXPECT_FALSE(StatusText("lblSpectrumChannel").isEmpty());
+    wheel(beside, 60);
+    EXPECT_TRUE(StatusText("lblSpectrumChannel").isEmpty()) << "it is no longer under the pointer";
+    View().ShowAll();
+    wheel(middle, 8);
     const SpectrumAxis nearer = View().Axis();
     EXPECT_LT(nearer.High() / nearer.Low(), 100);
     QTest::mousePress(&View(), Qt::LeftButton, {}, middle);

@@ -69,6 +69,11 @@ TEST(ChannelList, GoesByTitlesInAnyOrder)
         {"Mode\tRX\nUSB\t14.2\nFM\t\n",
          "Line 2: the receiver has no mode \"USB\"\nLine 3: there is no frequency\n"},
         {"Freq\tTone\tStep\n145.5\t88.4\t7\n", "145.500000 [Tone \"88.4\" left out; Step \"7\" left out]\n"},
+        {"Row,Freq\n1,145.500\n2,1296\n", "145.500000\n1296.000000\n"},
+        {"Kanal;Mittenfreq MHz;Bemerkung\n1;145,5;Ulm\n", "145.500000 Ulm\n"},
+        {"Name,Downlink (kHz),Bandwidth kHz\nISS,145800,25\n", "145.800000 ISS\n"},
+        {"Sendefrequenz,Name\n118.1,Tower\n", "118.100000 Tower\n"},
+        {"1.455E+02;old freq\n", "Line 1: there is no frequency\n"},
         {"Mode\nAM\n", "0.000000\n"},  // parts for channels that are there
     };
     for (const auto& [text, expected] : cases)
@@ -81,6 +86,8 @@ TEST(ChannelList, FindsColumnsWithoutTitles)
         {"1\tTower\t118.100\n2\tGround\t121.900\n", "118.100000 Tower\n121.900000 Ground\n"},
         {"118.1,Tower\n121.9,Ground\n", "118.100000 Tower\n121.900000 Ground\n"},
         {"118,1;Tower\n", "118.100000 Tower\n"},
+        {"1,145.500\n2,146.500\n", "145.500000\n146.500000\n"},
+        {"1,240.000\n1,296.000\n", "1240.000000\n1296.000000\n"},
         {"145500\n145525\n1400\n", "145.500000\n145.525000\n1.400000\n"},
         {"145,5,Tower\n145,525,Ground\n",
          "Line 1: commas stand for decimals and between fields; separate the fields by tabs\n"

@@ -372,6 +372,17 @@ TEST_F(MemoryPageTest, WhatIsOffCanBeReadInEveryPaletteAndKeepsItsHue)
         }
     }
     EXPECT_NEAR(Contrast(Qt::black, Qt::white), 21, 0.01);
+
+    const QPalette usual = QGuiApplication::palette();
+    QPalette dark = usual;
+    dark.setColor(QPalette::Base, QColor(0x1B1E20));
+    dark.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+    QGuiApplication::setPalette(dark);
+    KeepPlaceholdersReadable();
+    const QPalette mended = QGuiApplication::palette();
+    EXPECT_GE(Contrast(mended.color(QPalette::PlaceholderText), mended.color(QPalette::Base)), 4.5);
+    EXPECT_EQ(mended.color(QPalette::Base), dark.color(QPalette::Base));
+    QGuiApplication::setPalette(usual);
 }
 
 TEST_F(MemoryPageTest, DraggedWidthsStayUntilTheyAreForgotten)
