@@ -118,11 +118,15 @@ TransferResult BackReader::RunFrom(std::size_t begin)
 /// What came with characters that are no hex digits may only have been disturbed.
 TransferResult BackReader::AskAgain()
 {
-    for (BlockDifference& difference : differences_)
+    for (BlockDifference& difference : differences_) {
+        const bool wasHex = difference.read.IsHex();
         for (int ask = 0; ask < kAsks && !difference.read.IsHex(); ++ask)
             if (const TransferResult result = Read(difference.expected.address, difference.read);
                 result != Done)
                 return result;
+        if (!wasHex && difference.read.IsHex())
+            observer_.BlockRepeated(difference.expected.address);
+    }
     std::erase_if(differences_, [](const BlockDifference& difference) {
         return Agrees(difference.expected, difference.read);
     });

@@ -236,6 +236,7 @@ TransferResult ReceiverReader::AskAgain(std::set<int>& asked, bool& hasMended)
         return Done;  // it cannot be told what came right
     for (const auto& [i, block] : mended) {
         read_[i].block = block;
+        observer_.BlockRepeated(read_[i].Address());
         observer_.BlockRead(read_[i].Address(), block);
     }
     hasMended = !mended.empty();

@@ -315,6 +315,9 @@ TEST_F(Transfers, SayHowManyBlocksNeededMoreThanOneAttempt)
             EXPECT_EQ(run.status, 0);
             EXPECT_EQ(run.out + run.err, text);
         }
+    const SimSession smearing(Demo({{.kind = FaultKind::Smear, .after = 5}}));
+    EXPECT_EQ(Transfer("read", smearing, file, {"--only=settings"}).err,
+              "1 block needed more than one attempt\n");
     const Fault single{.kind = FaultKind::Garble};
     const SimSession receiver(
         Demo({single, {.kind = FaultKind::Garble, .after = 4}, {.kind = FaultKind::Garble, .after = 30}}));
