@@ -68,6 +68,10 @@ void CompareCommands::MakeWindow()
         compare_->SetTransferRunning(false);
         compare_->SetLastRead(transfers_.LastFullRead().has_value());
     });
+    // The bar of a transfer and its Cancel, at the bottom of the main window, stay in sight.
+    constexpr int kBarHeight = 120;
+    compare_->resize(compare_->size().boundedTo(QSize(compare_->width(), window_.height() - kBarHeight)));
+    compare_->move(window_.frameGeometry().topLeft());
 }
 
 void CompareCommands::mnuToolsCompare_Click()

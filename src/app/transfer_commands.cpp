@@ -1,18 +1,10 @@
 #include "app/transfer_commands.h"
 
-#include <QDir>
-
-#include "app/backup_list.h"
 #include "app/read_option_items.h"
-#include "app/write_options.h"
-#include "files/file_store.h"
-#include "files/rescue.h"
 #include "link/forwarding_observer.h"
 #include "link/line_notes.h"
 #include "link/memory_map.h"
-#include "link/range_check.h"
 #include "link/receiver_checks.h"
-#include "link/receiver_writer.h"
 #include "memory/bank_layout.h"
 #include "ui/error_prompt.h"
 #include "ui/row_list.h"
@@ -22,15 +14,6 @@ namespace {
 
 /// As many as fit into the status bar.
 constexpr std::size_t kNotedBlocks = 3;
-
-std::vector<std::string> LabelsOf(const std::vector<BlockDifference>& differences)
-{
-    std::vector<std::string> labels;
-    labels.reserve(differences.size());
-    for (const BlockDifference& difference : differences)
-        labels.push_back(difference.expected.label);
-    return labels;
-}
 
 }  // namespace
 
@@ -212,123 +195,10 @@ void TransferCommands::Stored()
         reading_->Announce();
 }
 
-TransferResult TransferCommands::Write(const TransferScope& scope)
-{
-    const WriteOptions options = LoadWriteOptions();
-    BeginWriting(scope, options.keepsBackup, options.verifies);
-    auto result = TransferResult::Done;
-    QStringList outside;
-    for (const std::string& row : RowsWrittenOutOfRange(Source(), scope))
-        outside << QString::fromStdString(row);
-    emit OutOfRange(outside);
-    if (options.keepsBackup)
-        result = KeepBackup(scope, options.backupFolder);
-    if (result == TransferResult::Done && !MayWriteToThisModel())
-        result = TransferResult::Cancelled;
-    if (result == TransferResult::Done)
-        result = WriteBlocks(scope, options.verifies);
-    if (result == TransferResult::Done && options.verifies)
-        result = Verify(ExpectedAfterWrite(Source(), scope));
-    NoteWritten(result, options.verifies);
-    return result;
-}
-
-TransferResult TransferCommands::KeepBackup(const TransferScope& scope, const QString& folder)
-{
-    QDir().mkpath(folder);  // where it cannot be made, what follows says why
-    const QString path = NewBackupPath(folder, scope, QDateTime::currentDateTime());
-    if (const auto problem = ReadingObstacle(path)) {
-        Message({problem->text, problem->details, NothingWritten()});
-        return TransferResult::Failed;
-    }
-    CloneImage backup;
-    BeginPart();
-    const TransferResult result = ReadBackup(Source(), scope, link_, *this, backup);
-    if (result == TransferResult::Cancelled)
-        notes_ << QString::fromStdString(NothingWritten());
-    if (result != TransferResult::Done)
-        return result;
-    return SaveBackup(path, backup) ? TransferResult::Done : TransferResult::Failed;
-}
-
-bool TransferCommands::SaveBackup(const QString& path, const CloneImage& backup)
-{
-    const auto problem = SaveCloneFile(path, backup).problem;
-    if (problem)
-        Message({problem->text, problem->details, Rescue(backup, path) + ' ' + NothingWritten()});
-    else if (const int deleted = DeleteBeyondLimit(path); deleted > 0)
-        notes_ << tr("Old backups deleted: %1.").arg(deleted);
-    return !problem;
-}
-
 void TransferCommands::BlockRead(int address, const MemoryBlock& block)
 {
     if (address == AreaOf(Area::Settings).address)
         receiver_.Read(block, link_.Port().Device());
-}
-
-/// Asks before the first write to a receiver that has told to be another model.
-bool TransferCommands::MayWriteToThisModel()
-{
-    const int wanted = Source().Settings().model;
-    const int known = receiver_.Model(link_.Port().Device()).value_or(wanted);
-    const std::pair models(known, wanted);
-    if (known == wanted || models == agreed_)
-        return true;
-    const bool isMeant = Ask({.title = tr("Write"),
-                              .text = tr("The receiver is another model. Write to it all the same?"),
-                              .details = QString::fromStdString(OtherModelText(known, wanted)),
-                              .icon = QMessageBox::Warning,
-                              .buttons = QMessageBox::Yes | QMessageBox::No,
-                              .defaultButton = QMessageBox::No}) == QMessageBox::Yes;
-    if (isMeant)
-        agreed_ = models;
-    else
-        notes_ << tr("Nothing was written.");
-    return isMeant;
-}
-
-TransferResult TransferCommands::WriteBlocks(const TransferScope& scope, bool isVerified)
-{
-    BeginPart();
-    ReceiverWriter writer(Source(), scope, link_, *this);
-    const TransferResult result = writer.Write();
-    if (other_)
-        other_ = writer.Written();
-    else
-        document_.Absorb([&writer](CloneImage& image) { image = writer.Written(); });
-    if (const int flags = writer.OtherFlags(); flags > 0)
-        notes_ << tr("Enable flags of other rows replaced by the receiver's: %1.").arg(flags);
-    TellWritten(writer.Plan(), writer.Written(), result);
-    if (!writer.IsInDoubt() || isVerified)
-        return result;
-    Message(DoubtfulWrite());
-    return TransferResult::Failed;
-}
-
-void TransferCommands::TellWritten(const WritePlan& plan, const CloneImage& image, TransferResult result)
-{
-    if (plan.MayHaveSent(AreaOf(Area::Settings).address))
-        receiver_.Written(image.Settings().model, link_.Port().Device());
-    if (result == TransferResult::Cancelled && plan.HasBegun())
-        Warn({.title = tr("Write"),
-              .text = tr("The write was cancelled."),
-              .details = QString::fromStdString(plan.Summary())});
-}
-
-TransferResult TransferCommands::Verify(const std::vector<ExpectedBlock>& expected)
-{
-    std::vector<BlockDifference> differences;
-    BeginPart();
-    AftermathObserver observer(*this, NotVerified());
-    const TransferResult result = ReadBack(expected, link_, observer, differences);
-    if (result == TransferResult::Cancelled)
-        notes_ << QString::fromStdString(NotVerified());
-    if (!differences.empty())
-        WarnOfBlocks(tr("Verify"), tr("The receiver does not hold what was written. Write again."),
-                     LabelsOf(differences));
-    isVerified_ = result == TransferResult::Done && differences.empty();
-    return result;
 }
 
 void TransferCommands::Cancel()

@@ -143,6 +143,15 @@ TransferResult BackReader::Read(int address, MemoryBlock& read)
 
 }  // namespace
 
+std::vector<std::string> LabelsOf(const std::vector<BlockDifference>& differences)
+{
+    std::vector<std::string> labels;
+    labels.reserve(differences.size());
+    for (const BlockDifference& difference : differences)
+        labels.push_back(difference.expected.label);
+    return labels;
+}
+
 TransferResult ReadBack(const std::vector<ExpectedBlock>& expected, RadioLink& link,
                         TransferObserver& observer, std::vector<BlockDifference>& differences)
 {

@@ -16,6 +16,9 @@ struct BlockDifference
     MemoryBlock read;
 };
 
+/// What the blocks are that differ, one text each.
+std::vector<std::string> LabelsOf(const std::vector<BlockDifference>& differences);
+
 /// Reads blocks back and keeps those that do not agree. Changes no image.
 TransferResult ReadBack(const std::vector<ExpectedBlock>& expected, RadioLink& link,
                         TransferObserver& observer, std::vector<BlockDifference>& differences);
