@@ -58,7 +58,7 @@ Channel DefaultVfoRow(int region, int row)
     channel.frequency = Hertz(from.frequency);
     channel.shiftFrequency = static_cast<std::int32_t>(Hertz(from.shift));
     channel.mode = from.mode;
-    channel.step = from.step[RegionOf(region).defaultSteps];
+    channel.step = from.step.at(static_cast<std::size_t>(RegionOf(region).defaultSteps));
     channel.secret = kSecretCode;
     channel.carrier = kCarrierJr;
     channel.tone = kToneCode;
