@@ -15,9 +15,14 @@ constexpr char kExpected[] =
     "it is all, bank:3, bank:2/5-9, memory:0-199, program-scan, search-pass, priority, vfo, settings, banks, "
     "or a condition such as mode=AM, freq:118..137 or note~airport";
 
+/// What somebody typed, not longer than a message can be read with.
 std::string Quoted(std::string_view text)
 {
-    return '"' + std::string(text) + '"';
+    constexpr std::size_t kMost = 60;
+    std::size_t end = std::min(text.size(), kMost);
+    while (end > 0 && end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80)
+        --end;
+    return '"' + std::string(text.substr(0, end)) + (end < text.size() ? "...\"" : "\"");
 }
 
 std::optional<int> ReadIndex(std::string_view text)

@@ -55,7 +55,8 @@ class CommandRun
         const char* message = operation_.writes ? fault.writeMessage : fault.readMessage;
         EXPECT_EQ(run.status, message == nullptr ? 0 : 1);
         if (message == nullptr) {
-            EXPECT_EQ(run.err, "");
+            // A busy machine may let a reply wait for too long, which is told.
+            EXPECT_TRUE(run.err.empty() || Has(run.err, "needed more than one attempt\n")) << run.err;
             return;
         }
         EXPECT_TRUE(IsRaw() ||
