@@ -13,6 +13,7 @@ inline std::vector<std::string> TextsOf(const Channel& row, RowKind kind = RowKi
                                         int region = kNoRegion)
 {
     std::vector<std::string> texts;
+    texts.reserve(kColumns.size());
     for (const Column column : kColumns)
         texts.push_back(CellText(row, kind, region, column));
     return texts;
