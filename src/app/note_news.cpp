@@ -27,8 +27,7 @@ void NoteNews::Tell(const std::vector<int>& rows)
 {
     rows_.insert(rows_.end(), rows.begin(), rows.end());
     std::ranges::sort(rows_);
-    const auto repeated = std::ranges::unique(rows_);
-    rows_.erase(repeated.begin(), repeated.end());
+    rows_.erase(std::unique(rows_.begin(), rows_.end()), rows_.end());
     Look();
 }
 

@@ -64,8 +64,7 @@ std::vector<int> ChannelTable::SelectedTableRows() const
         for (int row = range.top(); row <= range.bottom(); ++row)
             rows.push_back(row + 1);
     std::ranges::sort(rows);
-    const auto repeated = std::ranges::unique(rows);
-    rows.erase(repeated.begin(), repeated.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
     return rows;
 }
 
