@@ -6,6 +6,7 @@
 #include <QStandardPaths>
 
 #include "memory/bank_layout.h"
+#include "ui/settings_store.h"
 
 namespace rqm5 {
 namespace {
@@ -14,11 +15,6 @@ const QString kBackup = QStringLiteral("Write/Backup");
 const QString kVerify = QStringLiteral("Write/Verify");
 const QString kOffered = QStringLiteral("Write/Offered");
 const QString kFolder = QStringLiteral("Write/BackupFolder");
-
-QSettings Store()
-{
-    return QSettings(QStringLiteral("Tervan"), QStringLiteral("Tervan RQ-M5 Clone Utility"));
-}
 
 QString UsualFolder()
 {
@@ -39,7 +35,7 @@ QString NameOfScope(const TransferScope& scope)
 
 WriteOptions LoadWriteOptions()
 {
-    const QSettings store = Store();
+    const QSettings store = SettingsStore();
     const QString folder = store.value(kFolder).toString();
     return {store.value(kBackup, false).toBool(), store.value(kVerify, false).toBool(),
             folder.isEmpty() ? UsualFolder() : folder};
@@ -47,7 +43,7 @@ WriteOptions LoadWriteOptions()
 
 void SaveWriteOptions(const WriteOptions& options)
 {
-    QSettings store = Store();
+    QSettings store = SettingsStore();
     store.setValue(kBackup, options.keepsBackup);
     store.setValue(kVerify, options.verifies);
     store.setValue(kFolder, options.backupFolder);
@@ -55,7 +51,7 @@ void SaveWriteOptions(const WriteOptions& options)
 
 bool TakeWriteOffer()
 {
-    QSettings store = Store();
+    QSettings store = SettingsStore();
     if (store.contains(kBackup) || store.contains(kVerify) || store.contains(kOffered))
         return false;
     store.setValue(kOffered, true);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "image/image_change.h"
 #include "link/line_notes.h"
 #include "memory/bank_layout.h"
 
@@ -124,11 +125,11 @@ void ReceiverWriter::MergeFlags()
     const RowRange rows = TransferRows(image_, scope_.selector);
     CloneImage held = image_;
     AreaOf(Area::Flags).decode(held, 0, read_);
-    for (int row = 0; row < kMemoryRows; ++row)
-        if (!rows.Contains(row)) {
+    for (const auto& flag : Difference(image_, held).MemEnable)
+        if (!rows.Contains(flag.index)) {
             // Rows behind those of the receiver have flags, too, which nobody can see.
-            otherFlags_ += row < kRadioRows && image_.MemEnable(row) != held.MemEnable(row) ? 1 : 0;
-            image_.MemData(row).enabled = held.MemEnable(row);
+            otherFlags_ += flag.index < kRadioRows ? 1 : 0;
+            image_.MemData(flag.index).enabled = flag.after;
         }
 }
 
