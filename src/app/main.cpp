@@ -1,7 +1,5 @@
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QLocale>
-#include <QTranslator>
 #include <algorithm>
 #include <initializer_list>
 #include <string_view>
@@ -9,10 +7,12 @@
 #include "app/command_file.h"
 #include "app/desktop_link.h"
 #include "app/ending.h"
+#include "app/language_menu.h"
 #include "app/recovery.h"
 #include "app/start_up.h"
 #include "files/file_store.h"
 #include "files/plain_settings.h"
+#include "language/language.h"
 #include "link/knowledge_file.h"
 #include "link/port_file.h"
 #include "link/qt_serial_port.h"
@@ -22,14 +22,12 @@
 namespace {
 
 /// Sets the names and the language, which texts at the terminal have, too.
-void Introduce(const QCoreApplication& application, QTranslator& translator)
+void Introduce()
 {
     QCoreApplication::setOrganizationName(QStringLiteral("Tervan"));
     QCoreApplication::setApplicationName(QStringLiteral("Tervan RQ-M5 Clone Utility"));
     QCoreApplication::setApplicationVersion(QStringLiteral(RQM5_VERSION));
-    if (translator.load(QLocale(), QStringLiteral("rq-m5-clone"), QStringLiteral("_"),
-                        application.applicationDirPath() + QStringLiteral("/translations")))
-        QCoreApplication::installTranslator(&translator);
+    rqm5::Language::OfProgram().Use(rqm5::ChosenLanguage());
 }
 
 void Describe(QCommandLineParser& parser)
@@ -58,8 +56,7 @@ void AnswerAtTheTerminal(int argc, char** argv)
     if (!wantsVersion && !Asks(argc, argv, {"-h", "-?", "--help"}))
         return;
     const QCoreApplication application(argc, argv);
-    QTranslator translator;
-    Introduce(application, translator);
+    Introduce();
     QCommandLineParser parser;
     Describe(parser);
     if (wantsVersion)
@@ -83,8 +80,7 @@ int main(int argc, char** argv)
     rqm5::PassOverSettingsThatAreNoFiles();
     AnswerAtTheTerminal(argc, argv);
     QApplication application(argc, argv);
-    QTranslator translator;
-    Introduce(application, translator);
+    Introduce();
     QApplication::setDesktopFileName(QStringLiteral("rq-m5-clone"));
     QApplication::setWindowIcon(rqm5::ProgramIcon());
 

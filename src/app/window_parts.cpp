@@ -14,6 +14,7 @@
 #include "app/find_commands.h"
 #include "app/history_commands.h"
 #include "app/import_commands.h"
+#include "app/language_menu.h"
 #include "app/menus.h"
 #include "app/note_news.h"
 #include "app/offers.h"
@@ -42,6 +43,7 @@ void MakeFrame(Document& document, Dialogs& dialogs, QMainWindow& window, Window
     parts.menus = new Menus(*window.menuBar());
     parts.toolBar = new ToolBar(*parts.menus, &window);
     window.addToolBar(parts.toolBar);
+    new LanguageMenu(parts.menus->Menu("mnuView"), &window);
     parts.statusBar = new StatusBar(&window);
     window.setStatusBar(parts.statusBar);
 

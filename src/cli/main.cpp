@@ -1,3 +1,5 @@
+#include <QCoreApplication>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -5,11 +7,18 @@
 #include "cli/streams.h"
 #include "files/file_store.h"
 #include "files/plain_settings.h"
+#include "language/language.h"
 
 int main(int argc, char* argv[])
 {
     rqm5::TurnFileSizeLimitIntoError();
     rqm5::PassOverSettingsThatAreNoFiles();
+    // Translations need an application, and English need not pay for one.
+    std::optional<QCoreApplication> application;
+    if (const QString language = rqm5::SystemLanguage(); language != QLatin1String("en")) {
+        application.emplace(argc, argv);
+        rqm5::Language::OfProgram().Use(language);
+    }
     const std::vector<std::string> words(argv + (argc > 0 ? 1 : 0), argv + argc);
     rqm5::Console console = rqm5::StandardConsole();
     return rqm5::Finish(rqm5::RunProgram(words, console), console);

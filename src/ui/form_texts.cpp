@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QTabBar>
 #include <QVariant>
@@ -28,15 +29,17 @@ std::optional<QString> Lookup(const QObject* object, const QString& text)
     return std::nullopt;
 }
 
-/// What a text is to become. The tag keeps the designed text for as long as a translation stands in for it.
+/// What a text is to become. The tag keeps the designed text and what stands in for it, so that a text which
+/// the program has changed since is taken as it is now.
 QString NewText(QObject& object, const QByteArray& tag, const QString& current)
 {
-    const QVariant designed = object.property(tag.constData());
-    const QString source = designed.isValid() ? designed.toString() : current;
+    const QStringList kept = object.property(tag.constData()).toStringList();
+    const bool isShown = kept.size() == 2 && kept.last() == current;
+    const QString source = isShown ? kept.first() : current;
     if (source.isEmpty())
         return current;
     if (const std::optional<QString> found = Lookup(&object, source)) {
-        object.setProperty(tag.constData(), source);
+        object.setProperty(tag.constData(), QStringList{source, *found});
         return *found;
     }
     object.setProperty(tag.constData(), QVariant());
@@ -75,12 +78,15 @@ void SetWidgetTexts(QWidget& widget)
     SetText<QWidget>(widget, "tagToolTip", &QWidget::toolTip, &QWidget::setToolTip);
     SetText<QWidget>(widget, "tagStatusTip", &QWidget::statusTip, &QWidget::setStatusTip);
     SetText<QWidget>(widget, "tagName", &QWidget::accessibleName, &QWidget::setAccessibleName);
+    SetText<QWidget>(widget, "tagTitle", &QWidget::windowTitle, &QWidget::setWindowTitle);
     if (auto* label = qobject_cast<QLabel*>(&widget))
         SetText<QLabel>(*label, "tag", &QLabel::text, &QLabel::setText);
     else if (auto* button = qobject_cast<QAbstractButton*>(&widget))
         SetText<QAbstractButton>(*button, "tag", &QAbstractButton::text, &QAbstractButton::setText);
     else if (auto* group = qobject_cast<QGroupBox*>(&widget))
         SetText<QGroupBox>(*group, "tag", &QGroupBox::title, &QGroupBox::setTitle);
+    else if (auto* line = qobject_cast<QLineEdit*>(&widget))
+        SetText<QLineEdit>(*line, "tag", &QLineEdit::placeholderText, &QLineEdit::setPlaceholderText);
     else if (auto* tabs = qobject_cast<QTabBar*>(&widget))
         SetTabTexts(*tabs);
 }
@@ -89,7 +95,7 @@ void SetWidgetTexts(QWidget& widget)
 
 void SetFormTexts(QWidget& form)
 {
-    SetText<QWidget>(form, "tag", &QWidget::windowTitle, &QWidget::setWindowTitle);
+    SetWidgetTexts(form);
     // Menus are titled by an action of their own, which is among the children too.
     for (QAction* action : form.findChildren<QAction*>())
         SetActionTexts(*action);

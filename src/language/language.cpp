@@ -1,0 +1,90 @@
+#include "language/language.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QPointer>
+#include <algorithm>
+
+namespace rqm5 {
+namespace {
+
+constexpr char kEnglish[] = "en";
+
+/// What the environment says of the language of texts, in the order in which the system looks.
+QByteArray EnvironmentLocale()
+{
+    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"})
+        if (const QByteArray value = qgetenv(name); !value.isEmpty())
+            return value;
+    return {};
+}
+
+bool IsPlainLocale(const QByteArray& name)
+{
+    return name == "C" || name == "POSIX" || name.startsWith("C.");
+}
+
+bool IsKnown(const QString& code)
+{
+    return std::ranges::any_of(Languages(),
+                               [&](const LanguageName& known) { return QLatin1String(known.code) == code; });
+}
+
+}  // namespace
+
+const QList<LanguageName>& Languages()
+{
+    static const QList<LanguageName> languages = {
+        {kEnglish, "English"}, {"ja", "日本語"}, {"de", "Deutsch"}, {"fr", "Français"}, {"es", "Español"}};
+    return languages;
+}
+
+QString SystemLanguage()
+{
+    if (IsPlainLocale(EnvironmentLocale()))
+        return QLatin1String(kEnglish);
+    for (const QString& name : QLocale::system().uiLanguages())
+        if (const QString code = name.section(QLatin1Char('-'), 0, 0); IsKnown(code))
+            return code;
+    return QLatin1String(kEnglish);
+}
+
+Language::Language(QObject* parent) : QTranslator(parent), code_(QLatin1String(kEnglish)) {}
+
+Language& Language::OfProgram()
+{
+    // Belongs to the application: tests make more than one.
+    static QPointer<Language> language;
+    if (!language) {
+        language = new Language(QCoreApplication::instance());
+        QCoreApplication::installTranslator(language);
+    }
+    return *language;
+}
+
+void Language::Use(const QString& code)
+{
+    const QString wanted = code.isEmpty() || !IsKnown(code) ? SystemLanguage() : code;
+    if (wanted == code_)
+        return;
+    code_ = wanted;
+    // Without a file that loads, a translator is empty: the texts are English then.
+    [[maybe_unused]] const bool isOwnThere =
+        own_.load(QStringLiteral(":/translations/rq-m5_%1.qm").arg(wanted));
+    [[maybe_unused]] const bool isToolkitThere = toolkit_.load(
+        QStringLiteral("qtbase_%1.qm").arg(wanted), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    emit Changed();
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(QCoreApplication::instance(), &change);
+}
+
+QString Language::translate(const char* context, const char* source, const char* disambiguation,
+                            int count) const
+{
+    const QString own = own_.translate(context, source, disambiguation, count);
+    return own.isNull() ? toolkit_.translate(context, source, disambiguation, count) : own;
+}
+
+}  // namespace rqm5

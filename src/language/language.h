@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QTranslator>
+
+namespace rqm5 {
+
+struct LanguageName
+{
+    const char* code;  ///< ISO 639-1
+    const char* name;  ///< in the language itself, so that whoever reads no other finds it
+};
+
+/// English, whose texts are the sources, and every language that they are translated to.
+const QList<LanguageName>& Languages();
+
+/// The first of the user's languages that there is a translation to; English for the locales C and POSIX.
+QString SystemLanguage();
+
+/// The language that the program speaks: its own translations, and Qt's for buttons and system dialogs.
+class Language : public QTranslator
+{
+    Q_OBJECT
+
+  public:
+    /// The one of the running application, which it is installed in. Needs an application.
+    static Language& OfProgram();
+
+    /// Says everything in this language from now on, and tells every window so.
+    /// \param code  of Languages(); empty for the system's
+    void Use(const QString& code);
+
+    /// What is spoken: a code of Languages().
+    QString Code() const { return code_; }
+
+    bool isEmpty() const override { return false; }
+    QString translate(const char* context, const char* source, const char* disambiguation,
+                      int count) const override;
+
+  signals:
+    void Changed();  ///< for what is no widget; widgets get an event
+
+  private:
+    explicit Language(QObject* parent);
+
+    QString code_;
+    QTranslator own_;
+    QTranslator toolkit_;
+};
+
+}  // namespace rqm5
