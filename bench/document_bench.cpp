@@ -62,8 +62,7 @@ void EditAndShow(benchmark::State& state)
     window.show();
     bool isOn = false;
     for (auto step : state) {
-        document.Edit(QStringLiteral("Enable"),
-                      [isOn](CloneImage& image) { image.MemData(605).enabled = isOn; });
+        document.Edit("Enable", [isOn](CloneImage& image) { image.MemData(605).enabled = isOn; });
         isOn = !isOn;
         QCoreApplication::processEvents();
     }
@@ -73,7 +72,7 @@ BENCHMARK(EditAndShow)->Unit(benchmark::kMillisecond);
 void UndoARead(benchmark::State& state)
 {
     Document document(FullImage());
-    document.Edit(QStringLiteral("Read ALL"), [](CloneImage& image) { Fill(image, 430, "another"); });
+    document.Edit("Read ALL", [](CloneImage& image) { Fill(image, 430, "another"); });
     for (auto step : state) {
         document.History().undo();
         document.History().redo();
@@ -172,19 +171,19 @@ void PrintMemory()
     Document document(FullImage());
     std::size_t before = MemoryInUse();
     for (int i = 0; i < Document::kMostSteps; ++i)
-        document.Edit(QStringLiteral("Modify (Bank 0 CH 5)"), [i](CloneImage& image) {
+        document.Edit("Modify (Bank 0 CH 5)", [i](CloneImage& image) {
             image.MemData(i).frequency += 12500;
             image.MemData(i).note += " changed";
         });
     std::printf("history of 500 single edits: %zu KB\n", (MemoryInUse() - before) / 1024);
     document.Replace(FullImage(), QString());
     before = MemoryInUse();
-    document.Edit(QStringLiteral("Read ALL"), [](CloneImage& image) { Fill(image, 430, "another note"); });
+    document.Edit("Read ALL", [](CloneImage& image) { Fill(image, 430, "another note"); });
     std::printf("a read that changes all 1210 rows, notes and flags: %zu KB\n",
                 (MemoryInUse() - before) / 1024);
     const int steps = document.History().count();
     {
-        Transaction read(document, QStringLiteral("Read ALL"));
+        Transaction read(document, "Read ALL");
         read.MarkChanged();
     }
     std::printf("steps of a read that changes nothing: %d\n", document.History().count() - steps);

@@ -5,6 +5,7 @@
 
 #include "app/write_options.h"
 #include "files/file_store.h"
+#include "language/translated.h"
 #include "ui/error_prompt.h"
 #include "ui/plain_text.h"
 
@@ -57,9 +58,10 @@ void BackupCommands::Compare(const BackupFile& backup)
     if (!Load(backup, image))
         return;
     const TransferScope scope = ScopeHeld(backup, image);
-    const QString time = QLocale().toString(backup.time, QLocale::ShortFormat);
-    compare_.CompareWith({tr("the backup of %1").arg(time),
-                          tr("Other side: backup of %1, which holds: %2").arg(time, ScopeText(scope)), image,
+    const Message time = QLocale().toString(backup.time, QLocale::ShortFormat).toStdString();
+    compare_.CompareWith({{MESSAGE("the backup of %1"), {time}},
+                          {MESSAGE("Other side: backup of %1, which holds: %2"), {time, ScopeText(scope)}},
+                          image,
                           PartsHeld(scope, image)});
 }
 
@@ -74,7 +76,8 @@ void BackupCommands::WriteBack(const BackupFile& backup)
                      {.title = tr("Write"),
                       .text = tr("Write this backup to the receiver?"),
                       .details = tr("%1\nIt replaces in the receiver: %2. The open image stays as it is.")
-                                     .arg(VisibleText(QFileInfo(backup.path).fileName()), ScopeText(scope)),
+                                     .arg(VisibleText(QFileInfo(backup.path).fileName()),
+                                          Translated(ScopeText(scope))),
                       .icon = QMessageBox::Question,
                       .buttons = QMessageBox::Yes | QMessageBox::No,
                       .defaultButton = QMessageBox::No}) == QMessageBox::Yes;

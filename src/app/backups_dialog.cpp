@@ -8,6 +8,7 @@
 #include <QScreen>
 
 #include "files/file_store.h"
+#include "language/translated.h"
 #include "memory/bank_layout.h"
 #include "settings/setting_texts.h"
 #include "ui/elided_label.h"
@@ -55,14 +56,13 @@ QString DifferencesText(const DifferenceCounts& counts)
 
 }  // namespace
 
-QString ScopeText(const TransferScope& scope)
+Message ScopeText(const TransferScope& scope)
 {
     if (scope.settings)
-        return scope.memory ? dlgBackups::tr("Everything") : dlgBackups::tr("Settings and VFO bands");
+        return scope.memory ? MESSAGE("Everything") : MESSAGE("Settings and VFO bands");
     if (!scope.memory)
-        return dlgBackups::tr("Bank sizes and links");
-    return scope.selector == kSelectAll ? dlgBackups::tr("All channels")
-                                        : QString::fromStdString(SelectorText(scope.selector));
+        return MESSAGE("Bank sizes and links");
+    return scope.selector == kSelectAll ? Message(MESSAGE("All channels")) : SelectorText(scope.selector);
 }
 
 dlgBackups::dlgBackups(const CloneImage& open, const QString& folder, Dialogs& dialogs, QWidget* parent)
@@ -121,7 +121,7 @@ QWidget* dlgBackups::BuildLimit()
         box->setChecked(value > 0);
         number = new QSpinBox(part);
         number->setObjectName(QStringLiteral("spnBackup") + QLatin1String(name));
-        number->setAccessibleName(QString(caption).remove(QLatin1Char('&')));
+        number->setAccessibleName(WithoutMnemonic(caption));
         number->setRange(1, most);
         number->setSuffix(unit);
         number->setValue(value > 0 ? value : usual);
@@ -183,7 +183,7 @@ void dlgBackups::ListBackups()
     for (std::size_t i = 0; i < backups_.size(); ++i) {
         auto* item = new QTreeWidgetItem(lstBackups_);
         item->setText(kTime, QLocale().toString(backups_[i].time, QLocale::ShortFormat));
-        item->setText(kHolds, ScopeText(backups_[i].scope));
+        item->setText(kHolds, Translated(ScopeText(backups_[i].scope)));
         item->setToolTip(kTime, PlainToolTip(VisibleText(backups_[i].path)));
         item->setTextAlignment(kRows, Qt::AlignRight | Qt::AlignVCenter);
         item->setData(kTime, kIndexRole, static_cast<int>(i));
@@ -207,16 +207,16 @@ void dlgBackups::ShowBackup(QTreeWidgetItem& item, const BackupFile& backup)
 {
     CloneImage image = open_;
     if (const auto problem = LoadCloneFile(backup.path, image)) {
-        item.setText(kDiffers, tr("cannot be read: %1").arg(QString::fromStdString(problem->details)));
+        item.setText(kDiffers, tr("cannot be read: %1").arg(Translated(problem->details)));
         item.setToolTip(kDiffers, PlainToolTip(item.text(kDiffers)));
         return;
     }
     const TransferScope scope = ScopeHeld(backup, image);
     const ComparedParts parts = PartsHeld(scope, image);
-    item.setText(kHolds, ScopeText(scope));
+    item.setText(kHolds, Translated(ScopeText(scope)));
     // A backup of channels or banks alone does not know whose they are.
-    item.setText(kModel, scope.settings ? QString::fromStdString(SettingText(
-                                              image.Settings(), SettingIndex(&ReceiverSettings::model)))
+    item.setText(kModel, scope.settings ? Translated(SettingText(image.Settings(),
+                                                                 SettingIndex(&ReceiverSettings::model)))
                                         : QStringLiteral("-"));
     item.setText(kRows, scope.memory ? QString::number(ChannelsIn(image, parts.rows)) : QStringLiteral("-"));
     item.setText(kDiffers, DifferencesText(CountDifferences(rqm5::Compare(open_, image, parts))));

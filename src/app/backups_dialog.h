@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "app/backup_list.h"
+#include "language/message.h"
 #include "ui/dialogs.h"
 
 namespace rqm5 {
@@ -63,6 +64,6 @@ class dlgBackups : public QDialog
 };
 
 /// What a scope is called: "Everything", "Settings and VFO bands", "Bank 3".
-QString ScopeText(const TransferScope& scope);
+Message ScopeText(const TransferScope& scope);
 
 }  // namespace rqm5

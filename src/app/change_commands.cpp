@@ -6,6 +6,7 @@
 #include "app/write_changes_dialog.h"
 #include "app/write_options.h"
 #include "files/file_store.h"
+#include "language/translated.h"
 #include "link/change_writer.h"
 #include "link/forwarding_observer.h"
 #include "link/line_notes.h"
@@ -77,7 +78,7 @@ bool ChangeCommands::MayRead(std::size_t blocks)
     return blocks <= kFewBlocks ||
            dialogs_.Ask(&window_, {.title = tr("Write Changes"),
                                    .text = tr("What the receiver holds must be read first."),
-                                   .details = QString::fromStdString(UnknownNote(blocks)) + QLatin1Char('.'),
+                                   .details = Translated(UnknownNote(blocks)) + QLatin1Char('.'),
                                    .icon = QMessageBox::Question,
                                    .buttons = QMessageBox::Ok | QMessageBox::Cancel,
                                    .defaultButton = QMessageBox::Ok,
@@ -94,7 +95,7 @@ TransferResult ChangeCommands::Run(ChangePlan& plan, bool keepsBackup, bool veri
     if (result == Done && keepsBackup && isWritten)
         result = KeepBackup(plan);
     if ((result == Cancelled || !isWritten) && !transfers_.HasNote())
-        transfers_.AddNote(QString::fromStdString(NothingChanged()));
+        transfers_.AddNote(Translated(NothingChanged()));
     if (result != Done)
         return result;
     before.Forget();
@@ -135,10 +136,7 @@ TransferResult ChangeCommands::KeepBackup(const ChangePlan& plan)
 
 TransferResult ChangeCommands::Write(const ChangePlan& plan, bool verifies)
 {
-    QStringList outside;
-    for (const std::string& row : RowsWrittenOutOfRange(document_.Image(), plan.Wanted()))
-        outside << QString::fromStdString(row);
-    emit transfers_.OutOfRange(outside);
+    emit transfers_.OutOfRange(RowsWrittenOutOfRange(document_.Image(), plan.Wanted()));
     transfers_.BeginPart();
     ChangeWriter writer(document_.Image(), plan, link_, transfers_.Observer());
     TransferResult result = writer.Write();
@@ -170,7 +168,7 @@ void ChangeCommands::TakeOver(const ChangePlan& plan)
     if (flags > 0)
         transfers_.AddNote(tr("Enable flags of other rows replaced by the receiver's: %1.").arg(flags));
     if (document_.Image() != result)
-        document_.Edit(tr("Take what was changed at the receiver"),
+        document_.Edit(MESSAGE("Take what was changed at the receiver"),
                        [&result](CloneImage& image) { image = result; });
 }
 

@@ -11,9 +11,9 @@
 namespace rqm5 {
 namespace {
 
-QString ShortTime(const QDateTime& time)
+std::string ShortTime(const QDateTime& time)
 {
-    return QLocale().toString(time, QLocale::ShortFormat);
+    return QLocale().toString(time, QLocale::ShortFormat).toStdString();
 }
 
 /// A change of nothing but one place, for going there.
@@ -99,10 +99,11 @@ void CompareCommands::CompareWithFile()
         return;
     }
     const QFileInfo file(path);
-    CompareWith({VisibleText(file.fileName()),
-                 tr("Other side: the file %1, saved %2")
-                     .arg(VisibleText(file.fileName()), ShortTime(file.lastModified())),
-                 std::move(image), ComparedParts()});
+    const std::string name = VisibleText(file.fileName()).toStdString();
+    CompareWith({name,
+                 {MESSAGE("Other side: the file %1, saved %2"), {name, ShortTime(file.lastModified())}},
+                 std::move(image),
+                 ComparedParts()});
 }
 
 void CompareCommands::CompareWithLastRead()
@@ -111,12 +112,12 @@ void CompareCommands::CompareWithLastRead()
     const auto last = transfers_.LastFullRead();
     if (!last)
         return compare_->SetLastRead(false);
-    const QString time = ShortTime(last->time);
-    const QString title = last->isOfParts
-                              ? tr("Other side: the receiver as it was read or written since %1, %2")
-                                    .arg(time, AgeText(last->time, QDateTime::currentDateTime()))
-                              : tr("Other side: the receiver as it was read at %1").arg(time);
-    CompareWith({tr("the last read"), title, last->image, kReceiverParts});
+    const std::string time = ShortTime(last->time);
+    const Message title =
+        last->isOfParts ? Message(MESSAGE("Other side: the receiver as it was read or written since %1, %2"),
+                                  {time, AgeText(last->time, QDateTime::currentDateTime())})
+                        : Message(MESSAGE("Other side: the receiver as it was read at %1"), {time});
+    CompareWith({MESSAGE("the last read"), title, last->image, kReceiverParts});
 }
 
 void CompareCommands::CompareWithReceiver()
@@ -124,10 +125,11 @@ void CompareCommands::CompareWithReceiver()
     CloneImage image;
     if (transfers_.ReadBeside(image) != TransferResult::Done)
         return;
-    CompareWith(
-        {tr("the receiver"),
-         tr("Other side: the receiver, read just now (%1)").arg(ShortTime(transfers_.LastFullRead()->time)),
-         std::move(image), kReceiverParts});
+    CompareWith({MESSAGE("the receiver"),
+                 {MESSAGE("Other side: the receiver, read just now (%1)"),
+                  {ShortTime(transfers_.LastFullRead()->time)}},
+                 std::move(image),
+                 kReceiverParts});
 }
 
 void CompareCommands::GoTo(ItemId id)

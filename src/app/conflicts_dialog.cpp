@@ -7,15 +7,16 @@
 #include <algorithm>
 
 #include "image/display_text.h"
+#include "language/translated.h"
 
 namespace rqm5 {
 namespace {
 
 enum ConflictColumn { kWhat, kKnown, kNow, kHere, kDecision };
 
-QString Text(const std::string& text)
+QString Text(const Message& text)
 {
-    return QString::fromStdString(VisibleText(text));
+    return QString::fromStdString(VisibleText(Said(text)));
 }
 
 }  // namespace

@@ -32,7 +32,7 @@ constexpr std::size_t kNamedRows = 10;
 FileCommands::FileCommands(Document& document, CurrentFile& currentFile, Dialogs& dialogs, QWidget& window)
     : QObject(&window), document_(document), currentFile_(currentFile), dialogs_(dialogs), window_(window)
 {
-    connect(&document, &Document::Replaced, this, [this] { emit NotesLost(QString()); });
+    connect(&document, &Document::Replaced, this, [this] { emit NotesLost({}); });
 }
 
 QString FileCommands::Caption() const
@@ -212,7 +212,7 @@ void FileCommands::mnuFileRepair_Click()
         return;
     const auto result = RepairNotes(bytes);
     if (const auto* error = std::get_if<ParseError>(&result)) {
-        Report(Problem{kDataError, VisibleText(path).toStdString() + ": " + error->reason});
+        Report(Problem{kDataError, Message::List({VisibleText(path).toStdString(), error->reason}, ": ")});
         return;
     }
     const auto& repair = std::get<NoteRepair>(result);
@@ -256,7 +256,7 @@ bool FileCommands::Report(const std::optional<Problem>& problem)
     return !problem;
 }
 
-void FileCommands::WarnOfNotes(const QString& text, const std::vector<std::string>& rows)
+void FileCommands::WarnOfNotes(const QString& text, const std::vector<Message>& rows)
 {
     if (rows.empty())
         return;

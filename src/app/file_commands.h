@@ -58,13 +58,13 @@ class FileCommands : public QObject
     void Noted(const QString& text);
 
     /// The current file cannot bring back notes, or, with an empty text, it can again.
-    void NotesLost(const QString& text);
+    void NotesLost(const rqm5::Message& text);
 
   private:
     enum class Answer { Save, SaveAs, Cancel };
 
     bool Report(const std::optional<Problem>& problem);
-    void WarnOfNotes(const QString& text, const std::vector<std::string>& rows);
+    void WarnOfNotes(const QString& text, const std::vector<Message>& rows);
     Answer AskToReplace(const Prompt& question);
     Answer MayReplaceCurrent();
     bool SaveTo(const QString& path);

@@ -35,19 +35,20 @@ void FileNews::Tell(CurrentFile::State state)
     const FileMark mark = MarkOfFile(path) + '.';  // a removed file has one of its own, too
     if (mark == closedFor_)
         return;
-    const QString name = VisibleText(QFileInfo(path).fileName());
-    MessageBar::Message message{kKey, {}, {}};
+    const Message name = VisibleText(QFileInfo(path).fileName()).toStdString();
+    MessageBar::Notice notice{kKey, {}, {}};
     if (state == CurrentFile::State::Removed) {
-        message.text = tr("%1 was removed or renamed by another program. Save will ask first.").arg(name);
+        notice.text = {MESSAGE("%1 was removed or renamed by another program. Save will ask first."), {name}};
     } else if (document_.DataChanged()) {
-        message.text =
-            tr("%1 was changed by another program. You have unsaved changes; Save will ask first.").arg(name);
+        notice.text = {
+            MESSAGE("%1 was changed by another program. You have unsaved changes; Save will ask first."),
+            {name}};
     } else {
-        message.text = tr("%1 was changed by another program.").arg(name);
+        notice.text = {MESSAGE("%1 was changed by another program."), {name}};
         if (KindOf(path) == FileKind::Clone)
-            message.buttons = {{tr("&Load Again"), [this] { commands_.LoadAgain(); }}};
+            notice.buttons = {{MESSAGE("&Load Again"), [this] { commands_.LoadAgain(); }}};
     }
-    bar_.Show(std::move(message));
+    bar_.Show(std::move(notice));
 }
 
 void FileNews::Closed(const QString& key)

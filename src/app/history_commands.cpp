@@ -1,5 +1,7 @@
 #include "app/history_commands.h"
 
+#include "language/language.h"
+#include "ui/form_texts.h"
 #include "ui/history_key.h"
 #include "ui/icons.h"
 
@@ -13,18 +15,19 @@ HistoryCommands::HistoryCommands(Document& document, Menus& menus, QMainWindow& 
     connect(&history_, &QUndoStack::indexChanged, this, &HistoryCommands::ShowItems);
     // A run that goes on changes the name of the step and nothing else.
     connect(&document, &Document::StateChanged, this, &HistoryCommands::ShowItems);
-    ShowItems();
+    connect(&Language::OfProgram(), &Language::Changed, this, &HistoryCommands::ShowLanguage);
+    ShowLanguage();
 }
 
 void HistoryCommands::MakeView(QMainWindow& window)
 {
-    dckHistory_ = new QDockWidget(tr("History"), &window);
+    dckHistory_ = new QDockWidget(Designed(QT_TR_NOOP("History")), &window);
     dckHistory_->setObjectName(QStringLiteral("dckHistory"));
+    SetTextContext(*dckHistory_, "rqm5::HistoryCommands");
     auto* view = new QUndoView(&history_, dckHistory_);
     view->setObjectName(QStringLiteral("lstHistory"));
-    view->setAccessibleName(tr("Changes, the latest at the end"));
-    view->setStatusTip(tr("A click takes back or makes again every change down to there"));
-    view->setEmptyLabel(tr("Before these changes"));
+    view->setAccessibleName(Designed(QT_TR_NOOP("Changes, the latest at the end")));
+    view->setStatusTip(Designed(QT_TR_NOOP("A click takes back or makes again every change down to there")));
     view->setCleanIcon(IconOf("mnuFileSave"));
     // A window of its own would take a click without the box that is typed into noticing.
     dckHistory_->setFeatures(QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable);
@@ -34,6 +37,14 @@ void HistoryCommands::MakeView(QMainWindow& window)
     // The dock has a close button of its own.
     connect(dckHistory_->toggleViewAction(), &QAction::toggled, &menus_.Item("mnuViewHistory"),
             &QAction::setChecked);
+}
+
+void HistoryCommands::ShowLanguage()
+{
+    auto* view = static_cast<QUndoView*>(dckHistory_->widget());
+    view->setEmptyLabel(tr("Before these changes"));
+    view->viewport()->update();  // the document has said its steps anew
+    ShowItems();
 }
 
 void HistoryCommands::ShowItems()

@@ -17,9 +17,6 @@ class HistoryCommands : public QObject
   public:
     HistoryCommands(Document& document, Menus& menus, QMainWindow& window);
 
-    /// Undo and Redo say what they would do, in the language of now.
-    void ShowItems();
-
     void mnuViewHistory_Click(bool isWanted);
 
     /// Nothing is taken back while a transfer runs.
@@ -27,6 +24,8 @@ class HistoryCommands : public QObject
 
   private:
     void MakeView(QMainWindow& window);
+    void ShowLanguage();
+    void ShowItems();
 
     QUndoStack& history_;
     Menus& menus_;

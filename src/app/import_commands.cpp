@@ -8,6 +8,7 @@
 #include "files/file_store.h"
 #include "files/list_file.h"
 #include "files/list_form.h"
+#include "language/translated.h"
 #include "memory/import_dialog.h"
 #include "memory/list_export_dialog.h"
 #include "ui/error_prompt.h"
@@ -55,14 +56,14 @@ void ImportCommands::ImportOwn(const QString& path, std::string bytes, CsvNumber
     }
     const QString absolute = QFileInfo(path).absoluteFilePath();
     currentFile_.Know(absolute, MarkOf(bytes));
-    document_.Import(tr("Import (%1)").arg(NameOf(path)), image, absolute);
+    document_.Import({MESSAGE("Import (%1)"), {NameOf(path).toStdString()}}, image, absolute);
     last_ = {path, std::move(bytes), std::move(taken.findings), document_.History().index()};
-    const QString notes = ImportNote(NotesThatDoNotSurvive(image));
+    const Message notes = ImportNote(NotesThatDoNotSurvive(image));
+    const Message read(MESSAGE("Imported with %1."), {last_.findings.Summary()});
     if (!last_.findings.IsEmpty())
-        emit ReadOtherwise(tr("Imported with %1.").arg(QString::fromStdString(last_.findings.Summary())) +
-                           (notes.isEmpty() ? QString() : QLatin1Char(' ') + notes));
-    else if (!notes.isEmpty())
-        emit Noted(notes);
+        emit ReadOtherwise(notes.empty() ? read : Message::List({read, notes}, " "));
+    else if (!notes.empty())
+        emit Noted(Translated(notes));
 }
 
 void ImportCommands::ShowDetails()
@@ -85,10 +86,10 @@ void ImportCommands::ImportList(const QString& path, std::string bytes)
     if (dialogs_.Run(dialog) != QDialog::Accepted)
         return;
     const PastePlan& plan = dialog.Plan();
-    const QString summary = PlanSummary(document_.Image(), plan);
-    document_.Edit(tr("Import (%1)").arg(NameOf(path)),
+    const Message summary = PlanSummary(document_.Image(), plan);
+    document_.Edit({MESSAGE("Import (%1)"), {NameOf(path).toStdString()}},
                    [&plan](CloneImage& image) { ApplyPlan(plan, image); });
-    emit Noted(tr("Imported from %1. %2.").arg(NameOf(path), summary));
+    emit Noted(Translated({MESSAGE("Imported from %1. %2."), {NameOf(path).toStdString(), summary}}));
 }
 
 void ImportCommands::mnuFileExportList_Click()
@@ -128,17 +129,17 @@ void ConnectImportNotes(ImportCommands& commands, StatusBar& statusBar, MessageB
             StatusBar::tr("Nothing was imported: the file holds no record of this receiver and no list."));
     });
     QObject::connect(&commands, &ImportCommands::Noted, &statusBar, &StatusBar::ShowNote);
-    QObject::connect(
-        &commands, &ImportCommands::ReadOtherwise, &statusBar,
-        [&commands, &statusBar, &messageBar](const QString& text) {
-            if (statusBar.isHidden())
-                messageBar.Show({kKey, text, {{StatusBar::tr("&Details"), [&commands, &messageBar] {
-                                                   messageBar.Withdraw(kKey);
-                                                   commands.ShowDetails();
-                                               }}}});
-            else
-                statusBar.ShowNoteWithDetails(text, [&commands] { commands.ShowDetails(); });
-        });
+    QObject::connect(&commands, &ImportCommands::ReadOtherwise, &statusBar,
+                     [&commands, &statusBar, &messageBar](const Message& text) {
+                         if (statusBar.isHidden())
+                             messageBar.Show({kKey, text, {{MESSAGE("&Details"), [&commands, &messageBar] {
+                                                                messageBar.Withdraw(kKey);
+                                                                commands.ShowDetails();
+                                                            }}}});
+                         else
+                             statusBar.ShowNoteWithDetails(Translated(text),
+                                                           [&commands] { commands.ShowDetails(); });
+                     });
 }
 
 }  // namespace rqm5

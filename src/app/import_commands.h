@@ -33,7 +33,7 @@ class ImportCommands : public QObject
     void Noted(const QString& text);
 
     /// An import read fields otherwise than they stand there; ShowDetails lists them.
-    void ReadOtherwise(const QString& text);
+    void ReadOtherwise(const rqm5::Message& text);
 
   private:
     /// A file that was imported.

@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "language/translated.h"
 #include "ui/plain_text.h"
 
 namespace rqm5 {
@@ -22,7 +23,7 @@ dlgImportDetails::dlgImportDetails(const QString& fileName, const CsvFindings& f
 {
     setObjectName(QStringLiteral("dlgImportDetails"));
     setWindowTitle(tr("Import (%1)").arg(VisibleText(fileName)));
-    auto* summary = new QLabel(QString::fromStdString(findings.Summary()));
+    auto* summary = new QLabel(Translated(findings.Summary()));
     summary->setObjectName(QStringLiteral("lblDetailsSummary"));
     summary->setTextFormat(Qt::PlainText);
     auto* list = new QPlainTextEdit;
@@ -32,8 +33,8 @@ dlgImportDetails::dlgImportDetails(const QString& fileName, const CsvFindings& f
     list->setLineWrapMode(QPlainTextEdit::NoWrap);
     list->setTabChangesFocus(true);
     QString lines;
-    for (const std::string& line : findings.Lines())
-        lines += QString::fromStdString(line) + QLatin1Char('\n');
+    for (const Message& line : findings.Lines())
+        lines += Translated(line) + QLatin1Char('\n');
     list->setPlainText(lines.trimmed());
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);

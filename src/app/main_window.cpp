@@ -11,7 +11,6 @@
 #include "app/closing.h"
 #include "app/edit_commands.h"
 #include "app/file_commands.h"
-#include "app/history_commands.h"
 #include "app/import_commands.h"
 #include "app/menu_commands.h"
 #include "app/menus.h"
@@ -98,10 +97,11 @@ void frmMain::ConnectDocument()
             focus->setFocus();
     });
     connect(&parts_.pages->Memory(), &MemoryPage::Noted, parts_.statusBar, &StatusBar::ShowNote);
-    connect(parts_.recovery, &Recovery::Kept, parts_.warnings, [this](const QString& reason) {
+    connect(parts_.recovery, &Recovery::Kept, parts_.warnings, [this](const Message& reason) {
         parts_.warnings->Set(
             StandingWarnings::Kind::NotKept,
-            reason.isEmpty() ? QString() : tr("Unsaved changes cannot be kept for recovery: %1").arg(reason));
+            reason.empty() ? Message()
+                           : Message(MESSAGE("Unsaved changes cannot be kept for recovery: %1"), {reason}));
     });
 }
 
@@ -200,8 +200,9 @@ void frmMain::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange) {
         SetFormTexts(*this);
-        parts_.history->ShowItems();
+        parts_.pages->Tabs().ShowTip();
         ShowState();
+        parts_.statusBar->ShowHintOf(focusWidget());
     }
     QMainWindow::changeEvent(event);
 }

@@ -117,7 +117,7 @@ void MenuCommands::ConnectFiles()
             open);
     connect(parts_.files, &FileCommands::Noted, parts_.statusBar, &StatusBar::ShowNote);
     connect(parts_.files, &FileCommands::NotesLost, this,
-            [this](const QString& text) { parts_.warnings->Set(StandingWarnings::Kind::Notes, text); });
+            [this](const Message& text) { parts_.warnings->Set(StandingWarnings::Kind::Notes, text); });
     connect(parts_.files, &FileCommands::NewDone, this,
             [this] { parts_.pages->Memory().SelectGroup(kSelectAll); });
     ConnectImportNotes(*parts_.imports, *parts_.statusBar, *parts_.messageBar);
@@ -126,7 +126,7 @@ void MenuCommands::ConnectFiles()
 void MenuCommands::ConnectNews()
 {
     connect(parts_.transfers, &TransferCommands::OutOfRange, parts_.messageBar,
-            [this](const QStringList& rows) { TellOutOfRange(rows, *parts_.messageBar); });
+            [this](const std::vector<Message>& rows) { TellOutOfRange(rows, *parts_.messageBar); });
     parts_.sides->MarkDiagnostics(parts_.menus->Item("mnuViewDiagnostics"));
     connect(&parts_.pages->Memory(), &MemoryPage::HintChanged, parts_.statusBar, [this] {
         // What the keyboard has just gone to, wherever the pointer rests.

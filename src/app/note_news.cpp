@@ -40,11 +40,10 @@ void NoteNews::Look()
         bar_.Withdraw(kKey);
         return;
     }
-    const auto count = static_cast<qlonglong>(rows_.size());
-    const QString text = count == 1
-                             ? tr("A comma or quotes in a note will not survive a save.")
-                             : tr("Notes whose comma or quotes will not survive a save: %1").arg(count);
-    bar_.Show({kKey, text, {{tr("Use ; and '"), [this] { MakeSafe(); }}}});
+    const auto text = Counted(static_cast<int>(rows_.size()),
+                              MESSAGE("A comma or quotes in a note will not survive a save."),
+                              MESSAGE("Notes whose comma or quotes will not survive a save: %1"));
+    bar_.Show({kKey, text, {{MESSAGE("Use ; and '"), [this] { MakeSafe(); }}}});
 }
 
 void NoteNews::Forget()
@@ -55,7 +54,7 @@ void NoteNews::Forget()
 
 void NoteNews::MakeSafe()
 {
-    document_.Edit(tr("Use ; and ' in notes"), [rows = rows_](CloneImage& image) {
+    document_.Edit(MESSAGE("Use ; and ' in notes"), [rows = rows_](CloneImage& image) {
         for (const int row : rows)
             image.MemData(row).note = SafeNote(image.MemData(row).note);
     });

@@ -26,19 +26,19 @@ void Offers::ShowFirstLook()
     if (!document_.FileName().isEmpty() || document_.DataChanged())
         return;
     bar_.Show({kFirstLook,
-               tr("Connect the receiver and choose Read > ALL (Ctrl+R), or open a file."),
-               {{tr("Read ALL"), [this] { menus_.Item("mnuReAll").trigger(); }},
-                {tr("Open..."), [this] { menus_.Item("mnuFileOpen").trigger(); }}}});
+               MESSAGE("Connect the receiver and choose Read > ALL (Ctrl+R), or open a file."),
+               {{MESSAGE("Read ALL"), [this] { menus_.Item("mnuReAll").trigger(); }},
+                {MESSAGE("Open..."), [this] { menus_.Item("mnuFileOpen").trigger(); }}}});
 }
 
 void Offers::OfferWriteOptions()
 {
     if (!TakeWriteOffer())
         return;
-    bar_.Show({kWriteOptions, tr("Backup and verify are off."), {{tr("Turn Them On"), [this] {
-                                                                      options_.TurnOn();
-                                                                      bar_.Withdraw(kWriteOptions);
-                                                                  }}}});
+    bar_.Show({kWriteOptions, MESSAGE("Backup and verify are off."), {{MESSAGE("Turn Them On"), [this] {
+                                                                           options_.TurnOn();
+                                                                           bar_.Withdraw(kWriteOptions);
+                                                                       }}}});
 }
 
 }  // namespace rqm5

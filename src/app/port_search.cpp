@@ -1,6 +1,7 @@
 #include <QVBoxLayout>
 
 #include "app/port_dialog.h"
+#include "language/translated.h"
 #include "link/link_problems.h"
 #include "link/receiver_identity.h"
 
@@ -59,7 +60,7 @@ void dlgCOM::ShowOutcome(const ReceiverSearch::Outcome& outcome)
     if (!outcome.busy.isEmpty())
         texts << tr("In use by another program: %1.").arg(outcome.busy.join(QStringLiteral(", ")));
     if (!outcome.denied.isEmpty())
-        texts << PortRemedy(outcome.denied.constFirst(), PortFault::NoPermission);
+        texts << Translated(PortRemedy(outcome.denied.constFirst(), PortFault::NoPermission));
     if (texts.isEmpty())
         texts << tr("There is no port to ask. Plug the receiver's cable in.");
     lblFound_->setText(texts.join(QLatin1Char(' ')));

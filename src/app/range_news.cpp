@@ -1,27 +1,25 @@
 #include "app/range_news.h"
 
-#include <QCoreApplication>
-
-#include "memory/receiver_range.h"
+#include <algorithm>
 
 namespace rqm5 {
 
-void TellOutOfRange(const QStringList& rows, MessageBar& bar)
+void TellOutOfRange(const std::vector<Message>& rows, MessageBar& bar)
 {
     const QString key = QStringLiteral("range");
-    if (rows.isEmpty()) {
+    if (rows.empty()) {
         bar.Withdraw(key);
         return;
     }
-    constexpr int kNamed = 3;
-    const QString named = rows.mid(0, kNamed).join(QStringLiteral(", ")) +
-                          (rows.size() > kNamed ? QStringLiteral(", ...") : QString());
+    constexpr std::size_t kNamed = 3;
+    std::vector<Message> named(rows.begin(), rows.begin() + std::min(kNamed, rows.size()));
+    if (rows.size() > kNamed)
+        named.emplace_back(std::string("..."));
     bar.Show(
-        {key, MessageBar::tr("Rows outside the receiver's range (%1), which are written as they are: %2 (%3)")
-                  .arg(QString::fromUtf8(kReceiverRangeText.data(),
-                                         static_cast<qsizetype>(kReceiverRangeText.size())))
-                  .arg(rows.size())
-                  .arg(named)});
+        {key,
+         {MESSAGE("Rows outside the receiver's range (0.1 to 1299.995 MHz), which are written as they are: "
+                  "%1 (%2)"),
+          {static_cast<int>(rows.size()), Message::List(named, ", ")}}});
 }
 
 }  // namespace rqm5

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QStringList>
+#include <vector>
 
 #include "ui/message_bar.h"
 
@@ -8,6 +8,6 @@ namespace rqm5 {
 
 /// Says in the message bar which rows a write sends with a frequency outside the receiver's range; without
 /// any it takes back what an earlier write said.
-void TellOutOfRange(const QStringList& rows, MessageBar& bar);
+void TellOutOfRange(const std::vector<Message>& rows, MessageBar& bar);
 
 }  // namespace rqm5

@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "language/language.h"
+#include "ui/form_texts.h"
 #include "ui/plain_text.h"
 #include "ui/settings_store.h"
 
@@ -34,13 +36,16 @@ QString Caption(int number, const QString& path)
 RecentFiles::RecentFiles(QMenu& mnuFile, QObject* parent) : QObject(parent)
 {
     mnuFile.addSeparator();
-    mnuFileRecent_ = mnuFile.addMenu(tr("Open Re&cent"));
+    mnuFileRecent_ = mnuFile.addMenu(Designed(QT_TR_NOOP("Open Re&cent")));
+    SetTextContext(*mnuFileRecent_, "rqm5::RecentFiles");
     mnuFileRecent_->setObjectName(QStringLiteral("mnuFileRecent"));
-    mnuFileRecent_->menuAction()->setStatusTip(tr("Open a clone file that was opened or saved lately"));
+    mnuFileRecent_->menuAction()->setStatusTip(
+        Designed(QT_TR_NOOP("Open a clone file that was opened or saved lately")));
     mnuFileRecent_->setToolTipsVisible(true);
     // Another window of the program may have added files meanwhile.
     connect(mnuFileRecent_, &QMenu::aboutToShow, this, &RecentFiles::Fill);
     connect(&mnuFile, &QMenu::aboutToShow, this, &RecentFiles::Fill);
+    connect(&Language::OfProgram(), &Language::Changed, this, &RecentFiles::Fill);
     Fill();
 }
 

@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QLocale>
 
+#include "language/translated.h"
 #include "ui/plain_text.h"
 
 namespace rqm5 {
@@ -68,7 +69,7 @@ void Recovery::Keep()
         file_ = std::make_unique<RecoveryFile>(folder_);
     pool_.start([this, image = document_.Image(), origin = Origin(), file = file_.get()] {
         const auto problem = file->Keep(RecoveryText(image), origin);
-        const QString reason = problem ? QString::fromStdString(problem->details) : QString();
+        const Message reason = problem ? problem->details : Message();
         QMetaObject::invokeMethod(this, [this, reason] { Keep_Done(reason); });
     });
 }
@@ -87,15 +88,15 @@ void Recovery::KeepNow()
         file_ = std::make_unique<RecoveryFile>(folder_);
     pool_.waitForDone();
     if (const auto problem = file_->Keep(RecoveryText(document_.Image()), Origin()))
-        qWarning("%s", problem->details.c_str());
+        qWarning("%s", Said(problem->details).c_str());
 }
 
-void Recovery::Keep_Done(const QString& reason)
+void Recovery::Keep_Done(const Message& reason)
 {
     if (!file_ || !document_.DataChanged())
         return;  // saved meanwhile
     // The disk may have room again, or the folder be there, a moment later.
-    if (!reason.isEmpty() && !timer_.isActive())
+    if (!reason.empty() && !timer_.isActive())
         timer_.start();
     emit Kept(reason);
 }

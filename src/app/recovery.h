@@ -9,6 +9,7 @@
 
 #include "document/document.h"
 #include "files/recovery_file.h"
+#include "language/message.h"
 #include "ui/dialogs.h"
 
 namespace rqm5 {
@@ -42,7 +43,7 @@ class Recovery : public QObject
   signals:
     /// The changes are in the recovery file now, or \param reason why they are not; then it is tried
     /// again.
-    void Kept(const QString& reason);
+    void Kept(const rqm5::Message& reason);
 
     void Asking();  ///< a question is about to be shown
 
@@ -50,7 +51,7 @@ class Recovery : public QObject
     void Look();
     void Keep();
     RecoveryOrigin Origin() const;
-    void Keep_Done(const QString& reason);
+    void Keep_Done(const Message& reason);
     void Remove();
 
     const Document& document_;

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QStringList>
 
+#include "language/translated.h"
 #include "ui/plain_text.h"
 #include "ui/row_list.h"
 
@@ -23,9 +24,9 @@ QString NameOf(const QString& path)
     return VisibleText(QFileInfo(path).fileName());
 }
 
-QString OneLine(const std::vector<std::string>& rows)
+Message OneLine(const std::vector<Message>& rows)
 {
-    return RowList(rows, kNamedRows).replace(QLatin1Char('\n'), QStringLiteral("; "));
+    return NamedRows(rows, kNamedRows, "; ");
 }
 
 Prompt ReplaceQuestion(const QString& text, const QString& details, const QString& yes)
@@ -78,7 +79,7 @@ Prompt HardLinkPrompt(const QString& path, int names)
 
 Prompt RepairPrompt(const QString& path, const NoteRepair& repair)
 {
-    std::vector<std::string> lines;
+    std::vector<Message> lines;
     lines.reserve(repair.notes.size());
     for (const RepairedNote& note : repair.notes)
         lines.push_back(RepairText(note));
@@ -109,32 +110,29 @@ QString SaveNote(const QString& path, const SaveOutcome& outcome, const QString&
         sentences << Tr(QT_TRANSLATE_NOOP("SavePrompts",
                                           "Saved, but a clone file cannot hold these values; they read back "
                                           "otherwise: %1."))
-                         .arg(OneLine(outcome.changedValues));
+                         .arg(Translated(OneLine(outcome.changedValues)));
     if (!outcome.accessChanges.empty())
         sentences << Tr(QT_TRANSLATE_NOOP("SavePrompts",
                                           "Saved, but not all that belonged to the old file could be kept: "
                                           "%1."))
-                         .arg(OneLine(outcome.accessChanges));
+                         .arg(Translated(OneLine(outcome.accessChanges)));
     return sentences.join(QLatin1Char(' '));
 }
 
-QString ImportNote(const std::vector<std::string>& rows)
+Message ImportNote(const std::vector<Message>& rows)
 {
     if (rows.empty())
         return {};
-    return Tr(QT_TRANSLATE_NOOP("SavePrompts",
-                                "A comma or quotes in a note will not survive a save as a clone file: %1."))
-        .arg(OneLine(rows));
+    return {MESSAGE("A comma or quotes in a note will not survive a save as a clone file: %1."),
+            {OneLine(rows)}};
 }
 
-QString LostNotesWarning(const QString& path, const std::vector<std::string>& rows)
+Message LostNotesWarning(const QString& path, const std::vector<Message>& rows)
 {
     if (rows.empty())
         return {};
-    return Tr(QT_TRANSLATE_NOOP("SavePrompts",
-                                "%1 was saved with notes that it cannot bring back; change them and save "
-                                "again: %2."))
-        .arg(NameOf(path), OneLine(rows));
+    return {MESSAGE("%1 was saved with notes that it cannot bring back; change them and save again: %2."),
+            {NameOf(path).toStdString(), OneLine(rows)}};
 }
 
 }  // namespace rqm5

@@ -21,9 +21,9 @@ Prompt RepairPrompt(const QString& path, const NoteRepair& repair);
 QString SaveNote(const QString& path, const SaveOutcome& outcome, const QString& kept);
 
 /// What it says after an import of notes that will not survive a save; may be empty.
-QString ImportNote(const std::vector<std::string>& rows);
+Message ImportNote(const std::vector<Message>& rows);
 
 /// What it keeps saying while the current file cannot bring back notes.
-QString LostNotesWarning(const QString& path, const std::vector<std::string>& rows);
+Message LostNotesWarning(const QString& path, const std::vector<Message>& rows);
 
 }  // namespace rqm5

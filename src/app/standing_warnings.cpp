@@ -12,9 +12,9 @@ StandingWarnings::StandingWarnings(StatusBar& statusBar, MessageBar& messageBar)
 {
 }
 
-void StandingWarnings::Set(Kind kind, const QString& text)
+void StandingWarnings::Set(Kind kind, const Message& text)
 {
-    QString& shown = texts_[kind];
+    Message& shown = texts_[kind];
     if (shown == text)
         return;
     shown = text;
@@ -23,12 +23,13 @@ void StandingWarnings::Set(Kind kind, const QString& text)
 
 void StandingWarnings::Show()
 {
-    QString all;
+    std::vector<Message> standing;
     for (const auto& [kind, text] : texts_)
-        if (!text.isEmpty())
-            all += (all.isEmpty() ? QString() : QStringLiteral("  ")) + text;
+        if (!text.empty())
+            standing.push_back(text);
+    const Message all = standing.empty() ? Message() : Message::List(standing, "  ");
     statusBar_.ShowWarning(all);
-    if (statusBar_.isHidden() && !all.isEmpty())
+    if (statusBar_.isHidden() && !all.empty())
         messageBar_.Show({kMessage, all});
     else
         messageBar_.Withdraw(kMessage);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QObject>
-#include <QString>
 #include <map>
 
 #include "app/status_bar.h"
@@ -22,7 +21,7 @@ class StandingWarnings : public QObject
     StandingWarnings(StatusBar& statusBar, MessageBar& messageBar);
 
     /// An empty text takes a warning back.
-    void Set(Kind kind, const QString& text);
+    void Set(Kind kind, const Message& text);
 
     /// The status bar was shown or hidden.
     void Show();
@@ -30,7 +29,7 @@ class StandingWarnings : public QObject
   private:
     StatusBar& statusBar_;
     MessageBar& messageBar_;
-    std::map<Kind, QString> texts_;
+    std::map<Kind, Message> texts_;
 };
 
 }  // namespace rqm5

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QKeyEvent>
 
+#include "language/language.h"
+#include "language/translated.h"
 #include "ui/elided_label.h"
 
 namespace rqm5 {
@@ -54,7 +56,6 @@ StatusBar::StatusBar(QWidget* parent)
     lblNoteDetails_->setObjectName(QStringLiteral("lblNoteDetails"));
     lblNoteDetails_->setTextFormat(Qt::RichText);
     lblNoteDetails_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    lblNoteDetails_->setText(QStringLiteral("<a href=\"details\">%1</a>").arg(tr("Details")));
     lblNoteDetails_->hide();
     addWidget(lblNoteDetails_);
     connect(lblNoteDetails_, &QLabel::linkActivated, this, [this] {
@@ -76,6 +77,17 @@ StatusBar::StatusBar(QWidget* parent)
     lblPort_->setMaximumWidth(lblPort_->fontMetrics().averageCharWidth() * kPortColumns);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { ShowHintOf(now); });
     qApp->installEventFilter(this);
+    connect(&Language::OfProgram(), &Language::Changed, this, &StatusBar::ShowLanguage);
+    ShowLanguage();
+}
+
+/// What changes with the document is shown anew by whoever knows it; a note stays as it was said.
+void StatusBar::ShowLanguage()
+{
+    lblNoteDetails_->setText(QStringLiteral("<a href=\"details\">%1</a>").arg(tr("Details")));
+    pointerHint_.clear();
+    ShowPortText();
+    ShowFirstText();
 }
 
 bool StatusBar::eventFilter(QObject* watched, QEvent* event)
@@ -122,7 +134,7 @@ void StatusBar::ShowNoteWithDetails(const QString& text, std::function<void()> d
     ShowFirstText();
 }
 
-void StatusBar::ShowWarning(const QString& text)
+void StatusBar::ShowWarning(const Message& text)
 {
     if (text != warning_)
         pointerHint_.clear();
@@ -138,6 +150,15 @@ void StatusBar::ShowPointerHint(const QString& text)
 
 void StatusBar::ShowPort(int number, const QString& device, bool isPresent)
 {
+    port_ = Port{number, device, isPresent};
+    ShowPortText();
+}
+
+void StatusBar::ShowPortText()
+{
+    if (!port_)
+        return;
+    const auto& [number, device, isPresent] = *port_;
     const QString text = tr("COM %1: %2").arg(number).arg(device.isEmpty() ? tr("no device") : device);
     lblPort_->setText(isPresent || device.isEmpty() ? text : tr("%1, not present").arg(text));
 }
@@ -152,7 +173,7 @@ void StatusBar::ShowHintOf(const QWidget* focused)
 
 void StatusBar::ShowFirstText()
 {
-    for (const QString& text : {note_, pointerHint_, warning_, focusHint_})
+    for (const QString& text : {note_, pointerHint_, Translated(warning_), focusHint_})
         if (!text.isEmpty())
             return lblHint_->setText(text);
     lblHint_->clear();

@@ -3,8 +3,10 @@
 #include <QLabel>
 #include <QStatusBar>
 #include <functional>
+#include <optional>
 
 #include "document/document.h"
+#include "language/message.h"
 
 namespace rqm5 {
 
@@ -28,7 +30,7 @@ class StatusBar : public QStatusBar
     void ShowNoteWithDetails(const QString& text, std::function<void()> details);
 
     /// What stays true until it is taken back by an empty text; behind notes and what the pointer asks for.
-    void ShowWarning(const QString& text);
+    void ShowWarning(const Message& text);
 
     /// What the control or menu item under the pointer does; behind a note, and empty once it is left.
     void ShowPointerHint(const QString& text);
@@ -41,12 +43,23 @@ class StatusBar : public QStatusBar
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    /// The port as it was told last.
+    struct Port
+    {
+        int number = 0;
+        QString device;
+        bool isPresent = false;
+    };
+
+    void ShowLanguage();
+    void ShowPortText();
     void ShowFirstText();
     bool IsOnLink(const QEvent& event) const;
 
     QString pointerHint_;
     QString note_;
-    QString warning_;
+    Message warning_;
+    std::optional<Port> port_;
     QString focusHint_;
     QLabel* lblHint_;
     QLabel* lblNoteDetails_;

@@ -97,9 +97,14 @@ void TabStrip::Select(Tab tab)
         setCurrentIndex(index);
 }
 
-void TabStrip::TabStrip1_Click()
+void TabStrip::ShowTip()
 {
     tabBar()->setStatusTip(tabToolTip(currentIndex()));
+}
+
+void TabStrip::TabStrip1_Click()
+{
+    ShowTip();
     if (tabBar()->underMouse())
         ShowTipOf(currentIndex());
     const auto chosen = static_cast<std::size_t>(currentIndex());

@@ -26,6 +26,9 @@ class TabStrip : public QTabWidget
     /// Brings a tab's page to the front as a click on its tab does.
     void Select(Tab tab);
 
+    /// The tabs tell of the page in front, in the language of now.
+    void ShowTip();
+
   signals:
     /// A tab was chosen and its page is not in front yet.
     void AboutToSwitch();

@@ -1,7 +1,9 @@
 #include "app/tool_bar.h"
 
 #include <QIcon>
-#include <QRegularExpression>
+
+#include "language/language.h"
+#include "ui/form_texts.h"
 
 namespace rqm5 {
 
@@ -30,8 +32,7 @@ const ButtonRow kButtons[] = {
 /// "Undo Clear All (Ctrl+Z)", from the text "&Undo Clear All" and the menu item's shortcut.
 void ShowTip(QAction& button, const QAction& item)
 {
-    static const QRegularExpression mnemonic(QStringLiteral("&(.)"));
-    QString tip = button.text().replace(mnemonic, QStringLiteral("\\1"));
+    QString tip = WithoutMnemonic(button.text());
     if (tip.endsWith(QLatin1String("...")))
         tip.chop(3);
     const QString keys = item.shortcut().toString(QKeySequence::NativeText);
@@ -43,7 +44,7 @@ void ShowTip(QAction& button, const QAction& item)
 ToolBar::ToolBar(const Menus& menus, QWidget* parent) : QToolBar(parent), menus_(menus)
 {
     setObjectName(QStringLiteral("tbToolBar"));
-    setWindowTitle(tr("Toolbar"));
+    setWindowTitle(Designed(QT_TR_NOOP("Toolbar")));
     setMovable(false);
     for (const ButtonRow& row : kButtons) {
         QAction& item = menus_.Item(row.item);
@@ -55,7 +56,9 @@ ToolBar::ToolBar(const Menus& menus, QWidget* parent) : QToolBar(parent), menus_
             connect(button, &QAction::triggered, &item, &QAction::trigger);
         addAction(button);
         ShowTip(*button, item);
-        connect(button, &QAction::changed, this, [button, &item] { ShowTip(*button, item); });
+        const auto showTip = [button, &item] { ShowTip(*button, item); };
+        connect(button, &QAction::changed, this, showTip);
+        connect(&Language::OfProgram(), &Language::Changed, this, showTip);  // keys have names, too
         if (row.isLastOfGroup)
             addSeparator();
     }

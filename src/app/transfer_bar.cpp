@@ -3,6 +3,8 @@
 #include <QHBoxLayout>
 #include <QShortcut>
 
+#include "ui/form_texts.h"
+
 namespace rqm5 {
 
 /// Shows a text also while nobody knows how far it will go.
@@ -28,19 +30,19 @@ TransferBar::TransferBar(QWidget* parent)
     : QWidget(parent),
       progressBar_(new TextProgressBar(this)),
       Text3_(new QLineEdit(this)),
-      cmbCancel_(new QPushButton(tr("Cancel"), this))
+      cmbCancel_(new QPushButton(Designed(QT_TR_NOOP("Cancel")), this))
 {
     progressBar_->setObjectName(QStringLiteral("ProgressBar1"));
-    progressBar_->setAccessibleName(tr("Progress of the transfer"));
+    progressBar_->setAccessibleName(Designed(QT_TR_NOOP("Progress of the transfer")));
     Text3_->setObjectName(QStringLiteral("Text3"));
-    Text3_->setAccessibleName(tr("Channel being transferred"));
-    Text3_->setStatusTip(tr("The channel that is being transferred"));
+    Text3_->setAccessibleName(Designed(QT_TR_NOOP("Channel being transferred")));
+    Text3_->setStatusTip(Designed(QT_TR_NOOP("The channel that is being transferred")));
     Text3_->setReadOnly(true);
     Text3_->setFocusPolicy(Qt::NoFocus);
     Text3_->setAlignment(Qt::AlignRight);
     Text3_->setFixedWidth(Text3_->fontMetrics().horizontalAdvance(QStringLiteral("000000")) + 16);
     cmbCancel_->setObjectName(QStringLiteral("cmbCancel"));
-    cmbCancel_->setStatusTip(tr("End the transfer now; what was transferred stays"));
+    cmbCancel_->setStatusTip(Designed(QT_TR_NOOP("End the transfer now; what was transferred stays")));
     // A shortcut of the button itself would animate it first; this one ends the transfer at once.
     auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
     connect(escape, &QShortcut::activated, this, &TransferBar::CancelRequested);

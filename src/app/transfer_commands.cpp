@@ -1,6 +1,8 @@
 #include "app/transfer_commands.h"
 
 #include "app/read_option_items.h"
+#include "language/language.h"
+#include "language/translated.h"
 #include "link/forwarding_observer.h"
 #include "link/line_notes.h"
 #include "link/memory_map.h"
@@ -20,6 +22,10 @@ constexpr std::size_t kNotedBlocks = 3;
 TransferCommands::TransferCommands(Document& document, RadioLink& link, Dialogs& dialogs, QWidget& window)
     : QObject(&window), document_(document), link_(link), dialogs_(dialogs), window_(window)
 {
+    connect(&Language::OfProgram(), &Language::Changed, this, [this] {
+        if (isRunning_)
+            TellProgress();
+    });
 }
 
 void TransferCommands::Run(Transfer transfer, int selector)
@@ -42,7 +48,7 @@ void TransferCommands::Occupy(const std::function<TransferResult()>& work)
     emit Started();
     const TransferResult result = work();
     if (repeated_ > 0)
-        notes_ << QString::fromStdString(RepeatNote(repeated_)) + QLatin1Char('.');
+        notes_ << Translated({MESSAGE("%1."), {RepeatNote(repeated_)}});
     link_.Knowledge().Save();
     isRunning_ = false;
     emit Ended(result);
@@ -85,14 +91,14 @@ TransferResult TransferCommands::RunOperation(Transfer transfer, int selector)
         case Transfer::ReadAll:
             return ReadAll();
         case Transfer::ReadMemory:
-            return Read(tr("Read Memory (%1)").arg(QString::fromStdString(SelectorText(selector))),
+            return Read({MESSAGE("Read Memory (%1)"), {SelectorText(selector)}},
                         {.settings = false, .selector = selector},
                         [selector](ReceiverReader& reader) { return reader.ReadMemory(selector); });
         case Transfer::ReadSettings:
-            return Read(tr("Read Settings"), {.memory = false},
+            return Read(MESSAGE("Read Settings"), {.memory = false},
                         [](ReceiverReader& reader) { return reader.ReadSettings(); });
         case Transfer::ReadBankPage:
-            return Read(tr("Read Bank"), {.settings = false, .memory = false, .banks = true},
+            return Read(MESSAGE("Read Bank"), {.settings = false, .memory = false, .banks = true},
                         [](ReceiverReader& reader) { return reader.ReadBankPage(); });
         case Transfer::WriteAll:
             return Write({});
@@ -109,7 +115,7 @@ TransferResult TransferCommands::RunOperation(Transfer transfer, int selector)
 TransferResult TransferCommands::ReadAll()
 {
     const TransferResult result =
-        Read(tr("Read ALL"), {}, [](ReceiverReader& reader) { return reader.ReadAll(); });
+        Read(MESSAGE("Read ALL"), {}, [](ReceiverReader& reader) { return reader.ReadAll(); });
     if (result == TransferResult::Done)
         KeepLastRead(document_.Image());
     return result;
@@ -130,13 +136,13 @@ std::optional<LastRead> TransferCommands::LastFullRead() const
                 : std::nullopt;
 }
 
-TransferResult TransferCommands::Read(const QString& name, const TransferScope& scope,
+TransferResult TransferCommands::Read(const rqm5::Message& name, const TransferScope& scope,
                                       const std::function<TransferResult(ReceiverReader&)>& read)
 {
     const CloneImage before = document_.Image();
     const bool hadUnsavedChanges = document_.DataChanged();
     BeginReading(scope);
-    std::vector<std::string> unreadable;
+    std::vector<rqm5::Message> unreadable;
     std::vector<ExpectedBlock> blocks;
     auto result = TransferResult::Done;
     {
@@ -160,15 +166,13 @@ TransferResult TransferCommands::Read(const QString& name, const TransferScope& 
 }
 
 /// Such blocks are in the image as they came, which is not what the receiver holds.
-void TransferCommands::NameUnreadable(const std::vector<std::string>& names)
+void TransferCommands::NameUnreadable(const std::vector<rqm5::Message>& names)
 {
     if (names.empty())
         return;
-    const QString note = QString::fromStdString(UnreadableNote(static_cast<int>(names.size())));
-    notes_ << note + QStringLiteral(": ") +
-                  RowList(names, kNotedBlocks).replace(QLatin1Char('\n'), QStringLiteral(", ")) +
-                  QLatin1Char('.');
-    WarnOfBlocks(tr("Read"), tr("%1. Check the cable, then read again.").arg(note), names);
+    const rqm5::Message note = UnreadableNote(static_cast<int>(names.size()));
+    notes_ << Translated({MESSAGE("%1: %2."), {note, NamedRows(names, kNotedBlocks, ", ")}});
+    WarnOfBlocks(tr("Read"), tr("%1. Check the cable, then read again.").arg(Translated(note)), names);
 }
 
 /// Names the blocks that a second read brings otherwise. The image keeps the first.
@@ -179,11 +183,11 @@ TransferResult TransferCommands::ReadTwice(const std::vector<ExpectedBlock>& blo
     AftermathObserver observer(*this, NotReadTwice());
     const TransferResult result = ReadBack(blocks, link_, observer, differences);
     if (result == TransferResult::Cancelled)
-        notes_ << QString::fromStdString(NotReadTwice());
+        notes_ << Translated(NotReadTwice());
     if (!differences.empty())
         WarnOfBlocks(tr("Verify"),
                      tr("%1. Check the cable, then read again.")
-                         .arg(QString::fromStdString(OtherwiseNote(static_cast<int>(differences.size())))),
+                         .arg(Translated(OtherwiseNote(static_cast<int>(differences.size())))),
                      LabelsOf(differences));
     isReadTwice_ = result == TransferResult::Done && differences.empty();
     return result;
@@ -210,7 +214,7 @@ void TransferCommands::Cancel()
 }
 
 void TransferCommands::WarnOfBlocks(const QString& title, const QString& text,
-                                    const std::vector<std::string>& names)
+                                    const std::vector<rqm5::Message>& names)
 {
     constexpr std::size_t kNamedBlocks = 20;
     Warn({.title = title,

@@ -11,6 +11,7 @@
 
 #include "app/transfer_progress.h"
 #include "document/document.h"
+#include "language/message.h"
 #include "link/last_read.h"
 #include "link/radio_link.h"
 #include "link/receiver_identity.h"
@@ -108,7 +109,7 @@ class TransferCommands : public QObject, private TransferObserver
     void GroupWanted(int selector);  ///< an "all" operation moves the bank selector
 
     /// A write begins that sends frequencies outside the receiver's range: the rows, one each.
-    void OutOfRange(const QStringList& rows);
+    void OutOfRange(const std::vector<rqm5::Message>& rows);
 
     /// What there is to say about a transfer without a message, once it has ended: that nothing was written,
     /// that the receiver was read back and agrees.
@@ -119,20 +120,21 @@ class TransferCommands : public QObject, private TransferObserver
     TransferResult RunOperation(Transfer transfer, int selector);
     TransferResult ReadAll();
     void KeepLastRead(const CloneImage& image);
-    TransferResult Read(const QString& name, const TransferScope& scope,
+    TransferResult Read(const rqm5::Message& name, const TransferScope& scope,
                         const std::function<TransferResult(ReceiverReader&)>& read);
     TransferResult ReadTwice(const std::vector<ExpectedBlock>& blocks);
-    void NameUnreadable(const std::vector<std::string>& names);
+    void NameUnreadable(const std::vector<rqm5::Message>& names);
     TransferResult Write(const TransferScope& scope);
     const CloneImage& Source() const { return other_ ? *other_ : document_.Image(); }
     TransferResult KeepBackup(const TransferScope& scope, const QString& folder);
     TransferResult WriteBlocks(const TransferScope& scope, bool isVerified);
     void Warn(Prompt warning);
-    void WarnOfBlocks(const QString& title, const QString& text, const std::vector<std::string>& names);
+    void WarnOfBlocks(const QString& title, const QString& text, const std::vector<rqm5::Message>& names);
 
     QMessageBox::StandardButton Ask(const Prompt& prompt);
 
     // What is told while a transfer runs and at its end.
+    void TellProgress();
     void BeginReading(const TransferScope& scope);
     void BeginWriting(const TransferScope& scope, bool keepsBackup, bool isVerified);
     void NoteRead(TransferResult result, const TransferScope& scope, const CloneImage& before,

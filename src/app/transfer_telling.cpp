@@ -1,5 +1,6 @@
 #include "app/read_option_items.h"
 #include "app/transfer_commands.h"
+#include "language/translated.h"
 #include "link/closing_notes.h"
 #include "link/expected_memory.h"
 #include "link/forwarding_observer.h"
@@ -78,6 +79,11 @@ void TransferCommands::BeginWriting(const TransferScope& scope, bool keepsBackup
 void TransferCommands::BeginPart()
 {
     progress_.NextPart(std::chrono::steady_clock::now());
+    TellProgress();
+}
+
+void TransferCommands::TellProgress()
+{
     emit ProgressTold(progress_.Text(), progress_.Fraction());
 }
 
@@ -90,14 +96,14 @@ void TransferCommands::ProgressStarted(int maximum)
 void TransferCommands::ProgressMoved(int value, int row)
 {
     progress_.RowMoved(value);
-    emit ProgressTold(progress_.Text(), progress_.Fraction());
+    TellProgress();
     emit ProgressAdvanced(value, row);
 }
 
 void TransferCommands::BlockDone(int /*address*/, bool /*written*/)
 {
     progress_.BlockDone(std::chrono::steady_clock::now());
-    emit ProgressTold(progress_.Text(), progress_.Fraction());
+    TellProgress();
 }
 
 std::chrono::seconds TransferCommands::Taken() const
@@ -112,18 +118,17 @@ void TransferCommands::NoteRead(TransferResult result, const TransferScope& scop
     if (hadUnsavedChanges && !change.IsEmpty())
         notes_.prepend(tr("You had unsaved changes; Undo brings back what was there before the read."));
     if (result == TransferResult::Done)
-        notes_.prepend(
-            QString::fromStdString(ReadNote(Taken(), isReadTwice_, scope, document_.Image(), change)) +
-            QLatin1Char('.'));
+        notes_.prepend(Translated(
+            {MESSAGE("%1."), {ReadNote(Taken(), isReadTwice_, scope, document_.Image(), change)}}));
 }
 
 void TransferCommands::NoteWritten(TransferResult result, bool isVerified)
 {
     if (result != TransferResult::Done)
         return;
-    const QString note = QString::fromStdString(WrittenNote(Taken(), isVerified_));
-    notes_.prepend(isVerified && !isVerified_ ? tr("%1, but the receiver holds something else.").arg(note)
-                                              : note + QLatin1Char('.'));
+    notes_.prepend(Translated(
+        {isVerified && !isVerified_ ? MESSAGE("%1, but the receiver holds something else.") : MESSAGE("%1."),
+         {WrittenNote(Taken(), isVerified_)}}));
 }
 
 int TransferCommands::Run(QDialog& dialog)

@@ -7,6 +7,7 @@
 #include "app/write_options.h"
 #include "files/file_store.h"
 #include "files/rescue.h"
+#include "language/translated.h"
 #include "link/forwarding_observer.h"
 #include "link/line_notes.h"
 #include "link/memory_map.h"
@@ -21,10 +22,7 @@ TransferResult TransferCommands::Write(const TransferScope& scope)
     const WriteOptions options = LoadWriteOptions();
     BeginWriting(scope, options.keepsBackup, options.verifies);
     auto result = TransferResult::Done;
-    QStringList outside;
-    for (const std::string& row : RowsWrittenOutOfRange(Source(), scope))
-        outside << QString::fromStdString(row);
-    emit OutOfRange(outside);
+    emit OutOfRange(RowsWrittenOutOfRange(Source(), scope));
     if (options.keepsBackup)
         result = KeepBackup(scope, options.backupFolder);
     if (result == TransferResult::Done && !MayWriteToThisModel())
@@ -49,7 +47,7 @@ TransferResult TransferCommands::KeepBackup(const TransferScope& scope, const QS
     BeginPart();
     const TransferResult result = ReadBackup(Source(), scope, link_, *this, backup);
     if (result == TransferResult::Cancelled)
-        notes_ << QString::fromStdString(NothingWritten());
+        notes_ << Translated(NothingWritten());
     if (result != TransferResult::Done)
         return result;
     return SaveBackup(path, backup) ? TransferResult::Done : TransferResult::Failed;
@@ -59,7 +57,8 @@ bool TransferCommands::SaveBackup(const QString& path, const CloneImage& backup)
 {
     const auto problem = SaveCloneFile(path, backup).problem;
     if (problem)
-        Message({problem->text, problem->details, Rescue(backup, path) + ' ' + NothingWritten()});
+        Message({problem->text, problem->details,
+                 rqm5::Message::List({Rescue(backup, path), NothingWritten()}, " ")});
     else if (const int deleted = DeleteBeyondLimit(path); deleted > 0)
         notes_ << tr("Old backups deleted: %1.").arg(deleted);
     return !problem;
@@ -75,7 +74,7 @@ bool TransferCommands::MayWriteToThisModel()
         return true;
     const bool isMeant = Ask({.title = tr("Write"),
                               .text = tr("The receiver is another model. Write to it all the same?"),
-                              .details = QString::fromStdString(OtherModelText(known, wanted)),
+                              .details = Translated(OtherModelText(known, wanted)),
                               .icon = QMessageBox::Warning,
                               .buttons = QMessageBox::Yes | QMessageBox::No,
                               .defaultButton = QMessageBox::No}) == QMessageBox::Yes;
@@ -111,7 +110,7 @@ void TransferCommands::TellWritten(const WritePlan& plan, const CloneImage& imag
     if (result == TransferResult::Cancelled && plan.HasBegun())
         Warn({.title = tr("Write"),
               .text = tr("The write was cancelled."),
-              .details = QString::fromStdString(plan.Summary())});
+              .details = Translated(plan.Summary())});
 }
 
 TransferResult TransferCommands::Verify(const std::vector<ExpectedBlock>& expected)
@@ -121,7 +120,7 @@ TransferResult TransferCommands::Verify(const std::vector<ExpectedBlock>& expect
     AftermathObserver observer(*this, NotVerified());
     const TransferResult result = ReadBack(expected, link_, observer, differences);
     if (result == TransferResult::Cancelled)
-        notes_ << QString::fromStdString(NotVerified());
+        notes_ << Translated(NotVerified());
     if (!differences.empty())
         WarnOfBlocks(tr("Verify"), tr("The receiver does not hold what was written. Write again."),
                      LabelsOf(differences));

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "image/display_text.h"
+#include "language/translated.h"
 #include "link/change_writer.h"
 
 namespace rqm5 {
@@ -15,29 +16,29 @@ namespace {
 
 enum ChangeColumn { kWhat, kHeld, kWanted };
 
-QString Text(const std::string& text)
+QString Text(const Message& text)
 {
-    return QString::fromStdString(VisibleText(text));
+    return QString::fromStdString(VisibleText(Said(text)));
 }
 
 }  // namespace
 
-QString AgeText(const QDateTime& since, const QDateTime& now)
+Message AgeText(const QDateTime& since, const QDateTime& now)
 {
     constexpr qint64 kMinute = 60;
     constexpr qint64 kHour = 60 * kMinute;
     constexpr qint64 kDay = 24 * kHour;
     const qint64 seconds = since.secsTo(now);
-    const auto ago = [seconds](qint64 unit, const QString& one, const QString& many) {
-        return seconds < 2 * unit ? one : many.arg(seconds / unit);
+    const auto ago = [seconds](qint64 unit, const char* one, const char* many) {
+        return Counted(seconds < 2 * unit ? 1 : static_cast<int>(seconds / unit), one, many);
     };
     if (seconds < kMinute)
-        return dlgWriteChanges::tr("less than a minute ago");
+        return MESSAGE("less than a minute ago");
     if (seconds < kHour)
-        return ago(kMinute, dlgWriteChanges::tr("a minute ago"), dlgWriteChanges::tr("%1 minutes ago"));
+        return ago(kMinute, MESSAGE("a minute ago"), MESSAGE("%1 minutes ago"));
     if (seconds < kDay)
-        return ago(kHour, dlgWriteChanges::tr("an hour ago"), dlgWriteChanges::tr("%1 hours ago"));
-    return ago(kDay, dlgWriteChanges::tr("a day ago"), dlgWriteChanges::tr("%1 days ago"));
+        return ago(kHour, MESSAGE("an hour ago"), MESSAGE("%1 hours ago"));
+    return ago(kDay, MESSAGE("a day ago"), MESSAGE("%1 days ago"));
 }
 
 dlgWriteChanges::dlgWriteChanges(const CloneImage& image, const ChangePlan& plan, const QDateTime& since,
@@ -60,7 +61,7 @@ dlgWriteChanges::dlgWriteChanges(const CloneImage& image, const ChangePlan& plan
     lblKnown_->setText(tr("The receiver as it was read or written since %1, %2. Each block is read once more "
                           "before the first one is written.")
                            .arg(QLocale().toString(since.toLocalTime(), QLocale::ShortFormat),
-                                AgeText(since, QDateTime::currentDateTimeUtc())));
+                                Translated(AgeText(since, QDateTime::currentDateTimeUtc()))));
     lblKnown_->setWordWrap(true);
     lblTime_->setWordWrap(true);
     Build(ListChanges(image, plan));
@@ -109,8 +110,7 @@ void dlgWriteChanges::Build(const std::vector<RowChange>& changes)
 
 void dlgWriteChanges::ShowTime()
 {
-    const QString time =
-        QString::fromStdString(AboutTime(checked_ + written_ + (Verifies() ? verified_ : 0)));
+    const QString time = Translated(AboutTime(checked_ + written_ + (Verifies() ? verified_ : 0)));
     if (written_ == 0)
         lblTime_->setText(tr("The receiver holds all of it already. There is nothing to write."));
     else if (written_ == 1)

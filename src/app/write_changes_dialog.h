@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <QLabel>
 
+#include "language/message.h"
 #include "link/change_list.h"
 
 namespace rqm5 {
@@ -36,6 +37,6 @@ class dlgWriteChanges : public QDialog
 };
 
 /// "4 minutes ago", "3 days ago"
-QString AgeText(const QDateTime& since, const QDateTime& now);
+Message AgeText(const QDateTime& since, const QDateTime& now);
 
 }  // namespace rqm5

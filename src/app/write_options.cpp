@@ -30,7 +30,8 @@ QString NameOfScope(const TransferScope& scope)
         return scope.memory ? QStringLiteral("all") : QStringLiteral("settings");
     if (!scope.memory)
         return QStringLiteral("banks");
-    return QStringLiteral("memory ") + QString::fromStdString(SelectorText(scope.selector)).toLower();
+    return QStringLiteral("memory ") +
+           QString::fromStdString(SelectorText(scope.selector).English()).toLower();
 }
 
 WriteOptions LoadWriteOptions()

@@ -10,8 +10,8 @@ namespace {
 constexpr std::string_view kHelp = "--help";
 
 constexpr Option kCommon[] = {
-    {"--quiet", "", "no progress, no closing line and no notes (also -q)"},
-    {"--verbose", "", "every exchange with the receiver and every warning (also -v)"},
+    {"--quiet", "", MESSAGE("no progress, no closing line and no notes (also -q)")},
+    {"--verbose", "", MESSAGE("every exchange with the receiver and every warning (also -v)")},
 };
 
 std::string Quoted(std::string_view text)
@@ -87,7 +87,7 @@ class ArgumentParser
         const std::string name = NameOf(word.substr(0, equals));
         const Option* option = Find(name);
         if (option == nullptr) {
-            fault_ = "unknown option " + Quoted(name) + DidYouMean(name, OptionNames());
+            fault_ = DidYouMean({MESSAGE("unknown option \"%1\""), {name}}, name, OptionNames());
             return;
         }
         std::string value;
@@ -111,11 +111,11 @@ class ArgumentParser
     {
         const std::string name(option.name);
         if (option.value.empty() && wasAttached)
-            fault_ = name + " takes no value";
+            fault_ = {MESSAGE("%1 takes no value"), {name}};
         else if (!option.value.empty() && value.empty())
-            fault_ = name + " needs a value: " + name + ' ' + std::string(option.value);
+            fault_ = {MESSAGE("%1 needs a value: %2"), {name, name + ' ' + std::string(option.value)}};
         else if (!taken_.options_.emplace(name, value).second)
-            fault_ = name + " is given twice";
+            fault_ = {MESSAGE("%1 is given twice"), {name}};
         else if (option.fault != nullptr)
             Refuse(name + ' ' + Quoted(value), option.fault(value));
     }
@@ -126,9 +126,9 @@ class ArgumentParser
         const Count last = operands_.empty() ? Count::One : operands_.back().count;
         const std::size_t needed = operands_.size() - (last == Count::One ? 0 : 1);
         if (count < needed)
-            fault_ = std::string(operands_[count].name) + " is missing";
+            fault_ = {MESSAGE("%1 is missing"), {operands_[count].name}};
         else if (count > operands_.size() && last != Count::Any)
-            fault_ = "too many arguments: " + Quoted(taken_.operands_[operands_.size()]);
+            fault_ = {MESSAGE("too many arguments: \"%1\""), {taken_.operands_[operands_.size()]}};
         for (std::size_t i = 0; i < count && fault_.empty(); ++i)
             CheckOperand(operands_[std::min(i, operands_.size() - 1)], taken_[i]);
     }
@@ -138,13 +138,13 @@ class ArgumentParser
         if (operand.fault != nullptr)
             Refuse(std::string(operand.name) + ' ' + Quoted(value), operand.fault(value));
         else if (value.empty())
-            fault_ = std::string(operand.name) + " is empty";
+            fault_ = {MESSAGE("%1 is empty"), {operand.name}};
     }
 
-    void Refuse(const std::string& what, const std::string& why)
+    void Refuse(const std::string& what, const Message& why)
     {
         if (!why.empty())
-            fault_ = what + ": " + why;
+            fault_ = Message::List({what, why}, ": ");
     }
 
     std::vector<std::string_view> OptionNames() const
@@ -162,7 +162,7 @@ class ArgumentParser
     std::size_t next_ = 0;
     bool onlyOperands_ = false;
     Arguments taken_;
-    std::string fault_;
+    Message fault_;
 };
 
 std::variant<Arguments, UsageFault> ParseArguments(std::span<const std::string> words,

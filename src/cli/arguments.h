@@ -7,10 +7,12 @@
 #include <variant>
 #include <vector>
 
+#include "language/message.h"
+
 namespace rqm5 {
 
 /// Why a value is refused and what would be right, e.g. "regions are 0 to 3"; empty when it is taken.
-using ValueCheck = std::string (*)(std::string_view value);
+using ValueCheck = Message (*)(std::string_view value);
 
 /// How many operands of a kind a command takes.
 enum class Count { One, Optional, Any };
@@ -26,7 +28,7 @@ struct Option
 {
     std::string_view name;   ///< with its dashes
     std::string_view value;  ///< what stands for its value in the usage line; empty for a switch
-    std::string_view help;
+    const char* help;        ///< translated where it is shown
     ValueCheck fault = nullptr;
 };
 
@@ -60,7 +62,7 @@ std::span<const Option> CommonOptions();
 /// What is wrong with a command line, and a hint.
 struct UsageFault
 {
-    std::string text;
+    Message text;
 };
 
 /// Options may stand anywhere, as "--name value" or "--name=value"; behind "--" all are operands. With

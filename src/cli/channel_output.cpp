@@ -12,10 +12,11 @@ Form FormOf(const Arguments& arguments)
     return arguments.Has("--json") ? Form::Json : arguments.Has("--tsv") ? Form::Tabbed : Form::Columns;
 }
 
-std::string FormFault(const Arguments& arguments)
+Message FormFault(const Arguments& arguments)
 {
-    return arguments.Has("--json") && arguments.Has("--tsv") ? "--json and --tsv are two forms; choose one"
-                                                             : "";
+    return arguments.Has("--json") && arguments.Has("--tsv")
+               ? MESSAGE("--json and --tsv are two forms; choose one")
+               : Message();
 }
 
 void Print(const TextTable& table, Form form, Console& console)

@@ -8,6 +8,7 @@
 #include "cli/json_writer.h"
 #include "cli/text_table.h"
 #include "image/clone_image.h"
+#include "language/message.h"
 
 namespace rqm5 {
 
@@ -17,7 +18,7 @@ enum class Form { Columns, Tabbed, Json };
 Form FormOf(const Arguments& arguments);
 
 /// Fault of --json and --tsv together.
-std::string FormFault(const Arguments& arguments);
+Message FormFault(const Arguments& arguments);
 
 void Print(const TextTable& table, Form form, Console& console);
 

@@ -51,7 +51,7 @@ void PrintGroups(const CloneImage& image, std::ostream& out)
             table.AddRow(Summary(image, "In no bank", {used, kBankRows - used}));
         }
         if (rows.count > 0)
-            table.AddRow(Summary(image, SelectorText(selector), rows));
+            table.AddRow(Summary(image, SelectorText(selector).English(), rows));
     }
     table.Print(out);
 }
@@ -66,8 +66,8 @@ void PrintContents(const CloneImage& image, std::ostream& out)
         if (image.BankLink(bank))
             links += ' ' + std::to_string(bank);
     const int model = SettingIndex(&ReceiverSettings::model);
-    out << SettingCaption(model) << ": " << SettingText(image.Settings(), model) << " (region "
-        << image.ModelNo() << ")\n";
+    out << SettingCaption(model).English() << ": " << SettingText(image.Settings(), model).English()
+        << " (region " << image.ModelNo() << ")\n";
     out << "VFO bands: " << RegionOf(image.ModelNo()).vfoBands << ", notes: " << notes << '\n';
     out << "Linked banks:" << (links.empty() ? " none" : links) << '\n';
     PrintGroups(image, out);
@@ -76,13 +76,13 @@ void PrintContents(const CloneImage& image, std::ostream& out)
 struct Warning
 {
     const char* kind;  ///< in JSON
-    std::string text;
-    std::vector<std::string> rows = {};
+    Message text;
+    std::vector<Message> rows = {};
 };
 
 using Warnings = std::vector<Warning>;
 
-void AddRows(const char* kind, const std::string& text, std::vector<std::string> rows, Warnings& warnings)
+void AddRows(const char* kind, const Message& text, std::vector<Message> rows, Warnings& warnings)
 {
     if (!rows.empty())
         warnings.push_back({kind, text, std::move(rows)});
@@ -94,13 +94,14 @@ void AddForm(std::string_view bytes, Warnings& warnings)
     for (std::size_t at = bytes.find('\n'); at != std::string_view::npos; at = bytes.find('\n', at + 1))
         if (at == 0 || bytes[at - 1] != '\r') {
             warnings.push_back(
-                {"line-ends", "lines end in LF instead of CR LF; this program reads them, another may not"});
+                {"line-ends",
+                 MESSAGE("lines end in LF instead of CR LF; this program reads them, another may not")});
             break;
         }
     const std::size_t end = bytes.rfind(FileEnd);
     if (end != std::string_view::npos &&
         bytes.find_first_not_of("\r\n", end + FileEnd.size()) != std::string_view::npos)
-        warnings.push_back({"text-behind", "there is text behind the last line; a save drops it"});
+        warnings.push_back({"text-behind", MESSAGE("there is text behind the last line; a save drops it")});
 }
 
 bool HoldsBlock(int line)
@@ -111,14 +112,15 @@ bool HoldsBlock(int line)
 /// Blocks are taken as they come; what a stranger made of them may have been meant otherwise.
 void AddDigits(std::string_view bytes, Warnings& warnings)
 {
-    std::vector<std::string> lines;
+    std::vector<Message> lines;
     CloneLineReader reader(bytes);
     for (int number = kStartLine; const auto line = reader.NextLine(); ++number)
         if (HoldsBlock(number) && line->find_first_not_of("0123456789ABCDEF") != std::string_view::npos)
-            lines.push_back("line " + std::to_string(number + 1) + " (" + CloneLineName(number) + ")");
-    AddRows("digits",
-            "characters other than upper-case hexadecimal digits may be read as 0; there are some in:",
-            std::move(lines), warnings);
+            lines.push_back({MESSAGE("line %1 (%2)"), {number + 1, CloneLineName(number)}});
+    AddRows(
+        "digits",
+        MESSAGE("characters other than upper-case hexadecimal digits may be read as 0; there are some in:"),
+        std::move(lines), warnings);
 }
 
 Warnings WarningsOf(std::string_view bytes, const CloneImage& image)
@@ -126,18 +128,16 @@ Warnings WarningsOf(std::string_view bytes, const CloneImage& image)
     Warnings warnings;
     AddForm(bytes, warnings);
     AddDigits(bytes, warnings);
-    AddRows("values",
-            "these values are read differently from what the file says:", ValuesReadOtherwise(bytes, image),
-            warnings);
-    std::vector<std::string> outside = VfoRowsOutOfRange(image);
-    for (std::string& row : RowsOutOfRange(image, {0, kRadioRows}))
+    AddRows("values", MESSAGE("these values are read differently from what the file says:"),
+            ValuesReadOtherwise(bytes, image), warnings);
+    std::vector<Message> outside = VfoRowsOutOfRange(image);
+    for (Message& row : RowsOutOfRange(image, {0, kRadioRows}))
         outside.push_back(std::move(row));
-    AddRows("range", "these rows are outside the receiver's range (" + std::string(kReceiverRangeText) + "):",
+    AddRows("range", {MESSAGE("these rows are outside the receiver's range (%1):"), {kReceiverRangeText}},
             std::move(outside), warnings);
-    AddRows("notes",
-            "a save loses these notes; take commas and quotes out of them:", NotesThatDoNotSurvive(image),
-            warnings);
-    AddRows("formulas", "exported as CSV, a spreadsheet would run these notes as formulas:",
+    AddRows("notes", MESSAGE("a save loses these notes; take commas and quotes out of them:"),
+            NotesThatDoNotSurvive(image), warnings);
+    AddRows("formulas", MESSAGE("exported as CSV, a spreadsheet would run these notes as formulas:"),
             NotesThatLookLikeFormulas(image), warnings);
     return warnings;
 }
@@ -164,7 +164,7 @@ void PrintLine(const InputFile& file, const CloneImage& image, const Warnings& w
     const Counts counts = CountsOf(image);
     const int model = SettingIndex(&ReceiverSettings::model);
     console.out << VisibleText(file.name) << ": " << Painted("whole", Paint::Green, console.paintsOut) << ", "
-                << SettingText(image.Settings(), model) << ", " << counts.channels
+                << SettingText(image.Settings(), model).English() << ", " << counts.channels
                 << (counts.channels == 1 ? " channel, " : " channels, ") << counts.enabled << " on";
     if (!warnings.empty())
         console.out << ", " << warnings.size() << (warnings.size() == 1 ? " warning" : " warnings");
@@ -185,10 +185,10 @@ void WriteFile(const InputFile& file, const CloneImage& image, const Warnings& w
     for (const Warning& warning : warnings) {
         json.Open('{');
         json.Member("kind", warning.kind);
-        json.Member("text", warning.text);
+        json.Member("text", warning.text.English());
         json.Key("rows").Open('[');
-        for (const std::string& row : warning.rows)
-            json.Text(row);
+        for (const Message& row : warning.rows)
+            json.Text(row.English());
         json.Close(']');
         json.Close('}');
     }
@@ -202,7 +202,7 @@ void WriteProblem(const InputFile& file, const Problem& problem, JsonWriter& jso
     json.Member("file", file.name);
     json.Member("whole", false);
     json.Member("error", problem.text);
-    json.Member("details", problem.details);
+    json.Member("details", problem.details.English());
     json.Close('}');
 }
 
@@ -211,7 +211,7 @@ void PrintReport(const InputFile& file, const CloneImage& image, const Warnings&
     if (!console.isQuiet && file.isOneOfSeveral) {
         PrintLine(file, image, warnings, console);
     } else if (!console.isQuiet) {
-        console.out << VisibleText(SourceName(file.name)) << " is whole.\n";
+        console.out << VisibleText(SourceName(file.name).English()) << " is whole.\n";
         PrintContents(image, console.out);
     }
     if (file.isOneOfSeveral && !console.isVerbose)
@@ -250,8 +250,7 @@ Status RunCheck(const Arguments& arguments, Console& console)
         console.out << '\n';
     }
     if (whole + broken > 1)
-        TellEnd(console,
-                std::to_string(whole) + " of " + std::to_string(whole + broken) + " files are whole.");
+        TellEnd(console, {MESSAGE("%1 of %2 files are whole."), {whole, whole + broken}});
     return status;
 }
 

@@ -11,12 +11,13 @@
 #include "files/rescue.h"
 #include "files/round_trip.h"
 #include "image/display_text.h"
+#include "language/translated.h"
 #include "memory/start_image.h"
 
 namespace rqm5 {
 namespace {
 
-using Rows = std::vector<std::string>;
+using Rows = std::vector<Message>;
 
 /// The notes that keep the image's clone file from being opened.
 Rows NotesThatSpoil(const CloneImage& image)
@@ -30,8 +31,7 @@ Rows NotesThatSpoil(const CloneImage& image)
 Status FailForRows(Console& console, const Problem& problem, const Rows& rows)
 {
     Report(console, problem);
-    for (const std::string& row : rows)
-        console.err << "  " << VisibleText(row) << '\n';
+    List(console, rows);
     return Status::Failed;
 }
 
@@ -41,24 +41,25 @@ void WarnOfLinks(const std::string& path, Console& console)
     const int names = NameCount(PathOf(path)) - (AreSameFile(path, path + '~') ? 1 : 0);
     if (names > 1)
         Warn(console,
-             path + " is one of " + std::to_string(names) +
-                 " names of a file (hard links); the others keep the old contents",
+             {MESSAGE("%1 is one of %2 names of a file (hard links); the others keep the old contents"),
+              {path, names}},
              {});
 }
 
-Status Tell(const std::string& path, const SaveOutcome& outcome, Console& console)
+Status Tell(const Message& path, const SaveOutcome& outcome, Console& console)
 {
     if (!outcome.accessChanges.empty())
-        Warn(console, path + " is saved, but not all that belonged to the old file could be kept:",
-             outcome.accessChanges);
+        Warn(console, NotAllKept(path), outcome.accessChanges);
     if (!outcome.changedValues.empty())
-        Warn(console,
-             "a clone file cannot hold these values; they read back differently:", outcome.changedValues);
+        Warn(console, MESSAGE("a clone file cannot hold these values; they read back differently:"),
+             outcome.changedValues);
     if (outcome.lostNotes.empty())
         return Status::Done;
     return FailForRows(console,
-                       {kDataError, path + " is written, but the file cannot bring back these notes; take "
-                                           "commas and quotes out of them:"},
+                       {kDataError,
+                        {MESSAGE("%1 is written, but the file cannot bring back these notes; take commas and "
+                                 "quotes out of them:"),
+                         {path}}},
                        outcome.lostNotes);
 }
 
@@ -74,6 +75,11 @@ Status WriteOut(const CloneImage& image, Console& console)
 
 }  // namespace
 
+Message NotAllKept(const Message& path)
+{
+    return {MESSAGE("%1 is saved, but not all that belonged to the old file could be kept:"), {path}};
+}
+
 QString PathOf(const std::string& typed)
 {
     return QFile::decodeName(QByteArray::fromStdString(typed));
@@ -85,8 +91,9 @@ std::optional<Problem> NameProblem(const std::string& typed)
         PathOf(typed).contains(QChar::ReplacementCharacter) && typed.find("\uFFFD") == std::string::npos;
     if (!isOther)
         return std::nullopt;
-    return Problem{kFileOpenError,
-                   typed + ": the name is not written in UTF-8. Rename the file, or use \"-\"."};
+    return Problem{
+        kFileOpenError,
+        {MESSAGE("%1: the name is not written in UTF-8. Rename the file, or use \"-\"."), {typed}}};
 }
 
 std::string PathText(const QString& path)
@@ -108,9 +115,9 @@ std::optional<Problem> Parse(const std::string& path, const std::string& bytes, 
     const auto error = ParseCloneFile(bytes, image);
     if (!error)
         return std::nullopt;
-    const std::string name =
-        IsStandard(path) ? kStandardInput : PathText(QFileInfo(PathOf(path)).absoluteFilePath());
-    return Problem{kDataError, name + ": " + error->reason};
+    const Message name = IsStandard(path) ? Message(kStandardInput)
+                                          : Message(PathText(QFileInfo(PathOf(path)).absoluteFilePath()));
+    return Problem{kDataError, Message::List({name, error->reason}, ": ")};
 }
 
 std::optional<Problem> Load(const std::string& path, CloneImage& image, std::string* bytes)
@@ -147,8 +154,9 @@ bool AreSameFile(const std::string& a, const std::string& b)
 
 Problem SameFileProblem(const std::string& path)
 {
-    return {kFileOpenError,
-            path + ": both names are the same file, which would be replaced; give another name"};
+    return {
+        kFileOpenError,
+        {MESSAGE("%1: both names are the same file, which would be replaced; give another name"), {path}}};
 }
 
 std::optional<Problem> ReplaceProblem(const Arguments& arguments, const std::string& path, FileKind kind)
@@ -166,13 +174,14 @@ SaveEnd Save(const std::string& path, const CloneImage& image, Console& console,
         return {Fail(console, *problem), false};
     const Rows spoiling = unopenable == Unopenable::IsRefused ? NotesThatSpoil(image) : Rows();
     if (!spoiling.empty())
-        return {FailForRows(console,
-                            {kDataError, Unchanged(path) +
-                                             ": with these notes it could not be opened any "
-                                             "more. --safe-notes stores them without commas and quotes, "
-                                             "--force as they are:"},
-                            spoiling),
-                false};
+        return {
+            FailForRows(console,
+                        {kDataError,
+                         {MESSAGE("%1: with these notes it could not be opened any more. --safe-notes stores "
+                                  "them without commas and quotes, --force as they are:"),
+                          {Unchanged(path)}}},
+                        spoiling),
+            false};
     if (IsStandard(path))
         return {WriteOut(image, console), true};
     WarnOfLinks(path, console);
@@ -181,18 +190,18 @@ SaveEnd Save(const std::string& path, const CloneImage& image, Console& console,
     return {status, !outcome.mark.isEmpty()};
 }
 
-Status SaveRead(const std::string& path, const CloneImage& image, Console& console,
-                const std::string& aftermath)
+Status SaveRead(const std::string& path, const CloneImage& image, Console& console, const Message& aftermath)
 {
     const auto rescue = [&] {
-        const std::string kept = Rescue(image, QFileInfo(PathOf(path)).absoluteFilePath());
-        return aftermath.empty() ? kept : kept + ' ' + aftermath;
+        const Message kept = Rescue(image, QFileInfo(PathOf(path)).absoluteFilePath());
+        return aftermath.empty() ? kept : Message::List({kept, aftermath}, " ");
     };
     if (const Rows spoiling = NotesThatSpoil(image); !spoiling.empty())
         return FailForRows(console,
                            {kDataError,
-                            Unchanged(path) + ": with the notes below it could not be opened any more; "
-                                              "take commas and quotes out of them.",
+                            {MESSAGE("%1: with the notes below it could not be opened any more; take commas "
+                                     "and quotes out of them."),
+                             {Unchanged(path)}},
                             rescue()},
                            spoiling);
     if (IsStandard(path))

@@ -44,6 +44,9 @@ Problem SameFileProblem(const std::string& path);
 /// command writes and --force is not given.
 std::optional<Problem> ReplaceProblem(const Arguments& arguments, const std::string& path, FileKind kind);
 
+/// That a file was saved without all that the old one had.
+Message NotAllKept(const Message& path);
+
 /// What becomes of a clone file that could not be opened again because of its notes.
 enum class Unopenable { IsRefused, IsWritten };
 
@@ -62,6 +65,6 @@ SaveEnd Save(const std::string& path, const CloneImage& image, Console& console,
 /// Saves what was read from the receiver. Where that fails it is kept elsewhere, and the message says where.
 /// \param aftermath  what else the failure means
 Status SaveRead(const std::string& path, const CloneImage& image, Console& console,
-                const std::string& aftermath = {});
+                const Message& aftermath = {});
 
 }  // namespace rqm5

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <span>
-#include <string>
 #include <string_view>
 
 #include "cli/arguments.h"
@@ -15,14 +14,14 @@ namespace rqm5 {
 struct Command
 {
     std::string_view name;
-    std::string_view summary;  ///< one line
-    std::string_view details;  ///< what a user needs to know beyond the options
+    const char* summary;  ///< one line; translated where it is shown, as the details are
+    const char* details;  ///< what a user needs to know beyond the options
     std::span<const Operand> operands;
     std::span<const Option> options;
     Status (*run)(const Arguments& arguments, Console& console);
 
     /// What is wrong with arguments that are right one by one; empty when nothing is. May be null.
-    std::string (*conflict)(const Arguments& arguments) = nullptr;
+    Message (*conflict)(const Arguments& arguments) = nullptr;
 
     /// The operands in the usage line, where their names alone do not say it.
     std::string_view synopsis = {};
@@ -43,7 +42,7 @@ class ReceiverSession;
 /// \param aftermath  what it means when the comparison itself fails
 /// \param found      takes the number of blocks that differ; may be null
 Status CompareWithReceiver(const std::vector<ExpectedBlock>& expected, ReceiverSession& session,
-                           Console& console, const std::string& aftermath, Form form = Form::Columns,
+                           Console& console, const Message& aftermath, Form form = Form::Columns,
                            int* found = nullptr);
 
 // The handlers.
@@ -73,7 +72,7 @@ Status RunCompletion(const Arguments& arguments, Console& console);
 Status RunHelp(const Arguments& arguments, Console& console);
 
 // What is wrong with arguments that are right one by one.
-std::string FindFault(const Arguments& arguments);
-std::string DiffFault(const Arguments& arguments);
+Message FindFault(const Arguments& arguments);
+Message DiffFault(const Arguments& arguments);
 
 }  // namespace rqm5

@@ -1,12 +1,11 @@
 #pragma once
 
 #include <iosfwd>
-#include <string>
-#include <string_view>
 #include <vector>
 
 #include "cli/paint.h"
 #include "image/problem.h"
+#include "language/message.h"
 
 namespace rqm5 {
 
@@ -30,16 +29,23 @@ struct Console
     bool isVerbose = false;  ///< every exchange with the receiver, every warning
 };
 
-/// One line on err: the fixed text, a colon, the details, all of it as visible characters.
+/// One line on err: the fixed text, which scripts look for, a colon, and the details in the user's language,
+/// all of it as visible characters.
 void Report(Console& console, const Problem& problem);
 
 /// Reports the problem and is the status of a failed command.
 Status Fail(Console& console, const Problem& problem);
 
 /// One line on err at the end of long work, for who waits at a terminal.
-void TellEnd(Console& console, std::string_view text);
+void TellEnd(Console& console, const Message& text);
 
 /// "Warning: ..." on err, for what does not fail the command; each of the rows on a line below.
-void Warn(Console& console, std::string_view text, const std::vector<std::string>& rows);
+void Warn(Console& console, const Message& text, const std::vector<Message>& rows);
+
+/// One line on err in the user's language.
+void Say(Console& console, const Message& text);
+
+/// Each of the rows on a line of its own on err.
+void List(Console& console, const std::vector<Message>& rows);
 
 }  // namespace rqm5

@@ -29,10 +29,10 @@ std::size_t Distance(std::string_view a, std::string_view b)
 
 }  // namespace
 
-std::string DidYouMean(std::string_view typed, std::span<const std::string_view> known)
+Message DidYouMean(const Message& fault, std::string_view typed, std::span<const std::string_view> known)
 {
     if (typed.size() > kLongestTypo)
-        return {};
+        return fault;
     std::string_view nearest;
     std::size_t best = std::max<std::size_t>(2, typed.size() / 3) + 1;
     for (const std::string_view word : known) {
@@ -42,7 +42,7 @@ std::string DidYouMean(std::string_view typed, std::span<const std::string_view>
             nearest = word;
         }
     }
-    return nearest.empty() ? std::string() : "; did you mean \"" + std::string(nearest) + "\"?";
+    return nearest.empty() ? fault : Message(MESSAGE("%1; did you mean \"%2\"?"), {fault, nearest});
 }
 
 }  // namespace rqm5

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <span>
-#include <string>
 #include <string_view>
+
+#include "language/message.h"
 
 namespace rqm5 {
 
-/// `; did you mean "read"?` with the known word that is nearest to a mistyped one; empty when none is near.
-std::string DidYouMean(std::string_view typed, std::span<const std::string_view> known);
+/// What is wrong with a mistyped word, and the known word that is nearest to it: `unknown command "raed"; did
+/// you mean "read"?` The fault alone when none is near.
+Message DidYouMean(const Message& fault, std::string_view typed, std::span<const std::string_view> known);
 
 }  // namespace rqm5

@@ -29,11 +29,11 @@ Status ReadReceiver(const Arguments& arguments, CloneImage& image, Console& cons
         image.MemData(row).note = file.MemData(row).note;
     for (int row = 0; row < kVfoRows; ++row)
         image.VFOData(row).note = file.VFOData(row).note;
-    if (const std::vector<std::string> unreadable = reader.Unreadable();
+    if (const std::vector<Message> unreadable = reader.Unreadable();
         status == Status::Done && !unreadable.empty()) {
-        Report(console, {kCommunicationError, UnreadableNote(static_cast<int>(unreadable.size())) + ":"});
-        for (const std::string& block : unreadable)
-            console.err << "  " << VisibleText(block) << '\n';
+        Report(console, {kCommunicationError,
+                         {MESSAGE("%1:"), {UnreadableNote(static_cast<int>(unreadable.size()))}}});
+        List(console, unreadable);
         status = Status::Failed;
     }
     return status;
@@ -41,16 +41,16 @@ Status ReadReceiver(const Arguments& arguments, CloneImage& image, Console& cons
 
 }  // namespace
 
-std::string DiffFault(const Arguments& arguments)
+Message DiffFault(const Arguments& arguments)
 {
     const std::size_t files = arguments.Operands().size();
     if (arguments.Has("--port"))
         return files == 1 ? ScopeConflict(arguments)
-                          : "--port compares one file with the receiver; leave B out";
+                          : MESSAGE("--port compares one file with the receiver; leave B out");
     for (const char* option : {"--only", "--bank"})
         if (arguments.Has(option))
-            return std::string(option) + " is about what is read from the receiver; add --port";
-    return files == 1 ? "B is missing; --port P compares with the receiver" : "";
+            return {MESSAGE("%1 is about what is read from the receiver; add --port"), {std::string(option)}};
+    return files == 1 ? MESSAGE("B is missing; --port P compares with the receiver") : Message();
 }
 
 Status RunDiff(const Arguments& arguments, Console& console)
@@ -68,12 +68,12 @@ Status RunDiff(const Arguments& arguments, Console& console)
             return status;
     }
     const ImageChange change = Difference(a, b);
-    const std::vector<std::string> differences = DescribeChange(a, change);
+    const std::vector<Message> differences = DescribeChange(a, change);
     if (arguments.Has("--json"))
         WriteChange(a, b, change, console.out);
     else
-        for (const std::string& difference : differences)
-            console.out << VisibleText(difference) << '\n';
+        for (const Message& difference : differences)
+            console.out << VisibleText(difference.English()) << '\n';
     return differences.empty() ? Status::Done : Status::Failed;
 }
 

@@ -44,9 +44,9 @@ void WriteSettings(JsonWriter& json, const ImageChange& change)
         if (item.index >= kSettingsInWords)
             continue;
         json.Open('{');
-        json.Member("name", SettingCaption(item.index));
-        json.Member("before", SettingValueText(item.index, item.before));
-        json.Member("after", SettingValueText(item.index, item.after));
+        json.Member("name", SettingCaption(item.index).English());
+        json.Member("before", SettingValueText(item.index, item.before).English());
+        json.Member("after", SettingValueText(item.index, item.after).English());
         json.Close('}');
     }
     json.Close(']');

@@ -50,8 +50,8 @@ std::optional<Problem> SetFields(CloneImage& image, const RowChoice& choice,
     else if (ids.empty())
         return std::get<Problem>(rows);
     for (const RowId id : ids)
-        if (const std::string fault = AssignFields(image, id, values); !fault.empty())
-            return Problem{kDataError, RowName(image, id) + ": " + fault};
+        if (const Message fault = AssignFields(image, id, values); !fault.empty())
+            return Problem{kDataError, Message::List({RowName(image, id), fault}, ": ")};
     return std::nullopt;
 }
 
@@ -59,8 +59,8 @@ std::optional<Problem> SetFields(CloneImage& image, const RowChoice& choice,
 std::variant<RowList, Problem> RoomAt(const CloneImage& image, const std::string& to, std::size_t wanted)
 {
     const RowChoice choice = ChoiceOfRows(to);
-    if (const std::string fault = choice.Fault(image); !fault.empty())
-        return Problem{kDataError, "TO " + to + ": " + fault};
+    if (const Message fault = choice.Fault(image); !fault.empty())
+        return Problem{kDataError, Message::List({"TO " + to, fault}, ": ")};
     const RowRange target = choice.Ranges(image).front();
     RowList room = EmptyRows(image, target);
     if (target.count == 1) {
@@ -69,8 +69,9 @@ std::variant<RowList, Problem> RoomAt(const CloneImage& image, const std::string
         room = RowsOf({target.first, std::max(0, group.Last() - target.first + 1)});
     }
     if (room.size() < wanted)
-        return Problem{kDataError, "TO " + to + " has room for " + std::to_string(room.size()) + " of " +
-                                       std::to_string(wanted) + " channels"};
+        return Problem{kDataError,
+                       {MESSAGE("TO %1 has room for %2 of %3 channels"),
+                        {to, static_cast<int>(room.size()), static_cast<int>(wanted)}}};
     room.resize(wanted);
     return room;
 }
@@ -110,16 +111,16 @@ std::vector<MoveGroup> GroupsToSort(const CloneImage& image, const RowChoice& ch
     return groups;
 }
 
-std::string SortFault(const RowChoice& choice, const std::vector<MoveGroup>& groups)
+Message SortFault(const RowChoice& choice, const std::vector<MoveGroup>& groups)
 {
     if (choice.HasConditions() || groups.empty())
-        return "sort takes places such as bank:3 or program-scan, and no conditions";
+        return MESSAGE("sort takes places such as bank:3 or program-scan, and no conditions");
     for (const MoveGroup& group : groups)
         if (group.rows.count > 0 && GroupOfRow(group.rows.first) != GroupOfRow(group.rows.Last()))
-            return "rows of two groups cannot be sorted as one; name them apart";
+            return MESSAGE("rows of two groups cannot be sorted as one; name them apart");
     for (const MoveGroup& group : groups)
         if (group.rows.first % group.unit != 0 || group.rows.count % group.unit != 0)
-            return "the two edges of a Program Scan pair stay together; name whole pairs";
+            return MESSAGE("the two edges of a Program Scan pair stay together; name whole pairs");
     return {};
 }
 
@@ -162,7 +163,7 @@ Status RunSort(const Arguments& arguments, Console& console)
     return EditFile(arguments[0], arguments, console, [&](CloneImage& image) -> std::optional<Problem> {
         const RowChoice choice = ChoiceOfRows(arguments[1]);
         const std::vector<MoveGroup> groups = GroupsToSort(image, choice);
-        std::string fault = choice.Fault(image);
+        Message fault = choice.Fault(image);
         if (fault.empty())
             fault = SortFault(choice, groups);
         if (!fault.empty())

@@ -12,22 +12,18 @@
 namespace rqm5 {
 namespace {
 
-std::string Counted(std::size_t count, const std::string& word)
+/// "3 rows, 2 settings".
+Message Summary(const ImageChange& change)
 {
-    return std::to_string(count) + ' ' + word + (count == 1 ? "" : "s");
-}
-
-/// "3 rows and 2 settings changed".
-std::string Summary(const ImageChange& change)
-{
-    const std::size_t rows = change.MemoryRows().size() + change.VfoRows().size();
-    const std::size_t banks = change.BankSize.size() + change.BankLink.size();
-    std::string text;
-    for (const auto& [count, word] : {std::pair(rows, "row"), std::pair(change.Settings.size(), "setting"),
-                                      std::pair(banks, "bank value")})
+    std::vector<Message> parts;
+    const auto add = [&parts](std::size_t count, const char* one, const char* many) {
         if (count > 0)
-            text += (text.empty() ? "" : ", ") + Counted(count, word);
-    return text + " changed";
+            parts.push_back(Counted(static_cast<int>(count), one, many));
+    };
+    add(change.MemoryRows().size() + change.VfoRows().size(), MESSAGE("1 row"), MESSAGE("%1 rows"));
+    add(change.Settings.size(), MESSAGE("1 setting"), MESSAGE("%1 settings"));
+    add(change.BankSize.size() + change.BankLink.size(), MESSAGE("1 bank value"), MESSAGE("%1 bank values"));
+    return parts.empty() ? Message() : Message::List(std::move(parts), ", ");
 }
 
 Status SaveEdited(const std::string& path, const Arguments& arguments, const CloneImage& image,
@@ -36,11 +32,11 @@ Status SaveEdited(const std::string& path, const Arguments& arguments, const Clo
     QString kept;
     if (arguments.Has("--keep") && !IsStandard(path))
         if (const auto problem = KeepOldFile(PathOf(path), kept))
-            return Fail(console, {problem->text, problem->details, Unchanged(path) + "."});
+            return Fail(console, {problem->text, problem->details, {MESSAGE("%1."), {Unchanged(path)}}});
     const SaveEnd end =
         Save(path, image, console, arguments.Has("--force") ? Unopenable::IsWritten : Unopenable::IsRefused);
     if (end.isWritten && !console.isQuiet)
-        NotesOf(path, console) << Summary(change) << " in " << VisibleText(SourceName(path)) << '\n';
+        Note(path, console, {MESSAGE("%1 changed in %2"), {Summary(change), SourceName(path)}});
     return end.status;
 }
 
@@ -53,13 +49,13 @@ Status EditFile(const std::string& path, const Arguments& arguments, Console& co
         return Fail(console, *problem);
     CloneImage after = before;
     if (const auto problem = edit(after))
-        return Fail(console, {problem->text, problem->details, Unchanged(path) + "."});
+        return Fail(console, {problem->text, problem->details, {MESSAGE("%1."), {Unchanged(path)}}});
     if (arguments.Has("--safe-notes"))
         after = WithSafeNotes(std::move(after));
     const ImageChange change = Difference(before, after);
     if (arguments.Has("--dry-run")) {
-        for (const std::string& line : DescribeChange(before, change))
-            console.out << VisibleText(line) << '\n';
+        for (const Message& line : DescribeChange(before, change))
+            console.out << VisibleText(line.English()) << '\n';
         return Status::Done;
     }
     if (!change.IsEmpty() || IsStandard(path))
@@ -77,14 +73,14 @@ RowChoice ChoiceOfRows(const std::string& text)
 
 std::variant<RowList, Problem> NamedRows(const CloneImage& image, const RowChoice& choice, bool needsChannels)
 {
-    if (const std::string fault = choice.Fault(image); !fault.empty())
-        return Problem{kDataError, "ROWS names channels that are not there: " + fault};
+    if (const Message fault = choice.Fault(image); !fault.empty())
+        return Problem{kDataError, {MESSAGE("ROWS names channels that are not there: %1"), {fault}}};
     RowList rows = choice.MemoryRows(image);
     if (needsChannels)
         rows = ChannelsAmong(image, rows);
     if (rows.empty())
-        return Problem{kDataError, needsChannels ? "none of the rows that ROWS names holds a channel"
-                                                 : "ROWS names no row of this file"};
+        return Problem{kDataError, needsChannels ? MESSAGE("none of the rows that ROWS names holds a channel")
+                                                 : MESSAGE("ROWS names no row of this file")};
     return rows;
 }
 

@@ -20,9 +20,9 @@ Status ExportTo(const std::string& path, const CloneImage& image, Console& conso
         console.out << FormatCsv(image);
     else if (const auto problem = ExportCsv(PathOf(path), image))
         return Fail(console, *problem);
-    const std::vector<std::string> formulas = NotesThatLookLikeFormulas(image);
+    const std::vector<Message> formulas = NotesThatLookLikeFormulas(image);
     if (!formulas.empty())
-        Warn(console, "a spreadsheet would run these notes as formulas:", formulas);
+        Warn(console, MESSAGE("a spreadsheet would run these notes as formulas:"), formulas);
     return Status::Done;
 }
 
@@ -45,7 +45,8 @@ class FolderExport
     Status Run()
     {
         if (!QFileInfo(PathOf(folder_)).isDir())
-            return Fail(console_, {kFileOpenError, folder_ + ": there is no such folder. Make it first."});
+            return Fail(console_, {kFileOpenError,
+                                   {MESSAGE("%1: there is no such folder. Make it first."), {folder_}}});
         return ForEachFile(arguments_, console_, [this](const InputFile& file, const CloneImage& image) {
             return Export(file.name, image);
         });
@@ -56,8 +57,10 @@ class FolderExport
     {
         const std::string target = TargetIn(folder_, file);
         if (std::ranges::find(done_, target) != done_.end())
-            return Fail(console_, {kFileOpenError, file + ": another file of this name went to " + target +
-                                                       " just now. Export it by itself."});
+            return Fail(console_, {kFileOpenError,
+                                   {MESSAGE("%1: another file of this name went to %2 just now. Export "
+                                            "it by itself."),
+                                    {file, target}}});
         if (!arguments_.Has("--force"))
             if (const auto problem = OtherKindProblem(PathOf(target), FileKind::Csv))
                 return Fail(console_, *problem);

@@ -15,7 +15,7 @@ Status RunNew(const Arguments& arguments, Console& console)
 {
     const std::string& path = arguments[0];
     if (Exists(path) && !arguments.Has("--force"))
-        return Fail(console, {kFileOpenError, path + " exists already; --force replaces it"});
+        return Fail(console, {kFileOpenError, {MESSAGE("%1 exists already; --force replaces it"), {path}}});
     CloneImage image =
         StartUpImage(ReadNumberIn(arguments.Value("--region", "0"), 0, kRegions - 1).value_or(0));
     if (arguments.Has("--empty"))

@@ -41,14 +41,14 @@ std::variant<std::vector<std::string>, Problem> FilesOf(const Arguments& argumen
         return *problem;
     std::ranges::move(NamesIn(list), std::back_inserter(files));
     if (files.empty())
-        return Problem{kFileOpenError, arguments.Value(kFromFile) + ": the list names no file"};
+        return Problem{kFileOpenError, {MESSAGE("%1: the list names no file"), {arguments.Value(kFromFile)}}};
     return files;
 }
 
-std::string NoFileFault(const Arguments& arguments, std::size_t firstOperand)
+Message NoFileFault(const Arguments& arguments, std::size_t firstOperand)
 {
     const bool isNamed = arguments.Operands().size() > firstOperand || arguments.Has(kFromFile);
-    return isNamed ? "" : "FILE is missing";
+    return isNamed ? Message() : Message(MESSAGE("%1 is missing"), {std::string("FILE")});
 }
 
 Status Worse(Status one, Status other)

@@ -26,7 +26,7 @@ std::variant<std::vector<std::string>, Problem> FilesOf(const Arguments& argumen
                                                         std::size_t firstOperand = 0);
 
 /// Fault of a command that goes through files: none is named.
-std::string NoFileFault(const Arguments& arguments, std::size_t firstOperand = 0);
+Message NoFileFault(const Arguments& arguments, std::size_t firstOperand = 0);
 
 /// The worse of two ends.
 Status Worse(Status one, Status other);

@@ -33,7 +33,7 @@ bool IsTerm(std::string_view word)
 }
 
 /// \param fault  what is wrong with the pattern; empty when nothing is
-Pattern ReadPattern(std::string_view text, std::string& fault)
+Pattern ReadPattern(std::string_view text, Message& fault)
 {
     Pattern pattern;
     while (!text.empty() && fault.empty()) {
@@ -88,19 +88,19 @@ std::vector<std::string> Line(const std::string& file, const CloneImage& image, 
     std::vector<std::string> cells = ChannelCells(image, row);
     const int selector = SelectorOfRow(image, row);
     const bool isInNone = selector == kSelectAll;
-    cells.insert(cells.begin(), {file, isInNone ? "-" : SelectorText(selector),
+    cells.insert(cells.begin(), {file, isInNone ? "-" : SelectorText(selector).English(),
                                  isInNone ? "-" : LabelOf(image, row, selector), std::to_string(row)});
     return cells;
 }
 
 }  // namespace
 
-std::string FindFault(const Arguments& arguments)
+Message FindFault(const Arguments& arguments)
 {
-    std::string fault;
+    Message fault;
     const Pattern pattern = ReadPattern(arguments[0], fault);
     if (fault.empty() && pattern.words.empty() && !pattern.hasChoice)
-        fault = "PATTERN is empty";
+        fault = {MESSAGE("%1 is empty"), {std::string("PATTERN")}};
     if (fault.empty())
         fault = NoFileFault(arguments, 1);
     return fault.empty() ? FormFault(arguments) : fault;
@@ -108,7 +108,7 @@ std::string FindFault(const Arguments& arguments)
 
 Status RunFind(const Arguments& arguments, Console& console)
 {
-    std::string fault;
+    Message fault;
     const Pattern pattern = ReadPattern(arguments[0], fault);
     const Form form = FormOf(arguments);
     JsonWriter json(console.out);

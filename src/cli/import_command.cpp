@@ -14,29 +14,32 @@
 namespace rqm5 {
 namespace {
 
-std::string Counted(int count)
+Message RowCount(int count)
 {
-    return std::to_string(count) + (count == 1 ? " row" : " rows");
+    return Counted(count, MESSAGE("1 row"), MESSAGE("%1 rows"));
 }
 
 void SayTaken(int rows, const Arguments& arguments, Console& console)
 {
-    NotesOf(arguments[1], console) << Counted(rows)
-                                   << (arguments.Has("--dry-run") ? " would be taken from " : " taken from ")
-                                   << VisibleText(SourceName(arguments[0])) << '\n';
+    Note(arguments[1], console,
+         {arguments.Has("--dry-run") ? MESSAGE("%1 would be taken from %2") : MESSAGE("%1 taken from %2"),
+          {RowCount(rows), SourceName(arguments[0])}});
 }
 
 /// What an import of a file of this program could not read as written.
 void WarnOf(const CsvTaken& taken, Console& console)
 {
     if (!taken.findings.IsEmpty())
-        Warn(console, "not everything was read as written; " + taken.findings.Summary(),
+        Warn(console, {MESSAGE("not everything was read as written; %1"), {taken.findings.Summary()}},
              taken.findings.Lines());
     if (taken.movedCarriers > 0)
-        Warn(console,
-             "the carrier code of " + Counted(taken.movedCarriers) +
-                 " moved one up, as with every import of an export: 300Hz is stored as 400Hz",
-             {});
+        Warn(
+            console,
+            {MESSAGE(
+                 "the carrier code of %1 moved one up, as with every import of an export: 300Hz is stored as "
+                 "400Hz"),
+             {RowCount(taken.movedCarriers)}},
+            {});
 }
 
 /// Shows what would change.
@@ -44,8 +47,8 @@ Status ShowChanges(const CloneImage& before, const CloneImage& after, const Argu
                    Console& console)
 {
     SayTaken(rows, arguments, console);
-    for (const std::string& change : DescribeChange(before, Difference(before, after)))
-        console.out << VisibleText(change) << '\n';
+    for (const Message& change : DescribeChange(before, Difference(before, after)))
+        console.out << VisibleText(change.English()) << '\n';
     return Status::Done;
 }
 
@@ -70,8 +73,9 @@ SaveEnd Finish(const CloneImage& before, CloneImage image, const Arguments& argu
 
 Status NothingTaken(const Arguments& arguments, Console& console)
 {
-    return Fail(console, {kDataError, SourceName(arguments[0]) + " holds no record of an RQ-M5; " +
-                                          Unchanged(arguments[1])});
+    return Fail(console, {kDataError,
+                          {MESSAGE("%1 holds no record of an RQ-M5; %2"),
+                           {SourceName(arguments[0]), Unchanged(arguments[1])}}});
 }
 
 Status ImportOwn(const std::string& bytes, const CloneImage& before, const Arguments& arguments,
@@ -94,15 +98,17 @@ Status ImportList(const std::string& bytes, const CloneImage& before, const Argu
     const ListImport list = PlanListImport(bytes, before, arguments);
     if (list.problem)
         return Fail(console, *list.problem);
-    NotesOf(arguments[1], console) << "Read as a list: " << VisibleText(list.description) << '\n';
+    Note(arguments[1], console, {MESSAGE("Read as a list: %1"), {list.description}});
     if (!list.refused.empty())
-        Warn(console, "not taken: " + Counted(static_cast<int>(list.refused.size())), list.refused);
+        Warn(console, {MESSAGE("not taken: %1"), {RowCount(static_cast<int>(list.refused.size()))}},
+             list.refused);
     if (!list.remarks.empty())
-        Warn(console, "left out:", list.remarks);
+        Warn(console, MESSAGE("left out:"), list.remarks);
     const auto rows = static_cast<int>(RowsWritten(list.plan).size());
     if (rows == 0)
-        return Fail(console, {kDataError, "no row of " + SourceName(arguments[0]) + " can be taken; " +
-                                              Unchanged(arguments[1])});
+        return Fail(console, {kDataError,
+                              {MESSAGE("no row of %1 can be taken; %2"),
+                               {SourceName(arguments[0]), Unchanged(arguments[1])}}});
     CloneImage image = before;
     ApplyPlan(list.plan, image);
     return Finish(before, std::move(image), arguments, rows, console).status;

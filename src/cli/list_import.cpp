@@ -16,22 +16,25 @@ ListForm FormFor(const Arguments& arguments)
     return form;
 }
 
-std::string Titles(const ListTable& table)
+Message Titles(const ListTable& table)
 {
     std::string titles;
     for (const std::string& title : table.titles)
         titles += (titles.empty() ? "" : ", ") + title;
-    return titles.empty() ? "no titles; columns are 1 to " + std::to_string(table.columns.size()) : titles;
+    if (!titles.empty())
+        return titles;
+    return {MESSAGE("no titles; columns are 1 to %1"), {static_cast<int>(table.columns.size())}};
 }
 
 Problem UnknownColumn(const ListTable& table)
 {
-    return {kDataError, "the list has no column \"" + table.unknown.front() + "\"; it has " + Titles(table)};
+    return {kDataError,
+            {MESSAGE("the list has no column \"%1\"; it has %2"), {table.unknown.front(), Titles(table)}}};
 }
 
-constexpr char kWhereTo[] =
-    "the list does not say which rows it belongs to; name the first one with --from-row, or the "
-    "columns that name them with --map";
+constexpr char kWhereTo[] = MESSAGE(
+    "the list does not say which rows it belongs to; name the first one with --from-row, or "
+    "the columns that name them with --map");
 
 }  // namespace
 
@@ -52,32 +55,34 @@ ListImport PlanListImport(const std::string& bytes, const CloneImage& image, con
     }
     const auto row = from.empty() ? std::nullopt : RowOfWord(image, from);
     if (!from.empty() && !row) {
-        list.problem = Problem{kDataError, "there is no row " + from + " in this file"};
+        list.problem = Problem{kDataError, {MESSAGE("there is no row %1 in this file"), {from}}};
         return list;
     }
     list.plan = row ? PlanOn(image, RowsOf(RowsOnFrom(image, *row)), channels) : PlanNamed(image, channels);
     for (const PlannedRow& planned : list.plan) {
         if (!planned.IsTaken())
-            list.refused.push_back(planned.source + ": " + planned.refusal);
+            list.refused.push_back(Message::List({planned.source, planned.refusal}, ": "));
         else if (!planned.remark.empty())
-            list.remarks.push_back(planned.source + ": " + planned.remark);
+            list.remarks.push_back(Message::List({planned.source, planned.remark}, ": "));
     }
     return list;
 }
 
-std::string MapFault(std::string_view text)
+Message MapFault(std::string_view text)
 {
     const auto parsed = ParseForm(text);
-    return std::holds_alternative<std::string>(parsed) ? std::get<std::string>(parsed) : std::string();
+    return std::holds_alternative<ListForm>(parsed) ? Message() : Message(std::get<1>(parsed));
 }
 
-std::string FromRowFault(std::string_view text)
+Message FromRowFault(std::string_view text)
 {
     // Which channels a bank has is in the file.
     const bool isInBank = text.find(':') != std::string_view::npos;
-    return isInBank || RowOfWord(CloneImage(), text) ? ""
-                                                     : "a row is a number 0 to 1209, BANK:CHANNEL such as "
-                                                       "3:12, program-scan, search-pass or priority";
+    return isInBank || RowOfWord(CloneImage(), text)
+               ? Message()
+               : MESSAGE(
+                     "a row is a number 0 to 1209, BANK:CHANNEL such as 3:12, program-scan, search-pass or "
+                     "priority");
 }
 
 }  // namespace rqm5

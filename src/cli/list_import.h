@@ -14,10 +14,10 @@ namespace rqm5 {
 struct ListImport
 {
     std::optional<Problem> problem = {};
-    std::string description = {};  ///< how the list was read
+    Message description = {};  ///< how the list was read
     PastePlan plan = {};
-    std::vector<std::string> refused = {};  ///< "Line 3: why"
-    std::vector<std::string> remarks = {};  ///< what was left out of rows that are taken
+    std::vector<Message> refused = {};  ///< "Line 3: why"
+    std::vector<Message> remarks = {};  ///< what was left out of rows that are taken
 };
 
 /// Reads a list as --map and --decimal-comma say, and plans where it goes: from --from-row on, else to the
@@ -25,9 +25,9 @@ struct ListImport
 ListImport PlanListImport(const std::string& bytes, const CloneImage& image, const Arguments& arguments);
 
 /// Why a value of --map is refused; empty when it is taken.
-std::string MapFault(std::string_view text);
+Message MapFault(std::string_view text);
 
 /// The same of --from-row, as far as it can be told without a file.
-std::string FromRowFault(std::string_view text);
+Message FromRowFault(std::string_view text);
 
 }  // namespace rqm5

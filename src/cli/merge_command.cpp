@@ -7,15 +7,16 @@ namespace rqm5 {
 namespace {
 
 /// Why the channels of a bank of one image have no place in the other: their banks lie elsewhere.
-std::string LayoutFault(const RowChoice& choice, const CloneImage& other, const CloneImage& image)
+Message LayoutFault(const RowChoice& choice, const CloneImage& other, const CloneImage& image)
 {
     if (choice.HasBanks())
         return {};
     for (const int bank : choice.Banks())
         if (GroupRows(other, bank) != GroupRows(image, bank))
-            return "bank " + std::to_string(bank) +
-                   " has other rows in OTHER than in FILE. Take \"banks\" as well, or name the rows as "
-                   "memory:0-199";
+            return {
+                MESSAGE("bank %1 has other rows in OTHER than in FILE. Take \"banks\" as well, or name the "
+                        "rows as memory:0-199"),
+                {bank}};
     return {};
 }
 
@@ -29,14 +30,14 @@ void TakeBanks(const CloneImage& other, CloneImage& image)
 
 std::optional<Problem> Take(const RowChoice& choice, const CloneImage& other, CloneImage& image)
 {
-    std::string fault = choice.Fault(other);
+    Message fault = choice.Fault(other);
     if (fault.empty())
         fault = LayoutFault(choice, other, image);
     if (!fault.empty())
         return Problem{kDataError, fault};
     const RowList rows = choice.MemoryRows(other);
     if (rows.empty() && choice.VfoRows().empty() && !choice.HasSettings() && !choice.HasBanks())
-        return Problem{kDataError, "ROWS names no row of OTHER"};
+        return Problem{kDataError, MESSAGE("ROWS names no row of OTHER")};
     for (const int row : rows)
         image.MemData(row) = other.MemData(row);
     for (const int row : choice.VfoRows())

@@ -2,7 +2,6 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QLoggingCategory>
-#include <iostream>
 
 #include "cli/clone_files.h"
 #include "cli/command.h"
@@ -11,6 +10,7 @@
 #include "cli/values.h"
 #include "files/file_store.h"
 #include "files/plain_settings.h"
+#include "language/language.h"
 #include "printing/pdf_file.h"
 
 // The pages of "rq-m5 print --pdf", which starts this program with its own options.
@@ -70,13 +70,14 @@ int main(int argc, char* argv[])
     QLoggingCategory::setFilterRules(QStringLiteral("*.warning=false"));
     const std::vector<std::string> words(argv + (argc > 0 ? 1 : 0), argv + argc);
     const QGuiApplication application(argc, argv);
+    Language::OfProgram().Use({});
 
     Console console = StandardConsole();
     const Command& print = *FindCommand("print");
     const auto parsed = ParseArguments(words, print.operands, print.options);
     const auto* arguments = std::get_if<Arguments>(&parsed);
     if (arguments == nullptr || !arguments->Has("--pdf")) {
-        std::cerr << "Use \"rq-m5 print --pdf OUT.pdf FILE\".\n";
+        Say(console, {MESSAGE("Use \"%1\"."), {std::string("rq-m5 print --pdf OUT.pdf FILE")}});
         return static_cast<int>(Status::WrongUsage);
     }
     return Finish(Run(*arguments, console), console);

@@ -131,12 +131,14 @@ Status RunPorts(const Arguments& arguments, Console& console)
         return Status::Done;
     }
     Print(TableOf(ports), form, console);
-    QString remedy;
+    Message remedy;
     for (const auto& [info, fault] : ports)
         if (fault == PortFault::NoPermission)
             remedy = PortRemedy(info.device, fault);
-    if (!remedy.isEmpty())
-        (form == Form::Columns ? console.out : console.err) << VisibleText(remedy.toStdString()) << '\n';
+    if (!remedy.empty() && form == Form::Columns)
+        console.out << VisibleText(remedy.English()) << '\n';
+    else if (!remedy.empty())
+        Say(console, remedy);
     return Status::Done;
 }
 

@@ -43,9 +43,10 @@ Status RunPdfProgram(const Arguments& arguments, Console& console)
     console.out.flush();
     process.start(PdfProgram(), WordsOf(arguments));
     if (!process.waitForStarted(-1))
-        return Fail(console, {kFileOpenError, PathText(PdfProgram()) +
-                                                  ": the program that makes PDFs cannot be started. Install "
-                                                  "rq-m5 again, or print from the window."});
+        return Fail(console, {kFileOpenError,
+                              {MESSAGE("%1: the program that makes PDFs cannot be started. Install "
+                                       "rq-m5 again, or print from the window."),
+                               {PathText(PdfProgram())}}});
     process.waitForFinished(-1);
     const bool hasEnded = process.exitStatus() == QProcess::NormalExit;
     return hasEnded ? static_cast<Status>(process.exitCode()) : Status::Failed;

@@ -6,14 +6,14 @@
 #include "cli/command.h"
 #include "cli/did_you_mean.h"
 #include "cli/help.h"
-#include "image/display_text.h"
 
 namespace rqm5 {
 namespace {
 
-Status RefuseUsage(Console& console, const std::string& program, const std::string& fault)
+Status RefuseUsage(Console& console, const std::string& program, const Message& fault)
 {
-    console.err << program << ": " << VisibleText(fault) << "\nTry \"" << program << " --help\".\n";
+    Say(console, Message::List({program, fault}, ": "));
+    Say(console, {MESSAGE("Try \"%1\"."), {program + " --help"}});
     return Status::WrongUsage;
 }
 
@@ -29,9 +29,9 @@ Status RefuseCommand(Console& console, const std::string& typed)
     for (const Command& command : Commands())
         names.push_back(command.name);
     const bool isOption = typed.starts_with('-');
-    return RefuseUsage(console, "rq-m5",
-                       std::string(isOption ? "unknown option \"" : "unknown command \"") + typed + '"' +
-                           DidYouMean(typed, names));
+    const Message fault = {isOption ? MESSAGE("unknown option \"%1\"") : MESSAGE("unknown command \"%1\""),
+                           {typed}};
+    return RefuseUsage(console, "rq-m5", DidYouMean(fault, typed, names));
 }
 
 Status RunCommand(const Command& command, std::span<const std::string> words, Console& console)
@@ -45,7 +45,7 @@ Status RunCommand(const Command& command, std::span<const std::string> words, Co
         return Print(console, CommandHelp(command));
     console.isQuiet = arguments.Has("--quiet");
     console.isVerbose = arguments.Has("--verbose");
-    const std::string conflict = command.conflict != nullptr ? command.conflict(arguments) : "";
+    const Message conflict = command.conflict != nullptr ? command.conflict(arguments) : Message();
     return conflict.empty() ? command.run(arguments, console) : RefuseUsage(console, program, conflict);
 }
 
@@ -73,7 +73,7 @@ Status RunProgram(std::span<const std::string> words, Console& console)
 {
     const std::size_t leading = LeadingSwitches(words);
     if (words.size() == leading)
-        return RefuseUsage(console, "rq-m5", "a command is missing");
+        return RefuseUsage(console, "rq-m5", MESSAGE("a command is missing"));
     const std::string& first = words[leading];
     std::vector<std::string> rest(words.begin(), words.begin() + static_cast<std::ptrdiff_t>(leading));
     rest.insert(rest.end(), words.begin() + static_cast<std::ptrdiff_t>(leading) + 1, words.end());

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <ostream>
 
+#include "image/display_text.h"
+#include "language/translated.h"
 #include "link/closing_notes.h"
 
 namespace rqm5 {
@@ -26,12 +28,12 @@ std::string ProgressLine(int done, int total, int row, std::optional<std::chrono
     const int percent = total > 0 ? std::clamp(done * 100 / total, 0, 100) : 0;
     std::string text = Padded(percent, 3) + " %";
     if (row >= 0)
-        text += "  row " + Padded(row, 4);
+        text += "  " + Said({MESSAGE("row %1"), {Padded(row, 4)}});
     if (left)
-        text += "  " + TimeText(*left) + " left";
-    const int room = std::min(columns - static_cast<int>(text.size()) - 3, kWidestBar);
+        text += "  " + Said({MESSAGE("%1 left"), {TimeText(*left)}});
+    const int room = std::min(columns - DisplayWidth(text) - 3, kWidestBar);
     if (room < kNarrowestBar)
-        return text.substr(0, static_cast<std::size_t>(std::max(columns, 0)));
+        return std::string(CutToWidth(text, std::max(columns, 0)));
     const auto filled = static_cast<std::size_t>(room * percent / 100);
     return '[' + std::string(filled, '#') + std::string(static_cast<std::size_t>(room) - filled, '.') + "] " +
            text;
@@ -67,8 +69,9 @@ void ProgressBar::Message(const Problem& problem)
     Problem named = problem;
     // A failure of the port itself begins with the device.
     if (!portName_.empty())
-        named.details =
-            portName_ + ", " + (problem.text == kComPortError ? "" : portDevice_ + ": ") + problem.details;
+        named.details = problem.text == kComPortError
+                            ? rqm5::Message::List({portName_, problem.details}, ", ")
+                            : rqm5::Message::List({portName_ + ", " + portDevice_, problem.details}, ": ");
     Report(console_, named);
 }
 
@@ -84,7 +87,7 @@ void ProgressBar::Draw()
 {
     drawn_ = Clock::now();
     const std::string line = ProgressLine(done_, total_, row_, TimeLeft(), console_.progressColumns - 1);
-    const auto columns = static_cast<int>(line.size());
+    const auto columns = DisplayWidth(line);
     console_.err << '\r' << line
                  << std::string(static_cast<std::size_t>(std::max(drawnColumns_ - columns, 0)), ' ')
                  << std::flush;

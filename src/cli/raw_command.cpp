@@ -26,14 +26,15 @@ void AddMeaning(int address, const MemoryBlock& block, TextTable& table)
 {
     // How the receiver divides its banks is not known here, so a row is called by its number alone.
     const int row = MemoryRowAt(address);
-    const std::string name = row >= 0 ? "memory row " + std::to_string(row) : BlockName({}, address);
+    const std::string name =
+        row >= 0 ? "memory row " + std::to_string(row) : BlockName({}, address).English();
     if (!name.empty())
         table.AddRow({"Meaning", name});
     const std::vector<BlockField> fields = BlockFields(address, block);
     if (fields.empty() && HoldsFields(address))
         table.AddRow({"", "empty"});
     for (const BlockField& field : fields)
-        table.AddRow({"  " + field.name, field.text});
+        table.AddRow({"  " + field.name.English(), field.text.English()});
 }
 
 }  // namespace

@@ -73,8 +73,8 @@ void ReceiverSession::TellPort()
     const std::string device = port_.Device().toStdString();
     const std::string name = "COM " + std::to_string(number_);
     if (!console_.isQuiet)
-        console_.err << "Port: " << VisibleText(name + ", " + (device.empty() ? "no device" : device))
-                     << " (without --port, that of RQ-M5.ini)\n";
+        Say(console_, {MESSAGE("Port: %1, %2 (without --port, that of RQ-M5.ini)"),
+                       {name, device.empty() ? Message(MESSAGE("no device")) : Message(device)}});
     progress_.NamePort(name, device);
 }
 
@@ -82,15 +82,15 @@ ReceiverSession::~ReceiverSession()
 {
     link_.Knowledge().Save();
     progress_.Clear();
-    if (const std::string note = RepeatNote(progress_.Repeated()); !note.empty())
-        console_.err << note << '\n';
+    if (const Message note = RepeatNote(progress_.Repeated()); !note.empty())
+        Say(console_, note);
 }
 
 Status ReceiverSession::Finish(TransferResult result)
 {
     progress_.Clear();
     if (result == TransferResult::Cancelled)
-        console_.err << "Cancelled.\n";
+        Say(console_, MESSAGE("Cancelled."));
     if (result == TransferResult::Cancelled && isCtrlC_)
         return Status::Interrupted;
     return result == TransferResult::Done ? Status::Done : Status::Failed;
@@ -101,7 +101,7 @@ std::chrono::seconds ReceiverSession::Taken() const
     return std::chrono::round<std::chrono::seconds>(std::chrono::steady_clock::now() - begin_);
 }
 
-void ReceiverSession::Close(const std::string& note)
+void ReceiverSession::Close(const Message& note)
 {
     TellEnd(console_, note);
 }

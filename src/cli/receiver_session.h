@@ -57,7 +57,7 @@ class ReceiverSession
     std::chrono::seconds Taken() const;
 
     /// One line at the end of a command that went well, for whoever sits at a terminal.
-    void Close(const std::string& note);
+    void Close(const Message& note);
 
   private:
     void TellExchange(const std::string& command);

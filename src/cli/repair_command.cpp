@@ -20,8 +20,7 @@ std::optional<Problem> Write(const std::string& path, const std::string& text, C
     WriteReport report;
     const auto problem = WriteWholeFile(PathOf(path), text, &report);
     if (!report.accessChanges.empty())
-        Warn(console, path + " is saved, but not all that belonged to the old file could be kept:",
-             report.accessChanges);
+        Warn(console, NotAllKept(path), report.accessChanges);
     return problem;
 }
 
@@ -44,7 +43,7 @@ std::optional<Problem> WriteRepaired(const Arguments& arguments, const std::stri
         return std::nullopt;
     }
     if (Exists(path))
-        return Problem{kFileOpenError, path + ": there is a file already; choose another name"};
+        return Problem{kFileOpenError, {MESSAGE("%1: there is a file already; choose another name"), {path}}};
     return Write(path, text, console);
 }
 
@@ -57,14 +56,14 @@ Status RunRepair(const Arguments& arguments, Console& console)
         return Fail(console, *problem);
     const auto result = RepairNotes(bytes);
     if (const auto* error = std::get_if<ParseError>(&result))
-        return Fail(console, {kDataError, arguments[0] + ": " + error->reason});
+        return Fail(console, {kDataError, Message::List({arguments[0], error->reason}, ": ")});
     const auto& repair = std::get<NoteRepair>(result);
     if (repair.notes.empty()) {
         console.out << VisibleText(arguments[0]) << " can be opened; there is nothing to repair.\n";
         return Status::Done;
     }
     for (const RepairedNote& note : repair.notes)
-        NotesOf(arguments.Value("--to"), console) << RepairText(note) << '\n';
+        Note(arguments.Value("--to"), console, RepairText(note));
     const auto problem = WriteRepaired(arguments, repair.text, console);
     return problem ? Fail(console, *problem) : Status::Done;
 }

@@ -77,8 +77,8 @@ void ShowColumns(const InputFile& file, const CloneImage& image, const RowList& 
         std::ranges::count_if(rows, [&image](int row) { return image.MemData(row).HasChannel(); });
     if (file.isOneOfSeveral)
         console.out << Painted(VisibleText(file.name), Paint::Bold, console.paintsOut) << ": ";
-    console.out << SelectorText(selector) << " (" << used << " of " << GroupRows(image, selector).count
-                << " rows used)\n";
+    console.out << SelectorText(selector).English() << " (" << used << " of "
+                << GroupRows(image, selector).count << " rows used)\n";
     table.Print(console.out, console.paintsOut);
 }
 

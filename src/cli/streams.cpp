@@ -10,6 +10,7 @@
 
 #include "cli/clone_files.h"
 #include "files/file_store.h"
+#include "image/display_text.h"
 
 #ifdef Q_OS_UNIX
 #include <sys/ioctl.h>
@@ -35,7 +36,7 @@ bool IsStream([[maybe_unused]] const std::string& path)
 #endif
 }
 
-std::optional<Problem> ReadStream(std::FILE* stream, const std::string& name, std::string& bytes)
+std::optional<Problem> ReadStream(std::FILE* stream, const Message& name, std::string& bytes)
 {
     std::array<char, 1 << 16> buffer;
     bytes.clear();
@@ -46,11 +47,13 @@ std::optional<Problem> ReadStream(std::FILE* stream, const std::string& name, st
             break;
     }
     if (bytes.size() > kLongestInput)
-        return Problem{kFileOpenError, name +
-                                           ": more than 16 MiB came. No clone file and no CSV file of a "
-                                           "receiver is as long; check what is sent."};
+        return Problem{
+            kFileOpenError,
+            {MESSAGE("%1: more than 16 MiB came. No clone file and no CSV file of a receiver is as "
+                     "long; check what is sent."),
+             {name}}};
     if (std::ferror(stream) != 0)
-        return Problem{kFileOpenError, name + ": it cannot be read. Give the name of a file."};
+        return Problem{kFileOpenError, {MESSAGE("%1: it cannot be read. Give the name of a file."), {name}}};
     return std::nullopt;
 }
 
@@ -97,23 +100,27 @@ std::optional<Problem> ReadInput(const std::string& path, std::string& bytes)
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> stream(
         std::fopen(path.c_str(), "rb"), [](std::FILE* file) { return std::fclose(file); });
     if (!stream)
-        return Problem{kFileOpenError, path + ": it cannot be opened. Check its permissions."};
+        return Problem{kFileOpenError, {MESSAGE("%1: it cannot be opened. Check its permissions."), {path}}};
     return ReadStream(stream.get(), path, bytes);
 }
 
-std::string SourceName(const std::string& path)
+Message SourceName(const std::string& path)
 {
-    return IsStandard(path) ? kStandardInput : path;
+    return IsStandard(path) ? Message(kStandardInput) : Message(path);
 }
 
-std::string Unchanged(const std::string& path)
+Message Unchanged(const std::string& path)
 {
-    return IsStandard(path) ? "nothing is written" : path + " is as it was";
+    return IsStandard(path) ? Message(MESSAGE("nothing is written"))
+                            : Message(MESSAGE("%1 is as it was"), {path});
 }
 
-std::ostream& NotesOf(const std::string& path, Console& console)
+void Note(const std::string& path, Console& console, const Message& text)
 {
-    return IsStandard(path) ? console.err : console.out;
+    if (IsStandard(path))
+        Say(console, text);
+    else
+        console.out << VisibleText(text.English()) << '\n';
 }
 
 Console StandardConsole()
@@ -136,8 +143,8 @@ int Finish(Status status, Console& console)
     console.out.flush();
     if (console.out || status != Status::Done)
         return static_cast<int>(status);
-    console.err << kFileOpenError << ": the output could not be written; is the disk full?\n";
-    return static_cast<int>(Status::Failed);
+    return static_cast<int>(
+        Fail(console, {kFileOpenError, MESSAGE("the output could not be written; is the disk full?")}));
 }
 
 }  // namespace rqm5

@@ -10,8 +10,8 @@ namespace rqm5 {
 
 /// The name that stands for standard input where a file is read and for standard output where it is written.
 inline constexpr char kStandardName[] = "-";
-inline constexpr char kStandardInput[] = "standard input";
-inline constexpr char kStandardOutput[] = "standard output";
+inline constexpr char kStandardInput[] = MESSAGE("standard input");
+inline constexpr char kStandardOutput[] = MESSAGE("standard output");
 
 inline bool IsStandard(const std::string& path)
 {
@@ -22,13 +22,14 @@ inline bool IsStandard(const std::string& path)
 std::optional<Problem> ReadInput(const std::string& path, std::string& bytes);
 
 /// The name of a file that is read, for messages.
-std::string SourceName(const std::string& path);
+Message SourceName(const std::string& path);
 
 /// "FILE is as it was", for messages: a command that fails changes nothing.
-std::string Unchanged(const std::string& path);
+Message Unchanged(const std::string& path);
 
-/// Where a command says what it did: beside the file when that goes to standard output.
-std::ostream& NotesOf(const std::string& path, Console& console);
+/// Says what a command did with a file: in English on standard output, and in the user's language on standard
+/// error where the file itself goes to standard output.
+void Note(const std::string& path, Console& console, const Message& text);
 
 /// The console of a program: standard output and error, with a progress bar and colours where they are a
 /// terminal.

@@ -33,9 +33,10 @@ std::optional<Problem> BackupObstacle(const std::string& path)
     if (IsStandard(path))
         return std::nullopt;
     if (!path.empty() && Exists(path))
-        return Problem{kFileOpenError, path +
-                                           ": there is a file already, and a backup replaces none; "
-                                           "choose another name"};
+        return Problem{kFileOpenError,
+                       {MESSAGE("%1: there is a file already, and a backup replaces none; choose "
+                                "another name"),
+                        {path}}};
     return path.empty() ? std::nullopt : ReadingObstacle(PathOf(path));
 }
 
@@ -68,16 +69,10 @@ Status KeepBackup(const CloneImage& image, const TransferScope& scope, const std
     model = listener.Model();
     const Status status = session.Finish(result);
     if (result == TransferResult::Cancelled)
-        console.err << NothingWritten() << '\n';
+        Say(console, NothingWritten());
     if (status != Status::Done)
         return status;
     return SaveRead(path, backup, console, NothingWritten());
-}
-
-void List(const std::vector<std::string>& rows, Console& console)
-{
-    for (const std::string& row : rows)
-        console.err << "  " << VisibleText(row) << '\n';
 }
 
 /// Names the blocks that a second read brings otherwise. \param agrees  cleared when there is one
@@ -90,16 +85,18 @@ Status ReadTwice(const ReceiverReader& reader, ReceiverSession& session, Console
     const TransferResult result = ReadBack(first, session.Link(), observer, differences);
     const Status status = session.Finish(result);
     if (result == TransferResult::Cancelled)
-        console.err << NotReadTwice() << '\n';
+        Say(console, NotReadTwice());
     agrees = agrees && differences.empty();
     if (differences.empty())
         return status;
-    Report(console, {kCommunicationError, OtherwiseNote(static_cast<int>(differences.size())) + ":"});
-    std::vector<std::string> rows;
+    Report(console,
+           {kCommunicationError, {MESSAGE("%1:"), {OtherwiseNote(static_cast<int>(differences.size()))}}});
+    std::vector<Message> rows;
     rows.reserve(differences.size());
     for (const auto& [block, read] : differences)
-        rows.push_back(block.label + ": first " + block.contents.String() + ", then " + read.String());
-    List(rows, console);
+        rows.push_back(
+            {MESSAGE("%1: first %2, then %3"), {block.label, block.contents.String(), read.String()}});
+    List(console, rows);
     return status;
 }
 
@@ -109,11 +106,14 @@ Status SaveDoubtful(const std::string& path, const CloneImage& image, Console& c
     QString kept;
     if (Exists(path))
         if (const auto problem = KeepOldFile(PathOf(path), kept))
-            return Fail(console, {problem->text, problem->details, path + " is as it was."});
+            return Fail(console, {problem->text, problem->details, {MESSAGE("%1."), {Unchanged(path)}}});
     if (SaveRead(path, image, console) == Status::Done)
-        console.err << path << " is written with what came"
-                    << (kept.isEmpty() ? "" : "; as it was it is kept as " + kept.toStdString())
-                    << ". Check the cable and read again.\n";
+        Say(console,
+            kept.isEmpty()
+                ? Message(MESSAGE("%1 is written with what came. Check the cable and read again."), {path})
+                : Message(MESSAGE("%1 is written with what came; as it was it is kept as %2. Check the "
+                                  "cable and read again."),
+                          {path, kept.toStdString()}));
     return Status::Failed;
 }
 
@@ -125,22 +125,27 @@ Status Write(const CloneImage& image, const TransferScope& scope, bool isVerifie
     const TransferResult result = writer.Write();
     const Status status = session.Finish(result);
     if (result == TransferResult::Cancelled)
-        console.err << writer.Plan().Summary() << '\n';
+        Say(console, writer.Plan().Summary());
     if (const int flags = writer.OtherFlags(); flags > 0)
-        console.err << "Enable flags of other rows that differ from FILE: " << flags
-                    << "; the receiver keeps its own.\n";
+        Say(console, OtherFlagsNote(flags));
     // The comparison that follows finds out.
     return writer.IsInDoubt() && !isVerified ? Fail(console, DoubtfulWrite()) : status;
 }
 
 }  // namespace
 
-void WarnOutOfRange(const std::vector<std::string>& rows, Console& console)
+Message OtherFlagsNote(int flags)
+{
+    return {MESSAGE("Enable flags of other rows that differ from FILE: %1; the receiver keeps its own."),
+            {flags}};
+}
+
+void WarnOutOfRange(const std::vector<Message>& rows, Console& console)
 {
     if (!rows.empty())
         Warn(console,
-             "these rows are outside the receiver's range (" + std::string(kReceiverRangeText) +
-                 ") and are written as they are:",
+             {MESSAGE("these rows are outside the receiver's range (%1) and are written as they are:"),
+              {kReceiverRangeText}},
              rows);
 }
 
@@ -162,10 +167,11 @@ Status RunRead(const Arguments& arguments, Console& console)
     ReceiverReader reader(image, session.Link(), session.Observer());
     if (const Status status = session.Finish(reader.Read(scope)); status != Status::Done)
         return status;
-    const std::vector<std::string> unreadable = reader.Unreadable();
+    const std::vector<Message> unreadable = reader.Unreadable();
     if (!unreadable.empty()) {
-        Report(console, {kCommunicationError, UnreadableNote(static_cast<int>(unreadable.size())) + ":"});
-        List(unreadable, console);
+        Report(console, {kCommunicationError,
+                         {MESSAGE("%1:"), {UnreadableNote(static_cast<int>(unreadable.size()))}}});
+        List(console, unreadable);
     }
     bool agrees = unreadable.empty();
     if (arguments.Has("--verify"))
@@ -203,9 +209,9 @@ Status RunWrite(const Arguments& arguments, Console& console)
     const int wanted = image.Settings().model;
     if (status == Status::Done && model.value_or(wanted) != wanted && !arguments.Has("--force"))
         status = Fail(console, {kDataError,
-                                OtherModelText(*model, wanted) +
-                                    " If that is meant, repeat with --force. The backup is in " + backup,
-                                "Nothing was written."});
+                                {MESSAGE("%1 If that is meant, repeat with --force. The backup is in %2"),
+                                 {OtherModelText(*model, wanted), backup}},
+                                MESSAGE("Nothing was written.")});
     if (status == Status::Done)
         status = Write(image, scope, arguments.Has("--verify"), session, console);
     if (status == Status::Done && arguments.Has("--verify"))

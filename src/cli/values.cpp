@@ -59,12 +59,12 @@ std::optional<int> ReadSelector(std::string_view text)
     return group != kRowGroups.end() ? std::optional(group->selector) : ReadNumberIn(text, 0, kBanks - 1);
 }
 
-std::string RegionFault(std::string_view text)
+Message RegionFault(std::string_view text)
 {
-    return ReadNumberIn(text, 0, kRegions - 1) ? "" : "regions are 0 to 3";
+    return ReadNumberIn(text, 0, kRegions - 1) ? Message() : MESSAGE("regions are 0 to 3");
 }
 
-std::string PortNumberFault(std::string_view text)
+Message PortNumberFault(std::string_view text)
 {
 #ifdef Q_OS_WIN
     const std::string_view number = text;  // COM15 and so on are devices
@@ -72,15 +72,18 @@ std::string PortNumberFault(std::string_view text)
     const std::string_view number = WithoutCom(text);
 #endif
     const bool isTaken = !IsNumber(number) || ReadComNumber(text);
-    return isTaken ? "" : "port numbers are 1 to 14; a device path such as /dev/ttyUSB0 is taken too";
+    return isTaken ? Message()
+                   : MESSAGE("port numbers are 1 to 14; a device path such as /dev/ttyUSB0 is taken too");
 }
 
-std::string ScopeFault(std::string_view text)
+Message ScopeFault(std::string_view text)
 {
-    return IndexOf(kScopeWords, text) >= 0 ? "" : "it is settings or memory" + DidYouMean(text, kScopeWords);
+    return IndexOf(kScopeWords, text) >= 0
+               ? Message()
+               : DidYouMean(MESSAGE("it is settings or memory"), text, kScopeWords);
 }
 
-std::string SelectorFault(std::string_view text)
+Message SelectorFault(std::string_view text)
 {
     if (ReadSelector(text))
         return {};
@@ -88,21 +91,22 @@ std::string SelectorFault(std::string_view text)
     std::string list;
     for (const RowGroup& group : kRowGroups) {
         words.push_back(group.option);
-        list += ", " + std::string(group.option);
+        list += (list.empty() ? "" : ", ") + std::string(group.option);
     }
     words.push_back(kAllWord);
-    const std::string hint = IsNumber(text) ? std::string() : DidYouMean(text, words);
-    return "it is a bank 0 to 49" + list + " or " + std::string(kAllWord) + hint;
+    const Message fault = {MESSAGE("it is a bank 0 to 49, %1 or %2"), {list, kAllWord}};
+    return IsNumber(text) ? fault : DidYouMean(fault, text, words);
 }
 
-std::string PaperFault(std::string_view text)
+Message PaperFault(std::string_view text)
 {
-    return IndexOf(kPaperWords, text) >= 0 ? "" : "it is a4 or letter" + DidYouMean(text, kPaperWords);
+    return IndexOf(kPaperWords, text) >= 0 ? Message()
+                                           : DidYouMean(MESSAGE("it is a4 or letter"), text, kPaperWords);
 }
 
-std::string FileNameFault(std::string_view text)
+Message FileNameFault(std::string_view text)
 {
-    return text.empty() ? "the name of a file is missing" : "";
+    return text.empty() ? MESSAGE("the name of a file is missing") : Message();
 }
 
 TransferScope ScopeOf(const Arguments& arguments)
@@ -112,25 +116,26 @@ TransferScope ScopeOf(const Arguments& arguments)
     return {wantsSettings, only != "settings", SelectorOf(arguments)};
 }
 
-std::string ScopeConflict(const Arguments& arguments)
+Message ScopeConflict(const Arguments& arguments)
 {
     const bool isConflict = arguments.Value("--only") == "settings" && arguments.Has("--bank");
-    return isConflict ? "--bank chooses channels, and --only settings leaves them out" : "";
+    return isConflict ? MESSAGE("--bank chooses channels, and --only settings leaves them out") : Message();
 }
 
-std::string PrintConflict(const Arguments& arguments)
+Message PrintConflict(const Arguments& arguments)
 {
     const bool isChosen = arguments.Has("--settings") || arguments.Has("--vfo");
     const bool hasMemory = arguments.Has("--memory") || !isChosen;
     for (const char* option : {"--bank", "--empty"})
         if (arguments.Has(option) && !hasMemory)
-            return std::string(option) + " is about channels, which are not printed; add --memory";
+            return {MESSAGE("%1 is about channels, which are not printed; add --memory"),
+                    {std::string(option)}};
     for (const char* option : {"--paper", "--landscape", "--force"})
         if (arguments.Has(option) && !arguments.Has("--pdf"))
-            return std::string(option) + " is about the pages of a PDF; add --pdf";
+            return {MESSAGE("%1 is about the pages of a PDF; add --pdf"), {std::string(option)}};
     return arguments.Has("--pdf") && arguments.Value("--pdf") == arguments[0] && arguments[0] != "-"
-               ? "both names are the same file, which would be replaced"
-               : "";
+               ? MESSAGE("both names are the same file, which would be replaced")
+               : Message();
 }
 
 int SelectorOf(const Arguments& arguments)

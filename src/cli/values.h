@@ -19,21 +19,21 @@ std::optional<int> ReadComNumber(std::string_view text);
 std::optional<int> ReadSelector(std::string_view text);
 
 // Why a value of this kind is refused; empty when it is taken.
-std::string RegionFault(std::string_view text);
-std::string PortNumberFault(std::string_view text);
-std::string ScopeFault(std::string_view text);
-std::string SelectorFault(std::string_view text);
-std::string PaperFault(std::string_view text);
-std::string FileNameFault(std::string_view text);
+Message RegionFault(std::string_view text);
+Message PortNumberFault(std::string_view text);
+Message ScopeFault(std::string_view text);
+Message SelectorFault(std::string_view text);
+Message PaperFault(std::string_view text);
+Message FileNameFault(std::string_view text);
 
 /// What --only and --bank ask for: a bank alone asks for the memory alone.
 TransferScope ScopeOf(const Arguments& arguments);
 
 /// A bank cannot be chosen when no memory is transferred.
-std::string ScopeConflict(const Arguments& arguments);
+Message ScopeConflict(const Arguments& arguments);
 
 /// What print does not print cannot be chosen, and a terminal has no paper.
-std::string PrintConflict(const Arguments& arguments);
+Message PrintConflict(const Arguments& arguments);
 
 /// The selector that --bank asks for; all without it.
 int SelectorOf(const Arguments& arguments);

@@ -33,7 +33,7 @@ TextTable TableOf(const std::vector<BlockDifference>& differences, Form form)
     if (isTabbed)
         table.AddRow({"Address", "Block", "Expected", "Receiver", "Bytes"});
     for (const auto& [block, read] : differences)
-        table.AddRow({HexAddress(block.address), block.label,
+        table.AddRow({HexAddress(block.address), block.label.English(),
                       (isTabbed ? "" : "expected ") + ExpectedIn(block, read),
                       (isTabbed ? "" : "receiver ") + read.String(), DifferingBytes(block, read)});
     return table;
@@ -48,7 +48,7 @@ void WriteJson(const std::vector<BlockDifference>& differences, bool isComplete,
     for (const auto& [block, read] : differences) {
         json.Open('{');
         json.Member("address", HexAddress(block.address));
-        json.Member("block", block.label);
+        json.Member("block", block.label.English());
         json.Member("expected", ExpectedIn(block, read));
         json.Member("receiver", read.String());
         json.Member("bytes", DifferingBytes(block, read));
@@ -62,7 +62,7 @@ void WriteJson(const std::vector<BlockDifference>& differences, bool isComplete,
 }  // namespace
 
 Status CompareWithReceiver(const std::vector<ExpectedBlock>& expected, ReceiverSession& session,
-                           Console& console, const std::string& aftermath, Form form, int* found)
+                           Console& console, const Message& aftermath, Form form, int* found)
 {
     session.Observer().Begin(static_cast<int>(expected.size()));
     std::vector<BlockDifference> differences;
@@ -70,7 +70,7 @@ Status CompareWithReceiver(const std::vector<ExpectedBlock>& expected, ReceiverS
     const TransferResult result = ReadBack(expected, session.Link(), observer, differences);
     const Status status = session.Finish(result);
     if (result == TransferResult::Cancelled && !aftermath.empty())
-        console.err << aftermath << '\n';
+        Say(console, aftermath);
     if (form == Form::Json)
         WriteJson(differences, result == TransferResult::Done, console);
     else

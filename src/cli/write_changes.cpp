@@ -35,7 +35,7 @@ class ChangesCommand
         if (const Status status = MakePlan(); status != Status::Done)
             return status;
         if (plan_->Wanted().empty()) {
-            console_.err << "The receiver holds what FILE says already; nothing was written.\n";
+            Say(console_, MESSAGE("The receiver holds what FILE says already; nothing was written."));
             return Status::Done;
         }
         KnownBeforeCheck before(session_.Link().Knowledge(), plan_->BlocksToCheck());
@@ -77,7 +77,7 @@ class ChangesCommand
     {
         for (auto wanted = BlocksToLearn(knowledge); !wanted.empty(); wanted = BlocksToLearn(knowledge)) {
             if (!knowledge.HasEarlier())
-                console_.err << UnknownNote(wanted.size()) << ".\n";
+                Say(console_, {MESSAGE("%1."), {UnknownNote(wanted.size())}});
             BlockMap read;
             if (const Status status = Read(wanted, read); status != Status::Done)
                 return status;
@@ -89,9 +89,8 @@ class ChangesCommand
     void TellAge(const QDateTime& since)
     {
         if (console_.progressColumns > 0)
-            console_.err << "Known of the receiver since "
-                         << since.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm")).toStdString()
-                         << ".\n";
+            Say(console_, {MESSAGE("Known of the receiver since %1."),
+                           {since.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm")).toStdString()}});
     }
 
     Status Read(const std::vector<int>& addresses, BlockMap& read)
@@ -101,7 +100,7 @@ class ChangesCommand
         const TransferResult result = ReadBlocks(addresses, image_, session_.Link(), observer, read);
         const Status status = session_.Finish(result);
         if (result == TransferResult::Cancelled)
-            console_.err << NothingChanged() << '\n';
+            Say(console_, NothingChanged());
         return status;
     }
 
@@ -120,25 +119,27 @@ class ChangesCommand
         if (model == wanted || arguments_.Has("--force"))
             return Status::Done;
         return Fail(console_,
-                    {kDataError, OtherModelText(model, wanted) + " If that is meant, repeat with --force.",
+                    {kDataError,
+                     {MESSAGE("%1 If that is meant, repeat with --force."), {OtherModelText(model, wanted)}},
                      NothingChanged()});
     }
 
     Status RefuseConflicts()
     {
-        Report(console_,
-               {kDataError,
-                "What is to be written was changed at the receiver, too. Read it into another file and take "
-                "over what is right, or write without --changes.",
-                NothingChanged()});
+        Report(
+            console_,
+            {kDataError,
+             MESSAGE("What is to be written was changed at the receiver, too. Read it into another file and "
+                     "take over what is right, or write without --changes."),
+             NothingChanged()});
+        std::vector<Message> fields;
         for (const Conflict& conflict : plan_->Conflicts()) {
             const ConflictRow row = DescribeConflict(image_, *plan_, conflict);
             for (const ConflictField& field : row.fields)
-                console_.err << "  "
-                             << VisibleText(row.label + ", " + field.name + ": known " + field.known +
-                                            ", receiver " + field.receiver + ", FILE " + field.image)
-                             << '\n';
+                fields.push_back({MESSAGE("%1, %2: known %3, receiver %4, FILE %5"),
+                                  {row.label, field.name, field.known, field.receiver, field.image}});
         }
+        List(console_, fields);
         return Status::Failed;
     }
 
@@ -158,10 +159,9 @@ class ChangesCommand
         const TransferResult result = writer.Write();
         const Status status = session_.Finish(result);
         if (result == TransferResult::Cancelled)
-            console_.err << writer.Plan().Summary() << '\n';
+            Say(console_, writer.Plan().Summary());
         if (const int flags = OtherFlags(); flags > 0)
-            console_.err << "Enable flags of other rows that differ from FILE: " << flags
-                         << "; the receiver keeps its own.\n";
+            Say(console_, OtherFlagsNote(flags));
         // The comparison that follows finds out.
         return writer.IsInDoubt() && !arguments_.Has("--verify") ? Fail(console_, DoubtfulWrite()) : status;
     }
@@ -190,13 +190,13 @@ Status WriteChanges(const Arguments& arguments, const CloneImage& image, Receive
     return ChangesCommand(arguments, image, session, console).Run();
 }
 
-std::string WriteConflict(const Arguments& arguments)
+Message WriteConflict(const Arguments& arguments)
 {
     if (arguments.Has("--known") && !arguments.Has("--changes"))
-        return "--known says what a write of changes begins with; add --changes";
+        return MESSAGE("--known says what a write of changes begins with; add --changes");
     for (const char* option : {"--only", "--bank"})
         if (arguments.Has(option) && arguments.Has("--changes"))
-            return "--changes looks at all parts; leave out " + std::string(option);
+            return {MESSAGE("--changes looks at all parts; leave out %1"), {std::string(option)}};
     return ScopeConflict(arguments);
 }
 

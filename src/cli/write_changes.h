@@ -1,6 +1,5 @@
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "cli/arguments.h"
@@ -14,10 +13,13 @@ namespace rqm5 {
 Status WriteChanges(const Arguments& arguments, const CloneImage& image, ReceiverSession& session,
                     Console& console);
 
+/// That rows outside what is written have other flags in the receiver.
+Message OtherFlagsNote(int flags);
+
 /// Warns of rows that the receiver does not take.
-void WarnOutOfRange(const std::vector<std::string>& rows, Console& console);
+void WarnOutOfRange(const std::vector<Message>& rows, Console& console);
 
 /// What is wrong with the options of write together; empty when nothing is.
-std::string WriteConflict(const Arguments& arguments);
+Message WriteConflict(const Arguments& arguments);
 
 }  // namespace rqm5

@@ -1,8 +1,10 @@
 #include "document/document.h"
 
+#include <QCoreApplication>
 #include <utility>
 
 #include "document/step.h"
+#include "language/language.h"
 
 namespace rqm5 {
 
@@ -11,6 +13,9 @@ Document::Document(CloneImage image, QObject* parent)
 {
     history_.setUndoLimit(kMostSteps);
     connect(&history_, &QUndoStack::indexChanged, this, &Document::History_IndexChanged);
+    // Without an application there is one language.
+    if (QCoreApplication::instance() != nullptr)
+        connect(&Language::OfProgram(), &Language::Changed, this, &Document::ShowNames);
 }
 
 int Document::State() const
@@ -30,7 +35,7 @@ void Document::Announce(const ImageChange& change)
         emit Changed(change);
 }
 
-void Document::Edit(const QString& name, const ChangeFunction& change, int run)
+void Document::Edit(const Message& name, const ChangeFunction& change, int run)
 {
     CloneImage after = image_;
     change(after);
@@ -49,7 +54,7 @@ void Document::Absorb(const ChangeFunction& change)
     Announce(Difference(before, image_));
 }
 
-void Document::Import(const QString& name, const CloneImage& imported, const QString& fileName)
+void Document::Import(const Message& name, const CloneImage& imported, const QString& fileName)
 {
     ImageChange difference = Difference(image_, imported);
     image_ = imported;
@@ -78,7 +83,7 @@ void Document::MarkSaved(const QString& fileName)
     emit StateChanged();
 }
 
-void Document::Push(const QString& name, const ImageChange& change, int run)
+void Document::Push(const Message& name, const ImageChange& change, int run)
 {
     if (!change.IsEmpty())
         PushStep(new Step(*this, name, change, run));
@@ -128,6 +133,15 @@ void Document::ShowSavedState()
         history_.resetClean();
 }
 
+/// Says the steps in the language of now, and has everybody who shows them look again.
+void Document::ShowNames()
+{
+    for (int i = 0; i < history_.count(); ++i)
+        // The stack hands out its steps to look at only; what one is called is not what it does.
+        const_cast<Step*>(static_cast<const Step*>(history_.command(i)))->ShowName();
+    emit history_.indexChanged(history_.index());
+}
+
 void Document::History_IndexChanged()
 {
     ShowSavedState();
@@ -141,8 +155,8 @@ void Document::History_IndexChanged()
     emit StateChanged();
 }
 
-Transaction::Transaction(Document& document, const QString& name)
-    : document_(document), name_(name), before_(document.image_), announced_(document.image_)
+Transaction::Transaction(Document& document, Message name)
+    : document_(document), name_(std::move(name)), before_(document.image_), announced_(document.image_)
 {
 }
 

@@ -7,6 +7,7 @@
 
 #include "image/clone_image.h"
 #include "image/image_change.h"
+#include "language/message.h"
 
 namespace rqm5 {
 
@@ -40,7 +41,7 @@ class Document : public QObject
     /// Runs a function on a copy of the image and takes over what it changed, as a step of this name. An edit
     /// that leaves everything as it was is no step; it counts as a change all the same.
     /// \param run  edits of one run, such as the drag of a slider, become one step; 0 for an edit by itself
-    void Edit(const QString& name, const ChangeFunction& change, int run = 0);
+    void Edit(const Message& name, const ChangeFunction& change, int run = 0);
 
     /// A run for Edit that no other edit belongs to.
     int NewRun() { return ++lastRun_; }
@@ -50,7 +51,7 @@ class Document : public QObject
 
     /// Takes what an import made of the image as a step that makes its file the current one, and counts as
     /// saved. Undoing it brings back the file from before.
-    void Import(const QString& name, const CloneImage& imported, const QString& fileName);
+    void Import(const Message& name, const CloneImage& imported, const QString& fileName);
 
     /// Takes another image, with a history of its own.
     /// \param isSaved  the file holds it; else it is an unsaved change from the start
@@ -86,12 +87,13 @@ class Document : public QObject
         bool isMarked = false;  ///< there is an unsaved change that is no step
     };
 
-    void Push(const QString& name, const ImageChange& change, int run);
+    void Push(const Message& name, const ImageChange& change, int run);
     void PushStep(Step* step);
     void Announce(const ImageChange& change);
     void TakeStep(const ImageChange& change, bool isUndone);
     void ForgetFile(const QString& fileName);
     void ShowSavedState();
+    void ShowNames();
     int State() const;
     void History_IndexChanged();
 
@@ -110,7 +112,7 @@ class Document : public QObject
 class Transaction
 {
   public:
-    Transaction(Document& document, const QString& name);
+    Transaction(Document& document, Message name);
     ~Transaction();
     Transaction(const Transaction&) = delete;
     Transaction& operator=(const Transaction&) = delete;
@@ -125,7 +127,7 @@ class Transaction
 
   private:
     Document& document_;
-    const QString name_;
+    const Message name_;
     const CloneImage before_;
     CloneImage announced_;
 };

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "language/translated.h"
+
 namespace rqm5 {
 namespace {
 
@@ -9,13 +11,19 @@ constexpr int kNeverMerged = -1;
 
 }  // namespace
 
-Step::Step(Document& document, const QString& name, ImageChange change, int run)
-    : QUndoCommand(name),
-      document_(document),
+Step::Step(Document& document, Message name, ImageChange change, int run)
+    : document_(document),
+      name_(std::move(name)),
       change_(std::move(change)),
       run_(run != 0 ? run : kNeverMerged),
       serial_(++document.lastSerial_)
 {
+    ShowName();
+}
+
+void Step::ShowName()
+{
+    setText(Translated(name_));
 }
 
 void Step::undo()
@@ -49,7 +57,8 @@ bool Step::mergeWith(const QUndoCommand* next)
     const auto* step = static_cast<const Step*>(next);
     change_.Join(step->change_);
     serial_ = step->serial_;
-    setText(step->text());
+    name_ = step->name_;
+    ShowName();
     setObsolete(change_.IsEmpty());
     return true;
 }

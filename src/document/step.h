@@ -11,13 +11,16 @@ namespace rqm5 {
 class Step : public QUndoCommand
 {
   public:
-    Step(Document& document, const QString& name, ImageChange change, int run);
+    Step(Document& document, Message name, ImageChange change, int run);
 
     /// Makes the step change the current file, too: to the document's of now from the one that was before.
     void TakeFile(const Document::File& before) { otherFile_ = before; }
 
     /// The file has been written: what the step remembers of it is in it no longer.
     void ForgetFile(const QString& fileName) const;
+
+    /// Says its name in the program's language, as it is now.
+    void ShowName();
 
     /// The number of the state that the step leads to.
     int Serial() const { return serial_; }
@@ -31,6 +34,7 @@ class Step : public QUndoCommand
     void SwapFile();
 
     Document& document_;
+    Message name_;
     ImageChange change_;
     /// The file of the side that the document is not on. The stack hands out its steps to look at only, and
     /// what is forgotten here does not change what a step does.

@@ -26,9 +26,9 @@ std::string CutToWholeCharacters(const std::string& text, std::size_t most)
     return text.substr(0, end);
 }
 
-std::string LineName(const ListRecord& record)
+Message LineName(const ListRecord& record)
 {
-    return "Line " + std::to_string(record.line);
+    return {MESSAGE("Line %1"), {record.line}};
 }
 
 /// A field for messages: its front when it is long.
@@ -70,6 +70,7 @@ class RecordReader
     const ListTable& table_;
     const std::vector<ListColumn>& columns_;
     ListedChannel row_;
+    std::vector<Message> remarks_;
     bool saysSomething_ = false;
 };
 
@@ -94,22 +95,22 @@ constexpr CodeReader kCodes[] = {
 
 void RecordReader::LeaveOut(int part, const std::string& text)
 {
-    row_.remark += row_.remark.empty() ? "" : "; ";
-    row_.remark += std::string(PartName(part)) + " " + Quoted(text) + " left out";
+    remarks_.push_back({MESSAGE("%1 %2 left out"), {PartName(part), Quoted(text)}});
 }
 
 void RecordReader::TakeFrequency(const ListColumn& column, const std::string& text)
 {
     const auto number = ReadFrequency(text, table_.decimals);
     if (!number || number->isNegative) {
-        row_.refusal = Quoted(text) + (HasExponent(text) ? " has lost digits to an exponent in a spreadsheet"
-                                                         : " cannot be read for certain as a frequency");
+        row_.refusal = {HasExponent(text) ? MESSAGE("%1 has lost digits to an exponent in a spreadsheet")
+                                          : MESSAGE("%1 cannot be read for certain as a frequency"),
+                        {Quoted(text)}};
         return;
     }
     row_.channel.frequency = number->Hertz(column.unit == Unit::None ? table_.usualUnit : column.unit);
     row_.given.Add(kFrequency);
     if (row_.channel.frequency == 0)
-        row_.refusal = "a frequency of 0 is no channel";
+        row_.refusal = MESSAGE("a frequency of 0 is no channel");
 }
 
 void RecordReader::TakeOffset(const ListColumn& column, const std::string& text)
@@ -154,7 +155,7 @@ void RecordReader::TakeCode(int part, const std::string& text)
         *std::ranges::find(kCodes, part, [](const CodeReader& row) { return int{row.column}; });
     const auto code = reader.read(text);
     if (!code && part == kMode) {
-        row_.refusal = "the receiver has no mode " + Quoted(text);
+        row_.refusal = {MESSAGE("the receiver has no mode %1"), {Quoted(text)}};
         return;
     }
     const bool isNone = part == kTone && ReadMark(text) == 0;
@@ -173,8 +174,7 @@ void RecordReader::TakeNote(const std::string& text)
     row_.channel.note = PlainNote(WithoutGuard(text));
     if (row_.channel.note.size() > kLongestNote) {
         row_.channel.note = CutToWholeCharacters(row_.channel.note, kLongestNote);
-        row_.remark += row_.remark.empty() ? "" : "; ";
-        row_.remark += "the note is cut to 255 characters";
+        remarks_.push_back(MESSAGE("the note is cut to 255 characters"));
     }
     row_.given.Add(kNote);
 }
@@ -182,7 +182,7 @@ void RecordReader::TakeNote(const std::string& text)
 void RecordReader::TakePlace(int part, const std::string& text)
 {
     if (part == ListColumn::kBank && text == kCsvVfo)
-        row_.refusal = "it is a VFO band";
+        row_.refusal = MESSAGE("it is a VFO band");
     ListedPlace& place = row_.place;
     (part == ListColumn::kBank      ? place.bank
      : part == ListColumn::kChannel ? place.channel
@@ -215,6 +215,7 @@ void RecordReader::Take(const ListColumn& column, const std::string& text)
 std::optional<ListedChannel> RecordReader::Read(const ListRecord& record)
 {
     row_ = {};
+    remarks_.clear();
     row_.source = LineName(record);
     saysSomething_ = false;
     for (std::size_t i = 0; i < columns_.size() && row_.refusal.empty(); ++i)
@@ -223,11 +224,13 @@ std::optional<ListedChannel> RecordReader::Read(const ListRecord& record)
     if (!saysSomething_ && row_.refusal.empty())
         return std::nullopt;
     if (row_.refusal.empty() && HasColumn(columns_, kFrequency) && !row_.given.Has(kFrequency))
-        row_.refusal = "there is no frequency";
+        row_.refusal = MESSAGE("there is no frequency");
     for (std::size_t i = columns_.size(); i < record.fields.size(); ++i)
         if (!record.fields[i].empty())
-            row_.refusal = columns_.size() == kMostColumns ? "there are more than 64 columns"
-                                                           : "there are more fields than titles";
+            row_.refusal = columns_.size() == kMostColumns ? MESSAGE("there are more than 64 columns")
+                                                           : MESSAGE("there are more fields than titles");
+    if (!remarks_.empty())
+        row_.remark = Message::List(remarks_, "; ");
     row_.channel.blank = 0;
     // The editor words a secret code so, and it is an edit that brings this one.
     row_.channel.isSecretEdited = row_.channel.option / kOptionUnit == kSecretOption;
@@ -235,7 +238,7 @@ std::optional<ListedChannel> RecordReader::Read(const ListRecord& record)
 }
 
 /// Every line refused for the same reason.
-std::vector<ListedChannel> Refused(const std::vector<ListRecord>& records, const std::string& reason)
+std::vector<ListedChannel> Refused(const std::vector<ListRecord>& records, const Message& reason)
 {
     std::vector<ListedChannel> rows(records.size());
     for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -293,9 +296,9 @@ std::vector<ListedChannel> ReadChannels(const ListTable& table)
                 rows.push_back(*std::move(row));
     }
     if (table.firstUnread != 0)
-        for (ListedChannel& row : Refused({{table.firstUnread, {}}},
-                                          "it and all behind it are not read: no list "
-                                          "of channels has more than 5000 rows"))
+        for (ListedChannel& row :
+             Refused({{table.firstUnread, {}}}, MESSAGE("it and all behind it are not read: no list "
+                                                        "of channels has more than 5000 rows")))
             rows.push_back(std::move(row));
     return rows;
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "files/list_form.h"
+#include "language/message.h"
 #include "memory/channel_parts.h"
 
 namespace rqm5 {
@@ -22,11 +23,11 @@ struct ListedPlace
 /// One channel of a list: what it says, or why it cannot be taken.
 struct ListedChannel
 {
-    std::string source;  ///< where it stands: "Line 3"; empty when it is not from a text
-    Channel channel;     ///< only the parts given count
+    Message source;   ///< where it stands: "Line 3"; empty when it is not from a text
+    Channel channel;  ///< only the parts given count
     Parts given;
-    std::string refusal;  ///< why the row cannot be taken; empty when it can
-    std::string remark;   ///< what of it is left out
+    Message refusal;  ///< why the row cannot be taken; empty when it can
+    Message remark;   ///< what of it is left out
     ListedPlace place;
 };
 

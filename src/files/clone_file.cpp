@@ -59,9 +59,9 @@ std::string FormatCloneFile(const CloneImage& image)
     return text;
 }
 
-std::vector<std::string> NotesThatDoNotSurvive(const CloneImage& image)
+std::vector<Message> NotesThatDoNotSurvive(const CloneImage& image)
 {
-    std::vector<std::string> names;
+    std::vector<Message> names;
     ForEachRow(image, [&](RowId id, const Channel& row) {
         if (!NoteSurvives(row.note))
             names.push_back(RowName(image, id));

@@ -10,34 +10,31 @@ struct Section
 {
     int first;
     const char* name;
-    bool isNumbered;
-    int firstNumber;
+    int firstNumber;  ///< of those that have numbers
 };
 
 constexpr Section kSections[] = {
-    {kStartLine, "first line", false, 0},
-    {kSettingsLine, "settings block", true, 1},
-    {kVfoLine, "VFO row", true, 0},
-    {kMemoryLine, "memory row", true, 0},
-    {kEnableLine, "channel flags", true, 0},
-    {kVfoNoteLine, "note of VFO row", true, 0},
-    {kMemoryNoteLine, "note of memory row", true, 0},
-    {kBankLine, "bank sizes", true, 0},
-    {kLinkLine, "bank links", false, 0},
-    {kEndLine, "last line", false, 0},
+    {kStartLine, MESSAGE("first line"), 0},
+    {kSettingsLine, MESSAGE("settings block %1"), 1},
+    {kVfoLine, MESSAGE("VFO row %1"), 0},
+    {kMemoryLine, MESSAGE("memory row %1"), 0},
+    {kEnableLine, MESSAGE("channel flags %1"), 0},
+    {kVfoNoteLine, MESSAGE("note of VFO row %1"), 0},
+    {kMemoryNoteLine, MESSAGE("note of memory row %1"), 0},
+    {kBankLine, MESSAGE("bank sizes %1"), 0},
+    {kLinkLine, MESSAGE("bank links"), 0},
+    {kEndLine, MESSAGE("last line"), 0},
 };
 
 }  // namespace
 
-std::string CloneLineName(int line)
+Message CloneLineName(int line)
 {
     const auto* next =
         std::upper_bound(std::begin(kSections), std::end(kSections), line,
                          [](int value, const Section& section) { return value < section.first; });
     const Section& section = *std::prev(next);
-    if (!section.isNumbered)
-        return section.name;
-    return std::string(section.name) + " " + std::to_string(line - section.first + section.firstNumber);
+    return {section.name, {line - section.first + section.firstNumber}};
 }
 
 /// How long the line at the front of rest_ is. Where the next CR and LF stand is kept until they are

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <optional>
-#include <string>
 #include <string_view>
+
+#include "language/message.h"
 
 namespace rqm5 {
 
@@ -22,7 +23,7 @@ enum CloneLine {
 };
 
 /// What a line of a clone file holds: "memory row 0", "note of VFO row 3", ...
-std::string CloneLineName(int line);
+Message CloneLineName(int line);
 
 /// Walks through the text of a clone file. Lines end with CR LF, LF or CR.
 class CloneLineReader

@@ -15,36 +15,38 @@ namespace rqm5 {
 namespace {
 
 constexpr int kLastWholeLine = kVfoNoteLine - 1;
-constexpr char kRestore[] = "Take an older copy of the file, or read the receiver again.";
+constexpr char kRestore[] = MESSAGE("Take an older copy of the file, or read the receiver again.");
 
 using CloneLines = std::array<std::string_view, kCloneLines>;
 
-std::string LineText(int line)
+/// What is wrong, and how to come by a file that is whole.
+ParseError Damaged(int line, Message fault)
 {
-    return "line " + std::to_string(line + 1) + " (" + CloneLineName(line) + ")";
+    return {line, Message::List({std::move(fault), kRestore}, " ")};
 }
 
 ParseError NotACloneFile()
 {
     return {1,
-            "line 1 is not \"" + std::string(FileStart) +
-                "\", so this is no clone file. Choose a clone file (*.RQ5); a CSV file is imported instead."};
+            {MESSAGE("line 1 is not \"%1\", so this is no clone file. Choose a clone file (*.RQ5); a CSV "
+                     "file is imported instead."),
+             {FileStart}}};
 }
 
 ParseError TooShort(int linesRead)
 {
     if (linesRead == 0)
-        return {0, "the file is empty. " + std::string(kRestore)};
-    return {linesRead, "the file ends at line " + std::to_string(linesRead) + " of " +
-                           std::to_string(kCloneLines) + ": it was cut short. " + kRestore};
+        return Damaged(0, MESSAGE("the file is empty."));
+    return Damaged(linesRead,
+                   {MESSAGE("the file ends at line %1 of %2: it was cut short."), {linesRead, kCloneLines}});
 }
 
 ParseError WrongLength(int line, std::size_t characters)
 {
-    const std::string needed = std::to_string(kBlockChars);
     return {line + 1,
-            LineText(line) + " has " + std::to_string(characters) + " characters, " + needed +
-                " are needed. Correct the line in a text editor, or take an older copy of the file."};
+            {MESSAGE("line %1 (%2) has %3 characters, %4 are needed. Correct the line in a text editor, or "
+                     "take an older copy of the file."),
+             {line + 1, CloneLineName(line), std::to_string(characters), std::to_string(kBlockChars)}}};
 }
 
 /// Blames the first comma among the notes when there is one: it shifts every line that follows.
@@ -52,12 +54,13 @@ ParseError WrongEnd(const CloneLineReader& reader)
 {
     const int splitLine = reader.FirstSplitLine();
     if (splitLine == 0 || splitLine > kBankLine)
-        return {kCloneLines, LineText(kEndLine) + " is not \"" + std::string(FileEnd) +
-                                 "\": lines were added or the file is damaged. " + kRestore};
+        return Damaged(kCloneLines,
+                       {MESSAGE("line %1 (%2) is not \"%3\": lines were added or the file is damaged."),
+                        {kEndLine + 1, CloneLineName(kEndLine), FileEnd}});
     return {splitLine,
-            LineText(splitLine - 1) +
-                " holds a comma, which ends a note and shifts all that follows. File > Repair, or \"rq-m5 "
-                "repair\", replaces it."};
+            {MESSAGE("line %1 (%2) holds a comma, which ends a note and shifts all that follows. File > "
+                     "Repair, or \"rq-m5 repair\", replaces it."),
+             {splitLine, CloneLineName(splitLine - 1)}}};
 }
 
 /// Splits the text and makes every check that can refuse it.

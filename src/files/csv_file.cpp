@@ -70,9 +70,9 @@ std::string FormatCsv(const CloneImage& image)
     return csv;
 }
 
-std::vector<std::string> NotesThatLookLikeFormulas(const CloneImage& image)
+std::vector<Message> NotesThatLookLikeFormulas(const CloneImage& image)
 {
-    std::vector<std::string> names;
+    std::vector<Message> names;
     for (int row = 0; row < kVfoRows; ++row)
         if (LooksLikeFormula(image.VFOData(row).note))
             names.push_back(VfoRowName(row));

@@ -32,6 +32,6 @@ CsvTaken ParseCsv(std::string_view text, CloneImage& image, CsvNumbers numbers =
 bool IsOwnCsv(std::string_view bytes);
 
 /// The rows whose notes a spreadsheet would run as a formula (they begin with "=", "+", "-", "@", tab).
-std::vector<std::string> NotesThatLookLikeFormulas(const CloneImage& image);
+std::vector<Message> NotesThatLookLikeFormulas(const CloneImage& image);
 
 }  // namespace rqm5

@@ -22,7 +22,8 @@ std::string_view TitleOf(std::size_t column)
     return kCsvTitles.at(kFirstText + column);
 }
 
-std::string Said(std::size_t column, const std::string& text)
+/// A field in a finding: MODE "NFM".
+std::string Quoted(std::size_t column, const std::string& text)
 {
     return std::string(TitleOf(column)) + " \"" + VisibleText(text) + "\"";
 }
@@ -56,6 +57,26 @@ bool HasList(int column)
     return column == kTone || column == kCarrier;
 }
 
+/// What is said of a text that is read as a number up to its middle, or names no value.
+Message NumberFinding(Column column, const std::string& text, std::size_t end, bool isWhole, bool hasValue)
+{
+    const Message field = Quoted(column, text);
+    if (isWhole)
+        return {HasList(column) ? MESSAGE("%1 is none of the receiver's") : MESSAGE("%1 is out of range"),
+                {field}};
+    const Message number = Trimmed(std::string_view(text).substr(0, end));
+    if (HasDecimalComma(text))
+        return {hasValue ? MESSAGE("%1 is read as %2: it has a decimal comma")
+                : HasList(column)
+                    ? MESSAGE("%1 is read as %2: it has a decimal comma, none of the receiver's")
+                    : MESSAGE("%1 is read as %2: it has a decimal comma, out of range"),
+                {field, number}};
+    return {hasValue          ? MESSAGE("%1 is read as %2")
+            : HasList(column) ? MESSAGE("%1 is read as %2, none of the receiver's")
+                              : MESSAGE("%1 is read as %2, out of range"),
+            {field, number}};
+}
+
 /// Looks at the fields of one record.
 class Judge
 {
@@ -65,7 +86,7 @@ class Judge
     {
     }
 
-    std::vector<std::string> Texts();
+    std::vector<Message> Texts();
     bool KeepsValue() const { return keepsValue_; }
     int DecimalCommas() const { return decimalCommas_; }
 
@@ -74,25 +95,29 @@ class Judge
     void JudgeField(Column column);
     void JudgeNumber(Column column);
     void JudgeMark(std::size_t column, const std::string& text);
-    std::string Kept(Column column);
+    void TellKept(Message finding, Column column);
 
     const CsvRecord& record_;
     const CsvValues& values_;
     const Channel& before_;
     const Channel& after_;
-    std::vector<std::string> texts_;
+    std::vector<Message> texts_;
     bool keepsValue_ = false;
     int decimalCommas_ = 0;
 };
 
-/// What a row keeps, in words.
-std::string Judge::Kept(Column column)
+/// Adds a finding of a text that names no value, and what the row keeps because of it.
+void Judge::TellKept(Message finding, Column column)
 {
-    if (!after_.HasChannel())
-        return {};
+    if (!after_.HasChannel()) {
+        texts_.push_back(std::move(finding));
+        return;
+    }
     keepsValue_ = true;
     const std::string text = CellText(after_, RowKind::Memory, kNoRegion, column);
-    return "; the row keeps " + (text.empty() ? std::string("what it has") : text);
+    const Message kept = text.empty() ? Message(MESSAGE("the row keeps what it has"))
+                                      : Message(MESSAGE("the row keeps %1"), {text});
+    texts_.push_back(Message::List({std::move(finding), kept}, "; "));
 }
 
 /// A number is read as far as it goes; the rest of its field is not.
@@ -104,21 +129,14 @@ void Judge::JudgeNumber(Column column)
     const bool isWhole = end > 0 && (rest.empty() || rest == UnitOf(column));
     if (isWhole && values_.at(column))
         return;
-    if (end == 0) {
-        texts_.push_back(Said(column, text) + " is no number" + (values_.at(column) ? "" : Kept(column)));
-        return;
-    }
-    std::string finding = Said(column, text);
-    if (!isWhole)
-        finding += " is read as " + Trimmed(std::string_view(text).substr(0, end));
-    if (HasDecimalComma(text)) {
-        finding += ": it has a decimal comma";
-        ++decimalCommas_;
-    }
-    if (!values_.at(column))
-        finding += (isWhole ? " is " : ", ") +
-                   std::string(HasList(column) ? "none of the receiver's" : "out of range") + Kept(column);
-    texts_.push_back(finding);
+    const bool hasValue = values_.at(column).has_value();
+    const Message finding = end == 0 ? Message(MESSAGE("%1 is no number"), {Quoted(column, text)})
+                                     : NumberFinding(column, text, end, isWhole, hasValue);
+    decimalCommas_ += HasDecimalComma(text) ? 1 : 0;
+    if (hasValue)
+        texts_.push_back(finding);
+    else
+        TellKept(finding, column);
 }
 
 void Judge::JudgeField(Column column)
@@ -127,16 +145,16 @@ void Judge::JudgeField(Column column)
     if (Trimmed(text).empty()) {
         // Only where another channel was there before is something kept that somebody would notice.
         if (!values_.at(column) && before_.HasChannel() && CsvValueOf(before_, column) != 0)
-            texts_.push_back(std::string(TitleOf(column)) + " is empty" + Kept(column));
+            TellKept({MESSAGE("%1 is empty"), {TitleOf(column)}}, column);
         return;
     }
     const bool isName = column == kCarrier && text == "JR";
     if (IsNumberColumn(column) && !isName)
         JudgeNumber(column);
     else if (column == kShift && values_[kShift] == 0 && UpperCase(Trimmed(text)) != "OFF")
-        texts_.push_back(Said(column, text) + " is read as OFF");
+        texts_.push_back({MESSAGE("%1 is read as OFF"), {Quoted(column, text)}});
     else if (!values_.at(column))
-        texts_.push_back(Said(column, text) + " is none of the receiver's" + Kept(column));
+        TellKept({MESSAGE("%1 is none of the receiver's"), {Quoted(column, text)}}, column);
 }
 
 void Judge::JudgeFrequency()
@@ -145,20 +163,20 @@ void Judge::JudgeFrequency()
     if (!Trimmed(text).empty())
         JudgeNumber(kFrequency);
     if (after_.HasChannel() && !IsInReceiverRange(after_.frequency))
-        texts_.push_back(FormatMegahertz(after_.frequency) + " MHz is outside the receiver's range (" +
-                         std::string(kReceiverRangeText) + ")");
+        texts_.push_back({MESSAGE("%1 MHz is outside the receiver's range (0.1 to 1299.995 MHz)"),
+                          {FormatMegahertz(after_.frequency)}});
     const bool isZero = NumberEnd(text) == text.size();
     if (!after_.HasChannel() && !text.empty() && !isZero)
-        texts_.emplace_back("the row is empty now");
+        texts_.emplace_back(MESSAGE("the row is empty now"));
 }
 
 void Judge::JudgeMark(std::size_t column, const std::string& text)
 {
     if (!TruthOf(text))
-        texts_.push_back(Said(column, text) + " is read as #FALSE#");
+        texts_.push_back({MESSAGE("%1 is read as #FALSE#"), {Quoted(column, text)}});
 }
 
-std::vector<std::string> Judge::Texts()
+std::vector<Message> Judge::Texts()
 {
     JudgeFrequency();
     if (after_.HasChannel())
@@ -168,11 +186,6 @@ std::vector<std::string> Judge::Texts()
     JudgeMark(kTextColumns, record_.skip);
     JudgeMark(kTextColumns + 1, record_.enable);
     return std::move(texts_);
-}
-
-std::string Counted(int count, const char* one, const char* several)
-{
-    return std::to_string(count) + (count == 1 ? one : several);
 }
 
 }  // namespace
@@ -189,29 +202,31 @@ bool HasDecimalComma(std::string_view text)
 void JudgeRecord(const StoredRecord& stored, const CloneImage& image, CsvFindings& findings)
 {
     Judge judge(stored.record, stored.values, stored.before, image.At(stored.id));
-    for (const std::string& text : judge.Texts())
-        findings.Add(stored.line, RowName(image, stored.id) + ": " + text);
+    for (const Message& text : judge.Texts())
+        findings.Add(stored.line, Message::List({RowName(image, stored.id), text}, ": "));
     findings.keptRows += judge.KeepsValue() ? 1 : 0;
     findings.decimalCommas += judge.DecimalCommas();
 }
 
-std::string CsvFindings::Summary() const
+Message CsvFindings::Summary() const
 {
-    std::string text = Counted(static_cast<int>(all.size()), " remark", " remarks");
+    const Message remarks = Counted(static_cast<int>(all.size()), MESSAGE("1 remark"), MESSAGE("%1 remarks"));
+    std::vector<Message> among;
     if (keptRows > 0)
-        text += ": " + Counted(keptRows, " row keeps an old value", " rows keep an old value");
+        among.push_back(
+            Counted(keptRows, MESSAGE("1 row keeps an old value"), MESSAGE("%1 rows keep an old value")));
     if (decimalCommas > 0)
-        text += (keptRows > 0 ? ", " : ": ") +
-                Counted(decimalCommas, " number has a decimal comma", " numbers have a decimal comma");
-    return text;
+        among.push_back(Counted(decimalCommas, MESSAGE("1 number has a decimal comma"),
+                                MESSAGE("%1 numbers have a decimal comma")));
+    return among.empty() ? remarks : Message::List({remarks, Message::List(std::move(among), ", ")}, ": ");
 }
 
-std::vector<std::string> CsvFindings::Lines() const
+std::vector<Message> CsvFindings::Lines() const
 {
-    std::vector<std::string> lines;
+    std::vector<Message> lines;
     lines.reserve(all.size());
     for (const CsvFinding& finding : all)
-        lines.push_back("Line " + std::to_string(finding.line) + ": " + finding.text);
+        lines.push_back(Message::List({Message(MESSAGE("Line %1"), {finding.line}), finding.text}, ": "));
     return lines;
 }
 

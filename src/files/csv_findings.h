@@ -1,11 +1,11 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 #include <vector>
 
 #include "files/csv_record.h"
 #include "image/clone_image.h"
+#include "language/message.h"
 
 namespace rqm5 {
 
@@ -13,7 +13,7 @@ namespace rqm5 {
 struct CsvFinding
 {
     int line;
-    std::string text;
+    Message text;
 };
 
 struct CsvFindings
@@ -23,13 +23,13 @@ struct CsvFindings
     int decimalCommas = 0;  ///< numbers that end at their comma
 
     bool IsEmpty() const { return all.empty(); }
-    void Add(int line, std::string text) { all.push_back({line, std::move(text)}); }
+    void Add(int line, Message text) { all.push_back({line, std::move(text)}); }
 
     /// "2 remarks, 1 row keeps an old value, 1 number has a decimal comma"
-    std::string Summary() const;
+    Message Summary() const;
 
     /// "Line 12: memory row 3 (Bank 0, channel 3): ..."
-    std::vector<std::string> Lines() const;
+    std::vector<Message> Lines() const;
 };
 
 /// A record that was stored: what it says, where it stands, and its row before and now.

@@ -45,7 +45,7 @@ class CsvImport
     std::optional<RowId> ReadRow(const std::string& model);
     std::optional<CsvRecord> ReadRecord(RowId id);
     void Store(const CsvRecord& record, RowId id);
-    void Tell(const std::string& text) { taken_.findings.Add(line_, text); }
+    void Tell(Message text) { taken_.findings.Add(line_, std::move(text)); }
 
     CsvFieldReader reader_;
     CloneImage& image_;
@@ -65,7 +65,7 @@ std::optional<RowId> CsvImport::ReadRow(const std::string& model)
         const bool isTitles = model == kCsvTitles.front();
         if (beginsLine && !isTitles && !(model.empty() && reader_.EndsLine())) {
             line_ = reader_.Line();
-            Tell("it does not begin with " + std::string(kCsvModel) + " and is passed over");
+            Tell({MESSAGE("it does not begin with %1 and is passed over"), {kCsvModel}});
         }
         return std::nullopt;
     }
@@ -73,7 +73,7 @@ std::optional<RowId> CsvImport::ReadRow(const std::string& model)
     const auto bank = reader_.Next();
     isAtStart_ = reader_.EndsLine();
     if (!bank || !IsCsvBank(KeyText(*bank))) {
-        Tell("there is no table \"" + bank.value_or("") + "\"; the record is passed over");
+        Tell({MESSAGE("there is no table \"%1\"; the record is passed over"), {bank.value_or("")}});
         return std::nullopt;
     }
     const auto channel = reader_.Next();
@@ -81,13 +81,13 @@ std::optional<RowId> CsvImport::ReadRow(const std::string& model)
     const auto row =
         !channel || KeyText(*channel).empty() ? std::nullopt : FindCsvRow(KeyText(*bank), KeyText(*channel));
     if (!row)
-        Tell(*bank + " has no channel \"" + channel.value_or("") + "\"; the record is passed over");
+        Tell({MESSAGE("%1 has no channel \"%2\"; the record is passed over"), {*bank, channel.value_or("")}});
     return row;
 }
 
 std::optional<CsvRecord> CsvImport::ReadRecord(RowId id)
 {
-    const auto tell = [&](const char* text) { Tell(RowName(image_, id) + ": " + text); };
+    const auto tell = [&](const char* text) { Tell(Message::List({RowName(image_, id), text}, ": ")); };
     CsvRecord record;
     bool isShort = false;
     const auto take = [&](std::string& text) {
@@ -101,13 +101,13 @@ std::optional<CsvRecord> CsvImport::ReadRecord(RowId id)
     isWhole = isWhole && take(record.skip) && take(record.enable);
     isAtStart_ = reader_.EndsLine();
     if (!isWhole) {
-        tell("the record is short and is passed over");
+        tell(MESSAGE("the record is short and is passed over"));
         return std::nullopt;
     }
     if (isShort)
-        tell("the record is short; what stands in the next line was read into it");
+        tell(MESSAGE("the record is short; what stands in the next line was read into it"));
     else if (!reader_.EndsLine())
-        tell("the record has more than 15 fields; the rest is passed over");
+        tell(MESSAGE("the record has more than 15 fields; the rest is passed over"));
     return record;
 }
 

@@ -66,7 +66,7 @@ bool SetList(int descriptor, const AccessList& list)
 
 /// What users and file systems keep beside a file. Labels and signatures of the system are its own matter,
 /// but for the one label that says who may use the file.
-void CarryAttributes(const char* path, int descriptor, std::vector<std::string>& changes)
+void CarryAttributes(const char* path, int descriptor, std::vector<Message>& changes)
 {
     for (const std::string& name : AttributeNames(path)) {
         const bool isSystem = name.starts_with("security.") || name.starts_with("trusted.");
@@ -74,7 +74,7 @@ void CarryAttributes(const char* path, int descriptor, std::vector<std::string>&
             continue;
         const std::string value = AttributeOf(path, name.c_str());
         if (fsetxattr(descriptor, name.c_str(), value.data(), value.size(), 0) != 0 && !isSystem)
-            changes.push_back("the extended attribute " + name + " is gone");
+            changes.push_back({MESSAGE("the extended attribute %1 is gone"), {name}});
     }
 }
 #else
@@ -88,7 +88,7 @@ bool SetList(int /*descriptor*/, const AccessList& list)
     return !list.IsExtended();
 }
 
-void CarryAttributes(const char* /*path*/, int /*descriptor*/, std::vector<std::string>& /*changes*/) {}
+void CarryAttributes(const char* /*path*/, int /*descriptor*/, std::vector<Message>& /*changes*/) {}
 #endif
 
 AccessBits OwnAccess(const char* path)
@@ -119,23 +119,22 @@ std::string ModeText(unsigned mode)
     return text;
 }
 
-void Compare(const struct stat& before, const struct stat& now, std::vector<std::string>& changes)
+void Compare(const struct stat& before, const struct stat& now, std::vector<Message>& changes)
 {
-    const auto tell = [&changes](const char* what, const std::string& was, const std::string& is) {
+    const auto tell = [&changes](const char* text, const std::string& was, const std::string& is) {
         if (was != is)
-            changes.push_back(std::string("the ") + what + " was " + was + " and is " + is);
+            changes.push_back({text, {was, is}});
     };
-    tell("owner", UserName(before.st_uid), UserName(now.st_uid));
-    tell("group", GroupName(before.st_gid), GroupName(now.st_gid));
-    if (const auto was = ModeText(before.st_mode), is = ModeText(now.st_mode); was != is)
-        changes.push_back("the permissions were " + was + " and are " + is);
+    tell(MESSAGE("the owner was %1 and is %2"), UserName(before.st_uid), UserName(now.st_uid));
+    tell(MESSAGE("the group was %1 and is %2"), GroupName(before.st_gid), GroupName(now.st_gid));
+    tell(MESSAGE("the permissions were %1 and are %2"), ModeText(before.st_mode), ModeText(now.st_mode));
 }
 
 }  // namespace
 
-std::vector<std::string> CarryAccess(const QString& oldFile, int descriptor)
+std::vector<Message> CarryAccess(const QString& oldFile, int descriptor)
 {
-    std::vector<std::string> changes;
+    std::vector<Message> changes;
     const QByteArray path = QFile::encodeName(oldFile);
     struct stat old = {};
     struct stat now = {};
@@ -153,7 +152,7 @@ std::vector<std::string> CarryAccess(const QString& oldFile, int descriptor)
     unsigned mode = list.Mode();
     if (!SetList(descriptor, list)) {
         // An entry may have kept somebody out, so without the list the file is its owner's alone.
-        changes.emplace_back("the access list is gone");
+        changes.emplace_back(MESSAGE("the access list is gone"));
         mode &= 0700;
     }
     // A file system that cannot do this tells all files the same permissions.
@@ -169,7 +168,7 @@ int NameCount(const QString& path)
     return stat(QFile::encodeName(path).constData(), &file) == 0 ? static_cast<int>(file.st_nlink) : 0;
 }
 #else
-std::vector<std::string> CarryAccess(const QString& oldFile, int /*descriptor*/)
+std::vector<Message> CarryAccess(const QString& oldFile, int /*descriptor*/)
 {
     Q_UNUSED(oldFile)
     return {};

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <QString>
-#include <string>
 #include <vector>
+
+#include "language/message.h"
 
 namespace rqm5 {
 
@@ -11,7 +12,7 @@ namespace rqm5 {
 /// new file who could not the old one.
 /// \param descriptor  the new file, open for writing and its owner's alone so far
 /// \return what is not as it was, one half sentence each: "the owner was ann and is bob"
-std::vector<std::string> CarryAccess(const QString& oldFile, int descriptor);
+std::vector<Message> CarryAccess(const QString& oldFile, int descriptor);
 
 /// How many names a file has; more than one when there are hard links to it, 0 when it is not there.
 int NameCount(const QString& path);

@@ -26,17 +26,30 @@ constexpr qint64 kBeginning = 256;
 constexpr std::string_view kPdfStart = "%PDF-";
 constexpr std::string_view kCsvTitle = "MODEL";
 
-const char* KindName(FileKind kind)
+/// What stands in the place of a file that a command would write.
+const char* ThisIs(FileKind kind)
 {
     switch (kind) {
         case FileKind::Clone:
-            return "a clone file";
+            return MESSAGE("this is a clone file");
         case FileKind::Csv:
-            return "a CSV file of this program";
+            return MESSAGE("this is a CSV file of this program");
         case FileKind::Pdf:
-            return "a PDF";
+            return MESSAGE("this is a PDF");
         default:
-            return "a file of another kind";
+            return MESSAGE("this is a file of another kind");
+    }
+}
+
+const char* AndNot(FileKind kind)
+{
+    switch (kind) {
+        case FileKind::Clone:
+            return MESSAGE("and not a clone file");
+        case FileKind::Csv:
+            return MESSAGE("and not a CSV file of this program");
+        default:
+            return MESSAGE("and not a PDF");
     }
 }
 
@@ -111,9 +124,9 @@ std::optional<Problem> OtherKindProblem(const QString& path, FileKind kind)
     const FileKind there = KindOf(path);
     if (there == FileKind::None || there == FileKind::Empty || there == kind)
         return std::nullopt;
-    return Problem{kFileOpenError, VisibleText(path.toStdString()) + ": this is " + KindName(there) +
-                                       " and not " + KindName(kind) +
-                                       "; give another name, or --force to replace it"};
+    return Problem{kFileOpenError,
+                   {MESSAGE("%1: %2 %3; give another name, or --force to replace it"),
+                    {VisibleText(path.toStdString()), ThisIs(there), AndNot(kind)}}};
 }
 
 std::optional<Problem> KeepOldFile(const QString& path, QString& kept)
@@ -121,17 +134,16 @@ std::optional<Problem> KeepOldFile(const QString& path, QString& kept)
     const QString target = LinkTarget(path);
     kept = target + QLatin1Char('~');
     const QFileInfo info(kept);
-    QString reason;
-    if (info.exists() && !info.isFile())
-        reason = QStringLiteral("there is a folder or a device of that name");
-    else
-        reason = AddName(target, kept);
-    if (reason.isEmpty())
+    Message reason = MESSAGE("there is a folder or a device of that name");
+    if (!info.exists() || info.isFile())
+        reason = VisibleText(AddName(target, kept).toStdString());
+    if (reason.empty())
         return std::nullopt;
-    return Problem{kFileOpenError,
-                   VisibleText(kept.toStdString()) + ": the old file cannot be kept under this name (" +
-                       VisibleText(reason.toStdString()) +
-                       "), so nothing was changed. Make room for it, or save under another name."};
+    return Problem{
+        kFileOpenError,
+        {MESSAGE("%1: the old file cannot be kept under this name (%2), so nothing was changed. Make "
+                 "room for it, or save under another name."),
+         {VisibleText(kept.toStdString()), reason}}};
 }
 
 }  // namespace rqm5

@@ -19,20 +19,23 @@ std::string NameOf(const QString& path)
 Problem NotAsWritten(const QString& path, const FileIdentity& written)
 {
     if (FileIdentity::Of(path) != written)
-        return {kDataError, NameOf(path) +
-                                ": another program wrote this file right after it was saved, so it holds "
-                                "something else. Look at it, then save again or under another name."};
+        return {
+            kDataError,
+            {MESSAGE("%1: another program wrote this file right after it was saved, so it holds something "
+                     "else. Look at it, then save again or under another name."),
+             {NameOf(path)}}};
     return {kDataError,
-            NameOf(path) +
-                ": the file does not hold what was written to it. The disk may be failing; save to "
-                "another one."};
+            {MESSAGE("%1: the file does not hold what was written to it. The disk may be failing; save to "
+                     "another one."),
+             {NameOf(path)}}};
 }
 
 Problem Unreadable(const Problem& reading)
 {
-    return {reading.text, reading.details +
-                              " The new file is in place; only what it holds could not be compared with "
-                              "what was written."};
+    return {reading.text,
+            {MESSAGE("%1 The new file is in place; only what it holds could not be compared with what "
+                     "was written."),
+             {reading.details}}};
 }
 
 }  // namespace
@@ -57,7 +60,7 @@ std::optional<Problem> LoadCloneFile(const QString& path, CloneImage& image, Fil
     if (mark != nullptr)
         *mark = MarkOf(bytes);
     if (const auto error = ParseCloneFile(bytes, image))
-        return Problem{kDataError, NameOf(path) + ": " + error->reason};
+        return Problem{kDataError, Message::List({NameOf(path), error->reason}, ": ")};
     return std::nullopt;
 }
 

@@ -10,6 +10,7 @@
 #include "files/replacing_file.h"
 #include "image/clone_image.h"
 #include "image/problem.h"
+#include "language/message.h"
 
 namespace rqm5 {
 
@@ -28,11 +29,11 @@ std::optional<Problem> LoadCloneFile(const QString& path, CloneImage& image, Fil
 /// What saving led to.
 struct SaveOutcome
 {
-    std::optional<Problem> problem = {};          ///< why it failed; says whether the new file is in place
-    std::vector<std::string> lostNotes = {};      ///< rows whose notes do not survive loading
-    std::vector<std::string> changedValues = {};  ///< what else reads back otherwise, one line a row
-    std::vector<std::string> accessChanges = {};  ///< see CarryAccess
-    FileMark mark = {};                           ///< of what is in place now; empty when nothing is
+    std::optional<Problem> problem = {};      ///< why it failed; says whether the new file is in place
+    std::vector<Message> lostNotes = {};      ///< rows whose notes do not survive loading
+    std::vector<Message> changedValues = {};  ///< what else reads back otherwise, one line a row
+    std::vector<Message> accessChanges = {};  ///< see CarryAccess
+    FileMark mark = {};                       ///< of what is in place now; empty when nothing is
 };
 
 /// Saves a clone file: to a temporary file in the same folder, flushed to the disk and renamed over the
@@ -60,7 +61,7 @@ void TurnFileSizeLimitIntoError();
 /// What there is to know about a file that was written.
 struct WriteReport
 {
-    std::vector<std::string> accessChanges = {};  ///< see CarryAccess
+    std::vector<Message> accessChanges = {};  ///< see CarryAccess
     FileIdentity identity = {};
     bool isInPlace = false;
 };

@@ -227,12 +227,12 @@ void TakeTitles(const ListForm& form, ListTable& table)
     table.records.erase(table.records.begin());
 }
 
-std::string ProblemOf(const ListTable& table)
+Message ProblemOf(const ListTable& table)
 {
     if (!table.hasTitles && table.delimiter == ',' && HasTwoKindsOfComma(table.records, table.columns))
-        return "commas stand for decimals and between fields; separate the fields by tabs";
+        return MESSAGE("commas stand for decimals and between fields; separate the fields by tabs");
     if (!table.hasTitles && !table.records.empty() && !HasColumn(table.columns, kFrequency))
-        return "there is no frequency";
+        return MESSAGE("there is no frequency");
     return {};
 }
 

@@ -7,6 +7,7 @@
 #include "files/list_fields.h"
 #include "files/list_numbers.h"
 #include "files/list_titles.h"
+#include "language/message.h"
 
 namespace rqm5 {
 
@@ -40,7 +41,7 @@ struct ListTable
     std::vector<ListRecord> records;
     int firstUnread = 0;               ///< the line of the first record beyond the limit; 0 when all are read
     std::vector<std::string> unknown;  ///< columns of the form that the list does not have
-    std::string problem;               ///< why no record can be read; empty when they can
+    Message problem;                   ///< why no record can be read; empty when they can
 };
 
 /// The columns that are shown and can be assigned; a list with more is no list of channels.

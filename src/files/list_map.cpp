@@ -87,27 +87,27 @@ std::string TakeWord(std::string_view& rest, std::string_view ends)
 }
 
 /// "@delimiter=semicolon" and the like. \return what is wrong with it; empty when nothing is
-std::string TakeSetting(const std::string& name, const std::string& value, ListForm& form)
+Message TakeSetting(const std::string& name, const std::string& value, ListForm& form)
 {
     if (name == "@encoding") {
         if (!IsKnownEncoding(value))
-            return "there is no encoding \"" + value + "\"; one of them is WINDOWS-1252";
+            return {MESSAGE("there is no encoding \"%1\"; one of them is WINDOWS-1252"), {value}};
         form.encoding = value;
     } else if (name == "@delimiter") {
         form.delimiter = Named(kDelimiters, value);
         if (!form.delimiter)
-            return "the delimiter is tab, semicolon, comma or none";
+            return MESSAGE("the delimiter is tab, semicolon, comma or none");
     } else if (name == "@decimal") {
         const auto sign = Named(kDecimals, value);
         if (!sign)
-            return "the decimal sign is point or comma";
+            return MESSAGE("the decimal sign is point or comma");
         form.decimals = *sign;
     } else if (name == "@titles") {
         form.hasTitles = Named(kTitleWords, value);
         if (!form.hasTitles)
-            return "@titles is yes or no";
+            return MESSAGE("@titles is yes or no");
     } else {
-        return "\"" + name + "\" is none of @encoding, @delimiter, @decimal and @titles";
+        return {MESSAGE("\"%1\" is none of @encoding, @delimiter, @decimal and @titles"), {name}};
     }
     return {};
 }
@@ -164,60 +164,63 @@ std::string FormatForm(const ListForm& form)
     return text;
 }
 
-std::variant<ListForm, std::string> ParseForm(std::string_view text)
+std::variant<ListForm, Message> ParseForm(std::string_view text)
 {
     ListForm form;
     while (!text.empty()) {
         const bool isSetting = text.starts_with('@');
         const std::string name = TakeWord(text, "=,");
         if (!text.starts_with('='))
-            return "\"" + name + "\" is not followed by \"=\" and a field";
+            return Message(MESSAGE("\"%1\" is not followed by \"=\" and a field"), {name});
         text.remove_prefix(1);
         const std::string value = TakeWord(text, ",");
         text.remove_prefix(text.empty() ? 0 : 1);
         if (isSetting) {
-            if (std::string fault = TakeSetting(name, value, form); !fault.empty())
+            if (Message fault = TakeSetting(name, value, form); !fault.empty())
                 return fault;
             continue;
         }
         const auto column = FieldNamed(value);
         if (!column)
-            return "there is no field \"" + value + "\"; the fields are " + FieldNames();
+            return Message(MESSAGE("there is no field \"%1\"; the fields are %2"), {value, FieldNames()});
         form.columns.push_back({name, *column});
     }
     return form;
 }
 
-std::string_view DelimiterName(char delimiter)
+Message DelimiterName(char delimiter)
 {
-    return delimiter == '\0' ? "one field a line" : NameOf(kDelimiters, delimiter);
+    return delimiter == '\0' ? Message(MESSAGE("one field a line")) : NameOf(kDelimiters, delimiter);
 }
 
-std::string_view DecimalName(DecimalSign sign)
+Message DecimalName(DecimalSign sign)
 {
-    return sign == DecimalSign::Unknown ? "each number by itself" : NameOf(kDecimals, sign);
+    return sign == DecimalSign::Unknown ? Message(MESSAGE("each number by itself")) : NameOf(kDecimals, sign);
 }
 
-std::string DescribeTable(const ListTable& table)
+Message DescribeTable(const ListTable& table)
 {
-    std::string text = table.encoding + "; fields: " + std::string(DelimiterName(table.delimiter)) +
-                       "; decimals: " + std::string(DecimalName(table.decimals));
-    std::string columns;
-    std::string unused;
+    std::vector<Message> columns;
+    std::vector<Message> unused;
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
-        const std::string title = i < table.titles.size() && !table.titles[i].empty()
-                                      ? "\"" + table.titles[i] + "\""
-                                      : "column " + std::to_string(i + 1);
+        const Message title = i < table.titles.size() && !table.titles[i].empty()
+                                  ? Message("\"" + table.titles[i] + "\"")
+                                  : Message(MESSAGE("column %1"), {static_cast<int>(i) + 1});
         ListColumn column = table.columns[i];
         if (column.part == kFrequency && column.unit == Unit::None)
             column.unit = table.usualUnit;
-        std::string& list = column.part == ListColumn::kIgnored ? unused : columns;
-        list += (list.empty() ? "" : ", ") + title;
-        if (column.part != ListColumn::kIgnored)
-            list += " = " + FieldName(column);
+        if (column.part == ListColumn::kIgnored)
+            unused.push_back(title);
+        else
+            columns.push_back(Message::List({title, FieldName(column)}, " = "));
     }
-    text += "; " + columns;
-    return unused.empty() ? text : text + "; not used: " + unused;
+    std::vector<Message> sentence = {
+        {MESSAGE("%1; fields: %2; decimals: %3"),
+         {table.encoding, DelimiterName(table.delimiter), DecimalName(table.decimals)}},
+        columns.empty() ? Message() : Message::List(std::move(columns), ", ")};
+    if (!unused.empty())
+        sentence.push_back({MESSAGE("not used: %1"), {Message::List(std::move(unused), ", ")}});
+    return Message::List(std::move(sentence), "; ");
 }
 
 }  // namespace rqm5

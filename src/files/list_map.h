@@ -21,13 +21,13 @@ std::string FieldNames();
 std::string FormatForm(const ListForm& form);
 
 /// \return the form, or what is wrong with the text
-std::variant<ListForm, std::string> ParseForm(std::string_view text);
+std::variant<ListForm, Message> ParseForm(std::string_view text);
 
-// What is said of a list: "semicolon", "comma".
-std::string_view DelimiterName(char delimiter);
-std::string_view DecimalName(DecimalSign sign);
+// What is said of a list: "semicolon", "comma", the words of a form in every language.
+Message DelimiterName(char delimiter);
+Message DecimalName(DecimalSign sign);
 
 /// One sentence: the encoding, the delimiter, the decimal sign, and what each column was taken for.
-std::string DescribeTable(const ListTable& table);
+Message DescribeTable(const ListTable& table);
 
 }  // namespace rqm5

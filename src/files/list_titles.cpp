@@ -30,29 +30,32 @@ constexpr Titles kTitles[] = {
      "周波数 受信周波数 受信 "},
     {kMode,
      " mode modulation modulation_mode mod modus betriebsart modulationsart type_de_modulation "
-     "modo modulacion モード 電波型式 変調 変調方式 "},
+     "modo modulacion modo_de_modulacion モード 電波型式 変調 変調方式 変調モード "},
     {kStep,
      " step tuning_step step_size raster schrittweite kanalraster abstimmschritt schritt pas "
      "pas_d_accord paso paso_de_sintonia ステップ チューニングステップ 周波数ステップ "},
     {kOption,
-     " option squelch squelch_type tone_mode rauschsperre silencieux silenciador オプション "
+     " option squelch squelch_type tone_mode rauschsperre silencieux opcion silenciador オプション "
      "スケルチ トーンモード "},
     {kSecret,
-     " secret secret_code scrt geheimcode code_secret codigo_secreto シークレット "
-     "シークレットコード "},
-    {kCarrier, " carrier train train_tone zugton tonalite_de_train tono_de_tren 空線 空線信号 "},
+     " secret secret_code scrt geheim geheimcode code_secret secreto codigo_secreto シークレット "
+     "シークレットコード 秘話 秘話コード "},
+    {kCarrier,
+     " carrier train train_tone zugton zugfunkton trager traeger tonalite_train tonalite_de_train porteuse "
+     "tono_de_tren tono_ferroviario portadora 空線 空線信号 "},
     {kTone,
      " tone ctcss ctcss_tone ctcss_frequency ctcss_freq tone_frequency tone_freq rx_tone pl "
      "pl_tone ton ctcss_ton tonfrequenz subton tonalite tonalite_ctcss ton_ctcss tono "
-     "tono_ctcss subtono トーン トーン周波数 "},
+     "tono_ctcss subtono トーン トーン周波数 ctcssトーン "},
     {kShift,
      " shift duplex shift_direction offset_direction ablagerichtung shiftrichtung "
      "sens_du_decalage direction_du_decalage sentido_del_desplazamiento シフト シフト方向 "
      "デュプレックス "},
     {kShiftFrequency,
      " shiftfreq shift_frequency shift_freq offset offset_frequency offset_freq ablage versatz "
-     "ablagefrequenz shiftfrequenz versatzfrequenz decalage frequence_de_decalage ecart "
-     "desplazamiento frecuencia_de_desplazamiento シフト周波数 オフセット オフセット周波数 "},
+     "ablagefrequenz shiftfrequenz versatzfrequenz decalage frequence_de_decalage valeur_du_decalage ecart "
+     "desplazamiento frecuencia_de_desplazamiento frec_de_desplazamiento シフト周波数 オフセット "
+     "オフセット周波数 "},
     {kNote,
      " note notes name channel_name alpha_tag tag label description comment comments remark "
      "remarks memo station service callsign call_sign user title text notiz notizen bemerkung "
@@ -65,11 +68,14 @@ constexpr Titles kTitles[] = {
      " skip lockout l_o uberspringen ueberspringen auslassen sauter ignorer omitir saltar "
      "スキップ "},
     {kEnabledPart,
-     " enable enabled active aktiv ein eingeschaltet freigegeben actif activee activo activado "
-     "habilitado 有効 オン "},
+     " enable enabled active aktiv ein einschalten eingeschaltet freigegeben actif activee canal_active "
+     "activo activar activado habilitado 有効 オン "},
     {ListColumn::kBank, " bank banque banc banco バンク "},
-    {ListColumn::kChannel, " channel ch kanal canal voie チャンネル チャネル "},
-    {ListColumn::kRow, " row memory_row speicherzeile ligne_de_memoire fila_de_memoria "},
+    {ListColumn::kChannel,
+     " channel ch kanal kanal_in_der_bank canal voie canal_dans_la_banque canal_en_el_banco チャンネル "
+     "チャネル バンク内チャンネル "},
+    {ListColumn::kRow,
+     " row memory_row speicherzeile ligne_memoire ligne_de_memoire fila_de_memoria メモリー行 "},
     {kIgnored,
      " model bandwidth bw bandbreite largeur_de_bande ancho_de_banda 帯域幅 spacing channel_spacing "
      "deviation hub no nr number location memory date time country city id modell nummer speicher "

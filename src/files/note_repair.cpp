@@ -52,10 +52,10 @@ std::variant<NoteRepair, ParseError> RepairNotes(std::string_view text)
     return repair;
 }
 
-std::string RepairText(const RepairedNote& note)
+Message RepairText(const RepairedNote& note)
 {
-    return "line " + std::to_string(note.line) + ", " + note.name + ": " + VisibleText(note.before) + " -> " +
-           VisibleText(note.after);
+    return {MESSAGE("line %1, %2: %3 -> %4"),
+            {note.line, note.name, VisibleText(note.before), VisibleText(note.after)}};
 }
 
 }  // namespace rqm5

@@ -12,8 +12,8 @@ namespace rqm5 {
 /// A note that keeps a clone file from being opened, and what it becomes.
 struct RepairedNote
 {
-    int line;          ///< counted from 1
-    std::string name;  ///< "note of memory row 12"
+    int line;      ///< counted from 1
+    Message name;  ///< "note of memory row 12"
     std::string before;
     std::string after;
 };
@@ -30,6 +30,6 @@ struct NoteRepair
 std::variant<NoteRepair, ParseError> RepairNotes(std::string_view text);
 
 /// A repaired note in words: "line 1285, note of memory row 3: A,B -> A;B".
-std::string RepairText(const RepairedNote& note);
+Message RepairText(const RepairedNote& note);
 
 }  // namespace rqm5

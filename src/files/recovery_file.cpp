@@ -95,7 +95,8 @@ std::optional<Problem> RecoveryFile::Keep(const std::string& text, const Recover
 {
     MakeFolder(QFileInfo(path_).path());
     if (!Lock())
-        return Problem{kFileOpenError, VisibleText(lock_.fileName().toStdString()) + ": cannot be made"};
+        return Problem{kFileOpenError,
+                       {MESSAGE("%1: cannot be made"), {VisibleText(lock_.fileName().toStdString())}}};
     if (origin != Origin())
         if (auto problem = WriteWholeFile(OriginPath(), OriginText(origin)))
             return problem;

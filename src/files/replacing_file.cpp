@@ -34,7 +34,7 @@ void RemoveLeftovers(const QDir& folder)
 
 DiskFault SystemFault(int code)
 {
-    return {qt_error_string(code), code, false};
+    return {qt_error_string(code).toStdString(), code, false};
 }
 
 #ifdef Q_OS_UNIX
@@ -109,11 +109,11 @@ std::optional<DiskFault> ReplacingFile::Open()
     RemoveLeftovers(old.absoluteDir());
     // A rename would replace it all the same; its owner does not want that.
     if (old.exists() && !old.isWritable())
-        return DiskFault{QStringLiteral("Permission denied"), EACCES};
+        return DiskFault{MESSAGE("Permission denied"), EACCES};
     errno = 0;
     if (file_.open())
         return std::nullopt;
-    return DiskFault{file_.errorString(), errno};
+    return DiskFault{file_.errorString().toStdString(), errno};
 }
 
 std::optional<DiskFault> ReplacingFile::Replace(const std::string& bytes)
@@ -143,7 +143,7 @@ std::optional<DiskFault> ReplacingFile::Write(const std::string& bytes)
     const auto size = static_cast<qint64>(bytes.size());
     if (file_.write(bytes.data(), size) == size && file_.flush())
         return std::nullopt;
-    return DiskFault{file_.errorString()};
+    return DiskFault{file_.errorString().toStdString()};
 #endif
 }
 
@@ -179,8 +179,8 @@ std::optional<DiskFault> ReplacingFile::Rename()
     errno = 0;
     const QString name = file_.fileName();  // gives a nameless file its name
     if (name.isEmpty() || !QFileInfo::exists(name))
-        return DiskFault{QStringLiteral("the new file gets no name here (%1)").arg(qt_error_string(errno)),
-                         errno};
+        return DiskFault{
+            {MESSAGE("the new file gets no name here (%1)"), {qt_error_string(errno).toStdString()}}, errno};
     identity_ = FileIdentity::Of(name);
     file_.close();
 #ifdef Q_OS_UNIX
@@ -190,7 +190,7 @@ std::optional<DiskFault> ReplacingFile::Rename()
     std::error_code error;
     std::filesystem::rename(name.toStdWString(), target_.toStdWString(), error);
     if (error)
-        return DiskFault{QString::fromLocal8Bit(error.message().c_str())};
+        return DiskFault{QString::fromLocal8Bit(error.message().c_str()).toStdString()};
 #endif
     file_.setAutoRemove(false);
     return std::nullopt;

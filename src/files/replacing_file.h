@@ -6,12 +6,14 @@
 #include <string>
 #include <vector>
 
+#include "language/message.h"
+
 namespace rqm5 {
 
 /// Why a file could not be written.
 struct DiskFault
 {
-    QString reason;          ///< what the system says
+    Message reason;          ///< what the system says
     int code = 0;            ///< its error number; 0 when unknown
     bool isInPlace = false;  ///< the new file has the place of the old one all the same
 };
@@ -45,7 +47,7 @@ class ReplacingFile
     std::optional<DiskFault> Replace(const std::string& bytes);
 
     /// What the new file did not get from the old one: see CarryAccess.
-    const std::vector<std::string>& AccessChanges() const { return accessChanges_; }
+    const std::vector<Message>& AccessChanges() const { return accessChanges_; }
 
     /// The new file once it is in its place.
     const FileIdentity& Identity() const { return identity_; }
@@ -58,7 +60,7 @@ class ReplacingFile
 
     QString target_;
     QTemporaryFile file_;
-    std::vector<std::string> accessChanges_;
+    std::vector<Message> accessChanges_;
     FileIdentity identity_;
 };
 

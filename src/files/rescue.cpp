@@ -5,13 +5,13 @@
 
 namespace rqm5 {
 
-std::string Rescue(const CloneImage& image, const QString& meant)
+Message Rescue(const CloneImage& image, const QString& meant)
 {
     RecoveryFile file(StateFolder(), RecoveryFile::Work::Read);
     if (const auto problem = file.Keep(RecoveryText(image), {meant, {}}))
-        return "What was read could not be kept elsewhere either: " + problem->details;
-    return "What was read is kept in " + VisibleText(file.Path().toStdString()) +
-           "; rq-m5-clone offers it at its next start.";
+        return {MESSAGE("What was read could not be kept elsewhere either: %1"), {problem->details}};
+    return {MESSAGE("What was read is kept in %1; rq-m5-clone offers it at its next start."),
+            {VisibleText(file.Path().toStdString())}};
 }
 
 }  // namespace rqm5

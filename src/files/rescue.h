@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QString>
-#include <string>
 
 #include "image/clone_image.h"
+#include "language/message.h"
 
 namespace rqm5 {
 
@@ -11,6 +11,6 @@ namespace rqm5 {
 /// next start of the window to offer.
 /// \param meant  the file that it was read for
 /// \return a sentence that names the file; or why there is none
-std::string Rescue(const CloneImage& image, const QString& meant);
+Message Rescue(const CloneImage& image, const QString& meant);
 
 }  // namespace rqm5

@@ -49,10 +49,10 @@ CloneImage ReadBack(const CloneImage& image)
     return readBack;
 }
 
-std::vector<std::string> LostNotes(const CloneImage& image, const CloneImage& readBack)
+std::vector<Message> LostNotes(const CloneImage& image, const CloneImage& readBack)
 {
     const ImageChange change = Difference(image, readBack);
-    std::vector<std::string> names;
+    std::vector<Message> names;
     for (const auto& note : change.VFONotes)
         names.push_back(VfoRowName(note.index));
     for (const auto& note : change.MemNotes)
@@ -60,7 +60,7 @@ std::vector<std::string> LostNotes(const CloneImage& image, const CloneImage& re
     return names;
 }
 
-std::vector<std::string> ChangedValues(const CloneImage& image, const CloneImage& readBack)
+std::vector<Message> ChangedValues(const CloneImage& image, const CloneImage& readBack)
 {
     CloneImage after = readBack;
     for (int row = 0; row < kVfoRows; ++row)
@@ -73,7 +73,7 @@ std::vector<std::string> ChangedValues(const CloneImage& image, const CloneImage
     return DescribeChange(image, change);
 }
 
-std::vector<std::string> ValuesReadOtherwise(std::string_view text, const CloneImage& loaded)
+std::vector<Message> ValuesReadOtherwise(std::string_view text, const CloneImage& loaded)
 {
     CloneImage stated = loaded;
     CloneLineReader reader(text);

@@ -21,39 +21,45 @@ constexpr qint64 kLargestFile = 16 * 1024 * 1024;
 /// Why a file cannot be used, and what to do about it.
 struct Obstacle
 {
-    QString reason;
-    QString remedy;
+    Message reason;
+    Message remedy;
 };
 
 Problem ProblemWith(const QFileInfo& file, const Obstacle& obstacle)
 {
-    const QString text = QStringLiteral("%1. %2").arg(obstacle.reason, obstacle.remedy);
     return {kFileOpenError,
-            VisibleText(file.absoluteFilePath().toStdString()) + ": " + VisibleText(text.toStdString())};
+            {MESSAGE("%1: %2. %3"),
+             {VisibleText(file.absoluteFilePath().toStdString()), obstacle.reason, obstacle.remedy}}};
+}
+
+/// What the system or Qt says.
+Message Reason(const QString& text)
+{
+    return VisibleText(text.toStdString());
 }
 
 /// What stands at the path but is no file that can be read or replaced.
 std::optional<Obstacle> NotAFile(const QFileInfo& file)
 {
     if (file.filePath().isEmpty())
-        return Obstacle{QStringLiteral("no file name was given"), QStringLiteral("Give one.")};
+        return Obstacle{MESSAGE("no file name was given"), MESSAGE("Give one.")};
     if (file.isDir())
-        return Obstacle{QStringLiteral("this is a folder"), QStringLiteral("Give the name of a file.")};
+        return Obstacle{MESSAGE("this is a folder"), MESSAGE("Give the name of a file.")};
     if (file.exists() && !file.isFile())
-        return Obstacle{QStringLiteral("this is a device or a pipe and no file"),
-                        QStringLiteral("Give the name of a file.")};
+        return Obstacle{MESSAGE("this is a device or a pipe and no file"),
+                        MESSAGE("Give the name of a file.")};
     return std::nullopt;
 }
 
-QString OpenRemedy(const QFileInfo& file)
+Message OpenRemedy(const QFileInfo& file)
 {
     if (file.exists() && !file.isWritable())
-        return QStringLiteral("Change the permissions of the file or save under another name.");
-    return QStringLiteral("Check the name and the permissions of the folder, or save in another one.");
+        return MESSAGE("Change the permissions of the file or save under another name.");
+    return MESSAGE("Check the name and the permissions of the folder, or save in another one.");
 }
 
 /// What helps against a fault of the disk. Only what the disk itself reports is blamed on it.
-QString Remedy(int code, const QFileInfo& file)
+Message Remedy(int code, const QFileInfo& file)
 {
     switch (code) {
         case ENOSPC:
@@ -61,20 +67,20 @@ QString Remedy(int code, const QFileInfo& file)
 #ifdef Q_OS_UNIX
         case EDQUOT:
 #endif
-            return QStringLiteral("Free some space on the disk or save on another one, then repeat.");
+            return MESSAGE("Free some space on the disk or save on another one, then repeat.");
         case ENAMETOOLONG:
-            return QStringLiteral("Give a shorter name.");
+            return MESSAGE("Give a shorter name.");
         case EMFILE:
         case ENFILE:
-            return QStringLiteral("Too many files are open; close other programs, then repeat.");
+            return MESSAGE("Too many files are open; close other programs, then repeat.");
         case EIO:
-            return QStringLiteral("The disk may be failing; save on another one.");
+            return MESSAGE("The disk may be failing; save on another one.");
         case EACCES:
         case EPERM:
         case EROFS:
             return OpenRemedy(file);
         default:
-            return QStringLiteral("Save in another folder or on another disk.");
+            return MESSAGE("Save in another folder or on another disk.");
     }
 }
 
@@ -98,12 +104,13 @@ std::optional<Obstacle> WriteObstacle(const QFileInfo& file)
     const QFileInfo target(file.exists() ? file.canonicalFilePath() : file.absoluteFilePath());
     const QFileInfo folder(target.absolutePath());
     if (!folder.isDir())
-        return Obstacle{QStringLiteral("the folder %1 does not exist").arg(folder.filePath()),
-                        QStringLiteral("Make the folder or choose another one.")};
+        return Obstacle{
+            {MESSAGE("the folder %1 does not exist"), {VisibleText(folder.filePath().toStdString())}},
+            MESSAGE("Make the folder or choose another one.")};
     if (const QString fault = NameFault(target); !fault.isEmpty())
-        return Obstacle{fault, Remedy(ENAMETOOLONG, file)};
+        return Obstacle{Reason(fault), Remedy(ENAMETOOLONG, file)};
     if ((file.exists() && !file.isWritable()) || !folder.isWritable())
-        return Obstacle{QStringLiteral("permission denied"), OpenRemedy(file)};
+        return Obstacle{MESSAGE("permission denied"), OpenRemedy(file)};
     return std::nullopt;
 }
 
@@ -112,15 +119,14 @@ std::optional<Obstacle> ReadObstacle(const QFileInfo& file)
     if (auto obstacle = NotAFile(file))
         return obstacle;
     if (!file.exists())
-        return Obstacle{QStringLiteral("there is no such file"),
-                        QStringLiteral("Check its name and its folder.")};
+        return Obstacle{MESSAGE("there is no such file"), MESSAGE("Check its name and its folder.")};
     return std::nullopt;
 }
 
 Obstacle TooLarge()
 {
-    return {QStringLiteral("the file is larger than 16 MiB"),
-            QStringLiteral("No clone file and no CSV file of a receiver is; choose another one.")};
+    return {MESSAGE("the file is larger than 16 MiB"),
+            MESSAGE("No clone file and no CSV file of a receiver is; choose another one.")};
 }
 
 }  // namespace
@@ -150,9 +156,9 @@ std::optional<Problem> ReadingObstacle(const QString& path)
     const qint64 free = QStorageInfo(info.absolutePath()).bytesAvailable();
     if (free < 0 || free >= kNeeded * kKilobyte)
         return std::nullopt;
-    const QString reason = QStringLiteral("only %1 KiB are free on the disk, and the file needs %2")
-                               .arg(QString::number(free / kKilobyte), QString::number(kNeeded));
-    return ProblemWith(info, {reason, Remedy(ENOSPC, info)});
+    return ProblemWith(info, {{MESSAGE("only %1 KiB are free on the disk, and the file needs %2"),
+                               {static_cast<int>(free / kKilobyte), static_cast<int>(kNeeded)}},
+                              Remedy(ENOSPC, info)});
 }
 
 std::optional<Problem> WriteWholeFile(const QString& path, const std::string& bytes, WriteReport* report)
@@ -168,11 +174,11 @@ std::optional<Problem> WriteWholeFile(const QString& path, const std::string& by
         *report = {file.AccessChanges(), file.Identity(), !fault || fault->isInPlace};
     if (!fault)
         return std::nullopt;
-    const QString state = fault->isInPlace ? QStringLiteral(
-                                                 "; the new file is in place, but it may be lost when the "
-                                                 "power fails")
-                                           : QStringLiteral("; nothing was changed");
-    return ProblemWith(info, {fault->reason + state, Remedy(fault->code, info)});
+    const Message reason = {
+        fault->isInPlace ? MESSAGE("%1; the new file is in place, but it may be lost when the power fails")
+                         : MESSAGE("%1; nothing was changed"),
+        {fault->reason}};
+    return ProblemWith(info, {reason, Remedy(fault->code, info)});
 }
 
 std::optional<Problem> ReadWholeFile(const QString& path, std::string& bytes)
@@ -182,8 +188,8 @@ std::optional<Problem> ReadWholeFile(const QString& path, std::string& bytes)
         return ProblemWith(info, *obstacle);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return ProblemWith(
-            info, {file.errorString(), QStringLiteral("Change the permissions of the file or open a copy.")});
+        return ProblemWith(info, {Reason(file.errorString()),
+                                  MESSAGE("Change the permissions of the file or open a copy.")});
     if (file.size() > kLargestFile)
         return ProblemWith(info, TooLarge());
     // The size that the system tells may be wrong: some files have none, others grow.
@@ -191,7 +197,7 @@ std::optional<Problem> ReadWholeFile(const QString& path, std::string& bytes)
     if (read.size() > kLargestFile)
         return ProblemWith(info, TooLarge());
     if (file.error() != QFileDevice::NoError)
-        return ProblemWith(info, {file.errorString(), QStringLiteral("Open a copy from another disk.")});
+        return ProblemWith(info, {Reason(file.errorString()), MESSAGE("Open a copy from another disk.")});
     bytes.assign(read.constData(), static_cast<std::size_t>(read.size()));
     return std::nullopt;
 }

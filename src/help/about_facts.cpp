@@ -1,26 +1,21 @@
 #include "help/about_facts.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QSysInfo>
 
 #include "help/build_info.h"
 #include "image/value_tables.h"
+#include "language/translated.h"
 #include "ui/plain_text.h"
 #include "ui/settings_store.h"
 
 namespace rqm5 {
 namespace {
 
-QString Translate(const char* text)
-{
-    return QCoreApplication::translate("About", text);
-}
-
 QString PortText(int port, const QString& device)
 {
     const QString number = QStringLiteral("COM %1").arg(port);
-    return device.isEmpty() ? Translate("%1 (no device)").arg(number)
+    return device.isEmpty() ? Translated({MESSAGE("%1 (no device)"), {number.toStdString()}})
                             : number + QStringLiteral(", ") + VisibleText(device);
 }
 
@@ -35,17 +30,17 @@ QList<AboutFact> AboutFacts(const QString& portFile, int port, const QString& de
 {
     const QString name = QString::fromUtf8(AppTitle.data(), static_cast<qsizetype>(AppTitle.size()));
     return {
-        {Translate("Program"), name},
-        {Translate("Version"), QStringLiteral(RQM5_VERSION)},
-        {Translate("Build"), QString::fromUtf8(kBuild)},
-        {Translate("Licence"), Translate("MIT")},
-        {Translate("Qt"),
-         Translate("%1, built with %2").arg(QString::fromLatin1(qVersion()), QStringLiteral(QT_VERSION_STR))},
-        {Translate("System"),
+        {Translated(MESSAGE("Program")), name},
+        {Translated(MESSAGE("Version")), QStringLiteral(RQM5_VERSION)},
+        {Translated(MESSAGE("Build")), QString::fromUtf8(kBuild)},
+        {Translated(MESSAGE("Licence")), Translated(MESSAGE("MIT"))},
+        {Translated(MESSAGE("Qt")),
+         Translated({MESSAGE("%1, built with %2"), {std::string(qVersion()), std::string(QT_VERSION_STR)}})},
+        {Translated(MESSAGE("System")),
          QSysInfo::prettyProductName() + QStringLiteral(", ") + QSysInfo::currentCpuArchitecture()},
-        {Translate("Settings"), VisibleText(QDir::toNativeSeparators(SettingsPath()))},
-        {Translate("Port number file"), VisibleText(QDir::toNativeSeparators(portFile))},
-        {Translate("Port"), PortText(port, device)},
+        {Translated(MESSAGE("Settings")), VisibleText(QDir::toNativeSeparators(SettingsPath()))},
+        {Translated(MESSAGE("Port number file")), VisibleText(QDir::toNativeSeparators(portFile))},
+        {Translated(MESSAGE("Port")), PortText(port, device)},
     };
 }
 

@@ -17,13 +17,13 @@ QString AnchorOf(const QString& heading)
     return anchor;
 }
 
-QStringList AddHeadingAnchors(QTextDocument& document)
+QStringList AddHeadingAnchors(QTextDocument& document, const QStringList& given)
 {
     QStringList anchors;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         if (block.blockFormat().headingLevel() == 0)
             continue;
-        anchors << AnchorOf(block.text());
+        anchors << given.value(anchors.size(), AnchorOf(block.text()));
         QTextCharFormat format;
         format.setAnchor(true);
         format.setAnchorNames({anchors.last()});

@@ -11,7 +11,8 @@ namespace rqm5 {
 QString AnchorOf(const QString& heading);
 
 /// Gives every heading of a document that was made from Markdown its anchor, which Qt does not do.
+/// \param given  those of the headings in their order, where they do not go by the headings' texts
 /// \return the anchors
-QStringList AddHeadingAnchors(QTextDocument& document);
+QStringList AddHeadingAnchors(QTextDocument& document, const QStringList& given = {});
 
 }  // namespace rqm5

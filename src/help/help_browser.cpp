@@ -9,6 +9,7 @@
 
 #include "help/hit_delegate.h"
 #include "help/manual.h"
+#include "language/language.h"
 #include "ui/form_texts.h"
 #include "ui/icons.h"
 
@@ -18,6 +19,12 @@ namespace {
 constexpr QSize kUsualSize(900, 640);
 constexpr int kListWidth = 240;
 constexpr QSize kWindowFrame(20, 60);  ///< more than title bar and borders take
+
+/// A single letter stands nearly everywhere; an ideograph is a word.
+bool IsWord(const QString& text)
+{
+    return text.size() > 1 || (text.size() == 1 && text[0].script() == QChar::Script_Han);
+}
 
 }  // namespace
 
@@ -29,7 +36,7 @@ frmHelp::frmHelp(Dialogs& dialogs, QWidget* parent)
       lstPages_(new QListWidget(this))
 {
     setObjectName(QStringLiteral("frmHelp"));
-    setWindowTitle(tr("Manual"));
+    setWindowTitle(Designed(QT_TR_NOOP("Manual")));
     setWindowIcon(ProgramIcon());
     Compose();
     AddTools();
@@ -48,14 +55,15 @@ frmHelp::frmHelp(Dialogs& dialogs, QWidget* parent)
 void frmHelp::Compose()
 {
     brwPage_->setObjectName(QStringLiteral("brwPage"));
-    brwPage_->setAccessibleName(tr("Page of the manual"));
+    brwPage_->setAccessibleName(Designed(QT_TR_NOOP("Page of the manual")));
     txtSearch_->setObjectName(QStringLiteral("txtSearch"));
-    txtSearch_->setPlaceholderText(tr("Search the manual"));
-    txtSearch_->setAccessibleName(tr("Search the manual"));
-    txtSearch_->setToolTip(tr("Lists the pages that hold every word; Enter goes to the next place"));
+    txtSearch_->setPlaceholderText(Designed(QT_TR_NOOP("Search the manual")));
+    txtSearch_->setAccessibleName(Designed(QT_TR_NOOP("Search the manual")));
+    txtSearch_->setToolTip(
+        Designed(QT_TR_NOOP("Lists the pages that hold every word; Enter goes to the next place")));
     txtSearch_->setClearButtonEnabled(true);
     lstPages_->setObjectName(QStringLiteral("lstPages"));
-    lstPages_->setAccessibleName(tr("Pages"));
+    lstPages_->setAccessibleName(Designed(QT_TR_NOOP("Pages")));
     lstPages_->setItemDelegate(new HitDelegate(lstPages_));
     lstPages_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 
@@ -79,10 +87,14 @@ QAction* frmHelp::AddTool(const char* name, const QString& text, const QString& 
     auto* action = new QAction(QIcon::fromTheme(icon), text, this);
     action->setObjectName(QLatin1String(name));
     action->setShortcuts(keys);
-    action->setToolTip(keys.isEmpty()
-                           ? text
-                           : text + QStringLiteral(" (") + keys.first().toString(QKeySequence::NativeText) +
-                                 QLatin1Char(')'));
+    const auto showTip = [action] {
+        const QString key = action->shortcut().toString(QKeySequence::NativeText);
+        action->setToolTip(key.isEmpty() ? action->text()
+                                         : QStringLiteral("%1 (%2)").arg(action->text(), key));
+    };
+    showTip();
+    connect(action, &QAction::changed, this, showTip);
+    connect(&Language::OfProgram(), &Language::Changed, this, showTip);  // keys have names, too
     connect(action, &QAction::triggered, this, std::move(command));
     addAction(action);
     return action;
@@ -90,15 +102,15 @@ QAction* frmHelp::AddTool(const char* name, const QString& text, const QString& 
 
 void frmHelp::AddTools()
 {
-    QToolBar* tools = addToolBar(tr("Manual"));
+    QToolBar* tools = addToolBar(Designed(QT_TR_NOOP("Manual")));
     tools->setObjectName(QStringLiteral("tbHelp"));
     tools->setMovable(false);
     tools->setContextMenuPolicy(Qt::PreventContextMenu);
     tools->setToolButtonStyle(Qt::ToolButtonTextOnly);
 
-    QAction* back = AddTool("mnuBack", tr("Back"), QStringLiteral("go-previous"), {QKeySequence::Back},
-                            [this] { brwPage_->backward(); });
-    QAction* forward = AddTool("mnuForward", tr("Forward"), QStringLiteral("go-next"),
+    QAction* back = AddTool("mnuBack", Designed(QT_TR_NOOP("Back")), QStringLiteral("go-previous"),
+                            {QKeySequence::Back}, [this] { brwPage_->backward(); });
+    QAction* forward = AddTool("mnuForward", Designed(QT_TR_NOOP("Forward")), QStringLiteral("go-next"),
                                {QKeySequence::Forward}, [this] { brwPage_->forward(); });
     back->setEnabled(false);
     forward->setEnabled(false);
@@ -106,25 +118,26 @@ void frmHelp::AddTools()
     connect(brwPage_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
 
     tools->addActions({back, forward});
-    tools->addAction(AddTool("mnuContents", tr("Contents"), QStringLiteral("go-home"),
+    tools->addAction(AddTool("mnuContents", Designed(QT_TR_NOOP("Contents")), QStringLiteral("go-home"),
                              {QKeySequence(Qt::ALT | Qt::Key_Home)},
                              [this] { brwPage_->ShowTopic(QStringLiteral("index.md")); }));
     tools->addSeparator();
     // Ctrl+= is the plus key without Shift on many keyboards.
-    tools->addAction(AddTool("mnuLarger", tr("Larger Text"), QStringLiteral("zoom-in"),
+    tools->addAction(AddTool("mnuLarger", Designed(QT_TR_NOOP("Larger Text")), QStringLiteral("zoom-in"),
                              {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)},
                              [this] { brwPage_->SetTextSize(brwPage_->TextSize() + 1); }));
-    tools->addAction(AddTool("mnuSmaller", tr("Smaller Text"), QStringLiteral("zoom-out"),
+    tools->addAction(AddTool("mnuSmaller", Designed(QT_TR_NOOP("Smaller Text")), QStringLiteral("zoom-out"),
                              {QKeySequence(Qt::CTRL | Qt::Key_Minus)},
                              [this] { brwPage_->SetTextSize(brwPage_->TextSize() - 1); }));
-    AddTool("mnuUsualSize", tr("Usual Text Size"), QStringLiteral("zoom-original"),
+    AddTool("mnuUsualSize", Designed(QT_TR_NOOP("Usual Text Size")), QStringLiteral("zoom-original"),
             {QKeySequence(Qt::CTRL | Qt::Key_0)}, [this] { brwPage_->SetTextSize(0); });
-    AddTool("mnuSearch", tr("Search"), QStringLiteral("edit-find"), {QKeySequence::Find}, [this] {
-        txtSearch_->setFocus();
-        txtSearch_->selectAll();
-    });
-    AddTool("mnuClose", tr("Close"), QStringLiteral("window-close"), {QKeySequence(Qt::Key_Escape)},
-            [this] { LeaveOrClose(); });
+    AddTool("mnuSearch", Designed(QT_TR_NOOP("Search")), QStringLiteral("edit-find"), {QKeySequence::Find},
+            [this] {
+                txtSearch_->setFocus();
+                txtSearch_->selectAll();
+            });
+    AddTool("mnuClose", Designed(QT_TR_NOOP("Close")), QStringLiteral("window-close"),
+            {QKeySequence(Qt::Key_Escape)}, [this] { LeaveOrClose(); });
 }
 
 void frmHelp::FillContents()
@@ -168,8 +181,7 @@ void frmHelp::OpenItem(const QListWidgetItem* item)
 void frmHelp::txtSearch_Change()
 {
     FillContents();
-    // A single letter stands nearly everywhere.
-    const bool isWord = txtSearch_->text().trimmed().size() > 1;
+    const bool isWord = IsWord(txtSearch_->text().trimmed());
     brwPage_->MarkWords(isWord ? QueryWords(txtSearch_->text()) : QStringList());
     if (isWord)
         OpenFirst();
@@ -250,8 +262,11 @@ void frmHelp::ShowTopic(const QString& topic)
 
 void frmHelp::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         SetFormTexts(*this);
+        brwPage_->ShowLanguage();
+        FillContents();
+    }
     QMainWindow::changeEvent(event);
 }
 

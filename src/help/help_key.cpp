@@ -5,6 +5,7 @@
 #include <QMessageBox>
 
 #include "help/help_topics.h"
+#include "language/language.h"
 
 namespace rqm5 {
 
@@ -17,7 +18,7 @@ HelpKey::HelpKey(Dialogs& dialogs, const QTabWidget& pages, QWidget& mainWindow)
 QString HelpKey::TopicOfFocus(const QWidget* modal) const
 {
     if (const auto* box = qobject_cast<const QMessageBox*>(modal))
-        return MessageTopic(box->text());
+        return MessageTopic(Language::OfProgram().SourceOf(box->text()));
     QStringList names;
     for (const QObject* holder = QApplication::focusWidget(); holder != nullptr; holder = holder->parent())
         names << holder->objectName();

@@ -11,8 +11,8 @@ namespace rqm5 {
 /// \param names  objectName of the control, then of everything that holds it, up to its window
 QString HelpTopic(const QStringList& names);
 
-/// The place in the page of messages that explains a message box of this text: its first sentence is the
-/// heading there.
+/// The place in the page of messages that explains a message box of this English text: its first sentence is
+/// the heading there.
 QString MessageTopic(const QString& text);
 
 /// Every page and anchor that HelpTopic can answer with.

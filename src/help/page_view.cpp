@@ -3,11 +3,14 @@
 #include <QAbstractTextDocumentLayout>
 #include <QEvent>
 #include <QImage>
+#include <QScrollBar>
+#include <QTextBlock>
 #include <QTextFrame>
 #include <QTextTable>
 #include <algorithm>
 
 #include "help/heading_anchors.h"
+#include "help/manual.h"
 
 namespace rqm5 {
 namespace {
@@ -59,7 +62,8 @@ QString PageView::Page() const
 
 void PageView::Page_Loaded()
 {
-    AddHeadingAnchors(*document());
+    const ManualPage* page = PageOfFile(Page());
+    AddHeadingAnchors(*document(), page != nullptr ? page->anchors : QStringList());
     SetPaletteColours();
     ShowMarks();
 }
@@ -75,10 +79,15 @@ void PageView::doSetSource(const QUrl& url, QTextDocument::ResourceType type)
 
 QVariant PageView::loadResource(int type, const QUrl& name)
 {
-    const QVariant resource = QTextBrowser::loadResource(type, name);
-    if (type != QTextDocument::ImageResource)
-        return resource;
-    QImage image(QLatin1Char(':') + source().resolved(name).path());
+    if (type == QTextDocument::ImageResource)
+        return Picture(name.fileName());
+    const ManualPage* page = PageOfFile(name.fileName());
+    return page != nullptr ? page->text : QTextBrowser::loadResource(type, name);
+}
+
+QVariant PageView::Picture(const QString& file) const
+{
+    QImage image(QLatin1String(kPicturesFolder) + file);
     const int room = viewport()->width() - 2 * kMargin;
     if (image.width() <= room)
         return image;
@@ -98,10 +107,36 @@ void PageView::SetPaletteColours()
 
 void PageView::Link_Clicked(const QUrl& link)
 {
-    if (link.isRelative() || link.scheme() == QLatin1String("qrc"))
-        setSource(source().resolved(link));
-    else
+    if (!link.isRelative() && link.scheme() != QLatin1String("qrc"))
         emit ExternalLinkClicked(link);
+    else if (link.fileName().isEmpty())
+        setSource(source().resolved(link));
+    else  // a page that is not translated is in another folder where these files are shown on the web
+        ShowTopic(link.fileName() + (link.hasFragment() ? QLatin1Char('#') + link.fragment() : QString()));
+}
+
+/// How many headings have been scrolled past.
+int PageView::HeadingsAbove() const
+{
+    const int top = cursorForPosition({0, 0}).block().blockNumber();
+    int headings = 0;
+    for (QTextBlock block = document()->begin(); block.isValid() && block.blockNumber() <= top;
+         block = block.next())
+        headings += block.blockFormat().headingLevel() > 0 ? 1 : 0;
+    return headings;
+}
+
+void PageView::ShowLanguage()
+{
+    if (source().isEmpty())
+        return;
+    const ManualPage* page = PageOfFile(Page());
+    const int headings = verticalScrollBar()->value() > 0 ? HeadingsAbove() : 0;
+    reload();
+    if (page == nullptr || headings == 0)
+        return;
+    document()->documentLayout()->documentSize();  // finishes the layout, without which nothing scrolls
+    scrollToAnchor(page->anchors.value(headings - 1));
 }
 
 void PageView::MarkWords(const QStringList& words)

@@ -18,6 +18,9 @@ class PageView : public QTextBrowser
     /// The file name of the page shown.
     QString Page() const;
 
+    /// Shows the same page and place in the language of now.
+    void ShowLanguage();
+
     /// Marks every place where one of the words stands.
     void MarkWords(const QStringList& words);
 
@@ -30,13 +33,15 @@ class PageView : public QTextBrowser
   protected:
     /// Follows a link; back and forward go another way, because they bring back the place in the page.
     void doSetSource(const QUrl& url, QTextDocument::ResourceType type) override;
-    /// Pictures that are wider than the page are shown smaller.
+    /// Pages come in the program's language; pictures that are wider than the page are shown smaller.
     QVariant loadResource(int type, const QUrl& name) override;
     void changeEvent(QEvent* event) override;
 
   private:
     void Page_Loaded();
     void Link_Clicked(const QUrl& link);
+    QVariant Picture(const QString& file) const;
+    int HeadingsAbove() const;
     void ShowMarks();
     void SetPaletteColours();
 

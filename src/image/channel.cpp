@@ -3,12 +3,14 @@
 #include "image/number_text.h"
 #include "image/receiver_model.h"
 #include "image/value_tables.h"
+#include "language/message.h"
 
 namespace rqm5 {
 
-const std::array<std::string_view, kTextColumns> kColumnNames = {
-    "Frequency", "Mode", "Step",  "Option",          "Secret code",
-    "Carrier",   "Tone", "Shift", "Shift frequency", "Note"};
+const std::array<const char*, kTextColumns> kColumnNames = {
+    MESSAGE("Frequency"),       MESSAGE("Mode"),    MESSAGE("Step"), MESSAGE("Option"),
+    MESSAGE("Secret code"),     MESSAGE("Carrier"), MESSAGE("Tone"), MESSAGE("Shift"),
+    MESSAGE("Shift frequency"), MESSAGE("Note")};
 
 namespace {
 

@@ -29,7 +29,7 @@ inline constexpr std::array<Column, kTextColumns> kColumns = {
     kFrequency, kMode, kStep, kOption, kSecret, kCarrier, kTone, kShift, kShiftFrequency, kNote};
 
 /// What columns are called in sentences: "Frequency", "Secret code", ...
-extern const std::array<std::string_view, kTextColumns> kColumnNames;
+extern const std::array<const char*, kTextColumns> kColumnNames;
 
 enum class RowKind { Memory, Vfo };
 

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "language/message.h"
+
 namespace rqm5 {
 
 // The receiver in one place: its groups of memory rows, and what each model region has.
@@ -43,8 +45,8 @@ struct RowGroup
 {
     int selector;                ///< its index in the bank selector
     RowRange rows;               ///< where it lies
-    std::string_view title;      ///< in the bank selector; "Seach Pass" is the receiver's own spelling
-    std::string_view spoken;     ///< in sentences
+    const char* title;           ///< in the bank selector; "Seach Pass" is the receiver's own spelling
+    const char* spoken;          ///< in sentences
     std::string_view csvName;    ///< in the column BANK of a CSV file
     std::string_view option;     ///< at the command line
     std::string_view rowPrefix;  ///< before its labels in the view of all rows, which count from 0
@@ -56,8 +58,8 @@ struct RowGroup
 inline constexpr std::array<RowGroup, 3> kRowGroups = {{
     {kSelectProgramScan,
      {1000, 100},
-     "Program Scan",
-     "Program Scan",
+     MESSAGE("Program Scan"),
+     MESSAGE("Program Scan"),
      "PROGRAM SCAN",
      "program-scan",
      "",
@@ -65,14 +67,22 @@ inline constexpr std::array<RowGroup, 3> kRowGroups = {{
      true},
     {kSelectSearchPass,
      {1100, 100},
-     "Seach Pass",
-     "Search Pass",
+     MESSAGE("Seach Pass"),
+     MESSAGE("Search Pass"),
      "SEARCH PASS",
      "search-pass",
      "S",
      1,
      false},
-    {kSelectPriority, {1200, 10}, "Priority", "Priority", "PRIORITY", "priority", "Pr", 1, false},
+    {kSelectPriority,
+     {1200, 10},
+     MESSAGE("Priority"),
+     MESSAGE("Priority"),
+     "PRIORITY",
+     "priority",
+     "Pr",
+     1,
+     false},
 }};
 
 inline constexpr const RowGroup& kProgramScan = kRowGroups[0];

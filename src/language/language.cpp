@@ -70,6 +70,10 @@ void Language::Use(const QString& code)
     if (wanted == code_)
         return;
     code_ = wanted;
+    {
+        const QMutexLocker lock(&mutex_);
+        sources_.clear();
+    }
     // Without a file that loads, a translator is empty: the texts are English then.
     [[maybe_unused]] const bool isOwnThere =
         own_.load(QStringLiteral(":/translations/rq-m5_%1.qm").arg(wanted));
@@ -84,7 +88,17 @@ QString Language::translate(const char* context, const char* source, const char*
                             int count) const
 {
     const QString own = own_.translate(context, source, disambiguation, count);
-    return own.isNull() ? toolkit_.translate(context, source, disambiguation, count) : own;
+    if (own.isNull())
+        return toolkit_.translate(context, source, disambiguation, count);
+    const QMutexLocker lock(&mutex_);
+    sources_.insert(own, QString::fromUtf8(source));
+    return own;
+}
+
+QString Language::SourceOf(const QString& shown) const
+{
+    const QMutexLocker lock(&mutex_);
+    return sources_.value(shown, shown);
 }
 
 }  // namespace rqm5

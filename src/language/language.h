@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QHash>
 #include <QList>
+#include <QMutex>
 #include <QString>
 #include <QTranslator>
 
@@ -34,6 +36,9 @@ class Language : public QTranslator
     /// What is spoken: a code of Languages().
     QString Code() const { return code_; }
 
+    /// The English text that was shown as this one, for what is found by it; the text itself when none was.
+    QString SourceOf(const QString& shown) const;
+
     bool isEmpty() const override { return false; }
     QString translate(const char* context, const char* source, const char* disambiguation,
                       int count) const override;
@@ -45,6 +50,8 @@ class Language : public QTranslator
     explicit Language(QObject* parent);
 
     QString code_;
+    mutable QMutex mutex_;                     ///< problems are put into words in any thread
+    mutable QHash<QString, QString> sources_;  ///< by what was shown in their place
     QTranslator own_;
     QTranslator toolkit_;
 };

@@ -25,6 +25,8 @@ std::string Filled(std::string_view text, const std::vector<std::string>& argume
 
 Message Message::List(std::vector<Message> parts, std::string separator)
 {
+    if (parts.empty())
+        return {};
     Message list(std::move(separator));
     list.parts_ = std::move(parts);
     return list;

@@ -1,6 +1,6 @@
 #include "link/block_address.h"
 
-#include <QCoreApplication>
+#include <algorithm>
 #include <charconv>
 
 #include "image/memory_block.h"
@@ -15,25 +15,18 @@ std::string_view WithoutPrefix(std::string_view typed)
     return typed.starts_with("0x") || typed.starts_with("0X") ? typed.substr(2) : typed;
 }
 
-QString Translate(const char* text)
-{
-    return QCoreApplication::translate("BlockAddress", text);
-}
-
 }  // namespace
 
-std::string BlockAddressFault(std::string_view typed)
+Message BlockAddressFault(std::string_view typed)
 {
     const std::string_view digits = WithoutPrefix(typed);
     if (digits.empty() || digits.find_first_not_of("0123456789abcdefABCDEF") != std::string_view::npos)
-        return Translate("An address is hexadecimal, such as 1000.").toStdString();
+        return MESSAGE("An address is hexadecimal, such as 1000.");
     const std::size_t leadingZeros = std::min(digits.find_first_not_of('0'), digits.size());
     if (digits.size() - leadingZeros > kAddressDigits)
-        return Translate("The highest address is %1.")
-            .arg(QString::fromStdString(HexAddress(kHighestBlockAddress)))
-            .toStdString();
+        return {MESSAGE("The highest address is %1."), {HexAddress(kHighestBlockAddress)}};
     if (digits.back() != '0')
-        return Translate("An address is that of a block of 16 bytes, so its last digit is 0.").toStdString();
+        return MESSAGE("An address is that of a block of 16 bytes, so its last digit is 0.");
     return {};
 }
 

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <optional>
-#include <string>
 #include <string_view>
+
+#include "language/message.h"
 
 namespace rqm5 {
 
@@ -10,7 +11,7 @@ inline constexpr int kHighestBlockAddress = 0xFFF0;
 
 /// What is wrong with a block address that a person typed, as a sentence; empty when nothing is. An
 /// address is hexadecimal in either letter case, with or without "0x", and its last digit is 0.
-std::string BlockAddressFault(std::string_view typed);
+Message BlockAddressFault(std::string_view typed);
 
 /// The address 0 to 0xFFF0; nothing when BlockAddressFault finds fault with it.
 std::optional<int> ReadBlockAddress(std::string_view typed);

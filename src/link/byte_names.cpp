@@ -47,7 +47,7 @@ std::string SettingsByte(int index, int byte, int bits)
 {
     std::vector<std::string> names;
     for (const int setting : SettingsIn(index + 1, byte, bits))
-        names.emplace_back(setting < kSettingsInWords ? SettingCaption(setting) : "Search Pass count");
+        names.push_back(setting < kSettingsInWords ? SettingCaption(setting).English() : "Search Pass count");
     return Joined(names);
 }
 

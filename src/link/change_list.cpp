@@ -4,6 +4,7 @@
 #include <map>
 
 #include "image/flag_bits.h"
+#include "memory/bank_layout.h"
 #include "memory/row_names.h"
 #include "memory/start_image.h"
 #include "settings/setting_texts.h"
@@ -15,14 +16,14 @@ namespace {
 using Fields = std::vector<BlockField>;
 
 constexpr int kBits = 8;
-constexpr char kEnabled[] = "Enabled";
-constexpr char kCount[] = "Search Pass count";
-constexpr char kPresets[] = "Region presets";
-constexpr char kBankSizesTogether[] = "Bank sizes";
+constexpr char kEnabled[] = MESSAGE("Enabled");
+constexpr char kCount[] = MESSAGE("Search Pass count");
+constexpr char kPresets[] = MESSAGE("Region presets");
+constexpr char kBankSizesTogether[] = MESSAGE("Bank sizes");
 
-std::string OnOff(bool isOn)
+Message OnOff(bool isOn)
 {
-    return isOn ? "on" : "off";
+    return isOn ? MESSAGE("on") : MESSAGE("off");
 }
 
 bool BitOf(const MemoryBlock& block, int bit)
@@ -34,7 +35,7 @@ Fields LinkFields(const MemoryBlock& block)
 {
     Fields fields;
     for (int flag = 0; flag < kLinkFlags; ++flag)
-        fields.push_back({"Bank " + std::to_string(flag) + " link", OnOff(BitOf(block, flag))});
+        fields.push_back({Message(MESSAGE("Bank %1 link"), {flag}), OnOff(BitOf(block, flag))});
     return fields;
 }
 
@@ -45,9 +46,9 @@ Fields SettingsFields(int index, const MemoryBlock& block)
                                      : SettingsBlocks{DefaultSetData1(0), block});
     Fields fields;
     for (int setting = 0; setting < kSettingsInWords; ++setting)
-        fields.push_back({std::string(SettingCaption(setting)), SettingText(image.Settings(), setting)});
+        fields.push_back({SettingCaption(setting), SettingText(image.Settings(), setting)});
     if (index == kSettings2)
-        fields.push_back({kCount, std::to_string(block.Byte(kPassCountByte))});
+        fields.push_back({kCount, block.Byte(kPassCountByte)});
     return fields;
 }
 
@@ -57,9 +58,7 @@ Fields BankFields(int index, const MemoryBlock& block)
     Fields fields;
     for (int word = 0; word < kWords && index * kWords + word < kBankSizes; ++word) {
         const int bank = index * kWords + word;
-        fields.push_back(
-            {bank == kUnassigned ? "Channels in no bank" : "Bank " + std::to_string(bank) + " size",
-             std::to_string(block.Word(word))});
+        fields.push_back({BankSizeName(bank), block.Word(word)});
     }
     return fields;
 }
@@ -70,21 +69,21 @@ Fields PassFields(const MemoryBlock& block)
     for (int place = 0; place < kBlockBytes; ++place)
         if (block.Byte(place) < kSearchPass.rows.count)
             rows += (rows.empty() ? "S" : ", S") + std::to_string(block.Byte(place) + kSearchPass.firstLabel);
-    return {{"Enabled channels", rows.empty() ? "none" : rows}};
+    return {{MESSAGE("Enabled channels"), rows.empty() ? Message(MESSAGE("none")) : Message(rows)}};
 }
 
 Fields RowFields(int address, const MemoryBlock& block)
 {
     Fields fields = BlockFields(address, block);
     if (fields.empty())
-        fields.push_back({std::string(kColumnNames[kFrequency]), "empty"});
+        fields.push_back({kColumnNames[kFrequency], MESSAGE("empty")});
     return fields;
 }
 
-std::string TextOf(const Fields& fields, const std::string& name)
+Message TextOf(const Fields& fields, const Message& name)
 {
     const auto found = std::ranges::find(fields, name, &BlockField::name);
-    return found != fields.end() ? found->text : std::string();
+    return found != fields.end() ? found->text : Message();
 }
 
 const Fields& Longer(const Fields& a, const Fields& b)
@@ -142,13 +141,13 @@ std::vector<FieldChange> DifferingFields(int address, const MemoryBlock& from, c
     const Fields after = FieldsOfBlock(address, to);
     std::vector<FieldChange> changes;
     for (const BlockField& field : Longer(before, after)) {
-        const std::string was = TextOf(before, field.name);
-        const std::string is = TextOf(after, field.name);
+        const Message was = TextOf(before, field.name);
+        const Message is = TextOf(after, field.name);
         if (was != is)
             changes.push_back({field.name, was, is});
     }
     if (changes.empty() && from != to)
-        changes.push_back({"Block " + HexAddress(address), from.String(), to.String()});
+        changes.push_back({Message(MESSAGE("Block %1"), {HexAddress(address)}), from.String(), to.String()});
     return changes;
 }
 
@@ -161,9 +160,10 @@ std::vector<RowChange> ListChanges(const CloneImage& image, const ChangePlan& pl
     for (const auto& [address, to] : plan.Wanted()) {
         const BlockPlace place = *PlaceOf(address);
         if (place.area->id == Area::Presets) {
-            if (list.empty() || list.back().label != kPresets)
+            if (list.empty() || list.back().label != Message(kPresets))
                 list.push_back({kPresets,
-                                {{std::string(SettingCaption(SettingIndex(&ReceiverSettings::model))), "",
+                                {{SettingCaption(SettingIndex(&ReceiverSettings::model)),
+                                  {},
                                   SettingText(image.Settings(), SettingIndex(&ReceiverSettings::model))}}});
             continue;
         }
@@ -185,8 +185,9 @@ std::vector<RowChange> ListChanges(const CloneImage& image, const ChangePlan& pl
 ConflictRow DescribeConflict(const CloneImage& image, const ChangePlan& plan, const Conflict& conflict)
 {
     const BlockPlace first = *PlaceOf(conflict.addresses.front());
-    ConflictRow row{
-        first.area->id == Area::BankSizes ? kBankSizesTogether : first.area->label(image, first.index), {}};
+    ConflictRow row{first.area->id == Area::BankSizes ? Message(kBankSizesTogether)
+                                                      : first.area->label(image, first.index),
+                    {}};
     for (const int address : conflict.addresses) {
         const BlockPlace place = *PlaceOf(address);
         const MemoryBlock mine = place.area->encode(image, place.index);
@@ -196,13 +197,14 @@ ConflictRow DescribeConflict(const CloneImage& image, const ChangePlan& plan, co
         for (const BlockField& field : Longer(known, Longer(there, here))) {
             const ConflictField texts{field.name, TextOf(known, field.name), TextOf(there, field.name),
                                       TextOf(here, field.name)};
-            const bool isCount = field.name == kCount;
+            const bool isCount = field.name == Message(kCount);
             if (!isCount && (texts.known != texts.receiver || texts.receiver != texts.image))
                 row.fields.push_back(texts);
         }
         if (row.fields.empty() && conflict.addresses.size() == 1)
-            row.fields.push_back({"Block " + HexAddress(address), plan.Known().at(address).String(),
-                                  plan.Held().at(address).String(), mine.String()});
+            row.fields.push_back({Message(MESSAGE("Block %1"), {HexAddress(address)}),
+                                  plan.Known().at(address).String(), plan.Held().at(address).String(),
+                                  mine.String()});
     }
     return row;
 }

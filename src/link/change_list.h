@@ -1,9 +1,9 @@
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "image/clone_image.h"
+#include "language/message.h"
 #include "link/change_plan.h"
 #include "link/memory_map.h"
 
@@ -12,15 +12,15 @@ namespace rqm5 {
 /// One field of a row that is written: what the receiver holds, and what it shall hold.
 struct FieldChange
 {
-    std::string name;
-    std::string from;
-    std::string to;
+    Message name;
+    Message from;
+    Message to;
 };
 
 /// A row, or another part of the receiver, that is written.
 struct RowChange
 {
-    std::string label;  ///< "Row 12 (Bank 0, channel 12)", "VFO 3", "Settings 1", "Region presets"
+    Message label;  ///< "Row 12 (Bank 0, channel 12)", "VFO 3", "Settings 1", "Region presets"
     std::vector<FieldChange> fields;
 };
 
@@ -31,15 +31,15 @@ std::vector<RowChange> ListChanges(const CloneImage& image, const ChangePlan& pl
 /// A conflict: what was known, what the receiver holds now, and what is to be written.
 struct ConflictField
 {
-    std::string name;
-    std::string known;
-    std::string receiver;
-    std::string image;
+    Message name;
+    Message known;
+    Message receiver;
+    Message image;
 };
 
 struct ConflictRow
 {
-    std::string label;
+    Message label;
     std::vector<ConflictField> fields;
 };
 

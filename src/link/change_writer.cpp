@@ -1,6 +1,5 @@
 #include "link/change_writer.h"
 
-#include <QCoreApplication>
 #include <algorithm>
 #include <cmath>
 
@@ -12,11 +11,6 @@ namespace rqm5 {
 namespace {
 
 using enum TransferResult;
-
-QString Translate(const char* text)
-{
-    return QCoreApplication::translate("WriteChanges", text);
-}
 
 const MemoryBlock& Everything()
 {
@@ -83,7 +77,7 @@ TransferResult ReadBlocks(const std::vector<int>& addresses, const CloneImage& i
         return result;
     for (const int address : addresses)
         read[address] = MemoryBlock();
-    std::vector<std::string> unreadable;
+    std::vector<Message> unreadable;
     for (const auto& [block, contents] : differences) {
         read[block.address] = contents;
         if (!contents.IsHex())
@@ -120,35 +114,31 @@ std::vector<ExpectedBlock> ExpectedAfterChanges(const CloneImage& image, const C
     return expected;
 }
 
-std::string AboutTime(std::size_t exchanges)
+Message AboutTime(std::size_t exchanges)
 {
     constexpr double kSecondsOfABlock = 0.05;  // 48 characters at 960 a second
     constexpr int kMinute = 60;
     constexpr int kNearlyAMinute = 50;
     const auto seconds = static_cast<int>(std::lround(kSecondsOfABlock * static_cast<double>(exchanges)));
     if (seconds == 0)
-        return Translate("less than a second").toStdString();
-    if (seconds == 1)
-        return Translate("about one second").toStdString();
+        return MESSAGE("less than a second");
     if (seconds < kNearlyAMinute)
-        return Translate("about %1 seconds").arg(seconds).toStdString();
+        return Counted(seconds, MESSAGE("about one second"), MESSAGE("about %1 seconds"));
     const int minutes = (seconds + kMinute / 2) / kMinute;
-    return (minutes == 1 ? Translate("about one minute") : Translate("about %1 minutes").arg(minutes))
-        .toStdString();
+    return Counted(minutes, MESSAGE("about one minute"), MESSAGE("about %1 minutes"));
 }
 
-std::string UnknownNote(std::size_t blocks)
+Message UnknownNote(std::size_t blocks)
 {
-    const QString time = QString::fromStdString(AboutTime(blocks));
-    const QString note = blocks == ReadableBlocks().size()
-                             ? Translate("The receiver was never read in this run: %1 blocks, %2")
-                             : Translate("Not known of the receiver: %1 blocks, %2");
-    return note.arg(blocks).arg(time).toStdString();
+    return {blocks == ReadableBlocks().size()
+                ? MESSAGE("The receiver was never read in this run: %1 blocks, %2")
+                : MESSAGE("Not known of the receiver: %1 blocks, %2"),
+            {static_cast<int>(blocks), AboutTime(blocks)}};
 }
 
-std::string NothingChanged()
+Message NothingChanged()
 {
-    return Translate("Nothing was written.").toStdString();
+    return MESSAGE("Nothing was written.");
 }
 
 ChangeWriter::ChangeWriter(const CloneImage& image, const ChangePlan& changes, RadioLink& link,

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <set>
-#include <string>
 #include <vector>
 
+#include "language/message.h"
 #include "link/block_link.h"
 #include "link/change_plan.h"
 #include "link/expected_memory.h"
@@ -46,13 +46,13 @@ class KnownBeforeCheck
 std::vector<ExpectedBlock> ExpectedAfterChanges(const CloneImage& image, const ChangePlan& changes);
 
 /// How long so many exchanges of a block take at 9600 baud: "about 3 seconds", "about one minute".
-std::string AboutTime(std::size_t exchanges);
+Message AboutTime(std::size_t exchanges);
 
 /// What must be read first: "The receiver was never read in this run: 1251 blocks, about one minute".
-std::string UnknownNote(std::size_t blocks);
+Message UnknownNote(std::size_t blocks);
 
 /// What a failure before the first block means.
-std::string NothingChanged();
+Message NothingChanged();
 
 /// Writes what a change plan wants, in the order of a whole write, each block acknowledged by the receiver.
 class ChangeWriter

@@ -32,7 +32,7 @@ void AddCount(Blocks& blocks, const CloneImage& image, int address)
     count.SetByte(kPassCountByte, SearchPassCount(image));
     MemoryBlock mask;
     mask.SetByte(kPassCountByte, 0xFF);
-    blocks.push_back({address, count, mask, "Settings 2 (Search Pass count)"});
+    blocks.push_back({address, count, mask, MESSAGE("Settings 2 (Search Pass count)")});
 }
 
 void AddSection(Blocks& blocks, const CloneImage& image, const TransferScope& scope,

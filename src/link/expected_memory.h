@@ -1,10 +1,10 @@
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "image/clone_image.h"
 #include "image/memory_block.h"
+#include "language/message.h"
 #include "link/transfer_scope.h"
 
 namespace rqm5 {
@@ -14,8 +14,8 @@ struct ExpectedBlock
 {
     int address;
     MemoryBlock contents;
-    MemoryBlock mask;   ///< a 1 bit counts; a 0 bit is left as the receiver has it
-    std::string label;  ///< "Settings 1", "VFO 3", "Bank sizes 0 to 7", "Row 1105 (Search Pass S5)", ...
+    MemoryBlock mask;  ///< a 1 bit counts; a 0 bit is left as the receiver has it
+    Message label;     ///< "Settings 1", "VFO 3", "Bank sizes 0 to 7", "Row 1105 (Search Pass S5)", ...
 };
 
 /// Every block that a write of this scope leaves changed, in the order of its addresses. The presets are

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <string>
 #include <utility>
 
 #include "link/transfer_observer.h"
@@ -32,7 +31,7 @@ class ForwardingObserver : public TransferObserver
 class AftermathObserver : public ForwardingObserver
 {
   public:
-    AftermathObserver(TransferObserver& next, std::string aftermath)
+    AftermathObserver(TransferObserver& next, rqm5::Message aftermath)
         : ForwardingObserver(next), aftermath_(std::move(aftermath))
     {
     }
@@ -45,7 +44,7 @@ class AftermathObserver : public ForwardingObserver
     }
 
   private:
-    const std::string aftermath_;
+    const rqm5::Message aftermath_;
 };
 
 }  // namespace rqm5

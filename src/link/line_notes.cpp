@@ -1,73 +1,59 @@
 #include "link/line_notes.h"
 
-#include <QCoreApplication>
-
 namespace rqm5 {
 namespace {
 
-QString Translate(const char* text)
+Message NoteOf(int blocks, const char* one, const char* many)
 {
-    return QCoreApplication::translate("LineNote", text);
-}
-
-std::string Counted(int blocks, const char* one, const char* many)
-{
-    if (blocks == 0)
-        return {};
-    return (blocks == 1 ? Translate(one) : Translate(many).arg(blocks)).toStdString();
+    return blocks == 0 ? Message() : Counted(blocks, one, many);
 }
 
 }  // namespace
 
-std::string RepeatNote(int blocks)
+Message RepeatNote(int blocks)
 {
-    return Counted(blocks, QT_TRANSLATE_NOOP("LineNote", "1 block needed more than one attempt"),
-                   QT_TRANSLATE_NOOP("LineNote", "%1 blocks needed more than one attempt"));
+    return NoteOf(blocks, MESSAGE("1 block needed more than one attempt"),
+                  MESSAGE("%1 blocks needed more than one attempt"));
 }
 
-std::string UnreadableNote(int blocks)
+Message UnreadableNote(int blocks)
 {
-    return Counted(
-        blocks, QT_TRANSLATE_NOOP("LineNote", "1 block was read with characters that are no hex digits"),
-        QT_TRANSLATE_NOOP("LineNote", "%1 blocks were read with characters that are no hex digits"));
+    return NoteOf(blocks, MESSAGE("1 block was read with characters that are no hex digits"),
+                  MESSAGE("%1 blocks were read with characters that are no hex digits"));
 }
 
-std::string OtherwiseNote(int blocks)
+Message OtherwiseNote(int blocks)
 {
-    return Counted(blocks, QT_TRANSLATE_NOOP("LineNote", "1 block was different when it was read again"),
-                   QT_TRANSLATE_NOOP("LineNote", "%1 blocks were different when they were read again"));
+    return NoteOf(blocks, MESSAGE("1 block was different when it was read again"),
+                  MESSAGE("%1 blocks were different when they were read again"));
 }
 
-Problem UnreadableBlocks(const std::vector<std::string>& names)
+Problem UnreadableBlocks(const std::vector<Message>& names)
 {
-    const QString what = QString::fromStdString(UnreadableNote(static_cast<int>(names.size())));
     return {kCommunicationError,
-            Translate("%1, the first of them: %2. Check the cable, then repeat the operation.")
-                .arg(what, QString::fromStdString(names.front()))
-                .toStdString()};
+            {MESSAGE("%1, the first of them: %2. Check the cable, then repeat the operation."),
+             {UnreadableNote(static_cast<int>(names.size())), names.front()}}};
 }
 
 Problem ShiftedReplies()
 {
     return {
         kCommunicationError,
-        Translate("Replies came late again and again, so that it cannot be told to which block each belongs. "
-                  "Check the cable and the receiver's battery, then read again.")
-            .toStdString()};
+        MESSAGE("Replies came late again and again, so that it cannot be told to which block each belongs. "
+                "Check the cable and the receiver's battery, then read again.")};
 }
 
 Problem DoubtfulWrite()
 {
     return {
         kCommunicationError,
-        Translate("All was sent, but replies came late, so that an OK may have been another block's. Verify "
-                  "what the receiver holds, or repeat the write.")
-            .toStdString()};
+        MESSAGE("All was sent, but replies came late, so that an OK may have been another block's. Verify "
+                "what the receiver holds, or repeat the write.")};
 }
 
-std::string NotReadTwice()
+Message NotReadTwice()
 {
-    return Translate("All was read, but not all of it could be read again to compare.").toStdString();
+    return MESSAGE("All was read, but not all of it could be read again to compare.");
 }
 
 }  // namespace rqm5

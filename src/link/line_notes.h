@@ -1,23 +1,23 @@
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "image/problem.h"
+#include "language/message.h"
 
 namespace rqm5 {
 
 /// "3 blocks needed more than one attempt"; empty for none.
-std::string RepeatNote(int blocks);
+Message RepeatNote(int blocks);
 
 /// "2 blocks were read with characters that are no hex digits"; empty for none.
-std::string UnreadableNote(int blocks);
+Message UnreadableNote(int blocks);
 
 /// "2 blocks were different when they were read again"; empty for none.
-std::string OtherwiseNote(int blocks);
+Message OtherwiseNote(int blocks);
 
 /// That a read cannot be relied on for these blocks, of which the first is named.
-Problem UnreadableBlocks(const std::vector<std::string>& names);
+Problem UnreadableBlocks(const std::vector<Message>& names);
 
 /// That the replies to a read cannot be told apart, however often it is repeated.
 Problem ShiftedReplies();
@@ -26,6 +26,6 @@ Problem ShiftedReplies();
 Problem DoubtfulWrite();
 
 /// What a second read that breaks off means for the first one.
-std::string NotReadTwice();
+Message NotReadTwice();
 
 }  // namespace rqm5

@@ -1,6 +1,5 @@
 #include "link/link_problems.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QStringList>
 
@@ -9,11 +8,6 @@
 
 namespace rqm5 {
 namespace {
-
-QString Translate(const char* text)
-{
-    return QCoreApplication::translate("LinkProblem", text);
-}
 
 QString UserName()
 {
@@ -32,16 +26,16 @@ QString PermissionCommand(const QString& device)
     return QStringLiteral("sudo usermod -aG %1 %2").arg(group, UserName());
 }
 
-QString PermissionRemedy(const QString& device)
+Message PermissionRemedy(const QString& device)
 {
     const QString command = PermissionCommand(device);
     if (command.isEmpty())
-        return Translate("Ask the administrator of this computer for access to the device.");
-    return Translate("The group \"%1\" may use it. Add yourself with \"%2\", then log out and in again.")
-        .arg(QFileInfo(DeviceNode(device)).group(), command);
+        return MESSAGE("Ask the administrator of this computer for access to the device.");
+    return {MESSAGE("The group \"%1\" may use it. Add yourself with \"%2\", then log out and in again."),
+            {QFileInfo(DeviceNode(device)).group().toStdString(), command.toStdString()}};
 }
 
-QString PresentPorts()
+Message PresentPorts()
 {
     QStringList names;
     for (const PortInfo& port : SystemPorts())
@@ -49,27 +43,33 @@ QString PresentPorts()
                       ? port.device
                       : port.device + QStringLiteral(" (") + port.description + QLatin1Char(')'));
     if (names.isEmpty())
-        return Translate("No serial port was found. Plug the adapter in and try again.");
-    return Translate("Ports found: %1.").arg(names.join(QStringLiteral(", ")));
+        return MESSAGE("No serial port was found. Plug the adapter in and try again.");
+    return {MESSAGE("Ports found: %1."), {names.join(QStringLiteral(", ")).toStdString()}};
 }
 
-QString WhatCameBack(ReplyOutcome outcome)
+Message WhatCameBack(ReplyOutcome outcome)
 {
     switch (outcome) {
         case ReplyOutcome::Nothing:
-            return Translate("The receiver sent nothing.");
+            return MESSAGE("The receiver sent nothing.");
         case ReplyOutcome::TooShort:
-            return Translate("The reply was too short.");
+            return MESSAGE("The reply was too short.");
         case ReplyOutcome::Garbled:
-            return Translate("The reply was garbled.");
+            return MESSAGE("The reply was garbled.");
         default:
-            return Translate("The receiver did not answer OK.");
+            return MESSAGE("The receiver did not answer OK.");
     }
+}
+
+/// A text of the system or the user, or what stands for none.
+Message TextOr(const QString& text, const char* none)
+{
+    return text.isEmpty() ? Message(none) : Message(text.toStdString());
 }
 
 }  // namespace
 
-QString PortRemedy(const QString& device, PortFault fault)
+Message PortRemedy(const QString& device, PortFault fault)
 {
     switch (fault) {
         case PortFault::NotFound:
@@ -77,25 +77,24 @@ QString PortRemedy(const QString& device, PortFault fault)
         case PortFault::NoPermission:
             return PermissionRemedy(device);
         case PortFault::Busy:
-            return Translate("Another program uses the port. Close it and try again.");
+            return MESSAGE("Another program uses the port. Close it and try again.");
         case PortFault::NotAPort:
-            return Translate("Choose another port. %1").arg(PresentPorts());
+            return {MESSAGE("Choose another port. %1"), {PresentPorts()}};
         case PortFault::Gone:
-            return Translate("Plug the adapter in again and repeat the operation.");
+            return MESSAGE("Plug the adapter in again and repeat the operation.");
         default:
-            return Translate("Check the port and the cable, then repeat the operation.");
+            return MESSAGE("Check the port and the cable, then repeat the operation.");
     }
 }
 
 Problem ComPortProblem(const SerialPort& port)
 {
-    const QString device = port.Device().isEmpty() ? Translate("(no device)") : port.Device();
-    const QString reason = port.Reason().isEmpty() ? Translate("the port failed") : port.Reason();
-    const QString text = device + QStringLiteral(": ") + reason + QStringLiteral(". ") +
-                         PortRemedy(port.Device(), port.Fault());
     const bool isForbidden = port.Fault() == PortFault::NoPermission;
     return {.text = kComPortError,
-            .details = text.toStdString(),
+            .details = {MESSAGE("%1: %2. %3"),
+                        {TextOr(port.Device(), MESSAGE("(no device)")),
+                         TextOr(port.Reason(), MESSAGE("the port failed")),
+                         PortRemedy(port.Device(), port.Fault())}},
             .command = isForbidden ? PermissionCommand(port.Device()).toStdString() : std::string()};
 }
 
@@ -104,19 +103,16 @@ Problem CommunicationProblem(int address, bool written, int attempts, ReplyOutco
     if (outcome == ReplyOutcome::Restless)
         return {
             kCommunicationError,
-            Translate("Block %1 was not asked for: replies had been missing, and then the line did not fall "
-                      "silent. Check the cable, and that nothing but the receiver is on the line.")
-                .arg(QString::fromStdString(HexAddress(address)))
-                .toStdString()};
-    const QString what = written ? Translate("Block %1 could not be written in %2. %3 %4")
-                                 : Translate("Block %1 could not be read in %2. %3 %4");
-    const QString tries = attempts == 1 ? Translate("one attempt") : Translate("%1 attempts").arg(attempts);
-    const QString check =
-        Translate("Check the cable, that the receiver is switched on and that it is in clone mode.");
-    return {kCommunicationError, what.arg(QString::fromStdString(HexAddress(address)))
-                                     .arg(tries)
-                                     .arg(WhatCameBack(outcome), check)
-                                     .toStdString()};
+            {MESSAGE("Block %1 was not asked for: replies had been missing, and then the line did not fall "
+                     "silent. Check the cable, and that nothing but the receiver is on the line."),
+             {HexAddress(address)}}};
+    const Message tries = Counted(attempts, MESSAGE("one attempt"), MESSAGE("%1 attempts"));
+    const Message check =
+        MESSAGE("Check the cable, that the receiver is switched on and that it is in clone mode.");
+    return {kCommunicationError,
+            {written ? MESSAGE("Block %1 could not be written in %2. %3 %4")
+                     : MESSAGE("Block %1 could not be read in %2. %3 %4"),
+             {HexAddress(address), tries, WhatCameBack(outcome), check}}};
 }
 
 }  // namespace rqm5

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <string>
+#include <QString>
 
 #include "image/problem.h"
 #include "link/reply_outcome.h"
@@ -16,6 +16,6 @@ Problem ComPortProblem(const SerialPort& port);
 Problem CommunicationProblem(int address, bool written, int attempts, ReplyOutcome outcome);
 
 /// What to do about a port that could not be opened or used; also of use where no transfer runs.
-QString PortRemedy(const QString& device, PortFault fault);
+Message PortRemedy(const QString& device, PortFault fault);
 
 }  // namespace rqm5

@@ -11,49 +11,37 @@
 #include "settings/settings_codec.h"
 #include "vfo/region_presets.h"
 
-/// Marks a text for the translators' tools; rules know no Qt.
-#define QT_TRANSLATE_NOOP(context, text) text
-#define WORDS(text) QT_TRANSLATE_NOOP("WriteRecord", text)
-
 namespace rqm5 {
 namespace {
 
 using Blocks = std::span<const MemoryBlock>;
 
-std::string Numbered(const std::string& name, int number)
-{
-    return name + " " + std::to_string(number);
-}
-
-std::string FromTo(const std::string& name, int first, int last)
-{
-    return Numbered(name, first) + " to " + std::to_string(last);
-}
-
 /// A name that all blocks of an area share.
 template <const char* kName>
-std::string Shared(const CloneImage& /*image*/, int /*index*/)
+Message Shared(const CloneImage& /*image*/, int /*index*/)
 {
     return kName;
 }
 
-constexpr char kBankSizesName[] = "bank sizes";
-constexpr char kFlagsName[] = "enable flags";
-constexpr char kLinksName[] = "bank links";
-constexpr char kLinksLabel[] = "Bank links";
-constexpr char kPassListName[] = "list of Search Pass channels";
-constexpr char kPresetsName[] = "region presets";
+constexpr char kBankSizesName[] = MESSAGE("bank sizes");
+constexpr char kFlagsName[] = MESSAGE("enable flags");
+constexpr char kLinksName[] = MESSAGE("bank links");
+constexpr char kLinksLabel[] = MESSAGE("Bank links");
+constexpr char kPassListName[] = MESSAGE("list of Search Pass channels");
+constexpr char kPresetsName[] = MESSAGE("region presets");
 
-std::string BankSizesLabel(const CloneImage& /*image*/, int index)
+Message BankSizesLabel(const CloneImage& /*image*/, int index)
 {
     constexpr int kSizes = 8;
-    return FromTo("Bank sizes", index * kSizes, std::min(index * kSizes + kSizes - 1, kUnassigned));
+    const int first = index * kSizes;
+    return {MESSAGE("Bank sizes %1 to %2"), {first, std::min(first + kSizes - 1, kUnassigned)}};
 }
 
-std::string FlagsLabel(const CloneImage& /*image*/, int index)
+Message FlagsLabel(const CloneImage& /*image*/, int index)
 {
     constexpr int kFlags = 8 * kBlockBytes;
-    return FromTo("Enable flags of rows", index * kFlags, std::min((index + 1) * kFlags, kMemoryRows) - 1);
+    const int first = index * kFlags;
+    return {MESSAGE("Enable flags of rows %1 to %2"), {first, std::min(first + kFlags, kMemoryRows) - 1}};
 }
 
 MemoryBlock EncodePreset(const CloneImage& image, int index)
@@ -71,43 +59,41 @@ void DecodeChannel(CloneImage& image, int row, Blocks blocks)
 }
 
 const std::array<MemoryArea, 8> kMap = {{
-    {Area::Settings, 0x0040, 2, WORDS("settings block"), WORDS("settings"), 1,
-     [](const CloneImage&, int index) { return Numbered("Settings", index + 1); },
-     [](const CloneImage&, int index) { return Numbered("settings", index + 1); },
+    {Area::Settings, 0x0040, 2, MESSAGE("settings block"), MESSAGE("settings"), 1,
+     [](const CloneImage&, int index) { return Message(MESSAGE("Settings %1"), {index + 1}); },
+     [](const CloneImage&, int index) { return Message(MESSAGE("settings %1"), {index + 1}); },
      [](const CloneImage& image, int index) { return index == 0 ? SetData1(image) : SetData2(image); },
      [](CloneImage& image, int, Blocks blocks) {
          DecodeSettings(image, {blocks[0], blocks[1]});
      },
      false, std::nullopt},
-    {Area::BankSizes, 0x00C0, 7, WORDS("bank size block"), WORDS("bank sizes"), 1, BankSizesLabel,
+    {Area::BankSizes, 0x00C0, 7, MESSAGE("bank size block"), MESSAGE("bank sizes"), 1, BankSizesLabel,
      Shared<kBankSizesName>,
      [](const CloneImage& image, int index) { return BankData(image).at(static_cast<std::size_t>(index)); },
      [](CloneImage& image, int, Blocks blocks) { DecodeBankData(image, blocks); }, false, std::nullopt},
-    {Area::Flags, 0x01C0, 10, WORDS("enable flag block"), WORDS("enable flags"), 1, FlagsLabel,
+    {Area::Flags, 0x01C0, 10, MESSAGE("enable flag block"), MESSAGE("enable flags"), 1, FlagsLabel,
      Shared<kFlagsName>, FlagBlock,
      [](CloneImage& image, int, Blocks blocks) { DecodeExtraData(image, blocks); }, false, std::nullopt},
-    {Area::Links, 0x0260, 1, WORDS("bank links"), WORDS("bank links"), 1, Shared<kLinksLabel>,
+    {Area::Links, 0x0260, 1, MESSAGE("bank links"), MESSAGE("bank links"), 1, Shared<kLinksLabel>,
      Shared<kLinksName>, [](const CloneImage& image, int) { return BankFlagData(image); },
      [](CloneImage& image, int, Blocks blocks) { DecodeBankFlagData(image, blocks.front()); }, false,
      std::nullopt},
-    {Area::PassList, 0x0280, 7, WORDS("Search Pass list block"), WORDS("Search Pass list"), 1,
-     [](const CloneImage&, int index) { return Numbered("Search Pass list", index + 1); },
+    {Area::PassList, 0x0280, 7, MESSAGE("Search Pass list block"), MESSAGE("Search Pass list"), 1,
+     [](const CloneImage&, int index) { return Message(MESSAGE("Search Pass list %1"), {index + 1}); },
      Shared<kPassListName>,
      [](const CloneImage& image, int index) { return PassData(image).at(static_cast<std::size_t>(index)); },
      nullptr, false, std::nullopt},
-    {Area::Presets, 0x0560, 74, WORDS("region preset"), WORDS("region presets"), 1, Shared<kPresetsName>,
+    {Area::Presets, 0x0560, 74, MESSAGE("region preset"), MESSAGE("region presets"), 1, Shared<kPresetsName>,
      Shared<kPresetsName>, EncodePreset, nullptr, false, std::nullopt},
-    {Area::Vfo, 0x0C00, kVfoRows, WORDS("VFO band"), WORDS("VFO bands"), 0,
-     [](const CloneImage&, int index) { return Numbered("VFO", index); },
+    {Area::Vfo, 0x0C00, kVfoRows, MESSAGE("VFO band"), MESSAGE("VFO bands"), 0,
+     [](const CloneImage&, int index) { return Message(MESSAGE("VFO %1"), {index}); },
      [](const CloneImage&, int index) { return VfoRowName(index); }, EncodeVfoRow,
      [](CloneImage& image, int row, Blocks blocks) { DecodeVfoBlock(image, blocks.front(), row); }, true,
      RowKind::Vfo},
-    {Area::Channels, 0x1000, kRadioRows, WORDS("row"), WORDS("rows"), 0, RowLabel,
+    {Area::Channels, 0x1000, kRadioRows, MESSAGE("row"), MESSAGE("rows"), 0, RowLabel,
      [](const CloneImage& image, int row) { return RowName(image, row); }, EncodeMemoryRow, DecodeChannel,
      true, RowKind::Memory},
 }};
-
-#undef WORDS
 
 }  // namespace
 
@@ -148,10 +134,10 @@ int MemoryRowAt(int address)
     return place && place->area->id == Area::Channels ? place->index : -1;
 }
 
-std::string BlockName(const CloneImage& image, int address)
+Message BlockName(const CloneImage& image, int address)
 {
     const auto place = PlaceOf(address);
-    return place ? place->area->meaning(image, place->index) : std::string();
+    return place ? place->area->meaning(image, place->index) : Message();
 }
 
 bool HoldsFields(int address)
@@ -171,10 +157,9 @@ std::vector<BlockField> BlockFields(int address, const MemoryBlock& block)
     std::vector<BlockField> fields;
     for (const Column column : kColumns)
         if (column != kNote)
-            fields.push_back(
-                {std::string(kColumnNames[column]), CellText(*channel, kind, kNoRegion, column)});
+            fields.push_back({kColumnNames[column], CellText(*channel, kind, kNoRegion, column)});
     if (kind == RowKind::Memory)
-        fields.push_back({"Skip", channel->IsSkipped() ? "yes" : "no"});
+        fields.push_back({MESSAGE("Skip"), channel->IsSkipped() ? MESSAGE("yes") : MESSAGE("no")});
     return fields;
 }
 

@@ -7,6 +7,7 @@
 
 #include "image/clone_image.h"
 #include "image/memory_block.h"
+#include "language/message.h"
 
 namespace rqm5 {
 
@@ -27,10 +28,10 @@ struct MemoryArea
     int firstNumber;
 
     /// A block in a list of differences: "Settings 1", "Row 1105 (Search Pass S5)".
-    std::string (*label)(const CloneImage& image, int index);
+    Message (*label)(const CloneImage& image, int index);
 
     /// A block in a sentence: "settings 1", "memory row 12 (Bank 0, channel 12)".
-    std::string (*meaning)(const CloneImage& image, int index);
+    Message (*meaning)(const CloneImage& image, int index);
 
     /// The block that an image makes.
     MemoryBlock (*encode)(const CloneImage& image, int index);
@@ -74,12 +75,12 @@ inline constexpr int kPassCountByte = 2;
 
 /// What the receiver keeps at a block address: "settings 1", "bank sizes", "VFO row 3", ... Empty where
 /// nothing is known. Banks are divided as the image says.
-std::string BlockName(const CloneImage& image, int address);
+Message BlockName(const CloneImage& image, int address);
 
 struct BlockField
 {
-    std::string name;
-    std::string text;
+    Message name;
+    Message text;
 };
 
 /// The decoded fields of a channel or VFO block, in the order of the tables. None for any other address,

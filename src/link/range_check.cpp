@@ -8,27 +8,27 @@
 
 namespace rqm5 {
 
-std::vector<std::string> RowsWrittenOutOfRange(const CloneImage& image, const TransferScope& scope)
+std::vector<Message> RowsWrittenOutOfRange(const CloneImage& image, const TransferScope& scope)
 {
-    std::vector<std::string> rows;
+    std::vector<Message> rows;
     if (scope.settings)
         rows = VfoRowsOutOfRange(image);
     if (scope.memory)
-        for (std::string& row : RowsOutOfRange(image, TransferRows(image, scope.selector)))
+        for (Message& row : RowsOutOfRange(image, TransferRows(image, scope.selector)))
             rows.push_back(std::move(row));
     return rows;
 }
 
-std::vector<std::string> RowsWrittenOutOfRange(const CloneImage& image, const BlockMap& written)
+std::vector<Message> RowsWrittenOutOfRange(const CloneImage& image, const BlockMap& written)
 {
-    std::vector<std::string> rows;
+    std::vector<Message> rows;
     bool hasVfoBands = false;
     for (const auto& [address, block] : written) {
         const auto place = PlaceOf(address);
         if (place && place->area->id == Area::Vfo && !std::exchange(hasVfoBands, true))
             rows = VfoRowsOutOfRange(image);
         if (place && place->area->id == Area::Channels)
-            for (std::string& row : RowsOutOfRange(image, {place->index, 1}))
+            for (Message& row : RowsOutOfRange(image, {place->index, 1}))
                 rows.push_back(std::move(row));
     }
     return rows;

@@ -1,6 +1,5 @@
 #include "link/receiver_checks.h"
 
-#include <QCoreApplication>
 #include <algorithm>
 
 #include "image/image_change.h"
@@ -50,7 +49,7 @@ TransferResult ReadGroup(ReceiverReader& reader, const CloneImage& image, const 
 /// A backup must be what the receiver holds, digit by digit; else nothing may be overwritten.
 TransferResult RefuseUnreadable(const ReceiverReader& reader, TransferObserver& observer)
 {
-    const std::vector<std::string> blocks = reader.Unreadable();
+    const std::vector<Message> blocks = reader.Unreadable();
     if (blocks.empty())
         return Done;
     observer.Message(UnreadableBlocks(blocks));
@@ -143,9 +142,9 @@ TransferResult BackReader::Read(int address, MemoryBlock& read)
 
 }  // namespace
 
-std::vector<std::string> LabelsOf(const std::vector<BlockDifference>& differences)
+std::vector<Message> LabelsOf(const std::vector<BlockDifference>& differences)
 {
-    std::vector<std::string> labels;
+    std::vector<Message> labels;
     labels.reserve(differences.size());
     for (const BlockDifference& difference : differences)
         labels.push_back(difference.expected.label);
@@ -198,16 +197,14 @@ int BlocksToBackUp(const CloneImage& image, const TransferScope& scope)
     return blocks;
 }
 
-std::string NothingWritten()
+Message NothingWritten()
 {
-    return QCoreApplication::translate("WriteRecord", "The backup could not be made, so nothing was written.")
-        .toStdString();
+    return MESSAGE("The backup could not be made, so nothing was written.");
 }
 
-std::string NotVerified()
+Message NotVerified()
 {
-    return QCoreApplication::translate("WriteRecord", "All was written, but not all of it could be verified.")
-        .toStdString();
+    return MESSAGE("All was written, but not all of it could be verified.");
 }
 
 }  // namespace rqm5

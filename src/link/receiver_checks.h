@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string>
 #include <vector>
 
+#include "language/message.h"
 #include "link/expected_memory.h"
 #include "link/radio_link.h"
 #include "link/transfer_observer.h"
@@ -17,7 +17,7 @@ struct BlockDifference
 };
 
 /// What the blocks are that differ, one text each.
-std::vector<std::string> LabelsOf(const std::vector<BlockDifference>& differences);
+std::vector<Message> LabelsOf(const std::vector<BlockDifference>& differences);
 
 /// Reads blocks back and keeps those that do not agree. Changes no image.
 TransferResult ReadBack(const std::vector<ExpectedBlock>& expected, RadioLink& link,
@@ -35,9 +35,9 @@ TransferResult ReadBackup(const CloneImage& image, const TransferScope& scope, R
 int BlocksToBackUp(const CloneImage& image, const TransferScope& scope);
 
 /// Why nothing was written: the aftermath of whatever kept a backup from being made.
-std::string NothingWritten();
+Message NothingWritten();
 
 /// What a read-back that breaks off means for the write before it.
-std::string NotVerified();
+Message NotVerified();
 
 }  // namespace rqm5

@@ -1,11 +1,10 @@
 #include "link/receiver_identity.h"
 
-#include <QCoreApplication>
-
 #include "image/receiver_model.h"
 #include "settings/settings_codec.h"
 
 namespace rqm5 {
+
 QString NameOfModel(int model)
 {
     const std::string_view name = ModelName(model).empty() ? std::string_view("?") : ModelName(model);
@@ -43,12 +42,10 @@ std::optional<int> ReceiverIdentity::Model(const QString& device) const
     return device == device_ ? model_ : std::nullopt;
 }
 
-std::string OtherModelText(int receiver, int image)
+Message OtherModelText(int receiver, int image)
 {
-    return QCoreApplication::translate("WriteRecord",
-                                       "The receiver is an %1, and what is to be written is for an %2.")
-        .arg(NameOfModel(receiver), NameOfModel(image))
-        .toStdString();
+    return {MESSAGE("The receiver is an %1, and what is to be written is for an %2."),
+            {NameOfModel(receiver).toStdString(), NameOfModel(image).toStdString()}};
 }
 
 }  // namespace rqm5

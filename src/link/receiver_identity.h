@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "image/memory_block.h"
+#include "language/message.h"
 
 namespace rqm5 {
 
@@ -35,6 +36,6 @@ class ReceiverIdentity
 QString NameOfModel(int model);
 
 /// "The receiver is an RQ-M5 E, and what is to be written is for an RQ-M5 J."
-std::string OtherModelText(int receiver, int image);
+Message OtherModelText(int receiver, int image);
 
 }  // namespace rqm5

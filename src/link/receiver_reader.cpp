@@ -243,9 +243,9 @@ TransferResult ReceiverReader::AskAgain(std::set<int>& asked, bool& hasMended)
     return Done;
 }
 
-std::vector<std::string> ReceiverReader::Unreadable() const
+std::vector<Message> ReceiverReader::Unreadable() const
 {
-    std::vector<std::string> names;
+    std::vector<Message> names;
     for (const ReadOnce& read : read_)
         if (!read.block.IsHex())
             names.push_back(read.area->label(image_, read.index));

@@ -63,7 +63,7 @@ class ReceiverReader
     bool HasStored() const { return hasStored_; }
 
     /// The names of the blocks that hold characters that are no hex digits, however often they were read.
-    std::vector<std::string> Unreadable() const;
+    std::vector<Message> Unreadable() const;
 
     /// Every block as it was read last, in the order of reading: what another read should bring.
     std::vector<ExpectedBlock> Blocks() const;

@@ -12,7 +12,7 @@ TransferResult ReadSeparately(RadioLink& link, TransferObserver& observer, Clone
     NewImage(image);
     ReceiverReader reader(image, link, observer);
     const TransferResult result = reader.Read({});
-    const std::vector<std::string> unreadable = reader.Unreadable();
+    const std::vector<Message> unreadable = reader.Unreadable();
     if (result != TransferResult::Done || unreadable.empty())
         return result;
     observer.Message(UnreadableBlocks(unreadable));

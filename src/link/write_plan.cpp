@@ -1,7 +1,5 @@
 #include "link/write_plan.h"
 
-#include <QCoreApplication>
-#include <QStringList>
 #include <algorithm>
 #include <numeric>
 
@@ -10,33 +8,26 @@
 namespace rqm5 {
 namespace {
 
-constexpr char kCountName[] = QT_TRANSLATE_NOOP("WriteRecord", "Search Pass count");
-
-QString Translate(const char* text)
-{
-    return QCoreApplication::translate("WriteRecord", text);
-}
-
 /// Steps first to last of a section, as a person calls them.
-QString NameOf(const WriteSection& section, std::size_t first, std::size_t last)
+Message NameOf(const WriteSection& section, std::size_t first, std::size_t last)
 {
     if (section.kind == WriteSection::Kind::SendCount)
-        return Translate(kCountName);
+        return MESSAGE("Search Pass count");
     const MemoryArea& area = *section.area;
     const bool hasAll =
         area.id == Area::Presets || section.blocks.size() == static_cast<std::size_t>(area.blocks);
     const bool isWhole = hasAll && first == 0 && last + 1 == section.blocks.size();
     // Rows are always named: a group has only a part of them.
     if (isWhole && area.id != Area::Channels)
-        return Translate(area.many);
+        return area.many;
     // Presets count as they are sent, the gap among them left out.
     const bool countsSteps = area.id == Area::Presets;
     const auto numberOf = [&](std::size_t step) {
         return area.firstNumber + (countsSteps ? static_cast<int>(step) : section.blocks[step]);
     };
     if (first == last)
-        return Translate(area.one) + QStringLiteral(" %1").arg(numberOf(first));
-    return Translate("%1 %2 to %3").arg(Translate(area.many)).arg(numberOf(first)).arg(numberOf(last));
+        return Message::List({area.one, numberOf(first)}, " ");
+    return {MESSAGE("%1 %2 to %3"), {area.many, numberOf(first), numberOf(last)}};
 }
 
 /// True when a step's block lies behind that of the step before it, as far as people count.
@@ -137,9 +128,9 @@ bool WritePlan::HasBegun() const
     });
 }
 
-std::string WritePlan::BlocksThatAre(StepState state) const
+Message WritePlan::BlocksThatAre(StepState state) const
 {
-    QStringList names;
+    std::vector<Message> names;
     for (const WriteSection& section : sections_) {
         const std::size_t count = section.IsRead() ? 0 : section.states.size();
         for (std::size_t first = 0; first < count; ++first) {
@@ -148,27 +139,27 @@ std::string WritePlan::BlocksThatAre(StepState state) const
                 ++end;
             if (end == first)
                 continue;
-            names << NameOf(section, first, end - 1);
+            names.push_back(NameOf(section, first, end - 1));
             first = end;
         }
     }
-    return names.join(QStringLiteral(", ")).toStdString();
+    return names.empty() ? Message() : Message::List(std::move(names), ", ");
 }
 
-std::string WritePlan::Summary() const
+Message WritePlan::Summary() const
 {
-    const auto names = [this](StepState state) { return QString::fromStdString(BlocksThatAre(state)); };
-    const auto inDoubt = Translate("%1 (may hold its old or its new contents)");
-    const QString sent = names(StepState::Sent);
-    QStringList sentences{Translate("Sent: %1.").arg(sent.isEmpty() ? Translate("nothing") : sent)};
-    if (const QString refused = names(StepState::Refused); !refused.isEmpty())
-        sentences << Translate("Refused: %1.").arg(inDoubt.arg(refused));
-    if (const QString underWay = names(StepState::UnderWay); !underWay.isEmpty())
-        sentences << Translate("Without an answer: %1.").arg(inDoubt.arg(underWay));
-    if (const QString notSent = names(StepState::NotSent); !notSent.isEmpty())
-        sentences << Translate("Not sent: %1.").arg(notSent);
-    sentences << Translate("Repeating the write completes it.");
-    return sentences.join(QLatin1Char(' ')).toStdString();
+    const Message sent = BlocksThatAre(StepState::Sent);
+    std::vector<Message> sentences = {sent.empty() ? Message(MESSAGE("Sent: nothing."))
+                                                   : Message(MESSAGE("Sent: %1."), {sent})};
+    const auto add = [&](const char* sentence, StepState state) {
+        if (const Message names = BlocksThatAre(state); !names.empty())
+            sentences.push_back({sentence, {names}});
+    };
+    add(MESSAGE("Refused: %1 (may hold its old or its new contents)."), StepState::Refused);
+    add(MESSAGE("Without an answer: %1 (may hold its old or its new contents)."), StepState::UnderWay);
+    add(MESSAGE("Not sent: %1."), StepState::NotSent);
+    sentences.push_back(MESSAGE("Repeating the write completes it."));
+    return Message::List(std::move(sentences), " ");
 }
 
 }  // namespace rqm5

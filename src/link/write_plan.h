@@ -2,9 +2,9 @@
 
 #include <optional>
 #include <set>
-#include <string>
 #include <vector>
 
+#include "language/message.h"
 #include "link/memory_map.h"
 #include "link/transfer_scope.h"
 
@@ -57,7 +57,7 @@ class WritePlan
 
     /// Which blocks were sent, which was refused or is in doubt, which were not sent, and that repeating
     /// the write completes it: sentences on one line.
-    std::string Summary() const;
+    Message Summary() const;
 
   private:
     using Kind = WriteSection::Kind;
@@ -65,7 +65,7 @@ class WritePlan
     void Add(Kind kind, Area area, bool ofMemory);
     void Add(Kind kind, Area area, std::vector<int> blocks, bool ofMemory);
     void AddMemory(const CloneImage& image, int selector);
-    std::string BlocksThatAre(StepState state) const;
+    Message BlocksThatAre(StepState state) const;
 
     std::vector<WriteSection> sections_;
 };

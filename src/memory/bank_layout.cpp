@@ -32,12 +32,23 @@ int FirstRow(const CloneImage& image, int bank)
 
 }  // namespace
 
-std::string SelectorText(int selector)
+Message SelectorText(int selector)
 {
     if (selector == kSelectAll)
-        return "All";
+        return MESSAGE("All");
     const RowGroup* group = GroupOfSelector(selector);
-    return group != nullptr ? std::string(group->title) : "Bank " + std::to_string(selector);
+    return group != nullptr ? Message(group->title) : Message(MESSAGE("Bank %1"), {selector});
+}
+
+Message BankSizeName(int bank)
+{
+    return bank == kUnassigned ? Message(MESSAGE("Channels in no bank"))
+                               : Message(MESSAGE("Bank %1 size"), {bank});
+}
+
+Message BankLinkName(int flag)
+{
+    return {flag < kBanks ? MESSAGE("Bank %1 link") : MESSAGE("Link flag %1 link"), {flag}};
 }
 
 RowRange GroupRows(const CloneImage& image, int selector)

@@ -8,12 +8,19 @@
 
 #include "image/clone_image.h"
 #include "image/memory_block.h"
+#include "language/message.h"
 
 namespace rqm5 {
 
 /// The text of a selector entry: "Bank 0" to "Bank 49", "Program Scan", "Seach Pass" (the receiver's own
 /// spelling), "Priority", "All".
-std::string SelectorText(int selector);
+Message SelectorText(int selector);
+
+/// What the size of a bank is called, or the number of channels in no bank: "Bank 3 size".
+Message BankSizeName(int bank);
+
+/// What a link flag is called; those of no bank have names, too: "Bank 3 link", "Link flag 60 link".
+Message BankLinkName(int flag);
 
 /// The memory rows of the group that a selector entry shows.
 RowRange GroupRows(const CloneImage& image, int selector);

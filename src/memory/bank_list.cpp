@@ -7,8 +7,11 @@
 #include <QStyledItemDelegate>
 #include <QWheelEvent>
 
+#include "language/language.h"
+#include "language/translated.h"
 #include "memory/bank_fill.h"
 #include "memory/bank_layout.h"
+#include "ui/form_texts.h"
 #include "ui/off_colour.h"
 
 namespace rqm5 {
@@ -63,7 +66,7 @@ class FillDelegate : public QStyledItemDelegate
     QString FillText(int selector) const
     {
         const Fill fill = FillAt(selector);
-        return fill.rows == 0 ? tr("none") : tr("%1 of %2").arg(fill.used).arg(fill.rows);
+        return fill.rows == 0 ? BankList::tr("none") : BankList::tr("%1 of %2").arg(fill.used).arg(fill.rows);
     }
 
     const Document& document_;
@@ -76,12 +79,21 @@ BankList::BankList(const Document& document, QWidget* parent) : QComboBox(parent
     // Some styles show every entry at once, over the whole height of the screen, unless they are told not to.
     setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
     setObjectName(QStringLiteral("cbbBank"));
-    setStatusTip(tr("The group of channels that the table shows and a transfer moves"));
+    setStatusTip(Designed(QT_TR_NOOP("The group of channels that the table shows and a transfer moves")));
     for (int selector = 0; selector < kSelectorEntries; ++selector)
-        addItem(QString::fromStdString(SelectorText(selector)));
+        addItem({});
+    ShowTexts();
+    connect(&Language::OfProgram(), &Language::Changed, this, &BankList::ShowTexts);
     setItemDelegate(new FillDelegate(document, this));
+    setSizeAdjustPolicy(AdjustToContents);
     setMaxVisibleItems(kEntriesInSight);
     setFocusPolicy(Qt::StrongFocus);
+}
+
+void BankList::ShowTexts()
+{
+    for (int selector = 0; selector < kSelectorEntries; ++selector)
+        setItemText(selector, Translated(SelectorText(selector)));
 }
 
 void BankList::showPopup()

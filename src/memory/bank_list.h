@@ -21,6 +21,9 @@ class BankList : public QComboBox
   protected:
     /// The wheel is for the table below unless the list has the focus.
     void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    void ShowTexts();
 };
 
 }  // namespace rqm5

@@ -3,7 +3,9 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "language/language.h"
 #include "ui/elided_label.h"
+#include "ui/form_texts.h"
 
 namespace rqm5 {
 
@@ -12,13 +14,15 @@ BankMoveOffer::BankMoveOffer(Document& document, QWidget* parent)
 {
     setObjectName(QStringLiteral("frmBankMove"));
     lblBankMove_->setObjectName(QStringLiteral("lblBankMove"));
-    auto* leave = new QPushButton(tr("&Leave the rows where they are"), this);
+    auto* leave = new QPushButton(Designed(QT_TR_NOOP("&Leave the rows where they are")), this);
     leave->setObjectName(QStringLiteral("cmbBankLeave"));
-    leave->setStatusTip(tr("Nothing moves; the channels named here belong to other banks now"));
-    auto* move = new QPushButton(tr("&Move the channels so that every bank keeps its own"), this);
+    leave->setStatusTip(
+        Designed(QT_TR_NOOP("Nothing moves; the channels named here belong to other banks now")));
+    auto* move =
+        new QPushButton(Designed(QT_TR_NOOP("&Move the channels so that every bank keeps its own")), this);
     move->setObjectName(QStringLiteral("cmbBankMove"));
-    move->setStatusTip(
-        tr("What a smaller bank has no room for goes behind all banks; a larger one gets empty rows"));
+    move->setStatusTip(Designed(QT_TR_NOOP(
+        "What a smaller bank has no room for goes behind all banks; a larger one gets empty rows")));
     connect(leave, &QPushButton::clicked, this, &BankMoveOffer::Withdraw);
     connect(move, &QPushButton::clicked, this, &BankMoveOffer::cmbBankMove_Click);
 
@@ -38,27 +42,36 @@ BankMoveOffer::BankMoveOffer(Document& document, QWidget* parent)
         if (change.HasMemoryRows() || !change.BankSize.empty())
             Withdraw();
     });
+    connect(&Language::OfProgram(), &Language::Changed, this, [this] {
+        if (!isHidden())
+            ShowDisplaced();
+    });
 }
 
 void BankMoveOffer::SetSize(int bank, int size)
 {
     const BankSizes before = before_.value_or(SizesOfBanks(document_.Image()));
-    document_.Edit(tr("Bank %1 size: %2").arg(bank).arg(size),
+    document_.Edit({MESSAGE("Bank %1 size: %2"), {bank, size}},
                    [=](CloneImage& image) { image.SetBankSize(bank, size); });
     before_ = before;
     if (!CanKeepBanks(document_.Image(), before))
         return;
-    const Displaced displaced = DisplacedChannels(document_.Image(), before);
+    ShowDisplaced();
+    show();
+}
+
+void BankMoveOffer::ShowDisplaced()
+{
+    const Displaced displaced = DisplacedChannels(document_.Image(), *before_);
     lblBankMove_->setText(
         tr("Channels that change their bank with these sizes: %1. Others that change their number: %2.")
             .arg(displaced.bank)
             .arg(displaced.number));
-    show();
 }
 
 void BankMoveOffer::cmbBankMove_Click()
 {
-    document_.Edit(tr("Move channels with their banks"),
+    document_.Edit(MESSAGE("Move channels with their banks"),
                    [before = *before_](CloneImage& image) { KeepBanks(image, before); });
 }
 

@@ -26,6 +26,7 @@ class BankMoveOffer : public QWidget
   private:
     void cmbBankMove_Click();
     void Withdraw();
+    void ShowDisplaced();
 
     Document& document_;
     QLabel* lblBankMove_;

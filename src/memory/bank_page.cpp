@@ -7,11 +7,14 @@
 #include <QLineEdit>
 #include <QTimer>
 
+#include "language/language.h"
+#include "language/translated.h"
 #include "memory/bank_layout.h"
 #include "memory/bank_move_offer.h"
 #include "memory/bank_strip.h"
 #include "memory/fill_bar.h"
 #include "ui/elided_label.h"
+#include "ui/form_texts.h"
 #include "ui/key_filter.h"
 #include "ui/leave_watch.h"
 #include "ui/tall_area.h"
@@ -70,6 +73,11 @@ BankPage::BankPage(Document& document, Dialogs& dialogs, QWidget* parent)
         if (change.HasMemoryRows() || !change.BankSize.empty())
             ShowFills();
     });
+    connect(&Language::OfProgram(), &Language::Changed, this, [this] {
+        ShowTexts();
+        ShowFills();
+    });
+    ShowTexts();
     ShowBanks();
     ShowLinks();
     ShowFills();
@@ -78,19 +86,15 @@ BankPage::BankPage(Document& document, Dialogs& dialogs, QWidget* parent)
 void BankPage::BuildBank(QGridLayout& grid, int bank)
 {
     constexpr int kCells = 5;  // label, size, how full it is, link and a gap
-    const QString name = tr("Bank %1").arg(bank);
     auto* box = new QLineEdit;
     box->setObjectName(QStringLiteral("txtBank_%1").arg(bank));
-    box->setAccessibleName(name);
-    box->setStatusTip(tr("Number of channels in bank %1; all banks together hold 1000 at most").arg(bank));
     box->setMaxLength(kDigits);
     box->setAlignment(Qt::AlignRight);
     box->setMinimumWidth(box->fontMetrics().horizontalAdvance(QStringLiteral("00000")));
-    auto* label = new QLabel(name);
+    auto* label = new QLabel;
     label->setBuddy(box);
     auto* link = new QCheckBox;
-    link->setAccessibleName(tr("Link bank %1").arg(bank));
-    link->setStatusTip(tr("Scan bank %1 together with the other linked banks").arg(bank));
+    lblBank_.at(bank) = label;
     txtBank_.at(bank) = box;
     chkLink_.at(bank) = link;
     barFill_.at(bank) = new FillBar;
@@ -104,7 +108,7 @@ void BankPage::BuildBank(QGridLayout& grid, int bank)
     const int row = bank % kBanksPerColumn + 1;  // the heads of the columns stand above
     const int column = bank / kBanksPerColumn * kCells;
     if (row == 1)
-        grid.addWidget(new QLabel(tr("Link")), 0, column + 3);
+        grid.addWidget(new QLabel(Designed(QT_TR_NOOP("Link"))), 0, column + 3);
     grid.addWidget(label, row, column);
     grid.addWidget(box, row, column + 1);
     grid.addWidget(barFill_.at(bank), row, column + 2);
@@ -113,17 +117,31 @@ void BankPage::BuildBank(QGridLayout& grid, int bank)
     grid.setColumnMinimumWidth(column + 4, 6);
 }
 
+void BankPage::ShowTexts()
+{
+    for (int bank = 0; bank < kBanks; ++bank) {
+        const QString name = Translated(SelectorText(bank));
+        lblBank_.at(bank)->setText(name);
+        txtBank_.at(bank)->setAccessibleName(name);
+        txtBank_.at(bank)->setStatusTip(
+            tr("Number of channels in bank %1; all banks together hold 1000 at most").arg(bank));
+        chkLink_.at(bank)->setAccessibleName(tr("Link bank %1").arg(bank));
+        chkLink_.at(bank)->setStatusTip(tr("Scan bank %1 together with the other linked banks").arg(bank));
+    }
+}
+
 QLayout* BankPage::BuildBottomRow()
 {
     lblChannels_->setObjectName(QStringLiteral("lblChannels"));
     lblChannels_->setTextFormat(Qt::PlainText);
     lblNoBank_->setObjectName(QStringLiteral("lblNoBank"));
-    const TransferButtons buttons("cmbReadBank", tr("Read Ban&k"), "cmbWriteBank", tr("Write &Bank"));
-    buttons.read->setStatusTip(tr("Read bank sizes and links from the receiver"));
-    buttons.write->setStatusTip(tr("Write bank sizes and links to the receiver"));
+    const TransferButtons buttons("cmbReadBank", Designed(QT_TR_NOOP("Read Ban&k")), "cmbWriteBank",
+                                  Designed(QT_TR_NOOP("Write &Bank")));
+    buttons.read->setStatusTip(Designed(QT_TR_NOOP("Read bank sizes and links from the receiver")));
+    buttons.write->setStatusTip(Designed(QT_TR_NOOP("Write bank sizes and links to the receiver")));
     connect(buttons.read, &QPushButton::clicked, this, &BankPage::ReadRequested);
     connect(buttons.write, &QPushButton::clicked, this, &BankPage::WriteRequested);
-    buttons.row->insertWidget(0, new QLabel(tr("Channels in all banks (1000 at most):")));
+    buttons.row->insertWidget(0, new QLabel(Designed(QT_TR_NOOP("Channels in all banks (1000 at most):"))));
     buttons.row->insertWidget(1, lblChannels_);
     buttons.row->insertSpacing(2, kGap);
     buttons.row->insertWidget(3, lblNoBank_);
@@ -242,8 +260,8 @@ void BankPage::ShowTotalTooLarge()
 
 void BankPage::chkLink_Click(int bank, bool isLinked)
 {
-    const QString name = isLinked ? tr("Link bank %1") : tr("Unlink bank %1");
-    document_.Edit(name.arg(bank), [=](CloneImage& image) { image.SetBankLink(bank, isLinked); });
+    const char* name = isLinked ? MESSAGE("Link bank %1") : MESSAGE("Unlink bank %1");
+    document_.Edit({name, {bank}}, [=](CloneImage& image) { image.SetBankLink(bank, isLinked); });
 }
 
 }  // namespace rqm5

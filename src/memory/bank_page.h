@@ -50,6 +50,7 @@ class BankPage : public QWidget
 
     /// Shows the sizes and their total.
     void ShowBanks();
+    void ShowTexts();
     void ShowFills();
     void ShowLinks();
 
@@ -63,6 +64,7 @@ class BankPage : public QWidget
 
     Document& document_;
     Dialogs& dialogs_;
+    std::array<QLabel*, kBanks> lblBank_{};
     std::array<QLineEdit*, kBanks> txtBank_{};
     std::array<QCheckBox*, kLinkFlags> chkLink_{};
     std::array<FillBar*, kBanks> barFill_{};

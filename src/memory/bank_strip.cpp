@@ -6,7 +6,9 @@
 #include <QToolTip>
 #include <cmath>
 
+#include "language/translated.h"
 #include "memory/bank_layout.h"
+#include "ui/form_texts.h"
 
 namespace rqm5 {
 namespace {
@@ -21,7 +23,7 @@ BankStrip::BankStrip(const CloneImage& image, QWidget* parent) : QWidget(parent)
     setObjectName(QStringLiteral("picBanks"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setCursor(Qt::PointingHandCursor);
-    setStatusTip(tr("What of each bank holds channels; a click goes to the bank's size"));
+    setStatusTip(Designed(QT_TR_NOOP("What of each bank holds channels; a click goes to the bank's size")));
     ShowImage();
 }
 
@@ -42,7 +44,8 @@ std::vector<StripSegment> BankStrip::Segments() const
 
 QString BankStrip::NameOf(const StripSegment& segment)
 {
-    const QString name = segment.bank == kUnassigned ? tr("In no bank") : tr("Bank %1").arg(segment.bank);
+    const QString name =
+        segment.bank == kUnassigned ? tr("In no bank") : Translated(SelectorText(segment.bank));
     return tr("%1: %2 of %3 rows hold a channel").arg(name).arg(segment.fill.used).arg(segment.fill.rows);
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "image/display_text.h"
+#include "memory/bank_layout.h"
 #include "memory/row_fields.h"
 #include "memory/row_names.h"
 #include "settings/setting_texts.h"
@@ -10,11 +11,11 @@
 namespace rqm5 {
 namespace {
 
-using Lines = std::vector<std::string>;
+using Lines = std::vector<Message>;
 
-std::string FromTo(const std::string& from, const std::string& to)
+Message FromTo(const Message& from, const Message& to)
 {
-    return from + " -> " + to;
+    return Message::List({from, to}, " -> ");
 }
 
 std::string Quoted(const std::string& text)
@@ -27,10 +28,11 @@ std::string Text(const ChannelContents& contents, RowKind kind, Column column)
     return VisibleText(CellText(contents, kind, kNoRegion, column));
 }
 
-std::string Summary(const ChannelContents& contents, RowKind kind)
+Message Summary(const ChannelContents& contents, RowKind kind)
 {
     const bool isEmpty = contents == ChannelContents{};
-    return isEmpty ? "empty" : Text(contents, kind, kFrequency) + " " + Text(contents, kind, kMode);
+    return isEmpty ? Message(MESSAGE("empty"))
+                   : Message(Text(contents, kind, kFrequency) + " " + Text(contents, kind, kMode));
 }
 
 void AddFields(const ChannelContents& a, const ChannelContents& b, RowKind kind, Lines& changes)
@@ -39,7 +41,7 @@ void AddFields(const ChannelContents& a, const ChannelContents& b, RowKind kind,
     const FieldPairs fields = CompareFields({a, {}}, {b, {}}, kind);
     for (int field = 0; field < kRowFields; ++field)
         if (const FieldPair& pair = fields.at(static_cast<std::size_t>(field)); pair.differs)
-            changes.push_back(std::string(RowFieldName(field)) + " " + FromTo(pair.first, pair.second));
+            changes.push_back(Message::List({RowFieldName(field), FromTo(pair.first, pair.second)}, " "));
 }
 
 void AddContents(const ChangedItem<ChannelContents>& item, RowKind kind, Lines& changes)
@@ -60,29 +62,29 @@ const ChangedItem<Value>* ItemOf(const ChangedItems<Value>& items, int index)
     return found != items.end() && found->index == index ? &*found : nullptr;
 }
 
-std::string RowLine(const std::string& name, const ChangedItem<ChannelContents>* contents,
-                    const ChangedItem<FileColumns>* note, const ChangedItem<bool>* flag, RowKind kind)
+Message RowLine(const Message& name, const ChangedItem<ChannelContents>* contents,
+                const ChangedItem<FileColumns>* note, const ChangedItem<bool>* flag, RowKind kind)
 {
     Lines changes;
     if (contents != nullptr)
         AddContents(*contents, kind, changes);
     if (note != nullptr)
-        changes.push_back("Note " + FromTo(Quoted(note->before.note), Quoted(note->after.note)));
+        changes.push_back(Message::List(
+            {MESSAGE("Note"), FromTo(Quoted(note->before.note), Quoted(note->after.note))}, " "));
     if (flag != nullptr)
-        changes.push_back("Enabled " + FromTo(OnOff(flag->before), OnOff(flag->after)));
-    std::string line = name + ": ";
-    for (std::size_t i = 0; i < changes.size(); ++i)
-        line += (i == 0 ? "" : ", ") + changes[i];
-    return line;
+        changes.push_back(
+            Message::List({MESSAGE("Enabled"), FromTo(OnOff(flag->before), OnOff(flag->after))}, " "));
+    return Message::List({name, Message::List(std::move(changes), ", ")}, ": ");
 }
 
 void AddSettings(const ImageChange& change, Lines& lines)
 {
     for (const ChangedItem<int>& item : change.Settings)
         if (item.index < kSettingsInWords)
-            lines.push_back(
-                std::string(SettingCaption(item.index)) + ": " +
-                FromTo(SettingValueText(item.index, item.before), SettingValueText(item.index, item.after)));
+            lines.push_back(Message::List(
+                {SettingCaption(item.index),
+                 FromTo(SettingValueText(item.index, item.before), SettingValueText(item.index, item.after))},
+                ": "));
 }
 
 void AddRows(const CloneImage& before, const ImageChange& change, Lines& lines)
@@ -99,17 +101,15 @@ void AddRows(const CloneImage& before, const ImageChange& change, Lines& lines)
 void AddBanks(const ImageChange& change, Lines& lines)
 {
     for (const ChangedItem<int>& item : change.BankSize)
-        lines.push_back((item.index == kUnassigned ? "Channels in no bank: "
-                                                   : "Bank " + std::to_string(item.index) + " size: ") +
-                        FromTo(std::to_string(item.before), std::to_string(item.after)));
+        lines.push_back(Message::List({BankSizeName(item.index), FromTo(item.before, item.after)}, ": "));
     for (const ChangedItem<bool>& item : change.BankLink)
-        lines.push_back((item.index < kBanks ? "Bank " : "Link flag ") + std::to_string(item.index) +
-                        " link: " + FromTo(OnOff(item.before), OnOff(item.after)));
+        lines.push_back(
+            Message::List({BankLinkName(item.index), FromTo(OnOff(item.before), OnOff(item.after))}, ": "));
 }
 
 }  // namespace
 
-std::vector<std::string> DescribeChange(const CloneImage& before, const ImageChange& change)
+std::vector<Message> DescribeChange(const CloneImage& before, const ImageChange& change)
 {
     Lines lines;
     AddSettings(change, lines);

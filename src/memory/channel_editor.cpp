@@ -129,15 +129,15 @@ Channel WithFields(const CloneImage& image, RowId id, const ChannelFields& field
 
 }  // namespace
 
-std::string_view VerdictText(Verdict verdict)
+Message VerdictText(Verdict verdict)
 {
     switch (verdict) {
         case Verdict::OutOfRange:
-            return "The receiver takes 0.1 to 1299.995 MHz.";
+            return MESSAGE("The receiver takes 0.1 to 1299.995 MHz.");
         case Verdict::Cellular:
-            return "It is a frequency of the cellular phone, which this model refuses.";
+            return MESSAGE("It is a frequency of the cellular phone, which this model refuses.");
         case Verdict::Duplicate:
-            return "Another Search Pass channel has the same frequency.";
+            return MESSAGE("Another Search Pass channel has the same frequency.");
         default:
             return {};
     }

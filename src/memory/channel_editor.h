@@ -3,6 +3,7 @@
 #include <string>
 
 #include "image/clone_image.h"
+#include "language/message.h"
 #include "memory/channel_parts.h"
 
 namespace rqm5 {
@@ -36,7 +37,7 @@ enum class Verdict {
 };
 
 /// Why, in words; empty for what was accepted.
-std::string_view VerdictText(Verdict verdict);
+Message VerdictText(Verdict verdict);
 
 /// What becomes of a typed number when its box is left.
 struct CheckedEntry

@@ -2,6 +2,7 @@
 
 #include "image/number_text.h"
 #include "image/value_tables.h"
+#include "language/message.h"
 #include "vfo/vfo_defaults.h"
 
 namespace rqm5 {
@@ -29,10 +30,10 @@ void CopyBlank(const Channel& from, int column, Channel& to)
 
 }  // namespace
 
-std::string_view PartName(int part)
+const char* PartName(int part)
 {
-    return part == kSkipPart      ? "Skip"
-           : part == kEnabledPart ? "Enabled"
+    return part == kSkipPart      ? MESSAGE("Skip")
+           : part == kEnabledPart ? MESSAGE("Enabled")
                                   : kColumnNames.at(static_cast<std::size_t>(part));
 }
 

@@ -47,8 +47,8 @@ class Parts
     std::uint32_t bits_ = 0;
 };
 
-/// What a part is called in sentences: as its column, "Skip" or "Enabled".
-std::string_view PartName(int part);
+/// What a part is called in sentences, the id of a message: as its column, "Skip" or "Enabled".
+const char* PartName(int part);
 
 /// Copies chosen parts; the rest of the other channel stays as it is.
 void CopyParts(const Channel& from, Parts parts, Channel& to);

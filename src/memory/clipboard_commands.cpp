@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "files/safe_notes.h"
+#include "language/translated.h"
 #include "memory/channel_operations.h"
 #include "memory/fill_dialog.h"
 #include "memory/note_line.h"
@@ -70,24 +71,24 @@ void ClipboardCommands::mnuEditCut_Click()
     if (rows.empty())
         return;
     mnuEditCopy_Click();
-    selection_.Edit(tr("Cut (%1)").arg(selection_.NameOf(rows)),
+    selection_.Edit({MESSAGE("Cut (%1)"), {selection_.NameOf(rows)}},
                     [rows](CloneImage& image) { ClearRows(image, rows); });
 }
 
-void ClipboardCommands::TellNothing(const QString& title)
+void ClipboardCommands::TellNothing(const Message& title)
 {
     dialogs_.Ask(
-        &page_, {.title = title,
+        &page_, {.title = Translated(title),
                  .text = tr("There is no channel in it."),
                  .details = tr("Copy rows of this program, or lines with a frequency each: of a spreadsheet, "
                                "a web page or a text."),
                  .icon = QMessageBox::Information});
 }
 
-void ClipboardCommands::Take(const QString& operation, const PastePlan& plan, bool isShown)
+void ClipboardCommands::Take(const Message& operation, const PastePlan& plan, bool isShown)
 {
     if (isShown) {
-        dlgPaste preview(operation, selection_.Image(), plan, &page_);
+        dlgPaste preview(Translated(operation), selection_.Image(), plan, &page_);
         if (dialogs_.Run(preview) != QDialog::Accepted)
             return;
     }
@@ -95,7 +96,7 @@ void ClipboardCommands::Take(const QString& operation, const PastePlan& plan, bo
     if (rows.empty())
         return;
     const int column = selection_.Table().currentIndex().column();
-    selection_.Edit(tr("%1 (%2)").arg(operation, selection_.NameOf(rows)), [&](CloneImage& image) {
+    selection_.Edit({MESSAGE("%1 (%2)"), {operation, selection_.NameOf(rows)}}, [&](CloneImage& image) {
         ApplyPlan(plan, image);
         if (WantsSafeNotes())
             MakeNotesSafe(image, rows);
@@ -107,11 +108,11 @@ void ClipboardCommands::Take(const QString& operation, const PastePlan& plan, bo
 void ClipboardCommands::Paste(const std::vector<ListedChannel>& channels, int row)
 {
     if (channels.empty()) {
-        TellNothing(tr("Paste"));
+        TellNothing(MESSAGE("Paste"));
         return;
     }
     const PastePlan plan = PlanPaste(selection_.Image(), RowsFrom(row), channels);
-    Take(tr("Paste"), plan, NeedsLook(selection_.Image(), plan));
+    Take(MESSAGE("Paste"), plan, NeedsLook(selection_.Image(), plan));
 }
 
 void ClipboardCommands::mnuEditPaste_Click()
@@ -134,11 +135,11 @@ void ClipboardCommands::mnuEditPasteSpecial_Click()
     if (selected.empty())
         return;
     if (channels.empty()) {
-        TellNothing(tr("Paste Special"));
+        TellNothing(MESSAGE("Paste Special"));
         return;
     }
-    dlgParts dialog(tr("Paste Special"), tr("Paste these columns onto the selected rows:"), PartsOf(channels),
-                    RegionOf(selection_.Image().ModelNo()), &page_);
+    dlgParts dialog(Translated(MESSAGE("Paste Special")), tr("Paste these columns onto the selected rows:"),
+                    PartsOf(channels), RegionOf(selection_.Image().ModelNo()), &page_);
     dialog.Choose(specialParts_);
     if (dialogs_.Run(dialog) != QDialog::Accepted)
         return;
@@ -150,7 +151,7 @@ void ClipboardCommands::mnuEditPasteSpecial_Click()
         rows.resize(std::min(rows.size(), channels.size()));
     }
     const PastePlan plan = PlanParts(selection_.Image(), rows, channels, specialParts_);
-    Take(tr("Paste Special"), plan,
+    Take(MESSAGE("Paste Special"), plan,
          std::ranges::any_of(plan, [](const PlannedRow& row) { return !row.IsTaken(); }));
 }
 
@@ -160,15 +161,16 @@ void ClipboardCommands::mnuEditFillDown_Click()
     if (rows.size() < 2)
         return;
     const Channel first = selection_.Image().MemData(rows.front());
-    dlgParts dialog(tr("Fill Down"), tr("Give the selected rows these columns of the first of them:"),
-                    Parts::All(), RegionOf(selection_.Image().ModelNo()), &page_);
+    dlgParts dialog(Translated(MESSAGE("Fill Down")),
+                    tr("Give the selected rows these columns of the first of them:"), Parts::All(),
+                    RegionOf(selection_.Image().ModelNo()), &page_);
     dialog.Choose(downParts_);
     if (dialogs_.Run(dialog) != QDialog::Accepted)
         return;
     downParts_ = dialog.Chosen();
     const PastePlan plan =
         PlanParts(selection_.Image(), RowList(rows.begin() + 1, rows.end()), Listed({first}), downParts_);
-    Take(tr("Fill Down"), plan,
+    Take(MESSAGE("Fill Down"), plan,
          std::ranges::any_of(plan, [](const PlannedRow& row) { return !row.IsTaken(); }));
     selection_.Table().SelectRows(rows, selection_.Table().currentIndex().column());
 }
@@ -179,7 +181,7 @@ void ClipboardCommands::mnuEditFillSeries_Click()
         return;
     dlgFill dialog(selection_.Image(), selection_.Group(), selection_.Top(), &page_);
     if (dialogs_.Run(dialog) == QDialog::Accepted)
-        Take(tr("Fill Series"), dialog.Plan(), false);
+        Take(MESSAGE("Fill Series"), dialog.Plan(), false);
 }
 
 }  // namespace rqm5

@@ -36,8 +36,8 @@ class ClipboardCommands : public QObject
   private:
     RowList RowsFrom(int row) const;
     void Paste(const std::vector<ListedChannel>& channels, int row);
-    void Take(const QString& operation, const PastePlan& plan, bool isShown);
-    void TellNothing(const QString& title);
+    void Take(const Message& operation, const PastePlan& plan, bool isShown);
+    void TellNothing(const Message& title);
 
     const RowSelection& selection_;
     Dialogs& dialogs_;

@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QScreen>
 
+#include "language/translated.h"
 #include "memory/take_differences.h"
 #include "ui/elided_label.h"
 #include "ui/form_texts.h"
@@ -13,10 +14,14 @@ namespace {
 
 constexpr QSize kWindowFrame(8, 36);
 
-QString Text(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
+constexpr const char* kFilters[] = {
+    QT_TRANSLATE_NOOP("rqm5::dlgCompare", "All differences"),
+    QT_TRANSLATE_NOOP("rqm5::dlgCompare", "Only here"),
+    QT_TRANSLATE_NOOP("rqm5::dlgCompare", "Only there"),
+    QT_TRANSLATE_NOOP("rqm5::dlgCompare", "Moved"),
+    QT_TRANSLATE_NOOP("rqm5::dlgCompare", "Changed in place"),
+};
+static_assert(std::size(kFilters) == kFieldDiffers);
 
 }  // namespace
 
@@ -31,9 +36,9 @@ dlgCompare::dlgCompare(Document& document, Dialogs& dialogs, QWidget* parent)
       cbbCompareWhat_(new QComboBox(this))
 {
     setObjectName(QStringLiteral("dlgCompare"));
-    setWindowTitle(tr("Compare"));
+    setWindowTitle(Designed(QT_TR_NOOP("Compare")));
     lstCompare_->setObjectName(QStringLiteral("lstCompare"));
-    lstCompare_->setAccessibleName(tr("What differs"));
+    lstCompare_->setAccessibleName(Designed(QT_TR_NOOP("What differs")));
     lblCompareSource_->setObjectName(QStringLiteral("lblCompareSource"));
     lblCompareSource_->setTextFormat(Qt::PlainText);
     lblCompareCount_->setObjectName(QStringLiteral("lblCompareCount"));
@@ -53,8 +58,17 @@ dlgCompare::dlgCompare(Document& document, Dialogs& dialogs, QWidget* parent)
     constexpr int kLines = 32;
     resize(QSize(fontMetrics().averageCharWidth() * kLetters, fontMetrics().height() * kLines)
                .boundedTo(screen()->availableSize() - kWindowFrame));
-    CompareAgain();
+    ShowTexts();
+}
+
+void dlgCompare::ShowTexts()
+{
     SetFormTexts(*this);
+    for (int filter = 0; filter < cbbCompareWhat_->count(); ++filter)
+        cbbCompareWhat_->setItemText(filter, filter < kFieldDiffers
+                                                 ? tr(kFilters[filter])
+                                                 : Translated(RowFieldName(filter - kFieldDiffers)));
+    CompareAgain();
 }
 
 QPushButton* dlgCompare::MakeButton(const char* name, const QString& text, const QString& hint)
@@ -69,19 +83,23 @@ QPushButton* dlgCompare::MakeButton(const char* name, const QString& text, const
 
 QLayout* dlgCompare::BuildSources()
 {
-    cmbCompareFile_ = MakeButton("cmbCompareFile", tr("&File..."), tr("Compare with a clone file"));
-    cmbCompareBackup_ = MakeButton("cmbCompareBackup", tr("&Backup..."), tr("Compare with a backup"));
-    cmbCompareLastRead_ = MakeButton("cmbCompareLastRead", tr("&Last Read"),
-                                     tr("Compare with what the receiver held when it was last read"));
-    cmbCompareReceiver_ =
-        MakeButton("cmbCompareReceiver", tr("&Receiver Now"),
-                   tr("Read the receiver and compare with what it holds; the open image stays as it is"));
+    cmbCompareFile_ = MakeButton("cmbCompareFile", Designed(QT_TR_NOOP("&File...")),
+                                 Designed(QT_TR_NOOP("Compare with a clone file")));
+    cmbCompareBackup_ = MakeButton("cmbCompareBackup", Designed(QT_TR_NOOP("&Backup...")),
+                                   Designed(QT_TR_NOOP("Compare with a backup")));
+    cmbCompareLastRead_ =
+        MakeButton("cmbCompareLastRead", Designed(QT_TR_NOOP("&Last Read")),
+                   Designed(QT_TR_NOOP("Compare with what the receiver held when it was last read")));
+    cmbCompareReceiver_ = MakeButton(
+        "cmbCompareReceiver", Designed(QT_TR_NOOP("&Receiver Now")),
+        Designed(
+            QT_TR_NOOP("Read the receiver and compare with what it holds; the open image stays as it is")));
     connect(cmbCompareFile_, &QPushButton::clicked, this, &dlgCompare::FileWanted);
     connect(cmbCompareBackup_, &QPushButton::clicked, this, &dlgCompare::BackupWanted);
     connect(cmbCompareLastRead_, &QPushButton::clicked, this, &dlgCompare::LastReadWanted);
     connect(cmbCompareReceiver_, &QPushButton::clicked, this, &dlgCompare::ReceiverWanted);
     auto* row = new QHBoxLayout;
-    row->addWidget(new QLabel(tr("Compare the open image with:"), this));
+    row->addWidget(new QLabel(Designed(QT_TR_NOOP("Compare the open image with:")), this));
     for (QPushButton* button : {cmbCompareFile_, cmbCompareBackup_, cmbCompareLastRead_, cmbCompareReceiver_})
         row->addWidget(button);
     row->addStretch(1);
@@ -93,16 +111,12 @@ QLayout* dlgCompare::BuildFilters()
     cbbCompareGroup_->setObjectName(QStringLiteral("cbbCompareGroup"));
     cbbCompareGroup_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     cbbCompareWhat_->setObjectName(QStringLiteral("cbbCompareWhat"));
-    cbbCompareWhat_->addItem(tr("All differences"), kAllDifferences);
-    cbbCompareWhat_->addItem(tr("Only here"), kOnlyHere);
-    cbbCompareWhat_->addItem(tr("Only there"), kOnlyThere);
-    cbbCompareWhat_->addItem(tr("Moved"), kMoved);
-    cbbCompareWhat_->addItem(tr("Changed in place"), kChangedInPlace);
-    for (int field = 0; field < kRowFields; ++field)
-        cbbCompareWhat_->addItem(Text(RowFieldName(field)), kFieldDiffers + field);
+    cbbCompareWhat_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    for (int filter = 0; filter < static_cast<int>(kFieldDiffers) + kRowFields; ++filter)
+        cbbCompareWhat_->addItem({}, filter);
     auto* row = new QHBoxLayout;
-    const std::pair<QString, QComboBox*> boxes[] = {{tr("&Group:"), cbbCompareGroup_},
-                                                    {tr("&Show:"), cbbCompareWhat_}};
+    const std::pair<QString, QComboBox*> boxes[] = {{Designed(QT_TR_NOOP("&Group:")), cbbCompareGroup_},
+                                                    {Designed(QT_TR_NOOP("&Show:")), cbbCompareWhat_}};
     for (const auto& [caption, box] : boxes) {
         auto* label = new QLabel(caption, this);
         label->setBuddy(box);
@@ -117,11 +131,12 @@ QLayout* dlgCompare::BuildFilters()
 
 QLayout* dlgCompare::BuildButtons()
 {
-    cmbTakeSelected_ = MakeButton("cmbTakeSelected", tr("&Take Selected"),
-                                  tr("Take the selected rows and groups from the other side"));
-    cmbTakeAll_ =
-        MakeButton("cmbTakeAll", tr("Take &All"), tr("Take everything that is shown from the other side"));
-    auto* close = MakeButton("cmbCompareClose", tr("&Close"), {});
+    cmbTakeSelected_ =
+        MakeButton("cmbTakeSelected", Designed(QT_TR_NOOP("&Take Selected")),
+                   Designed(QT_TR_NOOP("Take the selected rows and groups from the other side")));
+    cmbTakeAll_ = MakeButton("cmbTakeAll", {},
+                             Designed(QT_TR_NOOP("Take everything that is shown from the other side")));
+    auto* close = MakeButton("cmbCompareClose", Designed(QT_TR_NOOP("&Close")), {});
     connect(cmbTakeSelected_, &QPushButton::clicked, this, [this] { Take(lstCompare_->SelectedItems()); });
     connect(cmbTakeAll_, &QPushButton::clicked, this, [this] { Take(lstCompare_->ShownItems()); });
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
@@ -153,7 +168,7 @@ void dlgCompare::CompareAgain()
 {
     soon_.stop();
     comparison_ = source_ ? rqm5::Compare(document_.Image(), source_->image, source_->parts) : Comparison();
-    lblCompareSource_->setText(source_ ? source_->title
+    lblCompareSource_->setText(source_ ? Translated(source_->title)
                                        : tr("Choose above what the open image is compared with."));
     ListGroups();
     ShowDifferences();
@@ -167,7 +182,7 @@ void dlgCompare::ListGroups()
     cbbCompareGroup_->addItem(tr("All groups"), CompareTree::kAllGroups);
     for (const DifferentItem& item : comparison_)
         if (cbbCompareGroup_->findData(item.group) < 0)
-            cbbCompareGroup_->addItem(Text(ComparedGroupName(item.group)), item.group);
+            cbbCompareGroup_->addItem(Translated(ComparedGroupName(item.group)), item.group);
     cbbCompareGroup_->setCurrentIndex(std::max(0, cbbCompareGroup_->findData(chosen)));
 }
 
@@ -209,7 +224,7 @@ void dlgCompare::Take(const std::vector<ItemId>& items)
                             .icon = QMessageBox::Warning});
         return;
     }
-    document_.Edit(tr("Take from %1 (%2)").arg(source_->name, lstCompare_->NameOf(items)),
+    document_.Edit({MESSAGE("Take from %1 (%2)"), {source_->name, lstCompare_->NameOf(items)}},
                    [&taken](CloneImage& image) { image = std::move(taken); });
     CompareAgain();
     lstCompare_->setFocus();
@@ -244,7 +259,7 @@ void dlgCompare::showEvent(QShowEvent* event)
 void dlgCompare::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange)
-        SetFormTexts(*this);
+        ShowTexts();
     QDialog::changeEvent(event);
 }
 

@@ -24,8 +24,8 @@ class dlgCompare : public QDialog
     /// What the open image is compared with.
     struct Source
     {
-        QString name;   ///< in a step: "bank.RQ5"
-        QString title;  ///< in the window: "File /home/me/bank.RQ5, saved 31.01.26 18:05"
+        Message name;   ///< in a step: "bank.RQ5"
+        Message title;  ///< in the window: "File /home/me/bank.RQ5, saved 31.01.26 18:05"
         CloneImage image;
         ComparedParts parts;
     };
@@ -58,6 +58,7 @@ class dlgCompare : public QDialog
     QLayout* BuildFilters();
     QLayout* BuildButtons();
     QPushButton* MakeButton(const char* name, const QString& text, const QString& hint);
+    void ShowTexts();
     void CompareAgain();
     void CompareSoon();
     void ListGroups();

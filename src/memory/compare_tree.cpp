@@ -5,6 +5,9 @@
 #include <QScrollBar>
 #include <algorithm>
 
+#include "language/translated.h"
+#include "ui/form_texts.h"
+
 namespace rqm5 {
 namespace {
 
@@ -13,11 +16,6 @@ enum TreeColumn { kPlace, kHere, kThere, kWhat, kTreeColumns };
 constexpr int kIndexRole = Qt::UserRole;      ///< of a difference in what is shown
 constexpr int kGroupRole = Qt::UserRole + 1;  ///< of a group
 constexpr int kNone = -1;
-
-QString Text(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 /// The sign before a place, for a quick eye; the words are in the last column.
 QString SignOf(const DifferentItem& item)
@@ -28,33 +26,33 @@ QString SignOf(const DifferentItem& item)
                                           : QStringLiteral("≠ ");
 }
 
-QString DifferingFields(const DifferentItem& item)
+Message DifferingFields(const DifferentItem& item)
 {
-    QStringList names;
+    std::vector<Message> names;
     for (int field = 0; field < kRowFields; ++field)
         if (item.fields.at(static_cast<std::size_t>(field)).differs)
-            names << Text(RowFieldName(field));
-    return names.join(QStringLiteral(", "));
+            names.emplace_back(RowFieldName(field));
+    return Message::List(std::move(names), ", ");
 }
 
 QString Remark(const DifferentItem& item)
 {
     if (!item.id.IsRow())
         return {};
-    QStringList remarks;
+    std::vector<Message> remarks;
     if (!item.movedTo.empty())
-        remarks << CompareTree::tr("Moved: there at %1").arg(Text(item.movedTo));
+        remarks.push_back({MESSAGE("Moved: there at %1"), {item.movedTo}});
     else if (item.isHere && !item.isThere)
-        remarks << CompareTree::tr("Only here");
+        remarks.emplace_back(MESSAGE("Only here"));
     if (!item.movedFrom.empty())
-        remarks << (item.movedTo.empty() ? CompareTree::tr("Moved: the one there is at %1 here")
-                                         : CompareTree::tr("the one there is at %1 here"))
-                       .arg(Text(item.movedFrom));
+        remarks.push_back({item.movedTo.empty() ? MESSAGE("Moved: the one there is at %1 here")
+                                                : MESSAGE("the one there is at %1 here"),
+                           {item.movedFrom}});
     else if (!item.isHere && item.isThere)
-        remarks << CompareTree::tr("Only there");
-    if (remarks.isEmpty() || (!item.IsMoved() && item.isHere && item.isThere))
-        remarks << DifferingFields(item);
-    return remarks.join(QStringLiteral("; "));
+        remarks.emplace_back(MESSAGE("Only there"));
+    if (remarks.empty() || (!item.IsMoved() && item.isHere && item.isThere))
+        remarks.push_back(DifferingFields(item));
+    return Translated(Message::List(std::move(remarks), "; "));
 }
 
 void SetBold(QTreeWidgetItem& item)
@@ -70,7 +68,8 @@ void SetBold(QTreeWidgetItem& item)
 CompareTree::CompareTree(QWidget* parent) : QTreeWidget(parent)
 {
     setColumnCount(kTreeColumns);
-    setHeaderLabels({tr("Place"), tr("Open image"), tr("Other side"), tr("What differs")});
+    setHeaderLabels({Designed(QT_TR_NOOP("Place")), Designed(QT_TR_NOOP("Open image")),
+                     Designed(QT_TR_NOOP("Other side")), Designed(QT_TR_NOOP("What differs"))});
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
@@ -108,7 +107,8 @@ void CompareTree::AddGroup(const Comparison& shown, std::size_t first, std::size
 {
     const int number = shown[first].group;
     auto* group = new QTreeWidgetItem(this);
-    group->setText(kPlace, tr("%1 (%2)").arg(Text(ComparedGroupName(number))).arg(last - first));
+    group->setText(kPlace,
+                   QStringLiteral("%1 (%2)").arg(Translated(ComparedGroupName(number))).arg(last - first));
     group->setData(kPlace, kIndexRole, kNone);
     group->setData(kPlace, kGroupRole, number);
     group->setFirstColumnSpanned(true);
@@ -116,9 +116,9 @@ void CompareTree::AddGroup(const Comparison& shown, std::size_t first, std::size
     for (std::size_t i = first; i < last; ++i) {
         const DifferentItem& difference = shown[i];
         auto* item = new QTreeWidgetItem(group);
-        item->setText(kPlace, SignOf(difference) + Text(difference.name));
-        item->setText(kHere, Text(difference.here));
-        item->setText(kThere, Text(difference.there));
+        item->setText(kPlace, SignOf(difference) + Translated(difference.name));
+        item->setText(kHere, Translated(difference.here));
+        item->setText(kThere, Translated(difference.there));
         item->setText(kWhat, Remark(difference));
         item->setToolTip(kWhat, item->text(kWhat));
         item->setData(kPlace, kIndexRole, static_cast<int>(i));
@@ -140,9 +140,9 @@ void CompareTree::ShowFields(QTreeWidgetItem* item)
         const FieldPair& pair = difference->fields.at(static_cast<std::size_t>(field));
         auto* line = new QTreeWidgetItem(item);
         line->setText(kPlace, (pair.differs ? QStringLiteral("≠ ") : QStringLiteral("   ")) +
-                                  Text(RowFieldName(field)));
-        line->setText(kHere, Text(pair.first));
-        line->setText(kThere, Text(pair.second));
+                                  Translated(RowFieldName(field)));
+        line->setText(kHere, Translated(pair.first));
+        line->setText(kThere, Translated(pair.second));
         line->setData(kPlace, kIndexRole, item->data(kPlace, kIndexRole));
         if (!pair.differs)
             continue;
@@ -205,19 +205,20 @@ std::vector<ItemId> CompareTree::ShownItems() const
     return items;
 }
 
-QString CompareTree::NameOf(const std::vector<ItemId>& items) const
+Message CompareTree::NameOf(const std::vector<ItemId>& items) const
 {
     std::vector<const DifferentItem*> named;
     for (const DifferentItem& item : shown_)
         if (std::ranges::count(items, item.id) > 0)
             named.push_back(&item);
     if (named.size() == 1)
-        return Text(named.front()->name);
+        return named.front()->name;
     const bool isOneGroup = std::ranges::all_of(
         named, [&](const DifferentItem* item) { return item->group == named.front()->group; });
-    return isOneGroup && !named.empty()
-               ? tr("%1, %2 differences").arg(Text(ComparedGroupName(named.front()->group))).arg(named.size())
-               : tr("%1 differences").arg(named.size());
+    const auto count = static_cast<int>(named.size());
+    if (isOneGroup && !named.empty())
+        return {MESSAGE("%1, %2 differences"), {ComparedGroupName(named.front()->group), count}};
+    return {MESSAGE("%1 differences"), {count}};
 }
 
 void CompareTree::KeepState()

@@ -33,7 +33,7 @@ class CompareTree : public QTreeWidget
     std::optional<ItemId> IdOf(const QTreeWidgetItem* item) const;
 
     /// Names a selection in a step: "Bank 0, channel 12", "Bank 3, 7 differences", "9 differences".
-    QString NameOf(const std::vector<ItemId>& items) const;
+    Message NameOf(const std::vector<ItemId>& items) const;
 
   signals:
     /// Double click or Enter on a row or on one of its fields.

@@ -39,21 +39,21 @@ int PlaceElsewhere(const std::string& key, const Places& own, const Places& othe
 }
 
 /// "145.500000 FM, Tower (off)"
-std::string Summary(const Channel& channel, RowKind kind)
+Message Summary(const Channel& channel, RowKind kind)
 {
     if (!channel.HasChannel())
-        return "(empty)";
+        return MESSAGE("(empty)");
     const auto cell = [&](Column column) { return CellText(channel, kind, kNoRegion, column); };
     std::string text = cell(kFrequency) + " " + cell(kMode);
     if (!channel.note.empty())
         text += ", " + VisibleText(channel.note);
-    return kind == RowKind::Vfo || channel.enabled ? text : text + " (off)";
+    return kind == RowKind::Vfo || channel.enabled ? Message(text) : Message(MESSAGE("%1 (off)"), {text});
 }
 
-std::string PlaceName(const CloneImage& image, int row)
+Message PlaceName(const CloneImage& image, int row)
 {
-    const std::string place = PlaceOfRow(image, row);
-    return place.empty() ? "row " + std::to_string(row) : place;
+    const Message place = PlaceOfRow(image, row);
+    return place.empty() ? Message(MESSAGE("row %1"), {row}) : place;
 }
 
 int GroupOfMemoryRow(const CloneImage& image, int row)
@@ -161,8 +161,8 @@ class Comparer
             return;
         // Where the banks are divided otherwise, two rows can have one name.
         const auto words = [&item](const CloneImage& image, int place) {
-            const std::string name = PlaceName(image, place);
-            return name == item.name ? "row " + std::to_string(place) : name;
+            const Message name = PlaceName(image, place);
+            return name == item.name ? Message(MESSAGE("row %1"), {place}) : name;
         };
         const int to = PlaceElsewhere(here, placesHere_, placesThere_);
         const int from = PlaceElsewhere(there, placesThere_, placesHere_);
@@ -179,7 +179,7 @@ class Comparer
             items_.push_back(std::move(item));
     }
 
-    void AddValue(ItemId id, int group, std::string name, std::string here, std::string there)
+    void AddValue(ItemId id, int group, Message name, Message here, Message there)
     {
         if (here != there)
             items_.push_back({id, group, std::move(name), std::move(here), std::move(there)});
@@ -188,18 +188,17 @@ class Comparer
     void AddBanks()
     {
         for (int bank = 0; bank < kBanks; ++bank)
-            AddValue({ItemKind::BankSize, bank}, kBankLayout, "Bank " + std::to_string(bank) + " size",
-                     here_.BankSizeText(bank), there_.BankSizeText(bank));
+            AddValue({ItemKind::BankSize, bank}, kBankLayout, BankSizeName(bank), here_.BankSizeText(bank),
+                     there_.BankSizeText(bank));
         for (int flag = 0; flag < kLinkFlags; ++flag)
-            AddValue({ItemKind::BankLink, flag}, kBankLayout,
-                     (flag < kBanks ? "Bank " : "Link flag ") + std::to_string(flag) + " link",
-                     OnOff(here_.BankLink(flag)), OnOff(there_.BankLink(flag)));
+            AddValue({ItemKind::BankLink, flag}, kBankLayout, BankLinkName(flag), OnOff(here_.BankLink(flag)),
+                     OnOff(there_.BankLink(flag)));
     }
 
     void AddSettings()
     {
         for (int setting = 0; setting < kSettingsInWords; ++setting)
-            AddValue({ItemKind::Setting, setting}, kSettingsGroup, std::string(SettingCaption(setting)),
+            AddValue({ItemKind::Setting, setting}, kSettingsGroup, SettingCaption(setting),
                      SettingText(here_.Settings(), setting), SettingText(there_.Settings(), setting));
     }
 
@@ -213,24 +212,24 @@ class Comparer
 
 }  // namespace
 
-std::string ComparedGroupName(int group)
+Message ComparedGroupName(int group)
 {
     switch (group) {
         case kInNoBank:
-            return "In no bank";
+            return MESSAGE("In no bank");
         case kNotInReceiver:
-            return "Not in the receiver";
+            return MESSAGE("Not in the receiver");
         case kVfoBands:
-            return "VFO bands";
+            return MESSAGE("VFO bands");
         case kBankLayout:
-            return "Bank layout";
+            return MESSAGE("Bank layout");
         case kSettingsGroup:
-            return "Settings";
+            return MESSAGE("Settings");
         default:
             break;
     }
     const RowGroup* rows = GroupOfSelector(group);
-    return rows != nullptr ? std::string(rows->spoken) : SelectorText(group);
+    return rows != nullptr ? Message(rows->spoken) : SelectorText(group);
 }
 
 bool DifferentItem::IsMoved() const

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <compare>
-#include <string>
 #include <vector>
 
 #include "image/clone_image.h"
+#include "language/message.h"
 #include "memory/row_fields.h"
 
 namespace rqm5 {
@@ -46,21 +46,21 @@ enum ComparedGroup {
 };
 
 /// "Bank 3", "Program Scan", "In no bank", "VFO bands", "Bank layout", "Settings".
-std::string ComparedGroupName(int group);
+Message ComparedGroupName(int group);
 
 /// How something differs. What is here is what is compared; there is what it is compared with.
 struct DifferentItem
 {
     ItemId id;
     int group;
-    std::string name;  ///< "Bank 0, channel 12", "Lamp"
-    std::string here;  ///< in short
-    std::string there;
+    Message name;  ///< "Bank 0, channel 12", "Lamp"
+    Message here;  ///< in short
+    Message there;
     FieldPairs fields = {};  ///< of a row: here and there; empty for anything else
     bool isHere = true;      ///< a memory row holds a channel
     bool isThere = true;
-    std::string movedTo = {};    ///< where there has the channel that is here, in words
-    std::string movedFrom = {};  ///< where here has the channel that is there, in words
+    Message movedTo = {};    ///< where there has the channel that is here, in words
+    Message movedFrom = {};  ///< where here has the channel that is there, in words
 
     /// Nothing is new in the row, on neither side: channels have only changed their places.
     bool IsMoved() const;

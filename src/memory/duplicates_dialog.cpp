@@ -9,6 +9,7 @@
 
 #include "image/display_text.h"
 #include "image/number_text.h"
+#include "language/translated.h"
 #include "memory/duplicates.h"
 #include "memory/row_names.h"
 #include "ui/form_texts.h"
@@ -29,7 +30,7 @@ dlgDuplicates::dlgDuplicates(const Document& document, QWidget* parent)
       lstDuplicates_(new QTreeWidget(this))
 {
     setObjectName(QStringLiteral("dlgDuplicates"));
-    setWindowTitle(tr("Duplicates"));
+    setWindowTitle(Designed(QT_TR_NOOP("Duplicates")));
     Build();
     connect(lstDuplicates_, &QTreeWidget::itemClicked, this,
             [this](const QTreeWidgetItem* item) { emit PlaceChosen(item->data(0, Qt::UserRole).toInt()); });
@@ -52,8 +53,10 @@ void dlgDuplicates::Build()
     lblDuplicates_->setObjectName(QStringLiteral("lblDuplicates"));
     lblDuplicates_->setTextFormat(Qt::PlainText);
     lstDuplicates_->setObjectName(QStringLiteral("lstDuplicates"));
-    lstDuplicates_->setAccessibleName(tr("Frequencies that are stored more than once"));
-    lstDuplicates_->setHeaderLabels({tr("Frequency and place"), tr("Mode"), tr("State"), tr("Note")});
+    lstDuplicates_->setAccessibleName(Designed(QT_TR_NOOP("Frequencies that are stored more than once")));
+    lstDuplicates_->setHeaderLabels({Designed(QT_TR_NOOP("Frequency and place")),
+                                     Designed(QT_TR_NOOP("Mode")), Designed(QT_TR_NOOP("State")),
+                                     Designed(QT_TR_NOOP("Note"))});
     lstDuplicates_->setUniformRowHeights(true);
     // A second click is for the row it goes to.
     lstDuplicates_->setExpandsOnDoubleClick(false);
@@ -86,9 +89,9 @@ void dlgDuplicates::ShowDuplicates()
                                        .arg(entry.rows.size()));
         frequency->setData(0, Qt::UserRole, entry.rows.front());
         for (const int row : entry.rows) {
-            const std::string place = PlaceOfRow(image, row);
+            const Message place = PlaceOfRow(image, row);
             auto* item = new QTreeWidgetItem(frequency);
-            item->setText(kPlace, QString::fromStdString(place.empty() ? RowLabel(image, row) : place));
+            item->setText(kPlace, Translated(place.empty() ? RowLabel(image, row) : place));
             item->setText(kTreeMode, QString::fromStdString(image.MemText(row, kMode)));
             item->setText(kState, image.MemEnable(row) ? tr("on") : tr("off"));
             item->setText(kTreeNote, QString::fromStdString(
@@ -115,8 +118,10 @@ void dlgDuplicates::Present()
 
 void dlgDuplicates::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         SetFormTexts(*this);
+        ShowDuplicates();
+    }
     QDialog::changeEvent(event);
 }
 

@@ -46,16 +46,19 @@ std::string NameText(int value)
 }
 
 constexpr Choices kChoices[] = {
-    {kMode, &ChannelFields::mode, static_cast<int>(ModeName.size()), NameText<ModeName>, "FM, AM or WFM"},
+    {kMode, &ChannelFields::mode, static_cast<int>(ModeName.size()), NameText<ModeName>,
+     MESSAGE("FM, AM or WFM")},
     {kStep, &ChannelFields::step, static_cast<int>(StepName.size()), NameText<StepName>,
-     "a step of the receiver, such as 12.5KHz"},
+     MESSAGE("a step of the receiver, such as 12.5KHz")},
     {kOption, &ChannelFields::option, static_cast<int>(OptionName.size()), NameText<OptionName>,
-     "OFF, SCRT, Carrier, Tone or Rev."},
-    {kSecret, &ChannelFields::secret, kSecretCodes, [](int code) { return std::to_string(code); }, "0 to 16"},
-    {kCarrier, &ChannelFields::carrier, kCarrierJr + 1, CarrierText, "300Hz to 3000Hz or JR"},
+     MESSAGE("OFF, SCRT, Carrier, Tone or Rev.")},
+    {kSecret, &ChannelFields::secret, kSecretCodes, [](int code) { return std::to_string(code); },
+     MESSAGE("0 to 16")},
+    {kCarrier, &ChannelFields::carrier, kCarrierJr + 1, CarrierText, MESSAGE("300Hz to 3000Hz or JR")},
     {kTone, &ChannelFields::tone, static_cast<int>(ToneName.size()), NameText<ToneName>,
-     "a CTCSS tone, such as 88.5Hz"},
-    {kShift, &ChannelFields::shift, static_cast<int>(ShiftName.size()), NameText<ShiftName>, "OFF, + or -"},
+     MESSAGE("a CTCSS tone, such as 88.5Hz")},
+    {kShift, &ChannelFields::shift, static_cast<int>(ShiftName.size()), NameText<ShiftName>,
+     MESSAGE("OFF, + or -")},
 };
 
 /// Other words for a value.
@@ -123,54 +126,63 @@ std::optional<int> CodeOf(int part, const std::string& typed)
     return std::nullopt;
 }
 
-std::string Refusal(int part, std::string_view text)
+Message Refusal(int part, std::string_view text)
 {
     const Choices* choices = ChoicesOf(part);
-    const std::string_view range = choices != nullptr ? choices->range : "on or off";
     const auto* word = std::ranges::find(kFieldWords, part, &FieldWord::part);
-    return std::string(word->word) + " \"" + std::string(text) + "\": it is " + std::string(range);
+    return {MESSAGE("%1 \"%2\": it is %3"),
+            {word->word, text, choices != nullptr ? choices->range : MESSAGE("on or off")}};
 }
 
-std::variant<FieldValue, std::string> ReadMegahertz(int part, std::string_view text)
+std::variant<FieldValue, Message> ReadMegahertz(int part, std::string_view text)
 {
     const std::string small = Small(text);
     const std::string_view number = WithoutUnit(small, "mhz");
     if (!IsNumber(number))
-        return "\"" + std::string(text) + "\" is no number of MHz, such as 145.5";
+        return Message(MESSAGE("\"%1\" is no number of MHz, such as 145.5"), {text});
     return FieldValue{.part = part, .hertz = ReadHertz(number)};
 }
 
 /// Why the model region has no such value.
-std::string RegionFault(const CloneImage& image, const FieldValue& value)
+Message RegionFault(const CloneImage& image, const FieldValue& value)
 {
     const Region& region = RegionOf(image.ModelNo());
     const bool isSecret = value.part == kSecret || (value.part == kOption && value.code == kSecretOption);
     const bool isCarrier = value.part == kCarrier || (value.part == kOption && value.code == kCarrierOption);
-    if ((isSecret && !region.hasSecretCode) || (isCarrier && !region.hasCarrier))
-        return "the " + std::string(region.model) + " has no " + (isSecret ? "secret code" : "carrier");
+    if (isSecret && !region.hasSecretCode)
+        return {MESSAGE("the %1 has no secret code"), {region.model}};
+    if (isCarrier && !region.hasCarrier)
+        return {MESSAGE("the %1 has no carrier"), {region.model}};
     return {};
 }
 
-std::string FrequencyFault(const CloneImage& image, RowId id, std::int64_t hertz)
+Message FrequencyFault(const CloneImage& image, RowId id, std::int64_t hertz)
 {
     if (id.IsMemory())
-        return std::string(VerdictText(JudgeFrequency(image, id.row, hertz)));
+        return VerdictText(JudgeFrequency(image, id.row, hertz));
     const CheckedEntry entry = CheckFrequency(image, id, kSelectAll, FormatMegahertz(hertz));
     if (entry.verdict == Verdict::OutOfRange)
-        return "This VFO band takes " + FrequencyRangeText(image, id) + ".";
-    return std::string(VerdictText(entry.verdict));
+        return {MESSAGE("This VFO band takes %1."), {FrequencyRangeText(image, id)}};
+    return VerdictText(entry.verdict);
 }
 
-std::string ValueFault(const CloneImage& image, RowId id, const FieldValue& value)
+Message VfoFault(int part)
+{
+    return part == kNote       ? MESSAGE("a VFO band has no note")
+           : part == kSkipPart ? MESSAGE("a VFO band has no skip")
+                               : MESSAGE("a VFO band has no enabled");
+}
+
+Message ValueFault(const CloneImage& image, RowId id, const FieldValue& value)
 {
     if (!id.IsMemory() && (value.part == kNote || value.part == kSkipPart || value.part == kEnabledPart))
-        return "a VFO band has no " + Small(PartName(value.part));
+        return VfoFault(value.part);
     if (value.part == kFrequency)
         return FrequencyFault(image, id, value.hertz);
     if (value.part == kShiftFrequency && value.hertz >= kMostOffset * kHertzPerMegahertz)
-        return "Offsets are below 100 MHz.";
+        return MESSAGE("Offsets are below 100 MHz.");
     if (value.part == kStep && !HasStepButton(value.code))
-        return "the editor has no step " + std::string(TextAt(StepName, value.code));
+        return {MESSAGE("the editor has no step %1"), {TextAt(StepName, value.code)}};
     return RegionFault(image, value);
 }
 
@@ -196,15 +208,15 @@ std::optional<int> PartOfWord(std::string_view word)
     return found != std::end(kFieldWords) ? std::optional(found->part) : std::nullopt;
 }
 
-std::string FieldWords()
+Message FieldWords()
 {
     std::string words;
-    for (std::size_t i = 0; i < kFirstWords; ++i)
-        words += (i == 0 ? "" : i + 1 < kFirstWords ? ", " : " or ") + std::string(kFieldWords[i].word);
-    return words;
+    for (std::size_t i = 0; i + 1 < kFirstWords; ++i)
+        words.append(i == 0 ? "" : ", ").append(kFieldWords[i].word);
+    return {MESSAGE("%1 or %2"), {words, kFieldWords[kFirstWords - 1].word}};
 }
 
-std::variant<FieldValue, std::string> ReadFieldValue(int part, std::string_view text)
+std::variant<FieldValue, Message> ReadFieldValue(int part, std::string_view text)
 {
     if (part == kFrequency || part == kShiftFrequency)
         return ReadMegahertz(part, text);
@@ -215,14 +227,14 @@ std::variant<FieldValue, std::string> ReadFieldValue(int part, std::string_view 
     return Refusal(part, text);
 }
 
-std::variant<FieldValue, std::string> ReadAssignment(std::string_view text)
+std::variant<FieldValue, Message> ReadAssignment(std::string_view text)
 {
     const std::size_t equals = text.find('=');
     if (equals == std::string_view::npos)
-        return "\"" + std::string(text) + "\" is no FIELD=VALUE, such as mode=AM";
+        return Message(MESSAGE("\"%1\" is no FIELD=VALUE, such as mode=AM"), {text});
     const auto part = PartOfWord(Small(text.substr(0, equals)));
     if (!part)
-        return "\"" + std::string(text.substr(0, equals)) + "\" is no field; it is " + FieldWords();
+        return Message(MESSAGE("\"%1\" is no field; it is %2"), {text.substr(0, equals), FieldWords()});
     return ReadFieldValue(*part, text.substr(equals + 1));
 }
 
@@ -253,12 +265,12 @@ bool HasValue(const Channel& channel, const FieldValue& value)
     return field != kCodeFields.end() && channel.*(field->value) == value.code;
 }
 
-std::string AssignFields(CloneImage& image, RowId id, std::span<const FieldValue> values)
+Message AssignFields(CloneImage& image, RowId id, std::span<const FieldValue> values)
 {
     if (!CanModify(image, id))
-        return "the model region does not have it";
+        return MESSAGE("the model region does not have it");
     for (const FieldValue& value : values)
-        if (std::string fault = ValueFault(image, id, value); !fault.empty())
+        if (Message fault = ValueFault(image, id, value); !fault.empty())
             return fault;
     if (id.IsMemory() && !image.At(id).HasChannel())
         for (const FieldValue& value : values)

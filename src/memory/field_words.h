@@ -8,6 +8,7 @@
 #include <variant>
 
 #include "image/clone_image.h"
+#include "language/message.h"
 
 namespace rqm5 {
 
@@ -26,13 +27,13 @@ struct FieldValue
 std::optional<int> PartOfWord(std::string_view word);
 
 /// Every word of PartOfWord, for messages: "freq, mode, ... or enabled".
-std::string FieldWords();
+Message FieldWords();
 
 /// A value as the table writes it, in letters of any case, units left out or not; else what it could be.
-std::variant<FieldValue, std::string> ReadFieldValue(int part, std::string_view text);
+std::variant<FieldValue, Message> ReadFieldValue(int part, std::string_view text);
 
 /// "FIELD=VALUE"; else what is wrong with it.
-std::variant<FieldValue, std::string> ReadAssignment(std::string_view text);
+std::variant<FieldValue, Message> ReadAssignment(std::string_view text);
 
 /// True when a row with a channel has the value; a note is compared as a whole.
 bool HasValue(const Channel& channel, const FieldValue& value);
@@ -41,6 +42,6 @@ bool HasValue(const Channel& channel, const FieldValue& value);
 ///
 /// A frequency makes a channel of an empty row, as typing it into the table does.
 /// \return why it is refused; empty when it is done
-std::string AssignFields(CloneImage& image, RowId id, std::span<const FieldValue> values);
+Message AssignFields(CloneImage& image, RowId id, std::span<const FieldValue> values);
 
 }  // namespace rqm5

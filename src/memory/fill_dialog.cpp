@@ -13,6 +13,7 @@
 
 #include "image/number_text.h"
 #include "image/value_tables.h"
+#include "language/translated.h"
 #include "memory/row_names.h"
 #include "ui/key_filter.h"
 #include "ui/plain_text.h"
@@ -153,7 +154,7 @@ void dlgFill::FillLikes()
         const Channel& channel = image_.MemData(row);
         if (!channel.HasChannel())
             continue;
-        std::string text = PlaceOfRow(image_, row) + ": ";
+        std::string text = Said(PlaceOfRow(image_, row)) + ": ";
         for (const Column column : {kFrequency, kMode, kStep})
             text += CellText(channel, RowKind::Memory, kNoRegion, column) + " ";
         cbbFillLike_->addItem(QString::fromStdString(text).trimmed(), row);
@@ -190,7 +191,7 @@ void dlgFill::ShowPlan()
 {
     const PastePlan plan = Plan();
     model_.ShowPlan(plan);
-    lblFillSummary_->setText(PlanSummary(image_, plan));
+    lblFillSummary_->setText(Translated(PlanSummary(image_, plan)));
     ok_->setEnabled(!RowsWritten(plan).empty());
 }
 

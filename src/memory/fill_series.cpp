@@ -33,7 +33,7 @@ PastePlan PlanSeries(const CloneImage& image, RowRange rows, int from, const Fil
         comes.channel = ChannelAt(image, series, hertz);
         comes.given = Parts::All();
         if (hertz <= 0)
-            comes.refusal = "the series ends at 0";
+            comes.refusal = MESSAGE("the series ends at 0");
     }
     return PlanPaste(image, series.skipsOccupied ? EmptyRows(image, rest) : RowsOf(rest), channels);
 }

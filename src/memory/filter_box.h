@@ -26,8 +26,12 @@ class FilterBox : public QWidget
     void Changed();
 
   private:
+    void ShowTexts();
+
     QComboBox* cbbFilter_;
     QLabel* lblShown_;
+    int shown_ = 0;
+    int all_ = 0;
 };
 
 }  // namespace rqm5

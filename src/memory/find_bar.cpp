@@ -6,8 +6,11 @@
 #include <algorithm>
 
 #include "image/display_text.h"
+#include "language/language.h"
+#include "language/translated.h"
 #include "memory/channel_search.h"
 #include "memory/row_names.h"
+#include "ui/form_texts.h"
 #include "ui/table_font.h"
 
 namespace rqm5 {
@@ -27,10 +30,10 @@ FindBar::FindBar(const Document& document, QWidget* page)
       lstFound_(new QListWidget(page))
 {
     txtFind_->setObjectName(QStringLiteral("txtFind"));
-    txtFind_->setAccessibleName(tr("Find channels"));
-    txtFind_->setPlaceholderText(tr("Find (Ctrl+F)"));
-    txtFind_->setStatusTip(
-        tr("Frequency, note, mode or tone, in all groups. Enter goes there, F3 to the next"));
+    txtFind_->setAccessibleName(Designed(QT_TR_NOOP("Find channels")));
+    txtFind_->setPlaceholderText(Designed(QT_TR_NOOP("Find (Ctrl+F)")));
+    txtFind_->setStatusTip(Designed(
+        QT_TR_NOOP("Frequency, note, mode or tone, in all groups. Enter goes there, F3 to the next")));
     txtFind_->setClearButtonEnabled(true);
     txtFind_->installEventFilter(this);
     setFocusProxy(txtFind_);
@@ -38,7 +41,7 @@ FindBar::FindBar(const Document& document, QWidget* page)
     lblFound_->setTextFormat(Qt::PlainText);
     lblFound_->setMinimumWidth(fontMetrics().averageCharWidth() * kCountLetters);
     lstFound_->setObjectName(QStringLiteral("lstFound"));
-    lstFound_->setAccessibleName(tr("Channels found"));
+    lstFound_->setAccessibleName(Designed(QT_TR_NOOP("Channels found")));
     lstFound_->setFrameStyle(QFrame::Box | QFrame::Plain);
     // The box keeps the focus, so that one can go on typing.
     lstFound_->setFocusPolicy(Qt::NoFocus);
@@ -58,6 +61,8 @@ FindBar::FindBar(const Document& document, QWidget* page)
     };
     connect(&document, &Document::Changed, this, expire);
     connect(&document, &Document::Replaced, this, expire);
+    connect(&Language::OfProgram(), &Language::Changed, this, expire);
+    connect(&Language::OfProgram(), &Language::Changed, this, &FindBar::ShowCount);
 }
 
 void FindBar::Begin()
@@ -126,10 +131,10 @@ QString FindBar::LineOf(int row) const
     constexpr int kModeLetters = 5;
     constexpr int kNoteLetters = 60;
     const CloneImage& image = document_.Image();
-    const std::string place = PlaceOfRow(image, row);
+    const Message place = PlaceOfRow(image, row);
     const std::string frequency = image.MemText(row, kFrequency);
     const auto indent = static_cast<std::size_t>(std::max(0, kFrequencyDigits - DisplayWidth(frequency)));
-    const std::string line = PadToWidth(place.empty() ? RowLabel(image, row) : place, kPlace) +
+    const std::string line = PadToWidth(Said(place.empty() ? RowLabel(image, row) : place), kPlace) +
                              std::string(indent, ' ') + frequency + "  " +
                              PadToWidth(image.MemText(row, kMode), kModeLetters) +
                              VisibleText(CutToWidth(image.MemData(row).note, kNoteLetters));

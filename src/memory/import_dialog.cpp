@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "files/list_map.h"
+#include "language/translated.h"
 #include "memory/import_form.h"
 #include "memory/import_target.h"
 #include "memory/named_rows.h"
@@ -188,7 +189,7 @@ void dlgImport::ShowPlan()
 {
     plan_ = target_->PlanOf(channels_);
     planned_.ShowPlan(plan_);
-    lblImportSummary_->setText(PlanSummary(image_, plan_));
+    lblImportSummary_->setText(Translated(PlanSummary(image_, plan_)));
     ok_->setEnabled(!RowsWritten(plan_).empty());
 }
 

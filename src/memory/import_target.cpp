@@ -6,6 +6,7 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 
+#include "language/translated.h"
 #include "memory/bank_layout.h"
 #include "memory/named_rows.h"
 #include "memory/row_moves.h"
@@ -62,7 +63,7 @@ void ImportTarget::FillGroups()
 {
     for (int selector = 0; selector < kSelectAll; ++selector)
         if (GroupRows(image_, selector).count > 0)
-            cbbImportGroup_->addItem(QString::fromStdString(SelectorText(selector)), selector);
+            cbbImportGroup_->addItem(Translated(SelectorText(selector)), selector);
     if (TotalBankSize(image_) < kBankRows)
         cbbImportGroup_->addItem(tr("In no bank"), kSelectAll);
     FillChannels();

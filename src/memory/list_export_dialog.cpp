@@ -8,6 +8,7 @@
 #include <QLocale>
 #include <QPushButton>
 
+#include "language/translated.h"
 #include "memory/bank_layout.h"
 #include "memory/row_moves.h"
 #include "ui/tall_area.h"
@@ -92,7 +93,7 @@ void dlgExportList::FillGroups()
     for (int selector = 0; selector < kSelectAll; ++selector) {
         const RowRange rows = GroupRows(image_, selector);
         if (rows.count > 0)
-            AddEntry(*lstExportGroups_, QString::fromStdString(SelectorText(selector)), selector,
+            AddEntry(*lstExportGroups_, Translated(SelectorText(selector)), selector,
                      !ChannelsAmong(image_, RowsOf(rows)).empty());
     }
     if (const int used = TotalBankSize(image_); used < kBankRows)

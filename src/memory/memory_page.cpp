@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "files/safe_notes.h"
+#include "language/translated.h"
 #include "memory/bank_list.h"
 #include "memory/filter_box.h"
 #include "memory/find_bar.h"
@@ -16,6 +17,7 @@
 #include "memory/refusal_prompt.h"
 #include "memory/row_actions.h"
 #include "ui/fold_button.h"
+#include "ui/form_texts.h"
 #include "ui/table_font.h"
 #include "ui/tall_area.h"
 #include "ui/transfer_buttons.h"
@@ -40,7 +42,8 @@ MemoryPage::MemoryPage(Document& document, Dialogs& dialogs, QWidget* parent)
     middle->addWidget(table_, 1);
     auto* operations = new TallArea(new OperationButtons(*rows_), this);
     operations->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
-    auto* fold = new FoldButton(*operations, QStringLiteral("Memory/ButtonsFolded"), tr("operation buttons"));
+    auto* fold = new FoldButton(*operations, QStringLiteral("Memory/ButtonsFolded"),
+                                MESSAGE("Show the operation buttons"), MESSAGE("Hide the operation buttons"));
     fold->setObjectName(QStringLiteral("cmbFold"));
     middle->addWidget(fold);
     middle->addWidget(operations);
@@ -123,7 +126,7 @@ QLayout* MemoryPage::BuildSelectorRow()
     cbbBank_->installEventFilter(this);
     connect(cbbBank_, &QComboBox::currentIndexChanged, this, &MemoryPage::cbbBank_Click);
 
-    auto* label = new QLabel(tr("Ban&k:"));
+    auto* label = new QLabel(Designed(QT_TR_NOOP("Ban&k:")));
     label->setBuddy(cbbBank_);
     auto* row = new QHBoxLayout;
     row->addWidget(label);
@@ -135,9 +138,12 @@ QLayout* MemoryPage::BuildSelectorRow()
 
 QLayout* MemoryPage::BuildTransferRow()
 {
-    const TransferButtons buttons("cmbRxData", tr("Read &Memory"), "cmbTxData", tr("Write Memor&y"));
-    buttons.read->setStatusTip(tr("Read the channels of the selected group from the receiver"));
-    buttons.write->setStatusTip(tr("Write the channels of the selected group to the receiver"));
+    const TransferButtons buttons("cmbRxData", Designed(QT_TR_NOOP("Read &Memory")), "cmbTxData",
+                                  Designed(QT_TR_NOOP("Write Memor&y")));
+    buttons.read->setStatusTip(
+        Designed(QT_TR_NOOP("Read the channels of the selected group from the receiver")));
+    buttons.write->setStatusTip(
+        Designed(QT_TR_NOOP("Write the channels of the selected group to the receiver")));
     connect(buttons.read, &QPushButton::clicked, this, &MemoryPage::ReadRequested);
     connect(buttons.write, &QPushButton::clicked, this, &MemoryPage::WriteRequested);
     return buttons.row;
@@ -259,7 +265,7 @@ void MemoryPage::cbbBank_LostFocus()
 /// Takes what was typed into a cell, with the editor's checks and messages.
 bool MemoryPage::WriteCell(int row, Column column, const CellInput& input)
 {
-    const QString name = tr("Edit (%1)").arg(selection_.NameOf(row));
+    const Message name(MESSAGE("Edit (%1)"), {selection_.NameOf(row)});
     if (EditorOfCell(Image(), row, column).kind == CellKind::Choice) {
         document_.Edit(name, [&](CloneImage& image) { StoreCellChoice(image, row, column, input.choice); });
         return true;
@@ -272,8 +278,8 @@ bool MemoryPage::WriteCell(int row, Column column, const CellInput& input)
     if (column == kNote)
         emit NotesEntered({row});
     if (checked.verdict == Verdict::OutOfRange)
-        table_->ShowHint(QString::fromStdString(std::string(
-            column == kFrequency ? VerdictText(checked.verdict) : "The offset is below 100 MHz.")));
+        table_->ShowHint(column == kFrequency ? Translated(VerdictText(checked.verdict))
+                                              : tr("The offset is below 100 MHz."));
     else
         ShowRefusal(checked.verdict, dialogs_, *table_);
     return checked.verdict == Verdict::Accepted;

@@ -7,8 +7,10 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "language/language.h"
 #include "memory/channel_delegate.h"
 #include "memory/table_clipboard.h"
+#include "ui/form_texts.h"
 #include "ui/table_font.h"
 
 namespace rqm5 {
@@ -20,7 +22,7 @@ MemoryTable::MemoryTable(const CloneImage& image, QWidget* parent)
       cells_(new ChannelDelegate(image, model_, this))
 {
     setObjectName(QStringLiteral("MSFlexGrid1"));
-    setAccessibleName(tr("Memory channels"));
+    setAccessibleName(Designed(QT_TR_NOOP("Memory channels")));
     setMouseTracking(true);  // the status bar names what is under the pointer
     ShowPlace();
     setModel(&model_);
@@ -36,6 +38,7 @@ MemoryTable::MemoryTable(const CloneImage& image, QWidget* parent)
         if (drop_)
             viewport()->update();
     });
+    connect(&Language::OfProgram(), &Language::Changed, this, &MemoryTable::ShowPlace);
     ChangeFont(*this);
 }
 

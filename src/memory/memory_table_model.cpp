@@ -6,6 +6,7 @@
 #include <QPalette>
 #include <utility>
 
+#include "language/translated.h"
 #include "memory/cell_edit.h"
 #include "memory/row_names.h"
 #include "memory/table_titles.h"
@@ -89,8 +90,8 @@ QString MemoryTableModel::Place(int row) const
 {
     if (selector_ != kSelectAll)
         return {};
-    const std::string place = PlaceOfRow(image_, MemoryRow(row));
-    return place.empty() ? tr("In no bank") : QString::fromStdString(place);
+    const Message place = PlaceOfRow(image_, MemoryRow(row));
+    return place.empty() ? tr("In no bank") : Translated(place);
 }
 
 std::string MemoryTableModel::Cell(int row, Column column) const

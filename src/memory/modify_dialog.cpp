@@ -10,13 +10,21 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "language/translated.h"
 #include "memory/bank_layout.h"
 #include "memory/modify_form.h"
 #include "memory/refusal_prompt.h"
+#include "ui/form_texts.h"
 #include "ui/leave_watch.h"
 #include "ui/tall_area.h"
 
 namespace rqm5 {
+namespace {
+
+constexpr QKeyCombination kPreviousKey = Qt::ALT | Qt::Key_PageUp;
+constexpr QKeyCombination kNextKey = Qt::ALT | Qt::Key_PageDown;
+
+}  // namespace
 
 dlgModify::dlgModify(Document& document, Dialogs& dialogs, QWidget* parent)
     : QDialog(parent),
@@ -32,9 +40,8 @@ dlgModify::dlgModify(Document& document, Dialogs& dialogs, QWidget* parent)
     // The check boxes and buttons stay in sight when the form has to scroll.
     QBoxLayout* lastRow = form_->TakeLastRow();
     layout->addLayout(lastRow);
-    PreviousButton_ =
-        AddStepButton("PreviousButton", tr("&Previous"), QKeySequence(Qt::ALT | Qt::Key_PageUp), -1);
-    NextButton_ = AddStepButton("NextButton", tr("Ne&xt"), QKeySequence(Qt::ALT | Qt::Key_PageDown), 1);
+    PreviousButton_ = AddStepButton("PreviousButton", Designed(QT_TR_NOOP("&Previous")), kPreviousKey, -1);
+    NextButton_ = AddStepButton("NextButton", Designed(QT_TR_NOOP("Ne&xt")), kNextKey, 1);
     // After the check boxes, which Tab reaches first then.
     lastRow->addWidget(BuildButtons());
 
@@ -42,6 +49,24 @@ dlgModify::dlgModify(Document& document, Dialogs& dialogs, QWidget* parent)
     connect(new LeaveWatch(*shift_.box), &LeaveWatch::Left, this, &dlgModify::txtShift_LostFocus);
     connect(frequency_.box, &QLineEdit::textEdited, this, &dlgModify::txtFreq_Change);
     connect(form_->chkEnable(), &QCheckBox::clicked, this, [this] { mayTickEnable_ = false; });
+    ShowTexts();
+}
+
+/// One editor serves all languages that are chosen while the program runs.
+void dlgModify::ShowTexts()
+{
+    SetFormTexts(*this);
+    form_->FitTexts();
+    for (const auto& [button, key] : {std::pair(PreviousButton_, kPreviousKey), {NextButton_, kNextKey}})
+        button->setToolTip(tr("Store what was changed and go on (%1)")
+                               .arg(QKeySequence(key).toString(QKeySequence::NativeText)));
+}
+
+void dlgModify::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        ShowTexts();
+    QDialog::changeEvent(event);
 }
 
 QWidget* dlgModify::BuildButtons()
@@ -50,9 +75,9 @@ QWidget* dlgModify::BuildButtons()
     QPushButton* ok = buttons->button(QDialogButtonBox::Ok);
     ok->setObjectName(QStringLiteral("OKButton"));
     ok->setDefault(true);
-    OKNextButton_ = buttons->addButton(tr("OK and Next"), QDialogButtonBox::ActionRole);
+    OKNextButton_ = buttons->addButton(Designed(QT_TR_NOOP("OK and Next")), QDialogButtonBox::ActionRole);
     OKNextButton_->setObjectName(QStringLiteral("OKNextButton"));
-    OKNextButton_->setToolTip(tr("Store the row and go on with the next one (Ctrl+Enter)"));
+    OKNextButton_->setToolTip(Designed(QT_TR_NOOP("Store the row and go on with the next one (Ctrl+Enter)")));
     OKNextButton_->setAutoDefault(false);
     QPushButton* cancel = buttons->button(QDialogButtonBox::Cancel);
     cancel->setObjectName(QStringLiteral("CancelButton"));
@@ -74,8 +99,6 @@ QPushButton* dlgModify::AddStepButton(const char* name, const QString& text, con
 {
     auto* button = new QPushButton(text, this);
     button->setObjectName(QLatin1String(name));
-    button->setToolTip(
-        tr("Store what was changed and go on (%1)").arg(key.toString(QKeySequence::NativeText)));
     button->setAutoDefault(false);
     button->setFocusPolicy(Qt::TabFocus);
     connect(button, &QPushButton::clicked, this, [this, step] { GoOn(step, false); });
@@ -109,7 +132,7 @@ bool dlgModify::OpenSeveral(const RowList& rows, int selector)
     rows_ = rows;
     isHeld_ = false;
     mayTickEnable_ = false;
-    ShowForm(tr("%1 channels").arg(rows.size()), LoadShared(document_.Image(), rows));
+    ShowForm({MESSAGE("%1 channels"), {static_cast<int>(rows.size())}}, LoadShared(document_.Image(), rows));
     return Run();
 }
 
@@ -132,19 +155,19 @@ void dlgModify::ShowRow(RowId row)
     isHeld_ = row.IsMemory() && form_->IsHeld() && confirmed_.has_value() && !image.At(row).HasChannel();
     ChannelFields shown = isHeld_ ? *confirmed_ : stored;
     shown.note = stored.note;  // what is noted of one channel is seldom true of another
-    ShowForm(RowName(), {shown});
+    ShowForm(RowName(MESSAGE("%1  CH %2")), {shown});
     // Held values were confirmed with their flag.
     mayTickEnable_ = row.IsMemory() && !isHeld_ && !image.At(row).HasChannel();
     frequency_.checked = QString::fromStdString(stored.frequency);
     shift_.checked = QString::fromStdString(stored.shiftFrequency);
 }
 
-void dlgModify::ShowForm(const QString& name, const SharedFields& shown)
+void dlgModify::ShowForm(const Message& name, const SharedFields& shown)
 {
     const CloneImage& image = document_.Image();
     form_->SetAvailable(row_.IsMemory(), RegionOf(image.ModelNo()));
-    form_->ShowRow(row_.IsMemory() ? tr("Memory") : tr("VFO"), name,
-                   QString::fromStdString(FrequencyRangeText(image, row_)));
+    form_->ShowRow(row_.IsMemory() ? tr("Memory") : tr("VFO"), Translated(name),
+                   Translated(FrequencyRangeText(image, row_)));
     form_->ShowShared(shown, IsSeveral());
     shown_ = shown;
     frequency_.checked = QString::fromStdString(shown.fields.frequency);
@@ -156,20 +179,20 @@ void dlgModify::ShowForm(const QString& name, const SharedFields& shown)
     OKNextButton_->setEnabled(Neighbour(1).has_value());
 }
 
-QString dlgModify::RowName() const
+/// \param inGroup  the message for a row of a bank or group
+Message dlgModify::RowName(const char* inGroup) const
 {
     if (!row_.IsMemory())
-        return tr("Band %1").arg(row_.row);
+        return {MESSAGE("Band %1"), {row_.row}};
     const CloneImage& image = document_.Image();
     // The view of all rows does not say where a row is, so its bank or group names it there too.
     const int selector = selector_ == kSelectAll ? SelectorOfRow(image, row_.row) : selector_;
     const auto labels = BuildChannelLabels(image, selector);
     const auto place = static_cast<std::size_t>(row_.row - GroupRows(image, selector).first);
-    const QString label =
-        place < labels.size() ? QString::fromStdString(labels[place]) : QString::number(row_.row);
+    const Message label = place < labels.size() ? Message(labels[place]) : Message(row_.row);
     if (selector == kSelectAll)
-        return tr("CH %1").arg(label);
-    return tr("%1  CH %2").arg(QString::fromStdString(SelectorText(selector)), label);
+        return {MESSAGE("CH %1"), {label}};
+    return {inGroup, {SelectorText(selector), label}};
 }
 
 /// The rows that Previous and Next go through: those that the table shows now.
@@ -283,12 +306,12 @@ bool dlgModify::Store()
         return false;
     const SharedFields entered = form_->Shared();
     if (IsSeveral()) {
-        const QString group = QString::fromStdString(SelectorText(selector_));
-        document_.Edit(tr("Modify (%1, %2 channels)").arg(group).arg(rows_.size()),
-                       [&](CloneImage& image) { StoreShared(image, rows_, shown_, entered); });
+        document_.Edit(
+            {MESSAGE("Modify (%1, %2 channels)"), {SelectorText(selector_), static_cast<int>(rows_.size())}},
+            [&](CloneImage& image) { StoreShared(image, rows_, shown_, entered); });
         return true;
     }
-    document_.Edit(tr("Modify (%1)").arg(RowName().simplified()),
+    document_.Edit({MESSAGE("Modify (%1)"), {RowName(MESSAGE("%1 CH %2"))}},
                    [&](CloneImage& image) { StoreFields(image, row_, entered.fields); });
     if (row_.IsMemory())
         confirmed_ = entered.fields;

@@ -47,6 +47,7 @@ class dlgModify : public QDialog
     void RowShown(rqm5::RowId row);
 
   protected:
+    void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
   private:
@@ -59,10 +60,11 @@ class dlgModify : public QDialog
     };
 
     QPushButton* AddStepButton(const char* name, const QString& text, const QKeySequence& key, int step);
+    void ShowTexts();
 
     bool Run();
     void ShowRow(RowId row);
-    void ShowForm(const QString& name, const SharedFields& shown);
+    void ShowForm(const Message& name, const SharedFields& shown);
     RowList Neighbours() const;
     std::optional<int> Neighbour(int step) const;
     void GoOn(int step, bool storesAlways);
@@ -74,7 +76,7 @@ class dlgModify : public QDialog
     bool LeaveBox(Entry& entry);
     bool LeaveIfPending(Entry& entry);
     bool IsSeveral() const { return rows_.size() > 1; }
-    QString RowName() const;
+    Message RowName(const char* inGroup) const;
     QWidget* BuildButtons();
     void FocusFrequency();
     void txtFreq_Change(const QString& typed);

@@ -10,6 +10,7 @@
 
 #include "image/value_tables.h"
 #include "memory/note_line.h"
+#include "ui/form_texts.h"
 #include "ui/key_filter.h"
 
 namespace rqm5 {
@@ -68,7 +69,7 @@ ModifyForm::ModifyForm(QWidget* parent)
       lblMHz_(PlainLabel("lblMHz")),
       txtFreq_(MegahertzBox("txtFreq")),
       txtShift_(MegahertzBox("txtShift")),
-      chkHold_(Named(new QCheckBox(tr("&Hold")), "chkHold")),
+      chkHold_(Named(new QCheckBox(Designed(QT_TR_NOOP("&Hold"))), "chkHold")),
       titleRow_(new QHBoxLayout),
       lastRow_(new QHBoxLayout),
       opbWave_(
@@ -79,11 +80,11 @@ ModifyForm::ModifyForm(QWidget* parent)
       cbbSec_(Named(new QComboBox, "cbbSec")),
       cbbAir_(Named(new QComboBox, "cbbAir")),
       cbbTxTone_(Named(new QComboBox, "cbbTxTone")),
-      lblNote_(new QLabel(tr("&Note"))),
+      lblNote_(new QLabel(Designed(QT_TR_NOOP("&Note")))),
       txtNote_(Named(new QLineEdit, "txtNote")),
       noteLine_(new NoteLine(*txtNote_)),
-      chkSkip_(Named(new QCheckBox(tr("S&kip")), "chkSkip")),
-      chkEnable_(Named(new QCheckBox(tr("&Enable")), "chkEnable"))
+      chkSkip_(Named(new QCheckBox(Designed(QT_TR_NOOP("S&kip"))), "chkSkip")),
+      chkEnable_(Named(new QCheckBox(Designed(QT_TR_NOOP("&Enable"))), "chkEnable"))
 {
     auto* left = new QVBoxLayout;
     left->addLayout(BuildFrequency());
@@ -123,7 +124,7 @@ void ModifyForm::AddToTitle(QWidget* button)
 
 QLayout* ModifyForm::BuildFrequency()
 {
-    auto* label = new QLabel(tr("&Frequency"));
+    auto* label = new QLabel(Designed(QT_TR_NOOP("&Frequency")));
     label->setBuddy(txtFreq_);
     auto* row = new QHBoxLayout;
     row->addWidget(label);
@@ -148,26 +149,30 @@ QWidget* ModifyForm::BuildCodes()
         cbbAir_->addItem(QString::fromStdString(CarrierText(code)));
     for (const std::string_view tone : ToneName)
         cbbTxTone_->addItem(QString::fromUtf8(tone.data(), static_cast<qsizetype>(tone.size())));
-    auto* box = new QGroupBox(tr("Codes and tones"));
-    auto* form = new QFormLayout(box);
-    form->addRow(tr("&Secret code"), cbbSec_);
-    form->addRow(tr("T&rain tone"), cbbAir_);
-    form->addRow(tr("&CTCSS tone"), cbbTxTone_);
+    auto* box = new QGroupBox(Designed(QT_TR_NOOP("Codes and tones")));
+    codes_ = new QFormLayout(box);
+    codes_->addRow(Designed(QT_TR_NOOP("&Secret code")), cbbSec_);
+    codes_->addRow(Designed(QT_TR_NOOP("T&rain tone")), cbbAir_);
+    codes_->addRow(Designed(QT_TR_NOOP("&CTCSS tone")), cbbTxTone_);
+    return box;
+}
+
+void ModifyForm::FitTexts()
+{
     // On a screen whose scale is no whole number a text can be a little wider than it says.
     for (QWidget* list : {cbbSec_, cbbAir_, cbbTxTone_}) {
-        QWidget* label = form->labelForField(list);
+        QWidget* label = codes_->labelForField(list);
         label->setMinimumWidth(label->sizeHint().width() + 2);
     }
-    return box;
 }
 
 QLayout* ModifyForm::BuildShift()
 {
-    auto* offset = new QGroupBox(tr("&Offset Frequency"));
-    txtShift_->setAccessibleName(tr("Offset Frequency"));
+    auto* offset = new QGroupBox(Designed(QT_TR_NOOP("&Offset Frequency")));
+    txtShift_->setAccessibleName(Designed(QT_TR_NOOP("Offset Frequency")));
     auto* box = new QHBoxLayout(offset);
     box->addWidget(txtShift_, 1);
-    box->addWidget(new QLabel(tr("MHz")));
+    box->addWidget(new QLabel(Designed(QT_TR_NOOP("MHz"))));
     auto* row = new QHBoxLayout;
     row->addWidget(opbSift_);
     row->addWidget(offset, 1);
@@ -188,9 +193,10 @@ QLayout* ModifyForm::BuildNote()
 
 void ModifyForm::BuildChecks()
 {
-    chkSkip_->setToolTip(tr("Scanning skips this channel"));
-    chkEnable_->setToolTip(tr("The channel is in use"));
-    chkHold_->setToolTip(tr("The next empty channel starts with the values confirmed here"));
+    chkSkip_->setToolTip(Designed(QT_TR_NOOP("Scanning skips this channel")));
+    chkEnable_->setToolTip(Designed(QT_TR_NOOP("The channel is in use")));
+    chkHold_->setToolTip(
+        Designed(QT_TR_NOOP("The next empty channel starts with the values confirmed here")));
     lastRow_->addWidget(chkSkip_);
     lastRow_->addWidget(chkEnable_);
     lastRow_->addWidget(chkHold_);

@@ -8,6 +8,7 @@
 class QBoxLayout;
 class QCheckBox;
 class QComboBox;
+class QFormLayout;
 class QLabel;
 class QLineEdit;
 
@@ -40,6 +41,9 @@ class ModifyForm : public QWidget
     QLineEdit* txtShift() const { return txtShift_; }
     QCheckBox* chkEnable() const { return chkEnable_; }
 
+    /// Makes room for the texts as they are now.
+    void FitTexts();
+
     /// Puts a button at the right end of the row's name.
     void AddToTitle(QWidget* button);
 
@@ -69,6 +73,7 @@ class ModifyForm : public QWidget
     OptionGroup* opbStep_;
     OptionGroup* opbTone_;
     OptionGroup* opbSift_;
+    QFormLayout* codes_ = nullptr;
     QComboBox* cbbSec_;
     QComboBox* cbbAir_;
     QComboBox* cbbTxTone_;

@@ -1,5 +1,6 @@
 #include "memory/move_commands.h"
 
+#include "language/translated.h"
 #include "memory/channel_operations.h"
 
 namespace rqm5 {
@@ -19,7 +20,7 @@ void MoveCommands::MoveTo(const std::function<RowList(CloneImage&)>& move)
     const RowList moved = move(after);
     const int column = selection_.Table().currentIndex().column();
     if (moved != rows || after != selection_.Image())
-        selection_.Edit(tr("Move (%1)").arg(selection_.NameOf(rows)),
+        selection_.Edit({MESSAGE("Move (%1)"), {selection_.NameOf(rows)}},
                         [&](CloneImage& image) { move(image); });
     selection_.Table().SelectRows(moved, column);
 }
@@ -46,16 +47,17 @@ void MoveCommands::mnuEditInsertRow_Click()
     const MoveGroup group = selection_.Movable();
     CloneImage after = selection_.Image();
     if (!InsertRow(after, group, row)) {
-        const QString remedy =
-            tr("Every row of %1 from here on holds a channel or a note. Clear one, or make the "
-               "bank larger on the Bank page.");
+        const Message remedy(
+            MESSAGE("Every row of %1 from here on holds a channel or a note. Clear one, or make the "
+                    "bank larger on the Bank page."),
+            {selection_.NameOfSelector()});
         dialogs_.Ask(&page_, {.title = tr("Insert Row Here"),
                               .text = tr("There is no empty row behind it."),
-                              .details = remedy.arg(selection_.NameOfSelector()),
+                              .details = Translated(remedy),
                               .icon = QMessageBox::Information});
         return;
     }
-    selection_.Edit(tr("Insert Row (%1)").arg(selection_.NameOf(row)),
+    selection_.Edit({MESSAGE("Insert Row (%1)"), {selection_.NameOf(row)}},
                     [=](CloneImage& image) { InsertRow(image, group, row); });
     selection_.Table().SelectRows({row}, 0);
 }
@@ -66,16 +68,16 @@ void MoveCommands::mnuEditDeleteRow_Click()
     if (rows.empty() || !selection_.IsMovable())
         return;
     const MoveGroup group = selection_.Movable();
-    selection_.Edit(tr("Delete Row (%1)").arg(selection_.NameOf(rows)),
+    selection_.Edit({MESSAGE("Delete Row (%1)"), {selection_.NameOf(rows)}},
                     [=](CloneImage& image) { DeleteRows(image, group, rows); });
     selection_.Table().SelectRows({rows.front()}, 0);
 }
 
-void MoveCommands::Sort(SortKey key, const QString& name)
+void MoveCommands::Sort(SortKey key, const char* name)
 {
     const MoveGroup group = selection_.Movable();
     if (selection_.IsMovable() && group.rows.count > 0)
-        selection_.Edit(name.arg(selection_.NameOfSelector()),
+        selection_.Edit({name, {selection_.NameOfSelector()}},
                         [=](CloneImage& image) { SortRows(image, group, key); });
 }
 
@@ -90,7 +92,7 @@ void MoveCommands::FillBankMenu(QMenu& menu, bool isMove)
             continue;
         const std::size_t room = EmptyRows(image, rows).size();
         QAction* item = menu.addAction(tr("%1 (%2 of %3)")
-                                           .arg(QString::fromStdString(SelectorText(bank)))
+                                           .arg(Translated(SelectorText(bank)))
                                            .arg(static_cast<std::size_t>(rows.count) - room)
                                            .arg(rows.count));
         item->setEnabled(room >= wanted && bank != selection_.Selector());
@@ -105,13 +107,12 @@ void MoveCommands::ToBank(int bank, bool isMove)
     const RowList to = EmptyRows(image, GroupRows(image, bank));
     if (from.empty() || to.size() < from.size())
         return;
-    const QString name = isMove ? tr("Move to %1 (%2)") : tr("Copy to %1 (%2)");
-    selection_.Edit(name.arg(QString::fromStdString(SelectorText(bank)), selection_.NameOf(from)),
-                    [=](CloneImage& after) {
-                        CopyRows(after, from, to);
-                        if (isMove)
-                            ClearRows(after, from);
-                    });
+    const char* name = isMove ? MESSAGE("Move to %1 (%2)") : MESSAGE("Copy to %1 (%2)");
+    selection_.Edit({name, {SelectorText(bank), selection_.NameOf(from)}}, [=](CloneImage& after) {
+        CopyRows(after, from, to);
+        if (isMove)
+            ClearRows(after, from);
+    });
 }
 
 }  // namespace rqm5

@@ -20,9 +20,9 @@ class MoveCommands : public QObject
     void mnuEditMoveDown_Click() { Shift(false); }
     void mnuEditInsertRow_Click();
     void mnuEditDeleteRow_Click();
-    void mnuEditSortFrequency_Click() { Sort(SortKey::Frequency, tr("Sort by Frequency (%1)")); }
-    void mnuEditSortNote_Click() { Sort(SortKey::Note, tr("Sort by Note (%1)")); }
-    void mnuEditSortMode_Click() { Sort(SortKey::Mode, tr("Sort by Mode (%1)")); }
+    void mnuEditSortFrequency_Click() { Sort(SortKey::Frequency, MESSAGE("Sort by Frequency (%1)")); }
+    void mnuEditSortNote_Click() { Sort(SortKey::Note, MESSAGE("Sort by Note (%1)")); }
+    void mnuEditSortMode_Click() { Sort(SortKey::Mode, MESSAGE("Sort by Mode (%1)")); }
 
     /// Moves the selected rows to before a row of the group.
     void Drag(int before);
@@ -32,7 +32,7 @@ class MoveCommands : public QObject
 
   private:
     void Shift(bool isUp);
-    void Sort(SortKey key, const QString& name);
+    void Sort(SortKey key, const char* name);
     void MoveTo(const std::function<RowList(CloneImage&)>& move);
     void ToBank(int bank, bool isMove);
 

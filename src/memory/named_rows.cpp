@@ -45,10 +45,10 @@ const RowGroup* GroupCalled(const std::string& bank)
 NamedRow Refused(const ListedPlace& place)
 {
     if (!place.row.empty())
-        return {NamedRow::kNone, "there is no memory row \"" + place.row + "\""};
+        return {NamedRow::kNone, {MESSAGE("there is no memory row \"%1\""), {place.row}}};
     if (!place.IsGiven())
-        return {NamedRow::kNone, "the list names no row for it"};
-    return {NamedRow::kNone, "there is no channel \"" + place.channel + "\" in \"" + place.bank + "\""};
+        return {NamedRow::kNone, MESSAGE("the list names no row for it")};
+    return {NamedRow::kNone, {MESSAGE("there is no channel \"%1\" in \"%2\""), {place.channel, place.bank}}};
 }
 
 }  // namespace
@@ -83,11 +83,11 @@ bool NamesRows(const std::vector<ListedChannel>& channels)
 ListedPlace PlaceInList(const CloneImage& image, int row)
 {
     if (const RowGroup* group = GroupOfRow(row))
-        return {std::string(group->spoken), LabelAmongAll(*group, row - group->rows.first), {}};
+        return {group->spoken, LabelAmongAll(*group, row - group->rows.first), {}};
     const int bank = SelectorOfRow(image, row);
     if (bank == kSelectAll)
         return {std::string(kCsvBankRows), std::to_string(row), {}};
-    return {SelectorText(bank), std::to_string(row - GroupRows(image, bank).first), {}};
+    return {SelectorText(bank).English(), std::to_string(row - GroupRows(image, bank).first), {}};
 }
 
 std::optional<int> RowOfWord(const CloneImage& image, std::string_view word)

@@ -14,7 +14,7 @@ struct NamedRow
     static constexpr int kNone = -1;
 
     int row = kNone;
-    std::string refusal = {};
+    Message refusal = {};
 };
 
 /// Finds the row of a place: "Bank 3" and its channel "12", "Priority" and "Pr3", the tables of a CSV file

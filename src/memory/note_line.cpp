@@ -6,6 +6,8 @@
 #include <QPushButton>
 
 #include "files/safe_notes.h"
+#include "language/language.h"
+#include "ui/form_texts.h"
 #include "ui/settings_store.h"
 
 namespace rqm5 {
@@ -21,15 +23,17 @@ bool WantsSafeNotes()
 }
 
 NoteLine::NoteLine(QLineEdit& note)
-    : txtNote_(note), lblNoteHint_(new QLabel(this)), cmbSafeNote_(new QPushButton(tr("&Use ; and '"), this))
+    : txtNote_(note),
+      lblNoteHint_(new QLabel(this)),
+      cmbSafeNote_(new QPushButton(Designed(QT_TR_NOOP("&Use ; and '")), this))
 {
     lblNoteHint_->setObjectName(QStringLiteral("lblNoteHint"));
     lblNoteHint_->setTextFormat(Qt::PlainText);
     cmbSafeNote_->setObjectName(QStringLiteral("cmbSafeNote"));
     cmbSafeNote_->setCheckable(true);
     cmbSafeNote_->setAutoDefault(false);
-    cmbSafeNote_->setToolTip(
-        tr("Put semicolons for commas and apostrophes for quotes, in this note and all that follow"));
+    cmbSafeNote_->setToolTip(Designed(QT_TR_NOOP(
+        "Put semicolons for commas and apostrophes for quotes, in this note and all that follow")));
     cmbSafeNote_->setChecked(WantsSafeNotes());
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
@@ -37,6 +41,7 @@ NoteLine::NoteLine(QLineEdit& note)
     row->addWidget(cmbSafeNote_);
     connect(&txtNote_, &QLineEdit::textChanged, this, &NoteLine::txtNote_Change);
     connect(cmbSafeNote_, &QPushButton::clicked, this, &NoteLine::cmbSafeNote_Click);
+    connect(&Language::OfProgram(), &Language::Changed, this, &NoteLine::ShowHint);
     txtNote_Change();
 }
 
@@ -59,9 +64,15 @@ void NoteLine::txtNote_Change()
     const bool isSpoilt = !NoteSurvives(txtNote_.text().toStdString());
     if (isSpoilt && cmbSafeNote_->isChecked())
         return MakeSafe();
-    lblNoteHint_->setText(isSpoilt ? tr("A comma or quotes in a note will not survive a save.")
-                                   : tr("A comma or quotes would not survive a save: replaced."));
+    ShowHint();
     setVisible(isSpoilt || wasMended_);
+}
+
+void NoteLine::ShowHint()
+{
+    lblNoteHint_->setText(NoteSurvives(txtNote_.text().toStdString())
+                              ? tr("A comma or quotes would not survive a save: replaced.")
+                              : tr("A comma or quotes in a note will not survive a save."));
 }
 
 void NoteLine::MakeSafe()

@@ -32,6 +32,7 @@ class NoteLine : public QWidget
     void txtNote_Change();
     void cmbSafeNote_Click();
     void MakeSafe();
+    void ShowHint();
 
     QLineEdit& txtNote_;
     QLabel* lblNoteHint_;

@@ -1,12 +1,12 @@
 #include "memory/operation_buttons.h"
 
-#include <QCoreApplication>
 #include <QGroupBox>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <span>
 
 #include "memory/row_commands.h"
+#include "ui/form_texts.h"
 
 namespace rqm5 {
 namespace {
@@ -45,19 +45,14 @@ constexpr const char* kAll = TEXT("All channels shown");
 
 #undef TEXT
 
-QString Translated(const char* text)
-{
-    return QCoreApplication::translate("rqm5::MemoryPage", text);
-}
-
 QGroupBox* Box(const char* title, std::span<const Operation> operations, RowCommands& rows)
 {
-    auto* box = new QGroupBox(Translated(title));
+    auto* box = new QGroupBox(Designed(title));
     auto* column = new QVBoxLayout(box);
     for (const Operation& operation : operations) {
-        auto* button = new QPushButton(Translated(operation.caption));
+        auto* button = new QPushButton(Designed(operation.caption));
         button->setObjectName(QLatin1String(operation.name));
-        button->setStatusTip(Translated(operation.tip));
+        button->setStatusTip(Designed(operation.tip));
         QObject::connect(button, &QPushButton::clicked, &rows, operation.run);
         column->addWidget(button);
     }

@@ -7,6 +7,8 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include "language/translated.h"
+
 namespace rqm5 {
 namespace {
 
@@ -24,7 +26,7 @@ dlgPaste::dlgPaste(const QString& operation, const CloneImage& image, const Past
     QTableView* table = MakePlanTable(model_, this);
     table->setObjectName(QStringLiteral("tblPaste"));
     table->setAccessibleName(tr("What goes where"));
-    auto* summary = new QLabel(PlanSummary(image, plan));
+    auto* summary = new QLabel(Translated(PlanSummary(image, plan)));
     summary->setObjectName(QStringLiteral("lblPasteSummary"));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     QPushButton* ok = buttons->button(QDialogButtonBox::Ok);

@@ -30,7 +30,7 @@ void Settle(const CloneImage& image, const ListedChannel& comes, PlannedRow& pla
         planned.channel = present;
         CopyParts(comes.channel, comes.given, planned.channel);
     } else {
-        planned.refusal = "the row holds no channel, and no frequency comes";
+        planned.refusal = MESSAGE("the row holds no channel, and no frequency comes");
     }
 }
 
@@ -132,7 +132,7 @@ PastePlan PlanPaste(const CloneImage& image, const RowList& rows, const std::vec
         if (i < rows.size())
             planned.row = rows[i];
         else if (planned.refusal.empty())
-            planned.refusal = "there is no row left for it";
+            planned.refusal = MESSAGE("there is no row left for it");
         if (planned.IsTaken())
             Settle(image, comes, planned);
         plan.push_back(std::move(planned));
@@ -154,7 +154,7 @@ PastePlan PlanOn(const CloneImage& image, const RowList& rows, const std::vector
         if (planned.IsTaken() && comes.given.Has(kFrequency) && !IsInReceiverRange(comes.channel.frequency))
             Refuse(planned, Verdict::OutOfRange);
         if (planned.IsTaken() && next == rows.end())
-            planned.refusal = "there is no row left for it";
+            planned.refusal = MESSAGE("there is no row left for it");
         if (planned.IsTaken()) {
             planned.row = *next++;
             Settle(image, comes, planned);
@@ -180,7 +180,7 @@ PastePlan PlanNamed(const CloneImage& image, const std::vector<ListedChannel>& c
         if (planned.refusal.empty())
             planned.refusal = named.refusal;
         if (planned.IsTaken() && !taken.insert(planned.row).second)
-            planned.refusal = "the list names this row twice";
+            planned.refusal = MESSAGE("the list names this row twice");
         if (planned.IsTaken())
             SettleNamed(image, comes, planned);
         plan.push_back(std::move(planned));

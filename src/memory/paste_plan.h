@@ -1,6 +1,5 @@
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "files/channel_list.h"
@@ -13,11 +12,11 @@ struct PlannedRow
 {
     static constexpr int kNowhere = -1;
 
-    int row = kNowhere;   ///< the memory row that it goes to
-    std::string source;   ///< where it comes from, in words; may be empty
-    Channel channel;      ///< what the row will hold
-    std::string refusal;  ///< why it does not go there; empty when it does
-    std::string remark;   ///< what of it is left out
+    int row = kNowhere;  ///< the memory row that it goes to
+    Message source;      ///< where it comes from, in words; may be empty
+    Channel channel;     ///< what the row will hold
+    Message refusal;     ///< why it does not go there; empty when it does
+    Message remark;      ///< what of it is left out
 
     bool IsTaken() const { return refusal.empty(); }
 };

@@ -10,7 +10,9 @@
 #include <utility>
 
 #include "image/display_text.h"
+#include "language/translated.h"
 #include "memory/row_names.h"
+#include "ui/plain_text.h"
 
 namespace rqm5 {
 namespace {
@@ -81,22 +83,22 @@ QString PlanTableModel::TextOf(const PlannedRow& planned, int column) const
         case kTarget: {
             if (!hasRow)
                 return {};
-            const std::string place = PlaceOfRow(image_, planned.row);
-            return place.empty() ? tr("row %1").arg(planned.row) : QString::fromStdString(place);
+            const Message place = PlaceOfRow(image_, planned.row);
+            return place.empty() ? tr("row %1").arg(planned.row) : Translated(place);
         }
         case kPresent:
             return hasRow ? Contents(image_.MemData(planned.row)) : QString();
         case kComing:
             return planned.IsTaken() || planned.channel.HasChannel() ? Contents(planned.channel)
-                                                                     : QString::fromStdString(planned.source);
+                                                                     : Translated(planned.source);
         default:
             break;
     }
     const QString source =
-        planned.source.empty() ? QString() : QString::fromStdString(planned.source) + QStringLiteral(": ");
+        planned.source.empty() ? QString() : Translated(planned.source) + QStringLiteral(": ");
     if (!planned.IsTaken())
-        return tr("Refused: %1").arg(source + QString::fromStdString(VisibleText(planned.refusal)));
-    return planned.remark.empty() ? QString() : source + QString::fromStdString(VisibleText(planned.remark));
+        return tr("Refused: %1").arg(source + VisibleText(Translated(planned.refusal)));
+    return planned.remark.empty() ? QString() : source + VisibleText(Translated(planned.remark));
 }
 
 QVariant PlanTableModel::data(const QModelIndex& index, int role) const
@@ -141,18 +143,19 @@ QTableView* MakePlanTable(PlanTableModel& model, QWidget* parent)
     return table;
 }
 
-QString PlanSummary(const CloneImage& image, const PastePlan& plan)
+Message PlanSummary(const CloneImage& image, const PastePlan& plan)
 {
-    const auto count = [&plan](auto fits) { return std::ranges::count_if(plan, fits); };
+    const auto count = [&plan](auto fits) { return static_cast<int>(std::ranges::count_if(plan, fits)); };
     const auto taken = count([](const PlannedRow& row) { return row.IsTaken(); });
     const auto over =
         count([&](const PlannedRow& row) { return row.IsTaken() && image.MemData(row.row).HasChannel(); });
-    const auto refused = static_cast<std::ptrdiff_t>(plan.size()) - taken;
-    QString text = PlanTableModel::tr("Rows that are written: %1").arg(taken);
-    if (over > 0)
-        text += over == 1 ? PlanTableModel::tr(", of which 1 holds a channel now")
-                          : PlanTableModel::tr(", of which %1 hold a channel now").arg(over);
-    return refused > 0 ? text + PlanTableModel::tr("; refused: %1").arg(refused) : text;
+    const auto refused = static_cast<int>(plan.size()) - taken;
+    const Message written =
+        over == 0 ? Message(MESSAGE("Rows that are written: %1"), {taken})
+        : over == 1
+            ? Message(MESSAGE("Rows that are written: %1, of which 1 holds a channel now"), {taken})
+            : Message(MESSAGE("Rows that are written: %1, of which %2 hold a channel now"), {taken, over});
+    return refused == 0 ? written : Message(MESSAGE("%1; refused: %2"), {written, refused});
 }
 
 }  // namespace rqm5

@@ -36,6 +36,6 @@ class PlanTableModel : public QAbstractTableModel
 QTableView* MakePlanTable(PlanTableModel& model, QWidget* parent);
 
 /// "38 channels are written, 5 of them over others; 2 are refused."
-QString PlanSummary(const CloneImage& image, const PastePlan& plan);
+Message PlanSummary(const CloneImage& image, const PastePlan& plan);
 
 }  // namespace rqm5

@@ -7,11 +7,12 @@
 namespace rqm5 {
 namespace {
 
-void AddIfOutside(const CloneImage& image, RowId id, std::vector<std::string>& names)
+void AddIfOutside(const CloneImage& image, RowId id, std::vector<Message>& names)
 {
     const Channel& channel = image.At(id);
     if (channel.HasChannel() && !IsInReceiverRange(channel.frequency))
-        names.push_back(RowName(image, id) + ": " + FormatMegahertz(channel.frequency) + " MHz");
+        names.push_back(
+            Message::List({RowName(image, id), FormatMegahertz(channel.frequency) + " MHz"}, ": "));
 }
 
 }  // namespace
@@ -21,17 +22,17 @@ bool IsInReceiverRange(std::int64_t hertz)
     return kReceiverRange.Contains(Megahertz(hertz));
 }
 
-std::vector<std::string> RowsOutOfRange(const CloneImage& image, RowRange rows)
+std::vector<Message> RowsOutOfRange(const CloneImage& image, RowRange rows)
 {
-    std::vector<std::string> names;
+    std::vector<Message> names;
     for (int row = rows.first; row <= rows.Last(); ++row)
         AddIfOutside(image, {RowKind::Memory, row}, names);
     return names;
 }
 
-std::vector<std::string> VfoRowsOutOfRange(const CloneImage& image)
+std::vector<Message> VfoRowsOutOfRange(const CloneImage& image)
 {
-    std::vector<std::string> names;
+    std::vector<Message> names;
     for (int row = 0; row < RegionOf(image.ModelNo()).vfoBands; ++row)
         AddIfOutside(image, {RowKind::Vfo, row}, names);
     return names;

@@ -5,6 +5,8 @@
 #include <QItemSelectionModel>
 #include <algorithm>
 
+#include "ui/form_texts.h"
+
 namespace rqm5 {
 namespace {
 
@@ -97,9 +99,9 @@ RowActions::RowActions(const RowSelection& selection, RowCommands& rows, Clipboa
       sort_(new QMenu(&page))
 {
     contextMenu_->setObjectName(QStringLiteral("mnuRows"));
-    auto* modify = new QAction(tr("&Modify..."), this);
+    auto* modify = new QAction(Designed(QT_TR_NOOP("&Modify...")), this);
     modify->setObjectName(QStringLiteral("mnuRowsModify"));
-    modify->setStatusTip(tr("Edit the selected channels"));
+    modify->setStatusTip(Designed(QT_TR_NOOP("Edit the selected channels")));
     connect(modify, &QAction::triggered, this, &RowActions::ModifyRequested);
     contextMenu_->addAction(modify);
     contextMenu_->setDefaultAction(modify);

@@ -11,9 +11,10 @@
 namespace rqm5 {
 namespace {
 
-constexpr char kExpected[] =
-    "it is all, bank:3, bank:2/5-9, memory:0-199, program-scan, search-pass, priority, vfo, settings, banks, "
-    "or a condition such as mode=AM, freq:118..137 or note~airport";
+constexpr char kExpected[] = MESSAGE(
+    "%1: it is all, bank:3, bank:2/5-9, memory:0-199, program-scan, search-pass, priority, vfo, settings, "
+    "banks, "
+    "or a condition such as mode=AM, freq:118..137 or note~airport");
 
 /// What somebody typed, not longer than a message can be read with.
 std::string Quoted(std::string_view text)
@@ -55,7 +56,7 @@ std::optional<int> IndexOfLabel(const RowGroup& group, std::string_view label)
     return std::nullopt;
 }
 
-using RowsOrFault = std::variant<RowRange, std::string>;
+using RowsOrFault = std::variant<RowRange, Message>;
 
 /// The rows of "program-scan" or "program-scan/0A-3B"; nothing when the term is no such group.
 std::optional<RowsOrFault> ReadGroup(std::string_view term)
@@ -69,8 +70,8 @@ std::optional<RowsOrFault> ReadGroup(std::string_view term)
     const auto span = ReadSpan(term.substr(slash + 1), group->rows.count,
                                [group](std::string_view label) { return IndexOfLabel(*group, label); });
     if (!span)
-        return Quoted(term) + ": its channels are " + GroupLabel(*group, 0) + " to " +
-               GroupLabel(*group, group->rows.count - 1);
+        return Message(MESSAGE("%1: its channels are %2 to %3"),
+                       {Quoted(term), GroupLabel(*group, 0), GroupLabel(*group, group->rows.count - 1)});
     return RowRange{group->rows.first + span->first, span->count};
 }
 
@@ -93,17 +94,17 @@ std::optional<RowsOrFault> FixedRows(std::string_view term)
         return ReadGroup(term);
     if (const auto span = ReadSpan(*rows, kMemoryRows, ReadIndex))
         return *span;
-    return Quoted(term) + ": memory rows are 0 to " + std::to_string(kMemoryRows - 1);
+    return Message(MESSAGE("%1: memory rows are 0 to %2"), {Quoted(term), kMemoryRows - 1});
 }
 
 }  // namespace
 
-std::variant<RowChoice, std::string> RowChoice::Read(std::string_view text)
+std::variant<RowChoice, Message> RowChoice::Read(std::string_view text)
 {
     RowChoice choice;
     for (;;) {
         const std::size_t comma = text.find(',');
-        if (std::string fault = choice.Add(text.substr(0, comma)); !fault.empty())
+        if (Message fault = choice.Add(text.substr(0, comma)); !fault.empty())
             return fault;
         if (comma == std::string_view::npos)
             break;
@@ -111,11 +112,11 @@ std::variant<RowChoice, std::string> RowChoice::Read(std::string_view text)
     }
     const bool isBeside = choice.hasSettings_ || choice.hasBanks_ || !choice.vfoRows_.empty();
     if (choice.HasConditions() && isBeside)
-        return "a condition chooses memory rows; vfo, settings and banks cannot stand beside it";
+        return MESSAGE("a condition chooses memory rows; vfo, settings and banks cannot stand beside it");
     return choice;
 }
 
-std::string RowChoice::Add(std::string_view term)
+Message RowChoice::Add(std::string_view term)
 {
     if (term == "settings" || term == "banks") {
         (term == "settings" ? hasSettings_ : hasBanks_) = true;
@@ -126,7 +127,7 @@ std::string RowChoice::Add(std::string_view term)
     if (const auto rows = Behind(term, "vfo", "0-13"))
         return AddVfoRows(*rows);
     if (const auto rows = FixedRows(term)) {
-        if (const auto* fault = std::get_if<std::string>(&*rows))
+        if (const auto* fault = std::get_if<Message>(&*rows))
             return *fault;
         places_.push_back({-1, std::get<RowRange>(*rows)});
         return {};
@@ -134,25 +135,26 @@ std::string RowChoice::Add(std::string_view term)
     const std::size_t at = term.find_first_of("=:~");
     if (at != std::string_view::npos && PartOfWord(term.substr(0, at)))
         return AddCondition(term, at);
-    return Quoted(term) + ": " + kExpected;
+    return {kExpected, {Quoted(term)}};
 }
 
-std::string RowChoice::AddVfoRows(std::string_view rows)
+Message RowChoice::AddVfoRows(std::string_view rows)
 {
     const auto span = ReadSpan(rows, kVfoRows, ReadIndex);
     for (int row = 0; span && row < span->count; ++row)
         vfoRows_.push_back(span->first + row);
-    return span ? ""
-                : Quoted("vfo:" + std::string(rows)) + ": VFO rows are 0 to " + std::to_string(kVfoRows - 1);
+    return span ? Message()
+                : Message(MESSAGE("%1: VFO rows are 0 to %2"),
+                          {Quoted("vfo:" + std::string(rows)), kVfoRows - 1});
 }
 
-std::string RowChoice::AddBanks(std::string_view numbers)
+Message RowChoice::AddBanks(std::string_view numbers)
 {
     const std::size_t slash = numbers.find('/');
     const auto banks = ReadSpan(numbers.substr(0, slash), kBanks, ReadIndex);
     if (!banks || (slash != std::string_view::npos && banks->count != 1))
-        return Quoted("bank:" + std::string(numbers)) +
-               ": banks are 0 to 49, as in bank:3, bank:0-4 or bank:2/5-9";
+        return {MESSAGE("%1: banks are 0 to 49, as in bank:3, bank:0-4 or bank:2/5-9"),
+                {Quoted("bank:" + std::string(numbers))}};
     if (slash == std::string_view::npos) {
         for (int bank = banks->first; bank <= banks->Last(); ++bank)
             places_.push_back({bank, {}, true});
@@ -160,19 +162,20 @@ std::string RowChoice::AddBanks(std::string_view numbers)
     }
     const auto channels = ReadSpan(numbers.substr(slash + 1), kBankRows, ReadIndex);
     if (!channels)
-        return Quoted("bank:" + std::string(numbers)) + ": channels of a bank count from 0, as in bank:2/5-9";
+        return {MESSAGE("%1: channels of a bank count from 0, as in bank:2/5-9"),
+                {Quoted("bank:" + std::string(numbers))}};
     places_.push_back({banks->first, *channels});
     return {};
 }
 
-std::string RowChoice::AddCondition(std::string_view term, std::size_t at)
+Message RowChoice::AddCondition(std::string_view term, std::size_t at)
 {
     Condition condition{.part = *PartOfWord(term.substr(0, at))};
     std::string_view value = term.substr(at + 1);
     const bool isNumber = condition.part == kFrequency || condition.part == kShiftFrequency;
     if (term[at] == '~') {
         if (condition.part != kNote || value.empty())
-            return Quoted(term) + ": \"~\" looks for a text in the note, as in note~airport";
+            return {MESSAGE("%1: \"~\" looks for a text in the note, as in note~airport"), {Quoted(term)}};
         condition.kind = Condition::Kind::Contains;
         condition.low.text = value;
         conditions_.push_back(condition);
@@ -180,7 +183,7 @@ std::string RowChoice::AddCondition(std::string_view term, std::size_t at)
     }
     const std::size_t dots = value.find("..");
     if (term[at] == ':' && !isNumber)
-        return Quoted(term) + ": write it with \"=\", as in mode=AM";
+        return {MESSAGE("%1: write it with \"=\", as in mode=AM"), {Quoted(term)}};
     std::string_view high = value;
     if (dots != std::string_view::npos && isNumber) {
         condition.kind = Condition::Kind::Between;
@@ -190,25 +193,25 @@ std::string RowChoice::AddCondition(std::string_view term, std::size_t at)
     const auto low = ReadFieldValue(condition.part, value);
     const auto top = ReadFieldValue(condition.part, high);
     for (const auto* end : {&low, &top})
-        if (const auto* fault = std::get_if<std::string>(end))
+        if (const auto* fault = std::get_if<Message>(end))
             return *fault;
     condition.low = std::get<FieldValue>(low);
     condition.high = std::get<FieldValue>(top);
     if (condition.low.hertz > condition.high.hertz)
-        return Quoted(term) + ": the lower end comes first";
+        return {MESSAGE("%1: the lower end comes first"), {Quoted(term)}};
     conditions_.push_back(condition);
     return {};
 }
 
-std::string RowChoice::Fault(const CloneImage& image) const
+Message RowChoice::Fault(const CloneImage& image) const
 {
     for (const Place& place : places_) {
         if (place.bank < 0)
             continue;
         const int size = GroupRows(image, place.bank).count;
         if (!place.isWholeBank && place.rows.Last() >= size)
-            return "bank " + std::to_string(place.bank) + " has " + std::to_string(size) +
-                   (size == 1 ? " channel" : " channels");
+            return {size == 1 ? MESSAGE("bank %1 has %2 channel") : MESSAGE("bank %1 has %2 channels"),
+                    {place.bank, size}};
     }
     return {};
 }

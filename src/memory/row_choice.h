@@ -21,17 +21,17 @@ class RowChoice
 {
   public:
     /// \return the choice, or what is wrong with the text and what would be right
-    static std::variant<RowChoice, std::string> Read(std::string_view text);
+    static std::variant<RowChoice, Message> Read(std::string_view text);
 
     /// Takes in one term more. \return what is wrong with it; empty when nothing is
-    std::string Add(std::string_view term);
+    Message Add(std::string_view term);
 
     bool HasConditions() const { return !conditions_.empty(); }
     bool HasSettings() const { return hasSettings_; }
     bool HasBanks() const { return hasBanks_; }
 
     /// Why an image has no such rows: a bank has fewer channels. Empty when it has them.
-    std::string Fault(const CloneImage& image) const;
+    Message Fault(const CloneImage& image) const;
 
     /// The memory rows of each place, in the order of the text; conditions do not count.
     std::vector<RowRange> Ranges(const CloneImage& image) const;
@@ -58,9 +58,9 @@ class RowChoice
         FieldValue high = {};
     };
 
-    std::string AddBanks(std::string_view numbers);
-    std::string AddVfoRows(std::string_view rows);
-    std::string AddCondition(std::string_view term, std::size_t at);
+    Message AddBanks(std::string_view numbers);
+    Message AddVfoRows(std::string_view rows);
+    Message AddCondition(std::string_view term, std::size_t at);
     static bool Meets(const Channel& channel, const Condition& condition);
     bool IsChosen(const Channel& channel) const;
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "language/translated.h"
 #include "memory/channel_operations.h"
 #include "memory/row_names.h"
 #include "memory/shift_note.h"
@@ -20,30 +21,31 @@ bool RowCommands::IsShiftable() const
 }
 
 /// \param what  what will be hit, as a sentence
-bool RowCommands::Confirm(const QString& title, const QString& text, const QString& what)
+bool RowCommands::Confirm(const QString& title, const QString& text, const Message& what)
 {
-    return dialogs_.Ask(&page_, {.title = title,
-                                 .text = text,
-                                 .details = what + QLatin1Char(' ') + tr("Edit > Undo brings it back."),
-                                 .icon = QMessageBox::Warning,
-                                 .buttons = QMessageBox::Ok | QMessageBox::Cancel,
-                                 .defaultButton = QMessageBox::Cancel}) == QMessageBox::Ok;
+    return dialogs_.Ask(&page_,
+                        {.title = title,
+                         .text = text,
+                         .details = Translated(what) + QLatin1Char(' ') + tr("Edit > Undo brings it back."),
+                         .icon = QMessageBox::Warning,
+                         .buttons = QMessageBox::Ok | QMessageBox::Cancel,
+                         .defaultButton = QMessageBox::Cancel}) == QMessageBox::Ok;
 }
 
-void RowCommands::EditRows(const QString& operation, RowsFunction change)
+void RowCommands::EditRows(const Message& operation, RowsFunction change)
 {
     const RowList rows = selection_.Rows();
     if (!rows.empty())
-        selection_.Edit(tr("%1 (%2)").arg(operation, selection_.NameOf(rows)),
+        selection_.Edit({MESSAGE("%1 (%2)"), {operation, selection_.NameOf(rows)}},
                         [=](CloneImage& image) { change(image, rows); });
 }
 
-void RowCommands::EditGroup(const QString& operation, RowsFunction change)
+void RowCommands::EditGroup(const Message& operation, RowsFunction change)
 {
     const RowList rows = selection_.Shown();
     if (rows.empty())
         return;
-    selection_.Edit(tr("%1 (%2)").arg(operation, selection_.NameOfGroup()),
+    selection_.Edit({MESSAGE("%1 (%2)"), {operation, selection_.NameOfGroup()}},
                     [=](CloneImage& image) { change(image, rows); });
     HighlightCurrentRow();
 }
@@ -59,13 +61,13 @@ void RowCommands::cmbClear_Click()
     const RowList rows = selection_.Rows();
     if (rows.empty())
         return;
-    const QString what =
-        rows.size() == 1
-            ? tr("This clears %1, %2.").arg(selection_.NameOf(rows), selection_.ContentsOf(rows.front()))
-            : tr("This clears %1.").arg(selection_.NameOf(rows));
+    const Message name = selection_.NameOf(rows);
+    const Message what = rows.size() == 1 ? Message(MESSAGE("This clears %1, %2."),
+                                                    {name, selection_.ContentsOf(rows.front())})
+                                          : Message(MESSAGE("This clears %1."), {name});
     if (Confirm(tr("CLEAR OK"), tr("Clear cannot be undone.\nAre you sure that you want to do the clear?"),
                 what))
-        EditRows(tr("Clear"), ClearRows);
+        EditRows(MESSAGE("Clear"), ClearRows);
 }
 
 void RowCommands::cmbClAll_Click()
@@ -73,8 +75,8 @@ void RowCommands::cmbClAll_Click()
     if (!selection_.Shown().empty() &&
         Confirm(tr("CLEAR OK"),
                 tr("Clear cannot be undone.\nAre you sure that you want to clear all memory?"),
-                tr("This clears %1.").arg(selection_.NameOfGroup())))
-        EditGroup(tr("Clear All"), ClearRows);
+                {MESSAGE("This clears %1."), {selection_.NameOfGroup()}}))
+        EditGroup(MESSAGE("Clear All"), ClearRows);
 }
 
 void RowCommands::cmbDelete_Click()
@@ -83,16 +85,16 @@ void RowCommands::cmbDelete_Click()
         return;
     // The row goes by its number in the table, whatever group is shown, so the question names it.
     const int row = selection_.Table().CurrentTableRow() - 1;
-    const QString name = QString::fromStdString(RowName(selection_.Image(), row));
+    const Message name = RowName(selection_.Image(), row);
     if (!Confirm(tr("DELETE OK"),
                  tr("Delete cannot be undone.\nAre you sure that you want to do the delete?"),
-                 tr("This deletes %1, %2.").arg(name, selection_.ContentsOf(row))))
+                 {MESSAGE("This deletes %1, %2."), {name, selection_.ContentsOf(row)}}))
         return;
-    const QString note = DeleteNote(selection_.Image(), selection_.Group(), row + 1);
-    selection_.Edit(tr("Delete (%1)").arg(selection_.NameOf(row)),
+    const Message note = DeleteNote(selection_.Image(), selection_.Group(), row + 1);
+    selection_.Edit({MESSAGE("Delete (%1)"), {selection_.NameOf(row)}},
                     [row](CloneImage& image) { DeleteTableRow(image, row + 1); });
     HighlightCurrentRow();
-    emit Noted(note);
+    emit Noted(Translated(note));
 }
 
 void RowCommands::cmbInsert_Click()
@@ -100,31 +102,31 @@ void RowCommands::cmbInsert_Click()
     if (!IsShiftable())
         return;
     const int tableRow = selection_.Table().CurrentTableRow();
-    const QString note = InsertNote(selection_.Image(), selection_.Group(), tableRow);
-    selection_.Edit(tr("Insert (%1)").arg(selection_.NameOf(tableRow - 1)),
+    const Message note = InsertNote(selection_.Image(), selection_.Group(), tableRow);
+    selection_.Edit({MESSAGE("Insert (%1)"), {selection_.NameOf(tableRow - 1)}},
                     [tableRow](CloneImage& image) { InsertTableRow(image, tableRow); });
     HighlightCurrentRow();
-    emit Noted(note);
+    emit Noted(Translated(note));
 }
 
 void RowCommands::cmbEnable_Click()
 {
-    EditRows(tr("Enable"), EnableRows);
+    EditRows(MESSAGE("Enable"), EnableRows);
 }
 
 void RowCommands::cmbDisable_Click()
 {
-    EditRows(tr("Disable"), DisableRows);
+    EditRows(MESSAGE("Disable"), DisableRows);
 }
 
 void RowCommands::cmbEnAll_Click()
 {
-    EditGroup(tr("Enable All"), EnableRows);
+    EditGroup(MESSAGE("Enable All"), EnableRows);
 }
 
 void RowCommands::cmbDisAll_Click()
 {
-    EditGroup(tr("Disable All"), DisableRows);
+    EditGroup(MESSAGE("Disable All"), DisableRows);
 }
 
 void RowCommands::Toggle()

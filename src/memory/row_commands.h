@@ -34,9 +34,9 @@ class RowCommands : public QObject
     using RowsFunction = void (*)(CloneImage&, const RowList&);
 
     bool IsShiftable() const;
-    bool Confirm(const QString& title, const QString& text, const QString& what);
-    void EditRows(const QString& operation, RowsFunction change);
-    void EditGroup(const QString& operation, RowsFunction change);
+    bool Confirm(const QString& title, const QString& text, const Message& what);
+    void EditRows(const Message& operation, RowsFunction change);
+    void EditGroup(const Message& operation, RowsFunction change);
     void HighlightCurrentRow();
 
     const RowSelection& selection_;

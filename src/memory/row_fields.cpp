@@ -16,7 +16,7 @@ int CodeOf(const ChannelContents& contents, Column column)
     return 0;
 }
 
-FieldPair PairOf(std::string first, std::string second)
+FieldPair PairOf(Message first, Message second)
 {
     const bool differs = first != second;
     return {std::move(first), std::move(second), differs};
@@ -36,16 +36,16 @@ FieldPair ColumnPair(const Channel& first, const Channel& second, RowKind kind, 
 
 }  // namespace
 
-std::string_view RowFieldName(int field)
+const char* RowFieldName(int field)
 {
-    return field == kSkipField      ? "Skip"
-           : field == kEnabledField ? "Enabled"
+    return field == kSkipField      ? MESSAGE("Skip")
+           : field == kEnabledField ? MESSAGE("Enabled")
                                     : kColumnNames.at(static_cast<std::size_t>(field));
 }
 
-std::string OnOff(bool value)
+Message OnOff(bool value)
 {
-    return value ? "on" : "off";
+    return value ? MESSAGE("on") : MESSAGE("off");
 }
 
 FieldPairs CompareFields(const Channel& first, const Channel& second, RowKind kind)

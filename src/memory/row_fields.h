@@ -1,10 +1,9 @@
 #pragma once
 
-#include <string>
-#include <string_view>
 #include <vector>
 
 #include "image/channel.h"
+#include "language/message.h"
 
 namespace rqm5 {
 
@@ -12,14 +11,14 @@ namespace rqm5 {
 /// it, its note and its flag.
 enum RowField { kSkipField = kTextColumns, kEnabledField, kRowFields };
 
-/// What a field is called: "Mode", "Skip", "Enabled".
-std::string_view RowFieldName(int field);
+/// What a field is called, the id of a message: "Mode", "Skip", "Enabled".
+const char* RowFieldName(int field);
 
 /// A field of two rows.
 struct FieldPair
 {
-    std::string first;
-    std::string second;
+    Message first;
+    Message second;
     bool differs = false;
 };
 
@@ -29,6 +28,6 @@ using FieldPairs = std::vector<FieldPair>;
 FieldPairs CompareFields(const Channel& first, const Channel& second, RowKind kind);
 
 /// "on" or "off".
-std::string OnOff(bool value);
+Message OnOff(bool value);
 
 }  // namespace rqm5

@@ -4,35 +4,38 @@
 
 namespace rqm5 {
 
-std::string PlaceOfRow(const CloneImage& image, int row)
+Message PlaceOfRow(const CloneImage& image, int row)
 {
     if (const RowGroup* group = GroupOfRow(row))
-        return std::string(group->spoken) + " " + LabelAmongAll(*group, row - group->rows.first);
+        return Message::List({group->spoken, LabelAmongAll(*group, row - group->rows.first)}, " ");
     const int bank = SelectorOfRow(image, row);
     if (bank == kSelectAll)
         return {};
-    return SelectorText(bank) + ", channel " + std::to_string(row - GroupRows(image, bank).first);
+    return {MESSAGE("%1, channel %2"), {SelectorText(bank), row - GroupRows(image, bank).first}};
 }
 
-std::string RowName(const CloneImage& image, int row)
+Message RowName(const CloneImage& image, int row)
 {
-    const std::string place = PlaceOfRow(image, row);
-    const char* nowhere = row < kRadioRows ? "in no bank" : "not in the receiver";
-    return "memory row " + std::to_string(row) + " (" + (place.empty() ? nowhere : place) + ")";
+    if (const Message place = PlaceOfRow(image, row); !place.empty())
+        return {MESSAGE("memory row %1 (%2)"), {row, place}};
+    return {row < kRadioRows ? MESSAGE("memory row %1 (in no bank)")
+                             : MESSAGE("memory row %1 (not in the receiver)"),
+            {row}};
 }
 
-std::string RowLabel(const CloneImage& image, int row)
+Message RowLabel(const CloneImage& image, int row)
 {
-    const std::string place = PlaceOfRow(image, row);
-    return "Row " + std::to_string(row) + " (" + (place.empty() ? "no bank" : place) + ")";
+    const Message place = PlaceOfRow(image, row);
+    return place.empty() ? Message(MESSAGE("Row %1 (no bank)"), {row})
+                         : Message(MESSAGE("Row %1 (%2)"), {row, place});
 }
 
-std::string VfoRowName(int row)
+Message VfoRowName(int row)
 {
-    return "VFO row " + std::to_string(row);
+    return {MESSAGE("VFO row %1"), {row}};
 }
 
-std::string RowName(const CloneImage& image, RowId id)
+Message RowName(const CloneImage& image, RowId id)
 {
     return id.IsMemory() ? RowName(image, id.row) : VfoRowName(id.row);
 }

@@ -1,6 +1,5 @@
 #include "memory/row_selection.h"
 
-#include <QCoreApplication>
 #include <algorithm>
 
 #include "memory/row_names.h"
@@ -8,18 +7,12 @@
 namespace rqm5 {
 namespace {
 
-QString Translated(const char* text)
-{
-    return QCoreApplication::translate("rqm5::MemoryPage", text);
-}
-
 /// "Bank 2, 15 channels"
-QString Counted(const QString& place, std::size_t channels)
+Message ChannelsIn(const Message& place, std::size_t channels)
 {
-    return channels == 1 ? Translated(QT_TRANSLATE_NOOP("rqm5::MemoryPage", "%1, 1 channel")).arg(place)
-                         : Translated(QT_TRANSLATE_NOOP("rqm5::MemoryPage", "%1, %2 channels"))
-                               .arg(place)
-                               .arg(channels);
+    if (channels == 1)
+        return {MESSAGE("%1, 1 channel"), {place}};
+    return {MESSAGE("%1, %2 channels"), {place, static_cast<int>(channels)}};
 }
 
 }  // namespace
@@ -35,45 +28,39 @@ int RowSelection::Top() const
     return std::ranges::binary_search(rows, Current()) ? rows.front() : Current();
 }
 
-QString RowSelection::NameOf(int row) const
+Message RowSelection::NameOf(int row) const
 {
-    const std::string place = PlaceOfRow(Image(), row);
-    return place.empty() ? Translated(QT_TRANSLATE_NOOP("rqm5::MemoryPage", "row %1")).arg(row)
-                         : QString::fromStdString(place);
+    const Message place = PlaceOfRow(Image(), row);
+    return place.empty() ? Message(MESSAGE("row %1"), {row}) : place;
 }
 
-QString RowSelection::NameOf(const RowList& rows) const
+Message RowSelection::NameOf(const RowList& rows) const
 {
-    return rows.size() == 1 ? NameOf(rows.front()) : Counted(NameOfSelector(), rows.size());
+    return rows.size() == 1 ? NameOf(rows.front()) : ChannelsIn(NameOfSelector(), rows.size());
 }
 
-QString RowSelection::NameOfSelector() const
+Message RowSelection::NameOfSelector() const
 {
-    return QString::fromStdString(SelectorText(Selector()));
+    return SelectorText(Selector());
 }
 
-QString RowSelection::NameOfGroup() const
+Message RowSelection::NameOfGroup() const
 {
     if (!IsFiltered())
-        return Counted(NameOfSelector(), Shown().size());
+        return ChannelsIn(NameOfSelector(), Shown().size());
     if (Shown().size() == 1)
-        return Translated(QT_TRANSLATE_NOOP("rqm5::MemoryPage", "%1, the one channel shown of %2"))
-            .arg(NameOfSelector())
-            .arg(Group().count);
-    return Translated(QT_TRANSLATE_NOOP("rqm5::MemoryPage", "%1, the %2 channels shown of %3"))
-        .arg(NameOfSelector())
-        .arg(Shown().size())
-        .arg(Group().count);
+        return {MESSAGE("%1, the one channel shown of %2"), {NameOfSelector(), Group().count}};
+    return {MESSAGE("%1, the %2 channels shown of %3"),
+            {NameOfSelector(), static_cast<int>(Shown().size()), Group().count}};
 }
 
-QString RowSelection::ContentsOf(int row) const
+Message RowSelection::ContentsOf(int row) const
 {
-    return Image().MemData(row).HasChannel()
-               ? QString::fromStdString(Image().MemText(row, kFrequency)) + QStringLiteral(" MHz")
-               : Translated(QT_TRANSLATE_NOOP("rqm5::MemoryPage", "which is empty"));
+    return Image().MemData(row).HasChannel() ? Message(Image().MemText(row, kFrequency) + " MHz")
+                                             : Message(MESSAGE("which is empty"));
 }
 
-void RowSelection::Edit(const QString& name, const Document::ChangeFunction& change) const
+void RowSelection::Edit(const Message& name, const Document::ChangeFunction& change) const
 {
     document_.Edit(name, change);
     table_.setFocus(Qt::OtherFocusReason);

@@ -43,22 +43,22 @@ class RowSelection
     MoveGroup Movable() const { return MoveGroupOf(Image(), Selector()); }
 
     /// "Bank 2, channel 12"; a row in no bank goes by its number.
-    QString NameOf(int row) const;
+    Message NameOf(int row) const;
 
     /// The same of one row, "Bank 2, 15 channels" of several.
-    QString NameOf(const RowList& rows) const;
+    Message NameOf(const RowList& rows) const;
 
     /// "Bank 2, 100 channels"; with a filter on "Bank 2, the 12 channels shown of 100"
-    QString NameOfGroup() const;
+    Message NameOfGroup() const;
 
     /// "Bank 2"
-    QString NameOfSelector() const;
+    Message NameOfSelector() const;
 
     /// "145.500000 MHz", or that the row is empty.
-    QString ContentsOf(int row) const;
+    Message ContentsOf(int row) const;
 
     /// One step of the history. The table has the focus afterwards.
-    void Edit(const QString& name, const Document::ChangeFunction& change) const;
+    void Edit(const Message& name, const Document::ChangeFunction& change) const;
 
   private:
     Document& document_;

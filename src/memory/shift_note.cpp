@@ -1,7 +1,5 @@
 #include "memory/shift_note.h"
 
-#include <QCoreApplication>
-
 #include "memory/channel_operations.h"
 #include "memory/row_names.h"
 
@@ -10,33 +8,27 @@ namespace {
 
 constexpr int kLastRow = kShiftedRows - 1;
 
-QString Translate(const char* text)
-{
-    return QCoreApplication::translate("ShiftNote", text);
-}
-
-QString Moved(int first, int last, const char* one, const char* several)
+Message Moved(int first, int last, const char* one, const char* several)
 {
     if (first > last)
-        return Translate("No row moved");
-    return first == last ? Translate(one).arg(first) : Translate(several).arg(first).arg(last);
+        return MESSAGE("No row moved");
+    return first == last ? Message(one, {first}) : Message(several, {first, last});
 }
 
 /// What was in the row that is no more. The bar is short, so what matters most comes first.
-QString Lost(const CloneImage& before, int row)
+Message Lost(const CloneImage& before, int row)
 {
     if (!before.MemData(row).HasChannel())
-        return Translate("row %1 was empty, so nothing is lost").arg(row);
-    const QString place = QString::fromStdString(PlaceOfRow(before, row));
-    return Translate("lost: %1 MHz in row %2 (%3)")
-        .arg(QString::fromStdString(before.MemText(row, kFrequency)))
-        .arg(row)
-        .arg(place.isEmpty() ? Translate("in no bank") : place);
+        return {MESSAGE("row %1 was empty, so nothing is lost"), {row}};
+    const std::string frequency = before.MemText(row, kFrequency);
+    const Message place = PlaceOfRow(before, row);
+    return place.empty() ? Message(MESSAGE("lost: %1 MHz in row %2 (in no bank)"), {frequency, row})
+                         : Message(MESSAGE("lost: %1 MHz in row %2 (%3)"), {frequency, row, place});
 }
 
-QString Note(const QString& moved, const QString& lost)
+Message Note(const Message& moved, const Message& lost)
 {
-    return Translate("%1; %2.").arg(moved, lost);
+    return {MESSAGE("%1; %2."), {moved, lost}};
 }
 
 bool IsShown(RowRange shown)
@@ -46,21 +38,20 @@ bool IsShown(RowRange shown)
 
 }  // namespace
 
-QString InsertNote(const CloneImage& before, RowRange shown, int tableRow)
+Message InsertNote(const CloneImage& before, RowRange shown, int tableRow)
 {
     if (IsShown(shown))
         return {};
-    return Note(Moved(tableRow - 1, kLastRow - 1, QT_TRANSLATE_NOOP("ShiftNote", "Row %1 moved down"),
-                      QT_TRANSLATE_NOOP("ShiftNote", "Rows %1 to %2 moved down")),
-                Lost(before, kLastRow));
+    return Note(
+        Moved(tableRow - 1, kLastRow - 1, MESSAGE("Row %1 moved down"), MESSAGE("Rows %1 to %2 moved down")),
+        Lost(before, kLastRow));
 }
 
-QString DeleteNote(const CloneImage& before, RowRange shown, int tableRow)
+Message DeleteNote(const CloneImage& before, RowRange shown, int tableRow)
 {
     if (IsShown(shown))
         return {};
-    return Note(Moved(tableRow, kLastRow, QT_TRANSLATE_NOOP("ShiftNote", "Row %1 moved up"),
-                      QT_TRANSLATE_NOOP("ShiftNote", "Rows %1 to %2 moved up")),
+    return Note(Moved(tableRow, kLastRow, MESSAGE("Row %1 moved up"), MESSAGE("Rows %1 to %2 moved up")),
                 Lost(before, tableRow - 1));
 }
 

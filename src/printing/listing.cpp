@@ -30,7 +30,8 @@ ListingSection SettingsSection(const CloneImage& image)
     TextColumns columns("|");
     std::vector<Cells> table;
     for (int setting = 0; setting < kSettingsInWords; ++setting) {
-        table.push_back({std::string(SettingCaption(setting)) + ":", SettingText(image.Settings(), setting)});
+        table.push_back(
+            {SettingCaption(setting).English() + ":", SettingText(image.Settings(), setting).English()});
         columns.Fit(table.back());
     }
     for (const Cells& cells : table)
@@ -67,8 +68,8 @@ std::string GroupTitle(const CloneImage& image, int group, const std::vector<Mem
     const auto used = std::ranges::count_if(
         entries, [&image](const MemoryEntry& entry) { return image.MemData(entry.row).HasChannel(); });
     const bool isLinked = group < kBanks && image.BankLink(group);
-    return SelectorText(group) + " (" + std::to_string(used) + " of " + std::to_string(entries.size()) +
-           " rows used" + (isLinked ? ", linked)" : ")");
+    return SelectorText(group).English() + " (" + std::to_string(used) + " of " +
+           std::to_string(entries.size()) + " rows used" + (isLinked ? ", linked)" : ")");
 }
 
 MemoryGroup GroupOf(const CloneImage& image, int group)

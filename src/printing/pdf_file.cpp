@@ -19,7 +19,8 @@ PdfOutcome MakePdf(QByteArray& pdf, const QPageLayout& pageLayout, const Listing
     writer.setCreator(QString::fromUtf8(AppTitle.data(), static_cast<qsizetype>(AppTitle.size())));
     const PrintEnd end = PrintListing(writer, listing, title, progress, picture);
     if (end == PrintEnd::Failed)
-        return {end, Problem{kFileOpenError, "The pages could not be made; there may be too little memory."}};
+        return {end, Problem{kFileOpenError,
+                             MESSAGE("The pages could not be made; there may be too little memory.")}};
     if (end == PrintEnd::Done)
         pdf = buffer.data();
     return {end};

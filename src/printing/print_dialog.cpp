@@ -7,6 +7,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "language/translated.h"
 #include "memory/bank_layout.h"
 #include "printing/listing_printer.h"
 
@@ -68,7 +69,7 @@ QWidget* dlgPrint::ContentsBox()
     cbbPrintGroup_ = new QComboBox;
     cbbPrintGroup_->setObjectName(QStringLiteral("cbbPrintGroup"));
     for (int selector = 0; selector < kSelectorEntries; ++selector)
-        cbbPrintGroup_->addItem(QString::fromStdString(SelectorText(selector)));
+        cbbPrintGroup_->addItem(Translated(SelectorText(selector)));
     cbbPrintGroup_->setCurrentIndex(kSelectAll);
     auto* memory = new QFormLayout;
     memory->setContentsMargins(24, 0, 0, 0);

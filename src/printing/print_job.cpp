@@ -76,7 +76,9 @@ Listing PrintJob::ChosenListing() const
 
 PageTitle PrintJob::Title() const
 {
-    const QString name = fileName_.isEmpty() ? tr("(not saved)") : QFileInfo(fileName_).fileName();
+    // As the rest of the page, in every language.
+    const QString name =
+        fileName_.isEmpty() ? QStringLiteral("(not saved)") : QFileInfo(fileName_).fileName();
     return {name.toStdString(), QDate::currentDate().toString(Qt::ISODate).toStdString()};
 }
 

@@ -1,7 +1,6 @@
 #include "settings/setting_controls.h"
 
 #include <QCheckBox>
-#include <QCoreApplication>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
@@ -9,22 +8,19 @@
 #include <QSlider>
 
 #include "settings/setting_texts.h"
+#include "ui/form_texts.h"
 
 namespace rqm5 {
 
-SettingControls::SettingControls(const char* context, Document& document)
+SettingControls::SettingControls(const char* context, Document& document, QWidget& page)
     : context_(context), document_(document)
 {
+    SetTextContext(page, context);
     connect(&document, &Document::Replaced, this, &SettingControls::Show);
     connect(&document, &Document::Changed, this, [this](const ImageChange& change) {
         if (!change.Settings.empty())
             Show();
     });
-}
-
-QString SettingControls::Text(const char* text) const
-{
-    return QCoreApplication::translate(context_, text);
 }
 
 template <class T>
@@ -34,18 +30,16 @@ void SettingControls::Store(T ReceiverSettings::*setting, T value, int run)
     if (document_.Image().Settings().*setting == value)
         return;
     const int index = SettingIndex(setting);
-    const std::string_view caption = SettingCaption(index);
-    const QString name = tr("%1: %2").arg(QString::fromUtf8(caption.data(), qsizetype(caption.size())),
-                                          QString::fromStdString(SettingValueText(index, value)));
     document_.Edit(
-        name, [&](CloneImage& image) { image.Settings().*setting = value; }, run);
+        {MESSAGE("%1: %2"), {SettingCaption(index), SettingValueText(index, value)}},
+        [&](CloneImage& image) { image.Settings().*setting = value; }, run);
 }
 
 OptionGroup* SettingControls::Add(const OptionSetting& setting)
 {
     auto* group = new OptionGroup(context_, setting.name, setting.title, setting.options, setting.columns);
     for (const Option& option : setting.options)
-        group->Button(option.value)->setStatusTip(Text(setting.tip));
+        group->Button(option.value)->setStatusTip(Designed(setting.tip));
     connect(group, &OptionGroup::Chosen, this, [this, setting](int value) { Store(setting.value, value); });
     show_.emplace_back(
         [this, group, setting] { group->Select(document_.Image().Settings().*setting.value); });
@@ -54,9 +48,9 @@ OptionGroup* SettingControls::Add(const OptionSetting& setting)
 
 QCheckBox* SettingControls::Add(const CheckSetting& setting)
 {
-    auto* box = new QCheckBox(Text(setting.caption));
+    auto* box = new QCheckBox(Designed(setting.caption));
     box->setObjectName(QLatin1String(setting.name));
-    box->setStatusTip(Text(setting.tip));
+    box->setStatusTip(Designed(setting.tip));
     connect(box, &QCheckBox::toggled, this, [this, setting](bool on) { Store(setting.value, on); });
     show_.emplace_back(
         [this, box, setting] { box->setChecked(document_.Image().Settings().*setting.value); });
@@ -67,9 +61,9 @@ void SettingControls::Add(const SliderSetting& setting, QGridLayout& grid)
 {
     auto* slider = new QSlider(Qt::Horizontal);
     slider->setObjectName(QLatin1String(setting.name));
-    slider->setStatusTip(Text(setting.tip));
+    slider->setStatusTip(Designed(setting.tip));
     slider->setRange(0, setting.highest);
-    auto* caption = new QLabel(Text(setting.caption));
+    auto* caption = new QLabel(Designed(setting.caption));
     caption->setBuddy(slider);
     auto* label = new QLabel;
     label->setObjectName(QLatin1String(setting.labelName));

@@ -52,7 +52,8 @@ class SettingControls : public QObject
 
   public:
     /// \param context  translation context of the texts in the tables
-    SettingControls(const char* context, Document& document);
+    /// \param page     what the controls are on; SetFormTexts translates them there
+    SettingControls(const char* context, Document& document, QWidget& page);
 
     OptionGroup* Add(const OptionSetting& setting);
     QCheckBox* Add(const CheckSetting& setting);
@@ -67,7 +68,6 @@ class SettingControls : public QObject
     template <class T>
     void Store(T ReceiverSettings::*setting, T value, int run = 0);
     void EndRun(const QObject* slider) { runs_[slider] = document_.NewRun(); }
-    QString Text(const char* text) const;
 
     const char* context_;
     Document& document_;

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <string>
-#include <string_view>
-
 #include "image/receiver_settings.h"
+#include "language/message.h"
 
 namespace rqm5 {
 
@@ -11,12 +9,12 @@ namespace rqm5 {
 inline constexpr int kSettingsInWords = kSettings - 1;
 
 /// What a setting is called, by its place in kSettingFields: "Lamp".
-std::string_view SettingCaption(int setting);
+Message SettingCaption(int setting);
 
 /// What a value of it is called: "5sec". Check boxes are "on" or "off".
-std::string SettingValueText(int setting, int value);
+Message SettingValueText(int setting, int value);
 
 /// What the value that it has is called.
-std::string SettingText(const ReceiverSettings& settings, int setting);
+Message SettingText(const ReceiverSettings& settings, int setting);
 
 }  // namespace rqm5

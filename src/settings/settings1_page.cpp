@@ -5,6 +5,7 @@
 #include <QRadioButton>
 #include <vector>
 
+#include "ui/form_texts.h"
 #include "ui/transfer_buttons.h"
 #include "vfo/vfo_table.h"
 
@@ -66,12 +67,12 @@ constexpr SliderSetting kSliders[] = {
 }  // namespace
 
 Settings1Page::Settings1Page(Document& document, QWidget* parent)
-    : QWidget(parent), controls_("Settings", document), table_(nullptr)
+    : QWidget(parent), controls_("Settings", document, *this), table_(nullptr)
 {
     auto* page = new QVBoxLayout(this);
     page->addLayout(BuildOptions());
     table_ = new VfoTable(document, this);
-    auto* caption = new QLabel(tr("VFO &bands:"));
+    auto* caption = new QLabel(Designed(QT_TR_NOOP("VFO &bands:")));
     caption->setBuddy(table_);
     page->addWidget(caption);
     page->addWidget(table_, 1);
@@ -86,10 +87,11 @@ QLayout* Settings1Page::BuildOptions()
     OptionGroup* model = controls_.Add(ModelSetting());
     for (int sibling = kFirstSibling; sibling <= kLastSibling; ++sibling) {
         model->Button(sibling)->setEnabled(false);
-        model->Button(sibling)->setToolTip(tr("A sibling model; kept when a file or receiver has it"));
+        model->Button(sibling)->setToolTip(
+            Designed(QT_TR_NOOP("A sibling model; kept when a file or receiver has it")));
     }
 
-    auto* sound = new QGroupBox(tr("Sound"));
+    auto* sound = new QGroupBox(Designed(QT_TR_NOOP("Sound")));
     auto* sliders = new QGridLayout(sound);
     for (const SliderSetting& slider : kSliders)
         controls_.Add(slider, *sliders);
@@ -105,9 +107,11 @@ QLayout* Settings1Page::BuildOptions()
 
 QLayout* Settings1Page::BuildTransferRow()
 {
-    const TransferButtons buttons("cmbRxData1", tr("Rea&d Settings"), "cmbTxData1", tr("Write Settin&gs"));
-    buttons.read->setStatusTip(tr("Read all settings and VFO bands from the receiver"));
-    buttons.write->setStatusTip(tr("Write all settings, VFO bands and presets to the receiver"));
+    const TransferButtons buttons("cmbRxData1", Designed(QT_TR_NOOP("Rea&d Settings")), "cmbTxData1",
+                                  Designed(QT_TR_NOOP("Write Settin&gs")));
+    buttons.read->setStatusTip(Designed(QT_TR_NOOP("Read all settings and VFO bands from the receiver")));
+    buttons.write->setStatusTip(
+        Designed(QT_TR_NOOP("Write all settings, VFO bands and presets to the receiver")));
     connect(buttons.read, &QPushButton::clicked, this, &Settings1Page::ReadRequested);
     connect(buttons.write, &QPushButton::clicked, this, &Settings1Page::WriteRequested);
     return buttons.row;

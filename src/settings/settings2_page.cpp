@@ -1,9 +1,9 @@
 #include "settings/settings2_page.h"
 
 #include <QCheckBox>
-#include <QCoreApplication>
 #include <QGridLayout>
 
+#include "ui/form_texts.h"
 #include "ui/tall_area.h"
 #include "ui/transfer_buttons.h"
 
@@ -85,7 +85,7 @@ constexpr int kBoxColumns = 3;
 }  // namespace
 
 Settings2Page::Settings2Page(Document& document, QWidget* parent)
-    : QWidget(parent), controls_("Settings", document)
+    : QWidget(parent), controls_("Settings", document, *this)
 {
     auto* page = new QVBoxLayout(this);
     auto* area = new TallArea(BuildSettings(), this);
@@ -107,7 +107,7 @@ QWidget* Settings2Page::BuildSettings()
     for (const OptionSetting& setting : kOptionSettings)
         add(controls_.Add(setting));
     for (const CheckGroup& group : kCheckGroups) {
-        auto* box = new QGroupBox(QCoreApplication::translate("Settings", group.title));
+        auto* box = new QGroupBox(Designed(group.title));
         auto* column = new QVBoxLayout(box);
         for (const CheckSetting& check : group.checks)
             if (check.name != nullptr)
@@ -123,9 +123,11 @@ QWidget* Settings2Page::BuildSettings()
 
 QLayout* Settings2Page::BuildTransferRow()
 {
-    const TransferButtons buttons("cmbRxData2", tr("Rea&d Settings"), "cmbTxData2", tr("Write Settin&gs"));
-    buttons.read->setStatusTip(tr("Read all settings and VFO bands from the receiver"));
-    buttons.write->setStatusTip(tr("Write all settings, VFO bands and presets to the receiver"));
+    const TransferButtons buttons("cmbRxData2", Designed(QT_TR_NOOP("Rea&d Settings")), "cmbTxData2",
+                                  Designed(QT_TR_NOOP("Write Settin&gs")));
+    buttons.read->setStatusTip(Designed(QT_TR_NOOP("Read all settings and VFO bands from the receiver")));
+    buttons.write->setStatusTip(
+        Designed(QT_TR_NOOP("Write all settings, VFO bands and presets to the receiver")));
     connect(buttons.read, &QPushButton::clicked, this, &Settings2Page::ReadRequested);
     connect(buttons.write, &QPushButton::clicked, this, &Settings2Page::WriteRequested);
     return buttons.row;

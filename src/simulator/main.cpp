@@ -16,7 +16,7 @@ enum ExitStatus { kDone = 0, kFailed = 1, kWrongUsage = 2 };
 
 int Report(const Problem& problem)
 {
-    std::cerr << problem.text << ": " << problem.details << "\n";
+    std::cerr << problem.text << ": " << problem.details.English() << "\n";
     return kFailed;
 }
 
@@ -45,8 +45,8 @@ int Save(const QString& path, const ReceiverMemory& memory, const CloneImage& no
     if (outcome.lostNotes.empty())
         return kDone;
     Report(path.toStdString() + " is written, but it cannot bring back these notes:");
-    for (const std::string& row : outcome.lostNotes)
-        std::cerr << "  " << row << "\n";
+    for (const Message& row : outcome.lostNotes)
+        std::cerr << "  " << row.English() << "\n";
     return kFailed;
 }
 

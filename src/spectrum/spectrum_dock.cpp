@@ -10,6 +10,7 @@
 #include "spectrum/spectrum_view.h"
 #include "ui/elided_label.h"
 #include "ui/error_prompt.h"
+#include "ui/form_texts.h"
 
 namespace rqm5 {
 namespace {
@@ -19,7 +20,7 @@ constexpr double kButtonZoom = 1.5;
 }  // namespace
 
 SpectrumDock::SpectrumDock(const Document& document, Dialogs& dialogs, QWidget* parent)
-    : QDockWidget(tr("Spectrum"), parent), document_(document), dialogs_(dialogs)
+    : QDockWidget(Designed(QT_TR_NOOP("Spectrum")), parent), document_(document), dialogs_(dialogs)
 {
     setObjectName(QStringLiteral("dckSpectrum"));
     auto* inside = new QWidget(this);
@@ -49,23 +50,25 @@ SpectrumDock::SpectrumDock(const Document& document, Dialogs& dialogs, QWidget* 
 QLayout* SpectrumDock::MakeButtonRow()
 {
     auto* row = new QHBoxLayout;
-    const auto add = [&](const QString& text, const char* name, const QString& tip, auto press) {
+    const auto add = [&](const char* text, const char* name, const char* tip, auto press) {
         auto* button = new QToolButton;
-        button->setText(text);
+        button->setText(Designed(text));
         button->setObjectName(QLatin1String(name));
-        button->setToolTip(tip);
-        button->setAccessibleName(tip);
+        button->setToolTip(Designed(tip));
+        button->setAccessibleName(Designed(tip));
         connect(button, &QToolButton::clicked, this, press);
         row->addWidget(button);
     };
-    add(tr("+"), "cmbSpectrumNearer", tr("Zoom in (+, or the wheel)"), [this] { view_->Zoom(kButtonZoom); });
-    add(tr("\u2212"), "cmbSpectrumFarther", tr("Zoom out (-, or the wheel)"),
+    add("+", "cmbSpectrumNearer", QT_TR_NOOP("Zoom in (+, or the wheel)"),
+        [this] { view_->Zoom(kButtonZoom); });
+    add("\u2212", "cmbSpectrumFarther", QT_TR_NOOP("Zoom out (-, or the wheel)"),
         [this] { view_->Zoom(1 / kButtonZoom); });
-    add(tr("All"), "cmbSpectrumAll", tr("Show the whole range (Home)"), [this] { view_->ShowAll(); });
+    add(QT_TR_NOOP("All"), "cmbSpectrumAll", QT_TR_NOOP("Show the whole range (Home)"),
+        [this] { view_->ShowAll(); });
     lblSpectrumChannel_ = new ElidedLabel(Qt::ElideRight, this);
     lblSpectrumChannel_->setObjectName(QStringLiteral("lblSpectrumChannel"));
     row->addWidget(lblSpectrumChannel_, 1);
-    add(tr("Save Picture..."), "cmbSpectrumSave", tr("Save what is shown as PNG or SVG"),
+    add(QT_TR_NOOP("Save Picture..."), "cmbSpectrumSave", QT_TR_NOOP("Save what is shown as PNG or SVG"),
         [this] { cmbSpectrumSave_Click(); });
     return row;
 }

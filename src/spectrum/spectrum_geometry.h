@@ -3,6 +3,7 @@
 #include <QFontMetricsF>
 #include <QRectF>
 
+#include "language/translated.h"
 #include "spectrum/spectrum_picture.h"
 
 namespace rqm5 {
@@ -18,7 +19,7 @@ class SpectrumGeometry
     {
         double widest = 0;
         for (const SpectrumLane& lane : picture.lanes)
-            widest = std::max(widest, metrics.horizontalAdvance(QString::fromStdString(lane.title)));
+            widest = std::max(widest, metrics.horizontalAdvance(Translated(lane.title)));
         const double titles = std::min(widest + line_, area.width() / kWidestTitles);
         plot_ = area.adjusted(titles, kHeader * line_, -line_ / 2, -kFooter * line_);
         const auto lanes = static_cast<double>(std::max<std::size_t>(picture.lanes.size(), 1));

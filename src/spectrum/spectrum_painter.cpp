@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <algorithm>
 
+#include "language/translated.h"
 #include "spectrum/spectrum_marks.h"
 
 namespace rqm5 {
@@ -158,8 +159,7 @@ class SpectrumPainter
         painter_.drawLine(QPointF(area_.left(), bottom), QPointF(at_.Plot().right(), bottom));
         const QRectF box(area_.left() + pen_ * 4, at_.LaneTop(lane),
                          at_.Plot().left() - area_.left() - pen_ * 8, at_.LaneHeight());
-        const QString title =
-            QString::fromStdString(scene_.picture.lanes[static_cast<std::size_t>(lane)].title);
+        const QString title = Translated(scene_.picture.lanes[static_cast<std::size_t>(lane)].title);
         DrawText(box, Qt::AlignLeft | Qt::AlignVCenter,
                  metrics_.elidedText(title, Qt::ElideRight, box.width()));
     }

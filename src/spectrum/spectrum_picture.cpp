@@ -21,25 +21,25 @@ class PictureBuilder
     {
         for (int bank = 0; bank < kBanks; ++bank)
             AddUsedLane(SelectorText(bank), GroupRows(image_, bank));
-        AddUsedLane("No bank", RowsInNoBank(image_));
+        AddUsedLane(MESSAGE("No bank"), RowsInNoBank(image_));
         for (const RowGroup& group : kRowGroups) {
-            AddLane(std::string(group.title), group.rows);
+            AddLane(group.title, group.rows);
             if (group.isPairs)
                 AddSpans(group.rows);
         }
-        AddUsedLane("Not in receiver", {kRadioRows, kMemoryRows - kRadioRows});
+        AddUsedLane(MESSAGE("Not in receiver"), {kRadioRows, kMemoryRows - kRadioRows});
         AddBands();
         return std::move(picture_);
     }
 
   private:
-    void AddUsedLane(const std::string& title, RowRange rows)
+    void AddUsedLane(const Message& title, RowRange rows)
     {
         if (FillOf(image_, rows).used > 0)
             AddLane(title, rows);
     }
 
-    void AddLane(const std::string& title, RowRange rows)
+    void AddLane(const Message& title, RowRange rows)
     {
         const auto first = picture_.marks.size();
         const auto lane = static_cast<int>(picture_.lanes.size());

@@ -6,6 +6,7 @@
 
 #include "image/clone_image.h"
 #include "image/value_tables.h"
+#include "language/message.h"
 #include "spectrum/spectrum_axis.h"
 
 namespace rqm5 {
@@ -13,7 +14,7 @@ namespace rqm5 {
 /// A bank that holds a channel, or one of the other groups.
 struct SpectrumLane
 {
-    std::string title;
+    Message title;
     int firstMark = 0;  ///< of Marks
     int marks = 0;
 };

@@ -5,19 +5,24 @@
 #include <cmath>
 #include <utility>
 
+#include "language/language.h"
+#include "language/translated.h"
 #include "memory/row_names.h"
 #include "spectrum/spectrum_accessible.h"
+#include "ui/form_texts.h"
 
 namespace rqm5 {
 SpectrumView::SpectrumView(const CloneImage& image, QWidget* parent) : QWidget(parent), image_(image)
 {
     InstallSpectrumAccessibility();
     setObjectName(QStringLiteral("picSpectrum"));
-    setAccessibleName(tr("Spectrum of the channels"));
-    setStatusTip(tr("Arrow keys go from channel to channel, Enter selects one; plus, minus and Home zoom"));
+    setAccessibleName(Designed(QT_TR_NOOP("Spectrum of the channels")));
+    setStatusTip(Designed(
+        QT_TR_NOOP("Arrow keys go from channel to channel, Enter selects one; plus, minus and Home zoom")));
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    connect(&Language::OfProgram(), &Language::Changed, this, &SpectrumView::TellName);
     ShowImage();
 }
 
@@ -107,8 +112,7 @@ QString SpectrumView::NameOfMark(int index) const
         return QString::fromStdString(CellText(channel, RowKind::Memory, image_.ModelNo(), column));
     };
     QStringList parts = {tr("%1 MHz").arg(text(kFrequency)), text(kMode),
-                         QString::fromStdString(RowLabel(image_, mark.row)),
-                         mark.isOn ? tr("on") : tr("off")};
+                         Translated(RowLabel(image_, mark.row)), mark.isOn ? tr("on") : tr("off")};
     if (mark.isDuplicate)
         parts << tr("stored twice");
     if (!channel.note.empty())

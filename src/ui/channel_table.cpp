@@ -81,8 +81,14 @@ void ChannelTable::keyPressEvent(QKeyEvent* event)
 void ChannelTable::changeEvent(QEvent* event)
 {
     QTableView::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        FitToFont();
+    switch (event->type()) {
+        case QEvent::FontChange:
+        case QEvent::StyleChange:
+        case QEvent::LanguageChange:  // the titles are other ones
+            return FitToFont();
+        default:
+            return;
+    }
 }
 
 void ChannelTable::resizeEvent(QResizeEvent* event)

@@ -3,14 +3,40 @@
 #include <QCoreApplication>
 
 #include "image/display_text.h"
+#include "language/language.h"
 
 namespace rqm5 {
+
+namespace {
+
+// The titles are a line of words, which files and the command line have, too; here is where a translation
+// finds them.
+[[maybe_unused]] constexpr const char* kTitleWords[] = {
+    QT_TRANSLATE_NOOP("rqm5::ChannelTable", "Frequency"),
+    QT_TRANSLATE_NOOP("rqm5::ChannelTable", "Mode"),
+    QT_TRANSLATE_NOOP("rqm5::ChannelTable", "Step"),
+    QT_TRANSLATE_NOOP("rqm5::ChannelTable", "Option"),
+    QT_TRANSLATE_NOOP("rqm5::ChannelTable", "Skip"),
+    QT_TRANSLATE_NOOP("rqm5::ChannelTable", "Scrt"),
+    QT_TRANSLATE_NOOP("rqm5::ChannelTable", "Carrier"),
+    QT_TRANSLATE_NOOP("rqm5::ChannelTable", "Tone"),
+    QT_TRANSLATE_NOOP("rqm5::ChannelTable", "Shift"),
+    QT_TRANSLATE_NOOP("rqm5::ChannelTable", "ShiftFreq."),
+    QT_TRANSLATE_NOOP("rqm5::ChannelTable", "Note"),
+};
+
+}  // namespace
 
 ChannelTableModel::ChannelTableModel(std::string_view titles, QObject* parent) : QAbstractTableModel(parent)
 {
     const auto text = QString::fromUtf8(titles.data(), static_cast<qsizetype>(titles.size()));
     for (const QString& title : text.split(u'|'))
-        titles_ += QCoreApplication::translate("rqm5::ChannelTable", title.toUtf8().constData());
+        titles_ += title.toUtf8();
+    connect(&Language::OfProgram(), &Language::Changed, this, [this] {
+        emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+        if (rowCount() > 0)
+            emit headerDataChanged(Qt::Vertical, 0, rowCount() - 1);
+    });
 }
 
 int ChannelTableModel::rowCount(const QModelIndex& parent) const
@@ -44,7 +70,7 @@ QVariant ChannelTableModel::headerData(int section, Qt::Orientation orientation,
     if (role != Qt::DisplayRole)
         return {};
     if (orientation == Qt::Horizontal)
-        return titles_.value(section + 1);
+        return QCoreApplication::translate("rqm5::ChannelTable", titles_.value(section + 1).constData());
     return QString::fromStdString(labels_.at(static_cast<std::size_t>(section)));
 }
 

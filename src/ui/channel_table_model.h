@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
-#include <QStringList>
+#include <QByteArrayList>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,7 +34,7 @@ class ChannelTableModel : public QAbstractTableModel
     virtual std::string Cell(int row, Column column) const = 0;
 
   private:
-    QStringList titles_;
+    QByteArrayList titles_;  ///< as designed
     std::vector<std::string> labels_;
 };
 

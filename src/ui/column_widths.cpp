@@ -3,6 +3,7 @@
 #include <QAction>
 #include <algorithm>
 
+#include "ui/form_texts.h"
 #include "ui/settings_store.h"
 
 namespace rqm5 {
@@ -12,8 +13,9 @@ ColumnWidths::ColumnWidths(QHeaderView& titles, int columns)
 {
     connect(&titles, &QHeaderView::sectionResized, this,
             [this](int column, int /*before*/, int width) { Section_Resized(column, width); });
-    auto* usual = new QAction(tr("&Usual Column Widths"), &titles);
+    auto* usual = new QAction(Designed(QT_TR_NOOP("&Usual Column Widths")), &titles);
     usual->setObjectName(QStringLiteral("popUsualWidths"));
+    SetTextContext(*usual, "rqm5::ColumnWidths");
     connect(usual, &QAction::triggered, this, &ColumnWidths::popUsualWidths_Click);
     titles.addAction(usual);
     titles.setContextMenuPolicy(Qt::ActionsContextMenu);

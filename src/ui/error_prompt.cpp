@@ -1,6 +1,6 @@
 #include "ui/error_prompt.h"
 
-#include <QCoreApplication>
+#include "language/translated.h"
 
 namespace rqm5 {
 
@@ -8,10 +8,10 @@ namespace {
 
 // The fixed texts are made where no window is known; here is where a translation finds them.
 [[maybe_unused]] constexpr const char* kProblemTexts[] = {
-    QT_TRANSLATE_NOOP("Problem", "COM Port Error"),
-    QT_TRANSLATE_NOOP("Problem", "Communication Error"),
-    QT_TRANSLATE_NOOP("Problem", "Data Error"),
-    QT_TRANSLATE_NOOP("Problem", "File Open Error"),
+    MESSAGE("COM Port Error"),
+    MESSAGE("Communication Error"),
+    MESSAGE("Data Error"),
+    MESSAGE("File Open Error"),
 };
 
 }  // namespace
@@ -19,12 +19,12 @@ namespace {
 Prompt ErrorPrompt(const Problem& problem)
 {
     Prompt prompt;
-    prompt.title = QCoreApplication::translate("Problem", "ERROR");
-    prompt.text = QCoreApplication::translate("Problem", problem.text.c_str());
-    prompt.details = QString::fromStdString(problem.details);
+    prompt.title = Translated(MESSAGE("ERROR"));
+    prompt.text = Translated(problem.text.c_str());
+    prompt.details = Translated(problem.details);
     prompt.command = QString::fromStdString(problem.command);
     if (!problem.aftermath.empty())
-        prompt.details += QStringLiteral("\n\n") + QString::fromStdString(problem.aftermath);
+        prompt.details += QStringLiteral("\n\n") + Translated(problem.aftermath);
     return prompt;
 }
 

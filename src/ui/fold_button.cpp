@@ -3,12 +3,14 @@
 #include <QCoreApplication>
 #include <QStatusTipEvent>
 
+#include "language/language.h"
+#include "language/translated.h"
 #include "ui/settings_store.h"
 
 namespace rqm5 {
 
-FoldButton::FoldButton(QWidget& folded, const QString& key, const QString& what)
-    : folded_(folded), what_(what)
+FoldButton::FoldButton(QWidget& folded, const QString& key, Message show, Message hide)
+    : folded_(folded), show_(std::move(show)), hide_(std::move(hide))
 {
     setAutoRaise(true);
     setCheckable(true);
@@ -23,13 +25,19 @@ FoldButton::FoldButton(QWidget& folded, const QString& key, const QString& what)
         SettingsStore().setValue(key, isFolded);
         Fold(isFolded);
     });
+    connect(&Language::OfProgram(), &Language::Changed, this, &FoldButton::ShowTip);
 }
 
 void FoldButton::Fold(bool isFolded)
 {
     folded_.setVisible(!isFolded);
     setArrowType(isFolded ? Qt::LeftArrow : Qt::RightArrow);
-    setToolTip((isFolded ? tr("Show the %1") : tr("Hide the %1")).arg(what_));
+    ShowTip();
+}
+
+void FoldButton::ShowTip()
+{
+    setToolTip(Translated(isChecked() ? show_ : hide_));
     setAccessibleName(toolTip());
     setStatusTip(toolTip());
     if (!underMouse())

@@ -2,6 +2,8 @@
 
 #include <QToolButton>
 
+#include "language/message.h"
+
 namespace rqm5 {
 
 /// A small arrow that folds away what stands at its right, and brings it back. It remembers, from run to run,
@@ -11,15 +13,17 @@ class FoldButton : public QToolButton
     Q_OBJECT
 
   public:
-    /// \param key   what the state is kept as
-    /// \param what  what is folded away, for the tool tip: "operation buttons"
-    FoldButton(QWidget& folded, const QString& key, const QString& what);
+    /// \param key         what the state is kept as
+    /// \param show, hide  the tool tip, by what a click does
+    FoldButton(QWidget& folded, const QString& key, Message show, Message hide);
 
   private:
     void Fold(bool isFolded);
+    void ShowTip();
 
     QWidget& folded_;
-    const QString what_;
+    const Message show_;
+    const Message hide_;
 };
 
 }  // namespace rqm5

@@ -7,7 +7,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QTabBar>
+#include <QTreeWidget>
 #include <QVariant>
 #include <optional>
 
@@ -15,14 +17,21 @@ namespace rqm5 {
 
 namespace {
 
+constexpr char kContext[] = "textContext";
+
 /// The translation of a text in the context of an object's class or of a class that holds it.
 std::optional<QString> Lookup(const QObject* object, const QString& text)
 {
     const QByteArray source = text.toUtf8();
+    const auto in = [&source](const char* context) {
+        return QCoreApplication::translate(context, source.constData());
+    };
     for (; object != nullptr; object = object->parent()) {
+        if (const QByteArray named = object->property(kContext).toByteArray(); !named.isEmpty())
+            if (const QString found = in(named.constData()); found != text)
+                return found;
         for (const QMetaObject* type = object->metaObject(); type != nullptr; type = type->superClass()) {
-            const QString found = QCoreApplication::translate(type->className(), source.constData());
-            if (found != text)
+            if (const QString found = in(type->className()); found != text)
                 return found;
         }
     }
@@ -64,6 +73,13 @@ void SetTabTexts(QTabBar& tabs)
     }
 }
 
+void SetHeaderTexts(QTreeWidget& tree)
+{
+    QTreeWidgetItem& header = *tree.headerItem();
+    for (int i = 0; i < tree.columnCount(); ++i)
+        header.setText(i, NewText(tree, "tagHeader" + QByteArray::number(i), header.text(i)));
+}
+
 void SetActionTexts(QAction& action)
 {
     SetText<QAction>(action, "tag", &QAction::text, &QAction::setText);
@@ -89,9 +105,23 @@ void SetWidgetTexts(QWidget& widget)
         SetText<QLineEdit>(*line, "tag", &QLineEdit::placeholderText, &QLineEdit::setPlaceholderText);
     else if (auto* tabs = qobject_cast<QTabBar*>(&widget))
         SetTabTexts(*tabs);
+    else if (auto* tree = qobject_cast<QTreeWidget*>(&widget))
+        SetHeaderTexts(*tree);
 }
 
 }  // namespace
+
+QString WithoutMnemonic(const QString& text)
+{
+    static const QRegularExpression behind(QStringLiteral("\\(&[^&]\\)"));
+    static const QRegularExpression mark(QStringLiteral("&(.)"));
+    return QString(text).remove(behind).replace(mark, QStringLiteral("\\1"));
+}
+
+void SetTextContext(QObject& control, const char* context)
+{
+    control.setProperty(kContext, QByteArray(context));
+}
 
 void SetFormTexts(QWidget& form)
 {

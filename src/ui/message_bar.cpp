@@ -8,7 +8,10 @@
 #include <QToolButton>
 #include <algorithm>
 
+#include "language/language.h"
+#include "language/translated.h"
 #include "ui/elided_label.h"
+#include "ui/form_texts.h"
 
 namespace rqm5 {
 namespace {
@@ -33,9 +36,10 @@ MessageBar::MessageBar(QWidget* parent)
     close->setObjectName(QStringLiteral("cmbMessageClose"));
     close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
     close->setAutoRaise(true);
-    close->setToolTip(tr("Close this message"));
-    close->setAccessibleName(tr("Close this message"));
+    close->setToolTip(Designed(QT_TR_NOOP("Close this message")));
+    close->setAccessibleName(close->toolTip());
     connect(close, &QToolButton::clicked, this, &MessageBar::cmbMessageClose_Click);
+    connect(&Language::OfProgram(), &Language::Changed, this, &MessageBar::ShowTexts);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(kMargin, kMargin / 2, kMargin / 2, kMargin / 2);
     row->addWidget(icon);
@@ -47,19 +51,19 @@ MessageBar::MessageBar(QWidget* parent)
 
 bool MessageBar::Has(const QString& key) const
 {
-    return std::ranges::find(messages_, key, &Message::key) != messages_.end();
+    return std::ranges::find(messages_, key, &Notice::key) != messages_.end();
 }
 
-void MessageBar::Show(Message message)
+void MessageBar::Show(Notice notice)
 {
-    std::erase_if(messages_, [&message](const Message& old) { return old.key == message.key; });
-    messages_.push_back(std::move(message));
+    std::erase_if(messages_, [&notice](const Notice& old) { return old.key == notice.key; });
+    messages_.push_back(std::move(notice));
     ShowLatest();
 }
 
 void MessageBar::Withdraw(const QString& key)
 {
-    if (std::erase_if(messages_, [&key](const Message& old) { return old.key == key; }) > 0)
+    if (std::erase_if(messages_, [&key](const Notice& old) { return old.key == key; }) > 0)
         ShowLatest();
 }
 
@@ -75,16 +79,26 @@ void MessageBar::ShowLatest()
     setVisible(!messages_.empty());
     if (messages_.empty())
         return;
-    const Message& latest = messages_.back();
-    lblMessage_->setText(latest.text);
-    for (std::size_t i = 0; i < latest.buttons.size(); ++i) {
-        auto* button = new QPushButton(latest.buttons[i].text, this);
+    for (std::size_t i = 0; i < messages_.back().buttons.size(); ++i) {
+        auto* button = new QPushButton(this);
         button->setObjectName(QStringLiteral("cmbMessage_%1").arg(i));
         connect(button, &QPushButton::clicked, this, [this, i] { Press(i); });
         buttons_->addWidget(button);
     }
+    ShowTexts();
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+}
+
+void MessageBar::ShowTexts()
+{
+    if (messages_.empty())
+        return;
+    const Notice& latest = messages_.back();
+    lblMessage_->setText(Translated(latest.text));
+    for (int i = 0; i < buttons_->count(); ++i)
+        static_cast<QPushButton*>(buttons_->itemAt(i)->widget())
+            ->setText(Translated(latest.buttons[static_cast<std::size_t>(i)].text));
 }
 
 void MessageBar::Press(std::size_t button)

@@ -5,6 +5,8 @@
 #include <functional>
 #include <vector>
 
+#include "language/message.h"
+
 class QHBoxLayout;
 
 namespace rqm5 {
@@ -13,7 +15,7 @@ class ElidedLabel;
 
 /// `barMessage`: one line of text with buttons at the edge of a window, for what must be seen and can wait.
 /// It shows one message at most and never takes the focus. A newer one stands before an older one until it is
-/// withdrawn or closed.
+/// withdrawn or closed. What stands there follows the language.
 class MessageBar : public QFrame
 {
     Q_OBJECT
@@ -21,21 +23,21 @@ class MessageBar : public QFrame
   public:
     struct Button
     {
-        QString text;
+        Message text;
         std::function<void()> press;
     };
 
-    struct Message
+    struct Notice
     {
         QString key;  ///< who speaks; one message each
-        QString text;
+        Message text;
         std::vector<Button> buttons = {};
     };
 
     explicit MessageBar(QWidget* parent);
 
     /// Shows a message in the place of the one of the same key.
-    void Show(Message message);
+    void Show(Notice notice);
 
     /// Takes a message away; does nothing when there is none.
     void Withdraw(const QString& key);
@@ -48,12 +50,13 @@ class MessageBar : public QFrame
 
   private:
     void ShowLatest();
+    void ShowTexts();
     void Press(std::size_t button);
     void cmbMessageClose_Click();
 
-    std::vector<Message> messages_;  ///< the latest last
+    std::vector<Notice> messages_;  ///< the latest last
     ElidedLabel* lblMessage_;
-    QHBoxLayout* buttons_;
+    QHBoxLayout* buttons_;  ///< of the latest, in its order
 };
 
 }  // namespace rqm5

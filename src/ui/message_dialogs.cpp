@@ -79,7 +79,8 @@ QMessageBox::StandardButton MessageDialogs::Ask(QWidget* parent, const Prompt& p
     }
     QPushButton* copy = prompt.command.isEmpty()
                             ? nullptr
-                            : box.addButton(Translated("&Copy Command"), QMessageBox::ActionRole);
+                            : box.addButton(Translated(QT_TRANSLATE_NOOP("MessageDialogs", "&Copy Command")),
+                                            QMessageBox::ActionRole);
     if (copy != nullptr)
         copy->setObjectName(QStringLiteral("cmbCopyCommand"));
     const int answer = box.exec();

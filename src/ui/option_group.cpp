@@ -1,21 +1,23 @@
 #include "ui/option_group.h"
 
 #include <QButtonGroup>
-#include <QCoreApplication>
 #include <QGridLayout>
 #include <QRadioButton>
+
+#include "ui/form_texts.h"
 
 namespace rqm5 {
 
 OptionGroup::OptionGroup(const char* context, const char* name, const char* title,
                          std::span<const Option> options, int columns, QWidget* parent)
-    : QGroupBox(QCoreApplication::translate(context, title), parent), buttons_(new QButtonGroup(this))
+    : QGroupBox(Designed(title), parent), buttons_(new QButtonGroup(this))
 {
     setObjectName(QLatin1String(name));
+    SetTextContext(*this, context);
     auto* grid = new QGridLayout(this);
     int place = 0;
     for (const Option& option : options) {
-        auto* button = new QRadioButton(QCoreApplication::translate(context, option.caption));
+        auto* button = new QRadioButton(Designed(option.caption));
         button->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(option.value));
         buttons_->addButton(button, option.value);
         grid->addWidget(button, place / columns, place % columns);

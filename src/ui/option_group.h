@@ -12,7 +12,7 @@ namespace rqm5 {
 struct Option
 {
     int value;
-    const char* caption;  ///< translated in the context given to the group
+    const char* caption;  ///< as designed, in the context given to the group
 };
 
 /// A titled box of option buttons, of which one or none is chosen. Button of value i has the object name
@@ -22,7 +22,7 @@ class OptionGroup : public QGroupBox
     Q_OBJECT
 
   public:
-    /// \param context  translation context of title and captions
+    /// \param context  translation context of title and captions; SetFormTexts translates them
     /// \param columns  buttons beside each other
     OptionGroup(const char* context, const char* name, const char* title, std::span<const Option> options,
                 int columns, QWidget* parent = nullptr);

@@ -1,19 +1,29 @@
 #include "ui/row_list.h"
 
-#include <QCoreApplication>
-#include <QStringList>
+#include "language/translated.h"
 
 namespace rqm5 {
 
+Message NamedRows(std::vector<Message> rows, std::size_t named, std::string separator)
+{
+    if (rows.empty())
+        return {};
+    if (rows.size() > named) {
+        const auto others = static_cast<int>(rows.size() - named);
+        rows.resize(named);
+        rows.push_back(Message(MESSAGE("and %1 more"), {others}));
+    }
+    return Message::List(std::move(rows), std::move(separator));
+}
+
+QString RowList(const std::vector<Message>& rows, std::size_t named)
+{
+    return Translated(NamedRows(rows, named));
+}
+
 QString RowList(const std::vector<std::string>& rows, std::size_t named)
 {
-    QStringList lines;
-    for (std::size_t i = 0; i < rows.size() && i < named; ++i)
-        lines.append(QString::fromStdString(rows[i]));
-    if (rows.size() > named)
-        lines.append(QCoreApplication::translate("RowList", "and %n more", nullptr,
-                                                 static_cast<int>(rows.size() - named)));
-    return lines.join(QLatin1Char('\n'));
+    return RowList(std::vector<Message>(rows.begin(), rows.end()), named);
 }
 
 }  // namespace rqm5

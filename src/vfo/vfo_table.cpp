@@ -1,5 +1,6 @@
 #include "vfo/vfo_table.h"
 
+#include "ui/form_texts.h"
 #include "ui/table_font.h"
 
 namespace rqm5 {
@@ -9,8 +10,9 @@ VfoTable::VfoTable(const Document& document, QWidget* parent)
       model_(document.Image(), nullptr)
 {
     setObjectName(QStringLiteral("MSFlexGrid2"));
-    setAccessibleName(tr("VFO bands"));
-    setStatusTip(tr("One VFO setting per band. Enter or a double click edits the selected one."));
+    setAccessibleName(Designed(QT_TR_NOOP("VFO bands")));
+    setStatusTip(
+        Designed(QT_TR_NOOP("One VFO setting per band. Enter or a double click edits the selected one.")));
     setModel(&model_);
     ChangeFont(*this);
     SelectTableRow(1);

@@ -424,7 +424,7 @@ TEST_F(WindowTest, TheStatusBarSaysWhatMattersMost)
     Find<QWidget>("Slider1").setFocus();
     const std::pair<std::function<void()>, const char*> cases[] = {
         {[] {}, "Volume, 0 to 50"},
-        {[&] { bar.ShowWarning(QStringLiteral("a warning")); }, "a warning"},
+        {[&] { bar.ShowWarning(std::string("a warning")); }, "a warning"},
         {[&] { bar.ShowNote(QStringLiteral("a note")); }, "a note"},
         {[&] { bar.ShowPointerHint(QStringLiteral("a hint")); }, "a note"},
         {[&] { bar.ShowNote(QStringLiteral("news")); }, "news"},

@@ -31,7 +31,7 @@ class DocumentTest : public testing::Test
     void AddVolume(int volume, int run = 0)
     {
         document_.Edit(
-            QStringLiteral("Volume %1").arg(Volume() + volume),
+            {"Volume %1", {Volume() + volume}},
             [volume](CloneImage& image) { image.Settings().volume += volume; }, run);
     }
 
@@ -39,7 +39,7 @@ class DocumentTest : public testing::Test
     {
         CloneImage image = document_.Image();
         image.Settings().volume = 50;
-        document_.Import(QStringLiteral("Import"), image, QLatin1String(file));
+        document_.Import("Import", image, QLatin1String(file));
     }
 
     /// Does things by their names.
@@ -72,7 +72,7 @@ class DocumentTest : public testing::Test
 TEST_F(DocumentTest, EditsAreStepsWithNamesAndAreTold)
 {
     const CloneImage before = document_.Image();
-    document_.Edit(QStringLiteral("Note"), [](CloneImage& image) { image.MemData(3).note = "a"; });
+    document_.Edit("Note", [](CloneImage& image) { image.MemData(3).note = "a"; });
     EXPECT_EQ(told_, "changed unsaved ");
     EXPECT_EQ(last_, Difference(before, document_.Image()));
     AddVolume(1);
@@ -220,7 +220,7 @@ TEST_F(DocumentTest, UndoTouchesOnlyWhatItsStepChanged)
 TEST_F(DocumentTest, ATransactionIsOneStepHoweverOftenItTells)
 {
     {
-        Transaction reading(document_, QStringLiteral("Read"));
+        Transaction reading(document_, "Read");
         reading.Image().Settings().volume = 1;
         reading.Announce();
         EXPECT_TRUE(seen_ == 1 && last_.MemNotes.empty());
@@ -242,7 +242,7 @@ TEST_F(DocumentTest, ATransactionThatLeavesEverythingAsItWasIsNoStep)
 {
     for (const bool isMarked : {false, true}) {
         {
-            Transaction reading(document_, QStringLiteral("Read"));
+            Transaction reading(document_, "Read");
             reading.Image().Settings().volume = 1;
             reading.Announce();
             reading.Image().Settings().volume = 30;

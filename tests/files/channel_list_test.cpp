@@ -21,11 +21,11 @@ std::string Read(std::string_view text)
     std::string result;
     for (const ListedChannel& row : ReadChannelList(text)) {
         if (!row.refusal.empty())
-            result += row.source + ": " + row.refusal;
+            result += row.source.English() + ": " + row.refusal.English();
         else
             result += FormatMegahertz(row.channel.frequency) +
                       (row.channel.note.empty() ? "" : " " + row.channel.note);
-        result += (row.remark.empty() ? "" : " [" + row.remark + "]") + "\n";
+        result += (row.remark.empty() ? "" : " [" + row.remark.English() + "]") + "\n";
     }
     return result;
 }
@@ -108,7 +108,7 @@ TEST(ChannelList, UnderstandsTheWordsForEveryColumn)
             "Freq\tMode\tStep\tSquelch\tSkip\tSecret\tTrain tone\tCTCSS\tOffset\tEnabled\n"
             "439.1\tWBFM\t8,333 kHz\tTSQL\tx\t3\tJR\t100,0 Hz\t-7.6\tno\n")
             .at(0);
-    EXPECT_EQ(row.remark, "");
+    EXPECT_EQ(row.remark.English(), "");
     EXPECT_EQ(TextsOf(row.channel), (std::vector<std::string>{"439.100000", "WFM", "8.33KHz", "Tone", "3",
                                                               "JR", "100.0Hz", "-Shift", "7.600000", ""}));
     EXPECT_TRUE(row.channel.IsSkipped() && !row.channel.enabled && row.given.Has(kEnabledPart));
@@ -129,7 +129,7 @@ TEST(ChannelList, TakesBackWhatThisProgramWrites)
     EXPECT_EQ(channel, image.MemData(3));
     const auto csv = ReadChannelList(FormatCsv(image));
     ASSERT_EQ(csv.size(), 15U) << "the VFO bands and one channel";
-    EXPECT_EQ(csv[13].refusal, "it is a VFO band");
+    EXPECT_EQ(csv[13].refusal.English(), "it is a VFO band");
     EXPECT_EQ(csv[14].channel.note, "a,b \"c\"");
 }
 
@@ -164,7 +164,7 @@ TEST(ChannelList, FindsOutHowAListOfAnyCountryIsWritten)
          "145.500000 n\n"},
     };
     for (const auto& [text, found, rows] : cases) {
-        EXPECT_EQ(DescribeTable(ReadTable(text)), found) << text;
+        EXPECT_EQ(DescribeTable(ReadTable(text)).English(), found) << text;
         EXPECT_EQ(Read(text), rows) << text;
     }
     const std::string wide(
@@ -207,7 +207,7 @@ TEST(ChannelList, IsReadAsSomebodySays)
     wrong.columns = {{"C", {kNote}}, {"2", {kNote}}};
     EXPECT_EQ(ReadTable(text, wrong).unknown, std::vector<std::string>{"C"});
     for (const char* bad : {"A", "A=colour", "A=note:kHz", "@titles=maybe", "@x=1", "@encoding=none"})
-        EXPECT_TRUE(std::holds_alternative<std::string>(ParseForm(bad))) << bad;
+        EXPECT_TRUE(std::holds_alternative<Message>(ParseForm(bad))) << bad;
 }
 
 TEST(ChannelList, AnExportedListComesBackWithoutAnyChange)

@@ -6,6 +6,7 @@
 
 #include "files/clone_lines.h"
 #include "image/channel_block.h"
+#include "language/english.h"
 #include "memory/start_image.h"
 #include "simulator/demo_image.h"
 
@@ -100,7 +101,7 @@ TEST(CloneFile, RefusedFileLeavesTheImageUntouched)
         const auto error = ParseCloneFile(FileWith(source, line, content), image);
         ASSERT_TRUE(error) << content;
         EXPECT_EQ(error->line, blamed) << content;
-        EXPECT_NE(error->reason.find(reason), std::string::npos) << error->reason;
+        EXPECT_NE(error->reason.English().find(reason), std::string::npos) << error->reason.English();
         EXPECT_TRUE(image == before) << content;
     }
 }
@@ -176,7 +177,7 @@ TEST(CloneFile, NamesTheNotesThatDoNotSurvive)
     const std::vector<std::string> expected = {"VFO row 3", "memory row 12 (Bank 0, channel 12)",
                                                "memory row 1000 (Program Scan 0A)",
                                                "memory row 1105 (Search Pass S5)"};
-    EXPECT_EQ(NotesThatDoNotSurvive(image), expected);
+    EXPECT_EQ(English(NotesThatDoNotSurvive(image)), expected);
 
     image.VFOData(3).note.clear();
     CloneImage loaded;

@@ -6,6 +6,7 @@
 
 #include "image/channel_block.h"
 #include "image/row_texts.h"
+#include "language/english.h"
 #include "memory/start_image.h"
 #include "simulator/demo_image.h"
 
@@ -161,7 +162,8 @@ TEST(Csv, ImportNamesWhatItReadsOtherwise)
         const CsvFindings findings = ParseCsv(Record("RQ-M5,MEMORY,3,", column, text), image).findings;
         EXPECT_EQ(findings.IsEmpty(), *finding == '\0') << text;
         if (!findings.IsEmpty()) {
-            EXPECT_EQ(findings.Lines().front(), "Line 1: memory row 3 (in no bank): " + std::string(finding));
+            EXPECT_EQ(findings.Lines().front().English(),
+                      "Line 1: memory row 3 (in no bank): " + std::string(finding));
         }
     }
     CloneImage image;
@@ -170,9 +172,9 @@ TEST(Csv, ImportNamesWhatItReadsOtherwise)
                               Record("RQ-M5,MEMORY,5,", kNote, "") + "RQ-M5,MEMORY,6,";
     std::string told;
     for (const CsvFinding& finding : ParseCsv(lines, image).findings.all)
-        if (finding.text.find("passed over") != std::string::npos ||
-            finding.text.find("short") != std::string::npos)
-            told += std::to_string(finding.line) + finding.text.substr(finding.text.size() - 7) + "|";
+        if (const std::string text = finding.text.English();
+            text.find("passed over") != std::string::npos || text.find("short") != std::string::npos)
+            told += std::to_string(finding.line) + text.substr(text.size() - 7) + "|";
     EXPECT_EQ(told, "1ed over|2ed over|3ed over|4ed over|5into it|7ed over|");
 
     CloneImage commas;
@@ -249,7 +251,7 @@ TEST(Csv, NamesTheNotesThatASpreadsheetWouldRun)
          const char* note : {"+1", "-1", "@x", "\tx", "\rx", "＝1", "＋1", "－1", "＠x", " =1", "1=1"})
         image.MemData(row++).note = note;
     image.MemData(1209).note = image.MemData(1210).note = "=";  // no CSV holds the second
-    const Texts names = NotesThatLookLikeFormulas(image);
+    const Texts names = English(NotesThatLookLikeFormulas(image));
     ASSERT_EQ(names.size(), 11U);
     EXPECT_EQ(names.front() + ", " + names.back(), "VFO row 13, memory row 1209 (Priority Pr9)");
 }

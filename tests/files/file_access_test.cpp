@@ -94,7 +94,7 @@ TEST_F(FileAccess, AccessListAndExtendedAttributesAreKept)
         GTEST_SKIP() << "this file system has none";
     WriteReport report;
     EXPECT_FALSE(WriteWholeFile(path_, "new", &report));
-    EXPECT_TRUE(report.accessChanges.empty()) << report.accessChanges.front();
+    EXPECT_TRUE(report.accessChanges.empty()) << report.accessChanges.front().English();
     EXPECT_EQ(Attribute("user.colour"), "blue");
     EXPECT_EQ(Attribute(kList), list_);
     EXPECT_EQ(Mode(), 0640U);
@@ -140,7 +140,7 @@ TEST_F(FileAccess, AnotherUsersFileOpensToNobodyElse)
             const bool isWritten = isNobody && !WriteWholeFile(path_, "new", &report);
             // Names of users are those of this machine.
             _exit(isWritten && report.accessChanges.size() == row.changes.size() &&
-                          report.accessChanges.front().starts_with("the owner was 1234 and is ") &&
+                          report.accessChanges.front().English().starts_with("the owner was 1234 and is ") &&
                           (row.changes.size() == 1 || report.accessChanges.back() == row.changes.back())
                       ? 0
                       : 1);

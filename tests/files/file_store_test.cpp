@@ -53,7 +53,7 @@ void ExpectProblem(const std::optional<Problem>& problem, const char* text, cons
 {
     ASSERT_TRUE(problem) << details;
     EXPECT_EQ(problem->text, text);
-    EXPECT_NE(problem->details.find(details), std::string::npos) << problem->details;
+    EXPECT_NE(problem->details.English().find(details), std::string::npos) << problem->details.English();
 }
 
 TEST_F(FileStore, WhatIsSavedIsLoadedAndWhatIsExportedImported)
@@ -80,7 +80,7 @@ TEST_F(FileStore, ASaveNamesTheNotesThatDoNotComeBack)
 {
     CloneImage image = StartUpImage(0);
     image.VFOData(3).note = "\"quoted\"";
-    const std::vector<std::string> lost = {"VFO row 3", "memory row 12 (Bank 0, channel 12)"};
+    const std::vector<Message> lost = {"VFO row 3", "memory row 12 (Bank 0, channel 12)"};
     for (const char* note : {"\xFF", "a,b"}) {  // with the second the whole file cannot be loaded any more
         image.MemData(12).note = note;
         EXPECT_EQ(SaveCloneFile(Path("a.RQ5"), image).lostNotes, lost);
@@ -140,7 +140,7 @@ TEST_F(FileStore, WhatASaveChangesIsNamed)
     CloneImage image = DemoImage(0);
     image.VFOData(3).shiftFrequency = 1060000;
     const SaveOutcome outcome = SaveCloneFile(Path("a.RQ5"), image);
-    const std::vector<std::string> expected = {"VFO row 3: Shift frequency 1.060000 -> 1.600000"};
+    const std::vector<Message> expected = {"VFO row 3: Shift frequency 1.060000 -> 1.600000"};
     EXPECT_EQ(outcome.changedValues, expected);
     EXPECT_FALSE(outcome.problem);
     EXPECT_EQ(outcome.mark, MarkOf(FormatCloneFile(image)));

@@ -5,6 +5,7 @@
 #include "files/round_trip.h"
 #include "files/safe_notes.h"
 #include "image/channel_block.h"
+#include "language/english.h"
 #include "memory/start_image.h"
 
 namespace rqm5 {
@@ -22,7 +23,7 @@ std::string RefusalOf(std::string_view text)
 {
     const auto result = RepairNotes(text);
     const auto* error = std::get_if<ParseError>(&result);
-    return error != nullptr ? error->reason : "none";
+    return error != nullptr ? error->reason.English() : "none";
 }
 
 TEST(SafeNotes, ReplaceWhatAFileCannotBringBackAndNothingElse)
@@ -54,15 +55,16 @@ TEST(NoteRepair, MendsTheNotesAndLeavesAllOtherLines)
     const auto refusal = ParseCloneFile(spoilt, loaded);
     ASSERT_TRUE(refusal);
     EXPECT_EQ(refusal->line, 1282);
-    EXPECT_NE(refusal->reason.find("note of memory row 0"), std::string::npos) << refusal->reason;
-    EXPECT_NE(refusal->reason.find("File > Repair, or \"rq-m5 repair\""), std::string::npos);
+    const std::string reason = refusal->reason.English();
+    EXPECT_NE(reason.find("note of memory row 0"), std::string::npos) << reason;
+    EXPECT_NE(reason.find("File > Repair, or \"rq-m5 repair\""), std::string::npos);
 
     const auto result = RepairNotes(spoilt);
     ASSERT_TRUE(std::holds_alternative<NoteRepair>(result));
     const auto& repair = std::get<NoteRepair>(result);
     std::vector<std::string> words;
     for (const RepairedNote& note : repair.notes)
-        words.push_back(RepairText(note));
+        words.push_back(RepairText(note).English());
     const std::vector<std::string> expected = {"line 1270, note of VFO row 2: all, of it -> all; of it",
                                                "line 1282, note of memory row 0: A,B -> A;B",
                                                "line 1289, note of memory row 7: \"x\",y -> 'x';y",
@@ -101,13 +103,13 @@ TEST(RoundTrip, NamesWhatReadsBackOtherwiseAndNothingElse)
     const std::vector<std::string> expected = {
         "memory row 3 (Bank 0, channel 3): Step 1KHz -> 9KHz",
         "memory row 4 (Bank 0, channel 4): Shift frequency 0.050000 -> 0.500000"};
-    EXPECT_EQ(ChangedValues(image, ReadBack(image)), expected);
+    EXPECT_EQ(English(ChangedValues(image, ReadBack(image))), expected);
 
     image.MemData(4).note.clear();
     const std::string text = FormatCloneFile(image);
     CloneImage loaded;
     ASSERT_FALSE(ParseCloneFile(text, loaded));
-    EXPECT_EQ(ValuesReadOtherwise(text, loaded), expected) << "the file says them";
+    EXPECT_EQ(English(ValuesReadOtherwise(text, loaded)), expected) << "the file says them";
     EXPECT_TRUE(ValuesReadOtherwise(FormatCloneFile(loaded), loaded).empty());
 }
 

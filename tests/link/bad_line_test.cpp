@@ -46,9 +46,9 @@ TEST(UnreadableBlocks, AreAskedForAgainAfterTheSequenceAndThenNamed)
             EXPECT_EQ(Asked(line, HexAddress(address)), mends && address != 0x01C0 ? 3 : 4);
         const std::vector<std::string> log = line.receiver.CommandLog();
         EXPECT_EQ(log.at(kPriorityBlocks - 1), "QT~F5B90R") << "the order of the blocks stays";
-        const std::vector<std::string> left = line.reader.Unreadable();
+        const std::vector<Message> left = line.reader.Unreadable();
         EXPECT_EQ(left.size(), mends ? 0U : 3U);
-        EXPECT_TRUE(mends || left.back() == "Row 1201 (Priority Pr1)") << left.back();
+        EXPECT_TRUE(mends || left.back() == "Row 1201 (Priority Pr1)") << left.back().English();
     }
 }
 
@@ -62,7 +62,7 @@ TEST(UnreadableBlocks, AreNoBackup)
     EXPECT_EQ(ReadBackup(line.image, kSettingsOnly, line.link, line.observer, backup),
               TransferResult::Failed);
     ASSERT_EQ(line.observer.problems.size(), 1U);
-    EXPECT_NE(line.observer.problems[0].details.find("VFO 3"), std::string::npos);
+    EXPECT_NE(line.observer.problems[0].details.English().find("VFO 3"), std::string::npos);
     EXPECT_EQ(line.observer.problems[0].aftermath, NothingWritten());
 }
 

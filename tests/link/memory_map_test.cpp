@@ -93,7 +93,7 @@ TEST(MemoryMap, BlocksHaveNamesAndRowsHaveFields)
     const auto texts = [&block](int address) {
         std::string text;
         for (const BlockField& field : BlockFields(address, block))
-            text += field.name + ": " + field.text + "; ";
+            text += field.name.English() + ": " + field.text.English() + "; ";
         return text;
     };
     const std::string head = "Frequency: 145.500000; Mode: FM; Step: 9KHz; Option: ";

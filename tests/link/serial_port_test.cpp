@@ -61,7 +61,7 @@ TEST(QtSerialPort, SaysWhyAPortCannotBeOpened)
         QtSerialPort port(device);
         EXPECT_FALSE(port.Open());
         EXPECT_EQ(port.Fault(), fault) << reason;
-        const std::string details = ComPortProblem(port).details;
+        const std::string details = ComPortProblem(port).details.English();
         EXPECT_NE(details.find(reason), std::string::npos) << details;
     }
     holder.SetDevice(pipe);

@@ -35,7 +35,8 @@ TEST(MemoryRead, KeepsWhatCameBeforeAFailureOrACancel)
         ASSERT_EQ(line.observer.problems.size(), fails ? 1U : 0U);
         for (const Problem& problem : line.observer.problems)
             for (const char* part : {"4EA0", "10 attempts", "sent nothing", "clone mode"})
-                EXPECT_NE(problem.details.find(part), std::string::npos) << problem.details;
+                EXPECT_NE(problem.details.English().find(part), std::string::npos)
+                    << problem.details.English();
     }
 }
 

@@ -201,10 +201,11 @@ TEST(WriteChanges, WhatSomebodyChangedAtTheReceiverIsMergedOrAConflict)
         std::string conflict;
         for (const Conflict& found : plan.Conflicts()) {
             const ConflictRow row = DescribeConflict(line.image, plan, found);
-            conflict += row.label;
+            conflict += row.label.English();
             for (const ConflictField& field : row.fields)
                 conflict +=
-                    ' ' + field.name + ": " + field.known + ", " + field.receiver + ", " + field.image + ';';
+                    Message(" %1: %2, %3, %4;", {field.name, field.known, field.receiver, field.image})
+                        .English();
         }
         EXPECT_EQ(conflict, test.conflict) << test.what;
         for (const bool takesReceivers : {true, false}) {

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "image/channel_block.h"
+#include "language/english.h"
 #include "memory/start_image.h"
 
 namespace rqm5 {
@@ -40,7 +41,7 @@ TEST(ChangeWords, TellEachKindOfDifference)
     for (const auto& [change, line] : cases) {
         CloneImage b = a;
         change(b);
-        EXPECT_EQ(DescribeChange(a, Difference(a, b)), std::vector<std::string>{line});
+        EXPECT_EQ(English(DescribeChange(a, Difference(a, b))), std::vector<std::string>{line});
     }
     EXPECT_TRUE(DescribeChange(a, {}).empty());
 }

@@ -33,16 +33,16 @@ CloneImage SomeImage()
 /// "Bank 0 > Bank 0, channel 1: Mode Note; to Bank 0, channel 3; from row 5", the differing fields first.
 std::string Line(const DifferentItem& item)
 {
-    std::string line = ComparedGroupName(item.group) + " > " + item.name + ":";
+    std::string line = Message::List({ComparedGroupName(item.group), item.name}, " > ").English() + ":";
     for (int field = 0; field < kRowFields && item.id.IsRow() && item.isHere && item.isThere; ++field)
         if (item.fields.at(static_cast<std::size_t>(field)).differs)
             line += " " + std::string(RowFieldName(field));
     if (!item.id.IsRow() || item.isHere != item.isThere)
-        line += " " + item.here + " | " + item.there;
+        line += " " + item.here.English() + " | " + item.there.English();
     if (!item.movedTo.empty())
-        line += "; to " + item.movedTo;
+        line += "; to " + item.movedTo.English();
     if (!item.movedFrom.empty())
-        line += "; from " + item.movedFrom;
+        line += "; from " + item.movedFrom.English();
     return line;
 }
 

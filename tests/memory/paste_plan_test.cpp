@@ -32,7 +32,7 @@ class PastePlanTest : public testing::Test
         std::string told;
         for (const PlannedRow& row : plan)
             told += std::to_string(row.row) + " " +
-                    (row.IsTaken() ? FormatMegahertz(row.channel.frequency) : row.refusal) + "\n";
+                    (row.IsTaken() ? FormatMegahertz(row.channel.frequency) : row.refusal.English()) + "\n";
         return told;
     }
 

@@ -141,7 +141,7 @@ TEST(Disk, PermissionsCount)
     const auto tryAsNobody = [&](const char* details, const auto& work) {
         const pid_t child = Fork([&] {
             const std::optional<Problem> problem = BecomeNobody() ? work() : std::nullopt;
-            return problem && problem->details.find(details) != std::string::npos ? 0 : 1;
+            return problem && problem->details.English().find(details) != std::string::npos ? 0 : 1;
         });
         EXPECT_EQ(ExitStatus(child), 0) << details;
     };
@@ -169,7 +169,7 @@ TEST(Disk, WhatHappensToTheFolderMeanwhileIsToldAndTheImageKept)
     const CloneImage image = NumberedImage(1);
     for (const char* reason : {"does not exist", "this is a folder"}) {
         const std::optional<Problem> problem = SaveCloneFile(path, image).problem;
-        EXPECT_TRUE(problem && problem->details.find(reason) != std::string::npos);
+        EXPECT_TRUE(problem && problem->details.English().find(reason) != std::string::npos);
         ASSERT_TRUE(dir.mkpath(path));
     }
     ASSERT_TRUE(dir.rmdir(path));

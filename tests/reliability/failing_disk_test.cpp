@@ -106,14 +106,15 @@ class FailingDisk : public testing::Test
     const CloneImage image_ = StartUpImage(0);
 };
 
-void ExpectProblem(const std::optional<Problem>& problem, const char* text, const char* details)
+void ExpectProblem(const std::optional<Problem>& problem, const char* text, const char* part)
 {
-    ASSERT_TRUE(problem) << details;
+    ASSERT_TRUE(problem) << part;
+    const std::string details = problem->details.English();
     EXPECT_EQ(problem->text, text);
-    EXPECT_NE(problem->details.find(details), std::string::npos) << problem->details;
-    const bool blamesTheDisk = problem->details.find("disk may be failing") != std::string::npos;
-    EXPECT_TRUE(!blamesTheDisk || problem->details.find("nput/output") != std::string::npos)
-        << "only what the disk reports is blamed on it: " << problem->details;
+    EXPECT_NE(details.find(part), std::string::npos) << details;
+    const bool blamesTheDisk = details.find("disk may be failing") != std::string::npos;
+    EXPECT_TRUE(!blamesTheDisk || details.find("nput/output") != std::string::npos)
+        << "only what the disk reports is blamed on it: " << details;
 }
 
 TEST_F(FailingDisk, SaysWhatWasRefusedAndLeavesTheOldFile)

@@ -113,7 +113,7 @@ struct Line : PortFolder, SimulatedLine
                                (isObeyed && last.starts_with("QT~F" + HexAddress(block.address) + "W"));
             EXPECT_TRUE(isNew ? Agrees(block, now.At(block.address))
                               : now.At(block.address) == held.At(block.address))
-                << block.label;
+                << block.label.English();
         }
     }
 
@@ -144,9 +144,10 @@ void ExpectMessage(const Line& line, const Operation& operation, const FaultCase
         return;
     const Problem& problem = line.observer.problems.front();
     EXPECT_EQ(problem.text, fault.TakesTheLine() ? kComPortError : kCommunicationError);
-    EXPECT_TRUE(!operation.IsPatient() || problem.details.find(message) != std::string::npos)
-        << problem.details;
-    EXPECT_EQ(problem.aftermath.find("Sent: ") == 0, operation.kind == Kind::Write) << problem.aftermath;
+    EXPECT_TRUE(!operation.IsPatient() || problem.details.English().find(message) != std::string::npos)
+        << problem.details.English();
+    EXPECT_EQ(problem.aftermath.English().starts_with("Sent: "), operation.kind == Kind::Write)
+        << problem.aftermath.English();
 }
 
 int BlocksIn(const Operation& operation)

@@ -9,9 +9,12 @@
 
 #include "app/diagnostics/diagnostics_texts.h"
 #include "files/file_store.h"
+#include "language/language.h"
+#include "language/translated.h"
 #include "link/block_address.h"
 #include "link/memory_map.h"
 #include "ui/error_prompt.h"
+#include "ui/form_texts.h"
 
 namespace rqm5 {
 namespace {
@@ -39,7 +42,7 @@ DiagnosticsPanel::DiagnosticsPanel(const CloneImage& image, RadioLink& link, Tra
       log_(new ExchangeLog(link, this))
 {
     setObjectName(QStringLiteral("dckDiagnostics"));
-    setWindowTitle(tr("Diagnostics"));
+    setWindowTitle(Designed(QT_TR_NOOP("Diagnostics")));
     setFeatures(DockWidgetClosable | DockWidgetMovable);
     setAllowedAreas(Qt::BottomDockWidgetArea | Qt::TopDockWidgetArea);
     auto* splitter = new QSplitter(this);
@@ -56,20 +59,21 @@ QWidget* DiagnosticsPanel::MakeCommands()
     txtRawAddress_ = Named(new QLineEdit(holder), "txtRawAddress");
     txtRawAddress_->setPlaceholderText(QStringLiteral("1000"));
     txtRawAddress_->setMaximumWidth(12 * fontMetrics().averageCharWidth());
-    auto* address = new QLabel(tr("Bloc&k address"), holder);
+    auto* address = new QLabel(Designed(QT_TR_NOOP("Bloc&k address")), holder);
     address->setBuddy(txtRawAddress_);
-    cmbRawRead_ = Named(new QPushButton(tr("Read Block"), holder), "cmbRawRead");
-    cmbRawRead_->setToolTip(tr("Sends one read command and shows the reply as it comes"));
+    cmbRawRead_ = Named(new QPushButton(Designed(QT_TR_NOOP("Read Block")), holder), "cmbRawRead");
+    cmbRawRead_->setToolTip(Designed(QT_TR_NOOP("Sends one read command and shows the reply as it comes")));
     lblRawFault_ = Named(new QLabel(holder), "lblRawFault");
     lblRawFault_->setWordWrap(true);
     txtRawReply_ = Named(new QPlainTextEdit(holder), "txtRawReply");
-    txtRawReply_->setAccessibleName(tr("Reply"));
+    txtRawReply_->setAccessibleName(Designed(QT_TR_NOOP("Reply")));
     txtRawReply_->setReadOnly(true);
     txtRawReply_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     txtRawReply_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     txtRawReply_->setMinimumHeight(kReplyLines * txtRawReply_->fontMetrics().lineSpacing());
-    cmbLinkTest_ = Named(new QPushButton(tr("Link Test"), holder), "cmbLinkTest");
-    cmbLinkTest_->setToolTip(tr("Reads one block a hundred times and shows the round-trip times"));
+    cmbLinkTest_ = Named(new QPushButton(Designed(QT_TR_NOOP("Link Test")), holder), "cmbLinkTest");
+    cmbLinkTest_->setToolTip(
+        Designed(QT_TR_NOOP("Reads one block a hundred times and shows the round-trip times")));
     lblLinkTest_ = Named(new QLabel(holder), "lblLinkTest");
     lblLinkTest_->setWordWrap(true);
     for (QLabel* label : {lblRawFault_, lblLinkTest_})
@@ -92,7 +96,7 @@ QWidget* DiagnosticsPanel::MakeLog()
 {
     auto* holder = new QWidget(this);
     tblExchanges_ = Named(new QTableView(holder), "tblExchanges");
-    tblExchanges_->setAccessibleName(tr("Exchanges with the receiver"));
+    tblExchanges_->setAccessibleName(Designed(QT_TR_NOOP("Exchanges with the receiver")));
     tblExchanges_->setModel(log_);
     tblExchanges_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     tblExchanges_->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -108,8 +112,8 @@ QWidget* DiagnosticsPanel::MakeLog()
     const int widths[] = {14, 14, 0, 10};  // characters
     for (int column = 0; column < ExchangeLog::kLogColumns; ++column)
         tblExchanges_->setColumnWidth(column, widths[column] * metrics.averageCharWidth());
-    cmbSaveLog_ = Named(new QPushButton(tr("Save Log..."), holder), "cmbSaveLog");
-    cmbClearLog_ = Named(new QPushButton(tr("Clear Log"), holder), "cmbClearLog");
+    cmbSaveLog_ = Named(new QPushButton(Designed(QT_TR_NOOP("Save Log...")), holder), "cmbSaveLog");
+    cmbClearLog_ = Named(new QPushButton(Designed(QT_TR_NOOP("Clear Log")), holder), "cmbClearLog");
 
     auto* grid = new QGridLayout(holder);
     grid->addWidget(tblExchanges_, 0, 0, 1, 3);
@@ -123,10 +127,11 @@ void DiagnosticsPanel::Connect()
 {
     connect(cmbRawRead_, &QPushButton::clicked, this, &DiagnosticsPanel::cmbRawRead_Click);
     connect(txtRawAddress_, &QLineEdit::returnPressed, this, &DiagnosticsPanel::cmbRawRead_Click);
-    connect(txtRawAddress_, &QLineEdit::textEdited, lblRawFault_, &QLabel::clear);
+    connect(txtRawAddress_, &QLineEdit::textEdited, this, [this] { Tell(fault_, {}); });
     connect(cmbLinkTest_, &QPushButton::clicked, this, &DiagnosticsPanel::cmbLinkTest_Click);
     connect(cmbSaveLog_, &QPushButton::clicked, this, &DiagnosticsPanel::cmbSaveLog_Click);
     connect(cmbClearLog_, &QPushButton::clicked, log_, &ExchangeLog::Clear);
+    connect(&Language::OfProgram(), &Language::Changed, this, &DiagnosticsPanel::ShowTexts);
     connect(&transfers_, &TransferCommands::Started, this, [this] { SetLineBusy(true); });
     connect(&transfers_, &TransferCommands::Ended, this, [this] { SetLineBusy(false); });
     // The newest exchange stays in sight unless somebody scrolled up to look at an older one.
@@ -138,6 +143,22 @@ void DiagnosticsPanel::Connect()
         if (isLogAtEnd_)
             tblExchanges_->scrollToBottom();
     });
+}
+
+/// Shows another text in the place of one of those that tell of the line.
+void DiagnosticsPanel::Tell(Message& text, Message now)
+{
+    text = std::move(now);
+    ShowTexts();
+}
+
+void DiagnosticsPanel::ShowTexts()
+{
+    lblRawFault_->setText(Translated(fault_));
+    lblLinkTest_->setText(Translated(linkTest_));
+    // What was scrolled to stays in sight.
+    if (const QString reply = Translated(reply_); reply != txtRawReply_->toPlainText())
+        txtRawReply_->setPlainText(reply);
 }
 
 void DiagnosticsPanel::SetLineBusy(bool isBusy)
@@ -152,29 +173,29 @@ void DiagnosticsPanel::SetLineBusy(bool isBusy)
 void DiagnosticsPanel::cmbRawRead_Click()
 {
     const std::string typed = txtRawAddress_->text().trimmed().toStdString();
-    lblRawFault_->setText(QString::fromStdString(BlockAddressFault(typed)));
+    Tell(fault_, BlockAddressFault(typed));
     const std::optional<int> address = ReadBlockAddress(typed);
     if (!address) {
-        txtRawReply_->clear();
+        Tell(reply_, {});
         txtRawAddress_->setFocus();
         txtRawAddress_->selectAll();
         return;
     }
     transfers_.RunOther([this, address] {
         const RawReply reply = ReadRaw(link_, *address);
-        txtRawReply_->setPlainText(
-            transfers_.IsStopped() ? tr("Cancelled.") : RawReplyText(image_, *address, reply, link_.Port()));
+        Tell(reply_, transfers_.IsStopped() ? Message(MESSAGE("Cancelled."))
+                                            : RawReplyText(image_, *address, reply, link_.Port()));
     });
 }
 
 void DiagnosticsPanel::cmbLinkTest_Click()
 {
-    lblLinkTest_->clear();
+    Tell(linkTest_, {});
     transfers_.RunOther([this] {
         transfers_.ShowProgress(kLinkTestReads - 1);
         const LinkTestResult result = TestLink(link_, AreaOf(Area::Settings).address, kLinkTestReads,
                                                [this](int reads) { return GoesOnAfter(reads); });
-        lblLinkTest_->setText(LinkTestText(result, link_.Port()));
+        Tell(linkTest_, LinkTestText(result, link_.Port()));
     });
 }
 

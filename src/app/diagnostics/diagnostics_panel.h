@@ -10,6 +10,7 @@
 #include "app/diagnostics/exchange_log.h"
 #include "app/transfer_commands.h"
 #include "image/clone_image.h"
+#include "language/message.h"
 #include "ui/dialogs.h"
 
 namespace rqm5 {
@@ -28,6 +29,8 @@ class DiagnosticsPanel : public QDockWidget
     QWidget* MakeCommands();
     QWidget* MakeLog();
     void Connect();
+    void ShowTexts();
+    void Tell(Message& text, Message now);
     void SetLineBusy(bool isBusy);
 
     void cmbRawRead_Click();
@@ -40,6 +43,11 @@ class DiagnosticsPanel : public QDockWidget
     TransferCommands& transfers_;
     Dialogs& dialogs_;
     ExchangeLog* log_;
+
+    // What the controls say that tell of the line; empty for nothing.
+    Message fault_;
+    Message reply_;
+    Message linkTest_;
 
     QLineEdit* txtRawAddress_;
     QPushButton* cmbRawRead_;

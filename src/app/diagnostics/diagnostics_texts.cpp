@@ -1,7 +1,7 @@
 #include "app/diagnostics/diagnostics_texts.h"
 
-#include <QCoreApplication>
-#include <QStringList>
+#include <QString>
+#include <vector>
 
 #include "image/display_text.h"
 #include "link/commands.h"
@@ -11,27 +11,21 @@
 namespace rqm5 {
 namespace {
 
-QString Translate(const char* text)
+Message Milliseconds(std::chrono::microseconds time)
 {
-    return QCoreApplication::translate("Diagnostics", text);
+    return QString::number(static_cast<double>(time.count()) / 1000.0, 'f', 1).toStdString();
 }
 
-QString Milliseconds(std::chrono::microseconds time)
+Message PortFailureText(const SerialPort& port)
 {
-    return QString::number(static_cast<double>(time.count()) / 1000.0, 'f', 1);
+    return Message::List({kComPortError, ComPortProblem(port).details}, ": ");
 }
 
-QString PortFailureText(const SerialPort& port)
+Message Title(const CloneImage& image, int address)
 {
-    const Problem problem = ComPortProblem(port);
-    return QString::fromStdString(problem.text + ": " + problem.details);
-}
-
-QString Title(const CloneImage& image, int address)
-{
-    const QString number = QString::fromStdString(HexAddress(address));
-    const QString name = QString::fromStdString(BlockName(image, address));
-    return name.isEmpty() ? number : number + QStringLiteral(": ") + name;
+    const Message number = HexAddress(address);
+    const Message name = BlockName(image, address);
+    return name.empty() ? number : Message::List({number, name}, ": ");
 }
 
 /// The receiver's line, or its cable, repeated the command, and nothing followed.
@@ -42,58 +36,66 @@ bool IsOnlyEcho(int address, const std::string& received)
            received.find_first_not_of("\r\n", command.size()) == std::string::npos;
 }
 
-QString ReceivedLine(int address, const RawReply& reply)
+Message ReceivedLine(int address, const RawReply& reply)
 {
     const bool isAnswered = !reply.received.empty() && !IsOnlyEcho(address, reply.received);
-    const QString line = isAnswered ? Translate("Reply after %1 ms: %2")
-                                    : Translate("Received until the time-out after %1 ms: %2");
-    const QString received =
-        reply.received.empty() ? Translate("(nothing)") : QString::fromStdString(VisibleText(reply.received));
-    return line.arg(Milliseconds(reply.took), received);
+    const Message received =
+        reply.received.empty() ? Message(MESSAGE("(nothing)")) : Message(VisibleText(reply.received));
+    return {isAnswered ? MESSAGE("Reply after %1 ms: %2")
+                       : MESSAGE("Received until the time-out after %1 ms: %2"),
+            {Milliseconds(reply.took), received}};
 }
 
-QString WhyNoFrame(int address, const RawReply& reply)
+Message WhyNoFrame(int address, const RawReply& reply)
 {
     if (reply.received.empty())
-        return Translate("Nothing came back. Check the cable, the port, and that the receiver is on.");
+        return MESSAGE("Nothing came back. Check the cable, the port, and that the receiver is on.");
     if (IsOnlyEcho(address, reply.received))
-        return Translate("The receiver did not answer: only the echo of the command came back.");
+        return MESSAGE("The receiver did not answer: only the echo of the command came back.");
     return reply.outcome == ReplyOutcome::TooShort
-               ? Translate("The reply is too short: a whole one ends with 36 characters.")
-               : Translate("The reply is garbled: it does not end with a line of 32 characters.");
+               ? MESSAGE("The reply is too short: a whole one ends with 36 characters.")
+               : MESSAGE("The reply is garbled: it does not end with a line of 32 characters.");
 }
 
-QStringList MeaningLines(int address, const RawReply& reply)
+/// \param lines  where the meaning of the block is added, a line a field
+void AddMeaning(int address, const RawReply& reply, std::vector<Message>& lines)
 {
     if (!HoldsFields(address))
-        return {};
-    QStringList lines;
-    for (const BlockField& field : BlockFields(address, reply.block))
-        lines << QString::fromStdString(field.name + ": " + field.text);
-    return lines.isEmpty() ? QStringList{Translate("An empty row.")} : lines;
+        return;
+    const auto fields = BlockFields(address, reply.block);
+    if (fields.empty())
+        lines.emplace_back(MESSAGE("An empty row."));
+    for (const BlockField& field : fields)
+        lines.push_back(Message::List({field.name, field.text}, ": "));
 }
 
 }  // namespace
 
-QString RawReplyText(const CloneImage& image, int address, const RawReply& reply, const SerialPort& port)
+Message RawReplyText(const CloneImage& image, int address, const RawReply& reply, const SerialPort& port)
 {
-    QStringList lines = {Title(image, address)};
-    if (IsPortFailure(reply.outcome))
-        return (lines << PortFailureText(port)).join(QLatin1Char('\n'));
-    lines << ReceivedLine(address, reply);
-    lines << (reply.IsFrame() ? MeaningLines(address, reply) : QStringList{WhyNoFrame(address, reply)});
-    return lines.join(QLatin1Char('\n'));
+    std::vector<Message> lines = {Title(image, address)};
+    if (IsPortFailure(reply.outcome)) {
+        lines.push_back(PortFailureText(port));
+        return Message::List(lines, "\n");
+    }
+    lines.push_back(ReceivedLine(address, reply));
+    if (reply.IsFrame())
+        AddMeaning(address, reply, lines);
+    else
+        lines.push_back(WhyNoFrame(address, reply));
+    return Message::List(lines, "\n");
 }
 
-QString LinkTestText(const LinkTestResult& result, const SerialPort& port)
+Message LinkTestText(const LinkTestResult& result, const SerialPort& port)
 {
-    const QString failure = result.hasPortFailed ? PortFailureText(port) + QLatin1Char('\n') : QString();
-    const QString counts = Translate("%1 reads, %2 errors.").arg(result.reads).arg(result.errors);
-    if (result.reads == result.errors)
-        return failure + counts;
-    return failure + counts + QLatin1Char(' ') +
-           Translate("Round trip: lowest %1 ms, median %2 ms, highest %3 ms.")
-               .arg(Milliseconds(result.lowest), Milliseconds(result.median), Milliseconds(result.highest));
+    Message text(MESSAGE("%1 reads, %2 errors."), {result.reads, result.errors});
+    if (result.reads != result.errors) {
+        const Message times(
+            MESSAGE("Round trip: lowest %1 ms, median %2 ms, highest %3 ms."),
+            {Milliseconds(result.lowest), Milliseconds(result.median), Milliseconds(result.highest)});
+        text = Message::List({text, times}, " ");
+    }
+    return result.hasPortFailed ? Message::List({PortFailureText(port), text}, "\n") : text;
 }
 
 }  // namespace rqm5

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <QString>
-
 #include "image/clone_image.h"
+#include "language/message.h"
 #include "link/raw_read.h"
 
 namespace rqm5 {
@@ -11,9 +10,9 @@ namespace rqm5 {
 /// time it took, the decoded fields, or why there is none.
 ///
 /// \param image  says how the banks are divided
-QString RawReplyText(const CloneImage& image, int address, const RawReply& reply, const SerialPort& port);
+Message RawReplyText(const CloneImage& image, int address, const RawReply& reply, const SerialPort& port);
 
 /// Round trip times and errors of a link test; when the port failed, that first.
-QString LinkTestText(const LinkTestResult& result, const SerialPort& port);
+Message LinkTestText(const LinkTestResult& result, const SerialPort& port);
 
 }  // namespace rqm5

@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 
+#include "language/language.h"
 #include "ui/plain_text.h"
 
 namespace rqm5 {
@@ -40,6 +41,11 @@ ExchangeLog::ExchangeLog(RadioLink& link, QObject* parent) : QAbstractTableModel
     refresh_.setInterval(kRefreshPause);
     connect(&refresh_, &QTimer::timeout, this, &ExchangeLog::ShowPending);
     connect(&link_, &RadioLink::Exchanged, this, &ExchangeLog::Add);
+    connect(&Language::OfProgram(), &Language::Changed, this, [this] {
+        emit headerDataChanged(Qt::Horizontal, 0, kLogColumns - 1);
+        if (rowCount() > 0)
+            emit dataChanged(index(0, kReply), index(rowCount() - 1, kReply));
+    });
 }
 
 void ExchangeLog::Add(const std::string& command, bool portFailed)

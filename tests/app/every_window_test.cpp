@@ -1,0 +1,253 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QTabBar>
+#include <QToolButton>
+#include <QTranslator>
+#include <map>
+#include <set>
+
+#include "app/window_tour.h"
+#include "language/language.h"
+
+namespace rqm5 {
+namespace {
+
+constexpr QChar kOpen(0x27E6);
+constexpr QChar kClose(0x27E7);
+
+/// Says everything that a catalog has in a language of its own: longer, with accents, with marks for right to
+/// left.
+class Pseudo : public QTranslator
+{
+  public:
+    Pseudo() { EXPECT_TRUE(known_.load(QStringLiteral(":/translations/rq-m5_de.qm"))); }
+
+    bool isEmpty() const override { return false; }
+
+    QString translate(const char* context, const char* source, const char* comment, int count) const override
+    {
+        if (known_.translate(context, source, comment, count).isEmpty())
+            return {};
+        QString text = QString::fromUtf8(source);
+        const bool hasDots = text.endsWith(QLatin1String("..."));
+        text.chop(hasDots ? 3 : 0);
+        text.replace(u'o', QChar(0x00F6)).replace(u'e', QChar(0x00E9));
+        return kOpen + QString(QChar(0x200F)) + text + QString(text.size() / 3, u'~') + kClose +
+               (hasDots ? QStringLiteral("...") : QString());
+    }
+
+  private:
+    QTranslator known_;
+};
+
+bool IsStandardButton(const QWidget& widget)
+{
+    const auto* box = qobject_cast<QDialogButtonBox*>(widget.parentWidget());
+    auto* button = qobject_cast<QPushButton*>(const_cast<QWidget*>(&widget));
+    return box != nullptr && button != nullptr && box->standardButton(button) != QDialogButtonBox::NoButton;
+}
+
+QString TextOf(const QWidget& widget)
+{
+    if (const auto* label = qobject_cast<const QLabel*>(&widget))
+        return label->textFormat() == Qt::RichText ? QString() : label->text();
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
+        return button->text();
+    if (const auto* group = qobject_cast<const QGroupBox*>(&widget))
+        return group->title();
+    if (const auto* line = qobject_cast<const QLineEdit*>(&widget))
+        return line->placeholderText();
+    return {};
+}
+
+/// Every text of a window by what it stands on: of controls that show, menus, tabs and table headers.
+std::multimap<QString, QString> TextsOf(QWidget& window)
+{
+    std::multimap<QString, QString> texts = {{QStringLiteral("title"), window.windowTitle()}};
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        if (!widget->isVisibleTo(&window) || IsStandardButton(*widget))
+            continue;
+        for (const QString& text :
+             {TextOf(*widget), widget->toolTip(), widget->statusTip(), widget->accessibleName()})
+            texts.emplace(
+                QString::fromLatin1(widget->metaObject()->className()) + u' ' + widget->objectName(), text);
+        if (const auto* tabs = qobject_cast<const QTabBar*>(widget))
+            for (int i = 0; i < tabs->count(); ++i)
+                texts.emplace(QStringLiteral("tab"), tabs->tabText(i));
+        if (const auto* header = qobject_cast<const QHeaderView*>(widget);
+            header != nullptr && header->orientation() == Qt::Horizontal && header->model() != nullptr)
+            for (int i = 0; i < header->count(); ++i)
+                texts.emplace(QStringLiteral("header"),
+                              header->model()->headerData(i, Qt::Horizontal).toString());
+    }
+    for (const QAction* action : window.findChildren<QAction*>())
+        if (!action->objectName().isEmpty())
+            for (const QString& text : {action->text(), action->statusTip()})
+                texts.emplace(action->objectName(), text);
+    return texts;
+}
+
+/// What is the same in every language: names, numbers, values of the receiver, what a file holds.
+bool IsSameEverywhere(const QString& text)
+{
+    static const QRegularExpression value(
+        QStringLiteral("^[^a-z]*$|(RQ-M5|RQ5|COM ?\\d|MHz|KHz|Hz|VFO|FM|AM|/|Sibling|\\.csv|Rev\\.)"));
+    return value.match(text).hasMatch();
+}
+
+void ExpectTranslated(QWidget& window, const QString& name)
+{
+    std::set<QString> missing;
+    for (const auto& [place, text] : TextsOf(window))
+        if (!text.contains(kOpen) && !IsSameEverywhere(text))
+            missing.insert(place + QStringLiteral(": ") + text);
+    for (const QString& text : missing)
+        ADD_FAILURE() << name.toStdString() << ": not translated: " << text.toStdString();
+}
+
+/// The letter that a text gives to the Alt key, none for a text without.
+QString Letter(const QString& text)
+{
+    return QKeySequence::mnemonic(text).toString();
+}
+
+void ExpectOwnLetters(const std::vector<QString>& texts, const std::string& where)
+{
+    std::map<QString, QString> owners;
+    for (const QString& text : texts)
+        if (const QString letter = Letter(text); !letter.isEmpty()) {
+            const auto [owner, isFree] = owners.try_emplace(letter, text);
+            EXPECT_TRUE(isFree || owner->second == text)
+                << where << ": " << letter.toStdString() << ": " << owner->second.toStdString() << " and "
+                << text.toStdString();
+        }
+}
+
+/// Letters are unique within a menu, and within what a window shows together with its menu bar.
+void ExpectOwnLetters(QWidget& window, const std::string& name)
+{
+    std::vector<QString> shown;
+    for (const QWidget* widget : window.findChildren<QWidget*>())
+        if (widget->isVisibleTo(&window))
+            shown.push_back(TextOf(*widget));
+    for (const QMenuBar* bar : window.findChildren<QMenuBar*>())
+        for (const QAction* title : bar->actions())
+            shown.push_back(title->text());
+    ExpectOwnLetters(shown, name);
+    for (const QMenu* menu : window.findChildren<QMenu*>()) {
+        std::vector<QString> items;
+        for (const QAction* item : menu->actions())
+            items.push_back(item->text());
+        ExpectOwnLetters(items, name + " menu " + menu->title().toStdString());
+    }
+}
+
+/// A control is as wide as its text needs. What shortens its text by design says all of it in its tooltip.
+void ExpectWhole(QWidget& window, const std::string& name)
+{
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        const auto* label = qobject_cast<QLabel*>(widget);
+        const bool isText =
+            (label != nullptr && !label->text().isEmpty()) || qobject_cast<QPushButton*>(widget) != nullptr ||
+            qobject_cast<QRadioButton*>(widget) != nullptr || qobject_cast<QCheckBox*>(widget) != nullptr;
+        const bool mayShorten = widget->inherits("rqm5::ElidedLabel") || !widget->toolTip().isEmpty();
+        if (!isText || mayShorten || !widget->isVisibleTo(&window))
+            continue;
+        const bool isWrapped = label != nullptr && label->wordWrap();
+        const int needed = isWrapped ? widget->heightForWidth(widget->width()) : widget->sizeHint().width();
+        EXPECT_LE(needed, isWrapped ? widget->height() : widget->width())
+            << name << ": " << TextOf(*widget).toStdString();
+    }
+}
+
+/// Whoever works without eyes or without a mouse hears what a control is and what it is for.
+void ExpectNamed(QWidget& window, const std::string& name)
+{
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        if (!widget->isVisibleTo(&window) || (widget->focusPolicy() & Qt::TabFocus) == 0 ||
+            widget->focusProxy() != nullptr)
+            continue;
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
+        ASSERT_NE(face, nullptr);
+        const std::string what =
+            name + ": " + widget->metaObject()->className() + " " + widget->objectName().toStdString();
+        EXPECT_FALSE(face->text(QAccessible::Name).isEmpty()) << what << " has no name";
+        EXPECT_NE(face->role(), QAccessible::NoRole) << what;
+        EXPECT_NE(face->role(), QAccessible::Client) << what << " has no role";
+    }
+}
+
+class EveryWindow : public testing::TestWithParam<const char*>
+{
+  protected:
+    EveryWindow()
+    {
+        QSettings(QStringLiteral("Tervan"), QStringLiteral("Tervan RQ-M5 Clone Utility")).clear();
+    }
+    ~EveryWindow() override { Language::OfProgram().Use(QStringLiteral("en")); }
+};
+
+TEST_P(EveryWindow, HasWholeTextsAndLettersOfTheirOwn)
+{
+    const QFont usual = QApplication::font();
+    Language::OfProgram().Use(QLatin1String(GetParam()));
+    WindowTour tour([&](QWidget& window, const QString& name) {
+        ExpectOwnLetters(window, name.toStdString());
+        ExpectNamed(window, name.toStdString());
+        for (const int percent : {100, 150, 200}) {
+            QFont font = usual;
+            font.setPointSizeF(usual.pointSizeF() * percent / 100);
+            QApplication::setFont(font);
+            QCoreApplication::processEvents();
+            if (window.isWindow() && window.inherits("QDialog"))
+                window.resize(window.sizeHint().expandedTo(window.size()));
+            QCoreApplication::processEvents();
+            ExpectWhole(window, name.toStdString() + " at " + std::to_string(percent) + " %");
+        }
+        QApplication::setFont(usual);
+        QCoreApplication::processEvents();
+    });
+    tour.Start();
+    tour.Go();
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, EveryWindow, testing::Values("en", "de", "es", "fr", "ja"),
+                         [](const auto& language) { return std::string(language.param); });
+
+TEST(EveryText, PassesThroughTheTranslationAndFollowsTheLanguage)
+{
+    Pseudo pseudo;
+    // The program is started in English, and the language changes while it is open.
+    Language::OfProgram().Use(QStringLiteral("en"));
+    {
+        bool isTranslated = false;
+        WindowTour tour([&](QWidget& window, const QString& name) {
+            if (isTranslated)
+                ExpectTranslated(window, name);
+        });
+        tour.Start();
+        isTranslated = true;
+        QCoreApplication::installTranslator(&pseudo);
+        Language::OfProgram().Use(QStringLiteral("de"));
+        tour.Go();
+        QCoreApplication::removeTranslator(&pseudo);
+    }
+    Language::OfProgram().Use(QStringLiteral("en"));
+}
+
+}  // namespace
+}  // namespace rqm5
