@@ -60,9 +60,10 @@ QString PageView::Page() const
     return source().fileName();
 }
 
-void PageView::Page_Loaded()
+void PageView::Page_Loaded(const QUrl& url)
 {
-    const ManualPage* page = PageOfFile(Page());
+    // source() is still the page before.
+    const ManualPage* page = PageOfFile(url.fileName());
     AddHeadingAnchors(*document(), page != nullptr ? page->anchors : QStringList());
     SetPaletteColours();
     ShowMarks();

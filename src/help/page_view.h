@@ -38,7 +38,7 @@ class PageView : public QTextBrowser
     void changeEvent(QEvent* event) override;
 
   private:
-    void Page_Loaded();
+    void Page_Loaded(const QUrl& url);
     void Link_Clicked(const QUrl& link);
     QVariant Picture(const QString& file) const;
     int HeadingsAbove() const;

@@ -26,7 +26,7 @@ Message NameOf(const WriteSection& section, std::size_t first, std::size_t last)
         return area.firstNumber + (countsSteps ? static_cast<int>(step) : section.blocks[step]);
     };
     if (first == last)
-        return Message::List({area.one, numberOf(first)}, " ");
+        return {MESSAGE("%1 %2"), {area.one, numberOf(first)}};
     return {MESSAGE("%1 %2 to %3"), {area.many, numberOf(first), numberOf(last)}};
 }
 

@@ -64,7 +64,7 @@ void dlgModify::ShowTexts()
 
 void dlgModify::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::FontChange)
         ShowTexts();
     QDialog::changeEvent(event);
 }

@@ -69,7 +69,7 @@ ModifyForm::ModifyForm(QWidget* parent)
       lblMHz_(PlainLabel("lblMHz")),
       txtFreq_(MegahertzBox("txtFreq")),
       txtShift_(MegahertzBox("txtShift")),
-      chkHold_(Named(new QCheckBox(Designed(QT_TR_NOOP("&Hold"))), "chkHold")),
+      chkHold_(Named(new QCheckBox(Designed(QT_TRANSLATE_NOOP("rqm5::dlgModify", "&Hold"))), "chkHold")),
       titleRow_(new QHBoxLayout),
       lastRow_(new QHBoxLayout),
       opbWave_(
@@ -83,8 +83,8 @@ ModifyForm::ModifyForm(QWidget* parent)
       lblNote_(new QLabel(Designed(QT_TR_NOOP("&Note")))),
       txtNote_(Named(new QLineEdit, "txtNote")),
       noteLine_(new NoteLine(*txtNote_)),
-      chkSkip_(Named(new QCheckBox(Designed(QT_TR_NOOP("S&kip"))), "chkSkip")),
-      chkEnable_(Named(new QCheckBox(Designed(QT_TR_NOOP("&Enable"))), "chkEnable"))
+      chkSkip_(Named(new QCheckBox(Designed(QT_TRANSLATE_NOOP("rqm5::dlgModify", "S&kip"))), "chkSkip")),
+      chkEnable_(Named(new QCheckBox(Designed(QT_TRANSLATE_NOOP("rqm5::dlgModify", "&Enable"))), "chkEnable"))
 {
     auto* left = new QVBoxLayout;
     left->addLayout(BuildFrequency());
@@ -193,10 +193,10 @@ QLayout* ModifyForm::BuildNote()
 
 void ModifyForm::BuildChecks()
 {
-    chkSkip_->setToolTip(Designed(QT_TR_NOOP("Scanning skips this channel")));
-    chkEnable_->setToolTip(Designed(QT_TR_NOOP("The channel is in use")));
-    chkHold_->setToolTip(
-        Designed(QT_TR_NOOP("The next empty channel starts with the values confirmed here")));
+    chkSkip_->setToolTip(Designed(QT_TRANSLATE_NOOP("rqm5::dlgModify", "Scanning skips this channel")));
+    chkEnable_->setToolTip(Designed(QT_TRANSLATE_NOOP("rqm5::dlgModify", "The channel is in use")));
+    chkHold_->setToolTip(Designed(QT_TRANSLATE_NOOP(
+        "rqm5::dlgModify", "The next empty channel starts with the values confirmed here")));
     lastRow_->addWidget(chkSkip_);
     lastRow_->addWidget(chkEnable_);
     lastRow_->addWidget(chkHold_);

@@ -69,7 +69,8 @@ void SettingControls::Add(const SliderSetting& setting, QGridLayout& grid)
     label->setObjectName(QLatin1String(setting.labelName));
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    label->setMinimumWidth(label->fontMetrics().horizontalAdvance(QStringLiteral("000")));
+    label->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred);
+    grid.setColumnMinimumWidth(2, label->fontMetrics().horizontalAdvance(QStringLiteral("000")));
     EndRun(slider);
     slider->installEventFilter(this);
     connect(slider, &QSlider::sliderPressed, this, [this, slider] { EndRun(slider); });

@@ -232,7 +232,7 @@ TEST_F(RecoveryTest, AFolderThatCannotBeWrittenIsToldAndTriedAgain)
     QSignalSpy kept(window_->findChild<Recovery*>(), &Recovery::Kept);
     EditSomething();
     ASSERT_TRUE(!kept.isEmpty() || kept.wait());
-    EXPECT_FALSE(kept.constLast().constFirst().toString().isEmpty());
+    EXPECT_FALSE(kept.constLast().constFirst().value<Message>().empty());
     EXPECT_TRUE(StatusText("lblHint").contains(QStringLiteral("cannot be kept")));
     EXPECT_TRUE(Find<QWidget>("barMessage").isHidden());
     Item("mnuStatusBar").trigger();

@@ -103,7 +103,7 @@ TEST(SpectrumPicture, HasALaneForEachUsedBankAndTheOtherGroups)
     const SpectrumPicture picture = BuildSpectrum(Filled());
     std::string titles;
     for (const SpectrumLane& lane : picture.lanes)
-        titles += lane.title + " " + std::to_string(lane.marks) + "; ";
+        titles += lane.title.English() + " " + std::to_string(lane.marks) + "; ";
     EXPECT_EQ(titles, "Bank 0 2; Bank 2 1; Program Scan 3; Seach Pass 0; Priority 0; Not in receiver 1; ");
     ASSERT_EQ(picture.spans.size(), 1U) << "half a pair is none";
     EXPECT_EQ(picture.spans[0].low, 118000000);

@@ -156,6 +156,7 @@ void DiagnosticsPanel::ShowTexts()
 {
     lblRawFault_->setText(Translated(fault_));
     lblLinkTest_->setText(Translated(linkTest_));
+    lblLinkTest_->setToolTip(lblLinkTest_->text());  // a narrow dock at the bottom may not show all of it
     // What was scrolled to stays in sight.
     if (const QString reply = Translated(reply_); reply != txtRawReply_->toPlainText())
         txtRawReply_->setPlainText(reply);
