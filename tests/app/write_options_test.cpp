@@ -210,6 +210,16 @@ TEST_F(WriteOptionsTest, WithoutItsBackupNothingIsWrittenAndACancelTellsWhatWas)
     At(0, [this] { Find<QPushButton>("cmbCancel").click(); });
     Item("mnuReMemory").trigger();
     EXPECT_EQ(dialogs_.asked.size(), 2U) << "a read leaves nothing half done in the receiver";
+
+    SaveWriteOptions({false, true, Path("backups")});
+    receiver_.ClearCommandLog();
+    QObject::connect(&Bar(), &QProgressBar::valueChanged, window_.get(), [this] {
+        if (OrderOfVerbs() == "WR")
+            Find<QPushButton>("cmbCancel").click();
+    });
+    Item("mnuWrSettings").trigger();
+    EXPECT_TRUE(StatusText("lblHint").contains(QStringLiteral("not all of it could be verified")))
+        << qPrintable(StatusText("lblHint"));
 }
 
 /// Write > Changes, and what its dialogs show and are told.

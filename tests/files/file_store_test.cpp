@@ -152,6 +152,7 @@ TEST_F(FileStore, KindsOfFilesAndTheOneThatIsKept)
     Write(Path("clone"), FormatCloneFile(image));
     Write(Path("csv"), FormatCsv(image));
     Write(Path("bare.csv"), "\xEF\xBB\xBFMODEL,BANK\r\n");
+    Write(Path("rows.csv"), "\"RQ-M5\",BANK\r\n");
     Write(Path("pdf"), "%PDF-1.4\n");
     Write(Path("contacts.csv"), "Name,Phone\n");
     Write(Path("empty"), "");
@@ -161,6 +162,7 @@ TEST_F(FileStore, KindsOfFilesAndTheOneThatIsKept)
         {"clone", FileKind::Clone},        {"csv", FileKind::Csv},
         {"bare.csv", FileKind::Csv},       {"pdf", FileKind::Pdf},
         {"contacts.csv", FileKind::Other}, {"pipe", FileKind::Other},
+        {"rows.csv", FileKind::Csv},
     };
     for (const auto& [name, kind] : cases) {
         EXPECT_EQ(KindOf(Path(name)), kind) << name;

@@ -9,6 +9,8 @@
 #include "link/receiver_reader.h"
 #include "link/receiver_writer.h"
 #include "link/recording_observer.h"
+#include "link/reply_frames.h"
+#include "link/reply_outcome.h"
 
 namespace rqm5 {
 namespace {
@@ -82,7 +84,7 @@ TEST(RadioLink, TakesTheLastThirtySixCharactersAsTheReply)
     for (const auto& [what, pieces, reply] : kCases)
         EXPECT_EQ(Link(pieces).link.SendReadCommand(kRead), reply) << what;
 
-    Link babbling({std::string(100000, 'x'), kFrame});
+    Link babbling({std::string(100000, 'x') + kFrame});
     EXPECT_EQ(babbling.link.SendReadCommand(kRead), kFrame);
     EXPECT_LT(babbling.link.LastReceived().size(), 100000U);
     Link prompt({});
@@ -272,6 +274,15 @@ TEST(ReplyFrames, AreCountedAmongEchoesAndNoise)
     };
     for (const auto& [text, replies] : kCases)
         EXPECT_EQ(CountReplies(text), replies) << text;
+}
+
+TEST(ReplyFrames, ARefusalIsAWordBetweenLineEnds)
+{
+    const std::pair<const char*, ReplyOutcome> kCases[] = {{"\r\nNG\r\n", ReplyOutcome::NotOk},
+                                                           {"\rxNG\r\n", ReplyOutcome::Garbled},
+                                                           {"\r\nNG\rx", ReplyOutcome::Garbled}};
+    for (const auto& [end, outcome] : kCases)
+        EXPECT_EQ(OutcomeOfWrite(WriteReply(kWrite + end), kWrite + end, false), outcome) << end;
 }
 
 }  // namespace

@@ -3,10 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QImage>
+#include <QPainter>
 #include <QTemporaryDir>
 
 #include "image/value_tables.h"
 #include "memory/start_image.h"
+#include "printing/grid_text.h"
 #include "printing/pdf_text.h"
 
 namespace rqm5 {
@@ -77,6 +80,19 @@ TEST(PdfFile, FitsTheWidestLineOnEveryPaper)
             EXPECT_TRUE(printable.contains(all)) << all.right() << " of " << printable.right();
             EXPECT_GT(all.width(), printable.width() * 0.75) << "the font is too small";
         }
+}
+
+TEST(GridText, WhatStandsBehindWideCharactersKeepsItsColumn)
+{
+    const auto behindFourColumns = [](const char* line) {
+        QImage picture(300, 40, QImage::Format_RGB32);
+        picture.fill(Qt::white);
+        QPainter painter(&picture);
+        DrawOnGrid(painter, {0, 30}, QString::fromUtf8(line), 30);
+        return picture.copy(120, 0, 180, 40);
+    };
+    EXPECT_EQ(behindFourColumns("東京W"), behindFourColumns("ééééW"));
+    EXPECT_NE(behindFourColumns("東京W"), behindFourColumns("éééé"));
 }
 
 TEST(PdfFile, LeavesNothingBehindWhenItFailsOrIsCancelled)

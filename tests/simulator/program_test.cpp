@@ -49,6 +49,21 @@ TEST(Program, KeepsWhatWasWrittenAndTheNotesOfItsFile)
     EXPECT_EQ(commands.readAll().count('\n'), 8);
 }
 
+TEST(Program, NamesTheNotesThatItCannotSave)
+{
+    const QTemporaryDir folder;
+    const QString memory = folder.filePath(QStringLiteral("memory.RQ5"));
+    CloneImage image = DemoImage(0);
+    image.MemData(3).note = "\"a,b\"";
+    SaveCloneFile(memory, image);
+    Program program(QStringLiteral("--memory %1 --save %1").arg(memory));
+    ASSERT_TRUE(program.waitForReadyRead());
+    program.terminate();
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_EQ(program.exitCode(), 1);
+    EXPECT_TRUE(program.readAllStandardError().contains("notes:\n  "));
+}
+
 TEST(Program, SaysWhatItCannotDo)
 {
     const std::pair<const char*, int> kCases[] = {{"--memory missing.RQ5", 1},
