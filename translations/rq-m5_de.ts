@@ -3462,7 +3462,7 @@ Sie ersetzt im Empfänger: %2. Das offene Abbild bleibt, wie es ist.</translatio
     </message>
     <message>
         <source>Link</source>
-        <translation>Verknüpft</translation>
+        <translation>Verkn.</translation>
     </message>
     <message>
         <source>Read Ban&amp;k</source>
@@ -4384,7 +4384,7 @@ Wirklich löschen?</translation>
     </message>
     <message>
         <source>Sound</source>
-        <translation>Signaltöne</translation>
+        <translation>Ton</translation>
     </message>
     <message>
         <source>Rea&amp;d Settings</source>

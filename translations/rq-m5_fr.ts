@@ -4534,7 +4534,7 @@ Voulez-vous vraiment supprimer&#xa0;?</translation>
     <name>rqm5::TransferBar</name>
     <message>
         <source>Cancel</source>
-        <translation>Annuler</translation>
+        <translation>Interrompre</translation>
     </message>
     <message>
         <source>Progress of the transfer</source>

@@ -5,6 +5,7 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPointer>
+#include <QRegularExpression>
 #include <algorithm>
 
 namespace rqm5 {
@@ -43,10 +44,16 @@ const QList<LanguageName>& Languages()
 
 QString SystemLanguage()
 {
+    const QString locale = QString::fromLocal8Bit(EnvironmentLocale());
     if (IsPlainLocale(EnvironmentLocale()))
         return QLatin1String(kEnglish);
-    for (const QString& name : QLocale::system().uiLanguages())
-        if (const QString code = name.section(QLatin1Char('-'), 0, 0); IsKnown(code))
+    // Where the environment says nothing, the system has settings for it.
+    QStringList names = locale.isEmpty() ? QLocale::system().uiLanguages()
+                                         : qEnvironmentVariable("LANGUAGE").split(QLatin1Char(':'));
+    names << locale;
+    static const QRegularExpression behind(QStringLiteral("[-_.@].*"));
+    for (QString& name : names)
+        if (const QString code = name.remove(behind); IsKnown(code))
             return code;
     return QLatin1String(kEnglish);
 }

@@ -36,7 +36,7 @@ struct Choices
     int ChannelFields::*field;
     int count;
     std::string (*name)(int value);
-    std::string_view range;  ///< for messages
+    const char* range;  ///< for messages: the id of one
 };
 
 template <const auto& Names>

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QMap>
 #include <QTextBlock>
+#include <vector>
 
 #include "help/about_facts.h"
 #include "help/heading_anchors.h"
@@ -110,6 +111,55 @@ TEST(Manual, EveryHelpTopicAndMessageHasItsPlace)
         topics << MessageTopic(QString::fromLatin1(message));
     for (const QString& topic : topics)
         EXPECT_TRUE(LeadsSomewhere(pages, {}, topic)) << qPrintable(topic);
+}
+
+/// What a translated page has to share with the English one.
+struct Shape
+{
+    std::vector<int> levels = {};  ///< of its headings
+    QStringList targets = {};
+    QStringList images = {};
+    int codeLines = 0;
+};
+
+Shape ShapeOf(const QString& markdown)
+{
+    QTextDocument document;
+    document.setMarkdown(markdown);
+    Shape shape;
+    const Links links = LinksOf(markdown);
+    shape.targets = QStringList(links.targets).replaceInStrings(QStringLiteral("../"), QString());
+    shape.images = QStringList(links.images).replaceInStrings(QStringLiteral("../"), QString());
+    shape.targets.sort();
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        if (block.blockFormat().headingLevel() > 0)
+            shape.levels.push_back(block.blockFormat().headingLevel());
+        shape.codeLines += block.blockFormat().hasProperty(QTextFormat::BlockCodeFence) ? 1 : 0;
+    }
+    return shape;
+}
+
+TEST(Manual, IsWholeInEachOfItsLanguages)
+{
+    const QDir folder{QLatin1String(kManualFolder)};
+    EXPECT_EQ(folder.entryList(QDir::Dirs, QDir::Name),
+              (QStringList{QStringLiteral("de"), QStringLiteral("ja")}));
+    for (const QString& language : folder.entryList(QDir::Dirs))
+        for (const QString& name : folder.entryList(QDir::Files)) {
+            QFile english(folder.filePath(name));
+            QFile translated(folder.filePath(language + QLatin1Char('/') + name));
+            ASSERT_TRUE(english.open(QIODevice::ReadOnly) && translated.open(QIODevice::ReadOnly))
+                << qPrintable(name);
+            const Shape wanted = ShapeOf(QString::fromUtf8(english.readAll()));
+            const QString text = QString::fromUtf8(translated.readAll());
+            const Shape shape = ShapeOf(text);
+            const std::string what = translated.fileName().toStdString();
+            EXPECT_EQ(shape.levels, wanted.levels) << what;
+            EXPECT_EQ(shape.targets, wanted.targets) << what;
+            EXPECT_EQ(shape.images, wanted.images) << what;
+            EXPECT_EQ(shape.codeLines, wanted.codeLines) << what;
+            EXPECT_FALSE(text.contains(QLatin1String("{{"))) << what;
+        }
 }
 
 TEST(Manual, ASearchWantsAllItsWordsAndPutsTitlesFirst)
