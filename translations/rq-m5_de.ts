@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>Round trip: lowest %1 ms, median %2 ms, highest %3 ms.</source>
-        <translation>Laufzeit: kürzeste %1 ms, mittlere %2 ms, längste %3 ms.</translation>
+        <translation>Laufzeit: min. %1 ms, Median %2 ms, max. %3 ms.</translation>
     </message>
     <message>
         <source>%1 was removed or renamed by another program. Save will ask first.</source>
@@ -3482,11 +3482,11 @@ Sie ersetzt im Empfänger: %2. Das offene Abbild bleibt, wie es ist.</translatio
     </message>
     <message>
         <source>Channels in all banks (1000 at most):</source>
-        <translation>Kanäle in allen Bänken (höchstens 1000):</translation>
+        <translation>Kanäle in allen Bänken (max. 1000):</translation>
     </message>
     <message>
         <source>In no bank: %1 rows, %2 with a channel</source>
-        <translation>In keiner Bank: %1 Zeilen, davon %2 belegt</translation>
+        <translation>In keiner Bank: %1 Zeilen, %2 belegt</translation>
     </message>
     <message>
         <source>ERROR</source>
@@ -3561,7 +3561,7 @@ Bitte so einstellen, dass es zusammen höchstens 1000 sind.</translation>
     </message>
     <message>
         <source>Skip</source>
-        <translation>Überspringen</translation>
+        <translation>Überspr.</translation>
     </message>
     <message>
         <source>Scrt</source>

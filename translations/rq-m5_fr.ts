@@ -2633,11 +2633,11 @@
     </message>
     <message>
         <source>Busy Scan</source>
-        <translation>Balayage sur occupation</translation>
+        <translation>Sur occupation</translation>
     </message>
     <message>
         <source>Timer Scan</source>
-        <translation>Balayage temporisé</translation>
+        <translation>Temporisé</translation>
     </message>
     <message>
         <source>Push</source>
@@ -3043,11 +3043,11 @@ In Place keeps the old file as %2.</source>
     </message>
     <message>
         <source>Busy Scan</source>
-        <translation>Balayage sur occupation</translation>
+        <translation>Sur occupation</translation>
     </message>
     <message>
         <source>Timer Scan</source>
-        <translation>Balayage temporisé</translation>
+        <translation>Temporisé</translation>
     </message>
     <message>
         <source>Model</source>
@@ -3645,7 +3645,7 @@ Choisissez des tailles dont le total ne dépasse pas 1000.</translation>
     </message>
     <message>
         <source>Bloc&amp;k address</source>
-        <translation>Adresse du bloc (he&amp;x)</translation>
+        <translation>Adresse (he&amp;x)</translation>
     </message>
     <message>
         <source>Read Block</source>
@@ -4066,7 +4066,7 @@ Choisissez des tailles dont le total ne dépasse pas 1000.</translation>
     </message>
     <message>
         <source>All channels shown</source>
-        <translation>Tous les canaux affichés</translation>
+        <translation>Canaux affichés</translation>
     </message>
     <message>
         <source>The offset is below 100 MHz.</source>

@@ -44,7 +44,7 @@ frmMain::frmMain(SerialPort& port, Dialogs& dialogs, const StartOptions& options
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowIcon(ProgramIcon());
-    KeepPlaceholdersReadable();
+    KeepTextsReadable();
     setContextMenuPolicy(
         Qt::NoContextMenu);  // its own menu could hide the toolbar, and View > Toolbar would stay checked
     Timer1_.setSingleShot(true);
@@ -189,7 +189,7 @@ bool frmMain::event(QEvent* event)
 {
     // Later, because every widget is still being told.
     if (event->type() == QEvent::ApplicationPaletteChange)
-        QMetaObject::invokeMethod(this, &KeepPlaceholdersReadable, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &KeepTextsReadable, Qt::QueuedConnection);
     if (event->type() != QEvent::StatusTip)
         return QMainWindow::event(event);
     parts_.statusBar->ShowPointerHint(static_cast<QStatusTipEvent*>(event)->tip());

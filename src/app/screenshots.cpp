@@ -1,5 +1,5 @@
 // Makes the pictures of README and manual: drives the real windows against the simulated receiver.
-// Usage: rq-m5-screenshots FOLDER [LANGUAGE [PERCENT [dark]]]
+// Usage: rq-m5-screenshots FOLDER [LANGUAGE [PERCENT [dark|contrast]]]
 
 #include <QApplication>
 #include <QDir>
@@ -21,12 +21,20 @@ void SetTextSize(int percent)
     QApplication::setFont(font);
 }
 
-void SetDark()
+void SetColours(const QString& name)
 {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QPalette dark(QColor(53, 53, 53));
-    dark.setColor(QPalette::Base, QColor(35, 35, 35));
-    QApplication::setPalette(dark);
+    if (name == QLatin1String("dark")) {
+        QPalette dark(QColor(53, 53, 53));
+        dark.setColor(QPalette::Base, QColor(35, 35, 35));
+        QApplication::setPalette(dark);
+    } else if (name == QLatin1String("contrast")) {
+        QPalette contrast(Qt::white, Qt::black, Qt::white, Qt::gray, Qt::lightGray, Qt::white, Qt::white,
+                          Qt::black, Qt::black);
+        contrast.setColor(QPalette::Highlight, Qt::yellow);
+        contrast.setColor(QPalette::HighlightedText, Qt::black);
+        QApplication::setPalette(contrast);
+    }
 }
 
 }  // namespace
@@ -40,12 +48,12 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     const QStringList words = QCoreApplication::arguments();
     if (words.size() < 2 || !QDir().mkpath(words[1]))
-        qFatal("usage: rq-m5-screenshots FOLDER [LANGUAGE [PERCENT [dark]]]");
+        qFatal("usage: rq-m5-screenshots FOLDER [LANGUAGE [PERCENT [dark|contrast]]]");
     QApplication::setQuitOnLastWindowClosed(false);
     rqm5::Language::OfProgram().Use(words.value(2, QStringLiteral("en")));
     SetTextSize(words.value(3, QStringLiteral("100")).toInt());
-    if (words.value(4) == QLatin1String("dark"))
-        SetDark();
+    if (words.size() > 4)
+        SetColours(words[4]);
 
     const QDir folder(words[1]);
     rqm5::WindowTour tour([&folder](QWidget& window, const QString& name) {

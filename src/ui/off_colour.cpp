@@ -56,14 +56,22 @@ QColor OffColour(const QPalette& palette, QPalette::ColorRole ground, QPalette::
     return Readable(Opaque(palette.color(QPalette::Disabled, QPalette::WindowText), below), below);
 }
 
-void KeepPlaceholdersReadable()
+void KeepTextsReadable()
 {
     constexpr double kVisible = 3;
     QPalette palette = QGuiApplication::palette();
     const QColor below = palette.color(QPalette::Base);
-    if (Contrast(Opaque(palette.color(QPalette::PlaceholderText), below), below) >= kVisible)
+    const auto isVisible = [&](QPalette::ColorRole role) {
+        return Contrast(Opaque(palette.color(role), below), below) >= kVisible;
+    };
+    const bool hasHints = isVisible(QPalette::PlaceholderText);
+    const bool hasLinks = isVisible(QPalette::Link);
+    if (hasHints && hasLinks)
         return;
-    palette.setColor(QPalette::PlaceholderText, OffColour(palette, QPalette::Base));
+    if (!hasHints)
+        palette.setColor(QPalette::PlaceholderText, OffColour(palette, QPalette::Base));
+    if (!hasLinks)
+        palette.setColor(QPalette::Link, Readable(palette.color(QPalette::Link), below));
     QGuiApplication::setPalette(palette);
 }
 

@@ -14,8 +14,8 @@ double Contrast(const QColor& text, const QColor& ground);
 QColor OffColour(const QPalette& palette, QPalette::ColorRole ground,
                  QPalette::ColorGroup group = QPalette::Active);
 
-/// Gives the hints inside empty boxes a colour that can be read, where the desktop's theme has none: dark
-/// themes often leave it black.
-void KeepPlaceholdersReadable();
+/// Gives links and the hints inside empty boxes a colour that can be read, where the desktop's theme has
+/// none: dark themes often leave links blue and hints black.
+void KeepTextsReadable();
 
 }  // namespace rqm5

@@ -377,10 +377,12 @@ TEST_F(MemoryPageTest, WhatIsOffCanBeReadInEveryPaletteAndKeepsItsHue)
     QPalette dark = usual;
     dark.setColor(QPalette::Base, QColor(0x1B1E20));
     dark.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+    dark.setColor(QPalette::Link, QColor(0, 0, 255));
     QGuiApplication::setPalette(dark);
-    KeepPlaceholdersReadable();
+    KeepTextsReadable();
     const QPalette mended = QGuiApplication::palette();
-    EXPECT_GE(Contrast(mended.color(QPalette::PlaceholderText), mended.color(QPalette::Base)), 4.5);
+    for (const auto role : {QPalette::PlaceholderText, QPalette::Link})
+        EXPECT_GE(Contrast(mended.color(role), mended.color(QPalette::Base)), 4.5);
     EXPECT_EQ(mended.color(QPalette::Base), dark.color(QPalette::Base));
     QGuiApplication::setPalette(usual);
 }
