@@ -4,7 +4,7 @@
 #include "cli/program.h"
 #include "cli/streams.h"
 #include "files/file_store.h"
-#include "files/plain_settings.h"
+#include "platform/plain_settings.h"
 
 int main(int argc, char* argv[])
 {

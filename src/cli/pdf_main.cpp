@@ -10,7 +10,7 @@
 #include "cli/streams.h"
 #include "cli/values.h"
 #include "files/file_store.h"
-#include "files/plain_settings.h"
+#include "platform/plain_settings.h"
 #include "printing/pdf_file.h"
 
 // The pages of "rq-m5 print --pdf", which starts this program with its own options.

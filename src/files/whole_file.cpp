@@ -2,12 +2,7 @@
 #include <QFileInfo>
 #include <QStorageInfo>
 
-#ifdef Q_OS_UNIX
-#include <sys/stat.h>
-#endif
-
 #include <cerrno>
-#include <csignal>
 
 #include "files/file_store.h"
 #include "files/replacing_file.h"
@@ -55,13 +50,9 @@ QString OpenRemedy(const QFileInfo& file)
 /// What helps against a fault of the disk. Only what the disk itself reports is blamed on it.
 QString Remedy(int code, const QFileInfo& file)
 {
+    if (IsDiskFull(code))
+        return QStringLiteral("Free some space on the disk or save on another one, then repeat.");
     switch (code) {
-        case ENOSPC:
-        case EFBIG:
-#ifdef Q_OS_UNIX
-        case EDQUOT:
-#endif
-            return QStringLiteral("Free some space on the disk or save on another one, then repeat.");
         case ENAMETOOLONG:
             return QStringLiteral("Give a shorter name.");
         case EMFILE:
@@ -78,18 +69,6 @@ QString Remedy(int code, const QFileInfo& file)
     }
 }
 
-/// \return the system's reason why no file can have this name, empty when one can
-QString NameFault([[maybe_unused]] const QFileInfo& file)
-{
-#ifdef Q_OS_UNIX
-    struct stat found = {};
-    const QByteArray path = QFile::encodeName(file.absoluteFilePath());
-    if (::lstat(path.constData(), &found) != 0 && errno == ENAMETOOLONG)
-        return qt_error_string(ENAMETOOLONG);
-#endif
-    return {};
-}
-
 std::optional<Obstacle> WriteObstacle(const QFileInfo& file)
 {
     if (auto obstacle = NotAFile(file))
@@ -100,7 +79,7 @@ std::optional<Obstacle> WriteObstacle(const QFileInfo& file)
     if (!folder.isDir())
         return Obstacle{QStringLiteral("the folder %1 does not exist").arg(folder.filePath()),
                         QStringLiteral("Make the folder or choose another one.")};
-    if (const QString fault = NameFault(target); !fault.isEmpty())
+    if (const QString fault = NameFault(target.absoluteFilePath()); !fault.isEmpty())
         return Obstacle{fault, Remedy(ENAMETOOLONG, file)};
     if ((file.exists() && !file.isWritable()) || !folder.isWritable())
         return Obstacle{QStringLiteral("permission denied"), OpenRemedy(file)};
@@ -124,13 +103,6 @@ Obstacle TooLarge()
 }
 
 }  // namespace
-
-void TurnFileSizeLimitIntoError()
-{
-#ifdef Q_OS_UNIX
-    std::signal(SIGXFSZ, SIG_IGN);
-#endif
-}
 
 std::optional<Problem> SaveObstacle(const QString& path)
 {
