@@ -37,6 +37,7 @@ void LeaveBytesAsTheyAre()
 {
     _setmode(_fileno(stdin), _O_BINARY);
     _setmode(_fileno(stdout), _O_BINARY);
+    SetConsoleOutputCP(CP_UTF8);
 }
 
 }  // namespace rqm5
