@@ -25,14 +25,6 @@ QList<PortInfo> ListedPorts()
     return ports;
 }
 
-QString UsualDeviceOf(int number)
-{
-    QStringList offered;
-    for (const PortInfo& port : ListedPorts())
-        offered << port.device;
-    return UsualDevice(number, offered);
-}
-
 QString SettingsKey(int number)
 {
     return QStringLiteral("Ports/COM%1").arg(number);
@@ -50,7 +42,7 @@ QString DeviceOfComPort(int number)
         return fromEnvironment;
     const QSettings settings(QString::fromLatin1(kOrganisation), QString::fromLatin1(kApplication));
     const QString chosen = settings.value(SettingsKey(number)).toString();
-    return chosen.isEmpty() ? UsualDeviceOf(number) : chosen;
+    return chosen.isEmpty() ? UsualDevice(number) : chosen;
 }
 
 void SetDeviceOfComPort(int number, const QString& device)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QList>
 #include <QSerialPortInfo>
 #include <QString>
 
@@ -9,8 +8,8 @@ namespace rqm5 {
 /// The name under which a port that the system lists is opened; empty for one that is not to be offered.
 QString OfferedName(const QSerialPortInfo& port);
 
-/// The system's usual device for a COM number. \param offered  the ports that are there
-QString UsualDevice(int number, const QList<QString>& offered);
+/// The system's usual device for a COM number; empty when it has none.
+QString UsualDevice(int number);
 
 /// True where COM15 is the name of a device and not a number that is too high.
 bool AreComNamesDevices();

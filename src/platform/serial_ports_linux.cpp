@@ -27,7 +27,7 @@ QString OfferedName(const QSerialPortInfo& port)
     return port.systemLocation();
 }
 
-QString UsualDevice(int number, const QList<QString>& /*offered*/)
+QString UsualDevice(int number)
 {
     for (const UsualNames& names : kUsualNames)
         if (number >= names.first)

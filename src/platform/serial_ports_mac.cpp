@@ -11,9 +11,12 @@ QString OfferedName(const QSerialPortInfo& port)
     return node.startsWith(QStringLiteral("/dev/cu.")) ? node : QString();
 }
 
-QString UsualDevice(int number, const QList<QString>& offered)
+QString UsualDevice(int number)
 {
-    return offered.value(number - 1);
+    for (const QSerialPortInfo& port : QSerialPortInfo::availablePorts())
+        if (const QString device = OfferedName(port); !device.isEmpty() && --number == 0)
+            return device;
+    return {};
 }
 
 bool MayHaveHardware(const QString& device)

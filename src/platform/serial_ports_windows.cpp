@@ -10,7 +10,7 @@ QString OfferedName(const QSerialPortInfo& port)
     return port.portName();
 }
 
-QString UsualDevice(int number, const QList<QString>& /*offered*/)
+QString UsualDevice(int number)
 {
     return QStringLiteral("COM%1").arg(number);
 }

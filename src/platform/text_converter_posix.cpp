@@ -28,9 +28,9 @@ class IconvConverter : public TextConverter
 
     bool Convert(std::string_view& bytes, std::string& result) override
     {
-        std::string input(bytes);
-        char* next = input.data();
-        std::size_t left = input.size();
+        // The function takes no constant bytes, but it does not change them.
+        char* next = const_cast<char*>(bytes.data());
+        std::size_t left = bytes.size();
         for (;;) {
             char* out = buffer_.data();
             std::size_t room = buffer_.size();
