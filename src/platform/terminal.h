@@ -14,7 +14,8 @@ int TerminalColumns(StandardStream stream);
 /// True for what is read as it comes: pipes, terminals and what else is a device of characters.
 bool IsReadAsItComes(const std::string& path);
 
-/// Lets standard input and output carry bytes as they are: files have their own line ends, and texts are UTF-8.
+/// Lets standard input and output carry bytes as they are: files have their own line ends, and texts are
+/// UTF-8.
 void LeaveBytesAsTheyAre();
 
 }  // namespace rqm5
