@@ -54,7 +54,7 @@ endif()
 # Calls that Qt itself advises against do not compile: up to the oldest Qt that is supported, and with a newer one
 # up to the newest that the code was gone through for.
 function(rqm5_refuse_deprecated_calls target)
-  set(newest 6.9.0)
+  set(newest 6.11.0)
   if(Qt6_VERSION VERSION_LESS 6.5)
     set(name QT_DISABLE_DEPRECATED_BEFORE)
     set(version 6.4.0)
