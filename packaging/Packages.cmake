@@ -61,5 +61,8 @@ endforeach()
 
 set(CPACK_SOURCE_GENERATOR TXZ)
 set(CPACK_SOURCE_PACKAGE_FILE_NAME rq-m5-${PROJECT_VERSION})
-set(CPACK_SOURCE_IGNORE_FILES "/\\.git/" "/\\.git$" "/build[^/]*/" "\\.swp$" "~$")
+# What git ignores is nobody else's business either: builds, and memories that ./run read from somebody's receiver.
+string(REGEX REPLACE "[^A-Za-z0-9/_-]" "." here "${CMAKE_SOURCE_DIR}")
+set(CPACK_SOURCE_IGNORE_FILES "/[.]git/" "/[.]git$" "^${here}/build[^/]*/" "/[.]cache/" "[.]user$"
+    "/receiver-[^/]*[.]RQ5$" "/compile_commands[.]json$" "[.]swp$" "~$")
 include(CPack)

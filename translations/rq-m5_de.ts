@@ -273,7 +273,7 @@
     </message>
     <message>
         <source>--json and --tsv are two forms; choose one</source>
-        <translation>--json und --tsv sind zwei Formen; wählen Sie eine</translation>
+        <translation>--json und --tsv sind zwei Formate; wählen Sie eines</translation>
     </message>
     <message>
         <source>lines end in LF instead of CR LF; this program reads them, another may not</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>--take ROWS is missing: it says what is taken, such as bank:3 or all</source>
-        <translation>--take ROWS fehlt: Es sagt, was übernommen wird, etwa bank:3 oder all</translation>
+        <translation>--take ROWS fehlt: Die Option sagt, was übernommen wird, etwa bank:3 oder all</translation>
     </message>
     <message>
         <source>both names are the same file</source>
@@ -933,7 +933,7 @@
     </message>
     <message>
         <source>bank %1 has other rows in OTHER than in FILE. Take &quot;banks&quot; as well, or name the rows as memory:0-199</source>
-        <translation>Bank %1 hat in OTHER andere Zeilen als in FILE. Übernehmen Sie auch „banks“, oder nennen Sie die Zeilen wie memory:0-199</translation>
+        <translation>Bank %1 hat in OTHER andere Zeilen als in FILE. Übernehmen Sie auch „banks“, oder nennen Sie die Zeilen in der Form memory:0-199</translation>
     </message>
     <message>
         <source>ROWS names no row of OTHER</source>

@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>unknown option &quot;%1&quot;</source>
-        <translation>opción desconocida &quot;%1&quot;</translation>
+        <translation>opción desconocida «%1»</translation>
     </message>
     <message>
         <source>%1 takes no value</source>
@@ -265,7 +265,7 @@
     </message>
     <message>
         <source>too many arguments: &quot;%1&quot;</source>
-        <translation>demasiados argumentos: &quot;%1&quot;</translation>
+        <translation>demasiados argumentos: «%1»</translation>
     </message>
     <message>
         <source>%1 is empty</source>
@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>%1: the name is not written in UTF-8. Rename the file, or use &quot;-&quot;.</source>
-        <translation>%1: el nombre no está escrito en UTF-8. Cambie el nombre del archivo o use &quot;-&quot;.</translation>
+        <translation>%1: el nombre no está escrito en UTF-8. Cambie el nombre del archivo o use «-».</translation>
     </message>
     <message>
         <source>%1: both names are the same file, which would be replaced; give another name</source>
@@ -525,7 +525,7 @@
     </message>
     <message>
         <source>Rows that hold a channel or a note; &quot;x&quot; marks a channel that is off.</source>
-        <translation>Filas con un canal o una nota; &quot;x&quot; marca un canal desactivado.</translation>
+        <translation>Filas con un canal o una nota; «x» marca un canal desactivado.</translation>
     </message>
     <message>
         <source>print each FILE as text, or one as PDF</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Settings, VFO table and memory channels in this order; without --settings, --vfo and --memory all three. &quot;Off&quot; marks a channel that is disabled.</source>
-        <translation>Ajustes, tabla VFO y canales de memoria, en este orden; sin --settings, --vfo ni --memory, los tres. &quot;Off&quot; marca un canal desactivado.</translation>
+        <translation>Ajustes, tabla VFO y canales de memoria, en este orden; sin --settings, --vfo ni --memory, los tres. «Off» marca un canal desactivado.</translation>
     </message>
     <message>
         <source>check that each FILE is complete, and say what it holds</source>
@@ -609,7 +609,7 @@
     </message>
     <message>
         <source>%1; did you mean &quot;%2&quot;?</source>
-        <translation>%1; ¿quiso decir &quot;%2&quot;?</translation>
+        <translation>%1; ¿quiso decir «%2»?</translation>
     </message>
     <message>
         <source>%1:</source>
@@ -869,7 +869,7 @@
     </message>
     <message>
         <source>&quot;-&quot; as a file name is standard input or standard output.</source>
-        <translation>&quot;-&quot; como nombre de archivo es la entrada o la salida estándar.</translation>
+        <translation>«-» como nombre de archivo es la entrada o la salida estándar.</translation>
     </message>
     <message>
         <source>Exit status: 0 done, 1 the operation failed or found a difference, 2 wrong usage.</source>
@@ -901,7 +901,7 @@
     </message>
     <message>
         <source>not taken: %1</source>
-        <translation>no tomado: %1</translation>
+        <translation>sin tomar: %1</translation>
     </message>
     <message>
         <source>left out:</source>
@@ -917,7 +917,7 @@
     </message>
     <message>
         <source>the list has no column &quot;%1&quot;; it has %2</source>
-        <translation>la lista no tiene ninguna columna &quot;%1&quot;; columnas: %2</translation>
+        <translation>la lista no tiene ninguna columna «%1»; columnas: %2</translation>
     </message>
     <message>
         <source>the list does not say which rows it belongs to; name the first one with --from-row, or the columns that name them with --map</source>
@@ -933,7 +933,7 @@
     </message>
     <message>
         <source>bank %1 has other rows in OTHER than in FILE. Take &quot;banks&quot; as well, or name the rows as memory:0-199</source>
-        <translation>el banco %1 tiene otras filas en OTHER que en FILE. Tome también &quot;banks&quot;, o nombre las filas como memory:0-199</translation>
+        <translation>el banco %1 tiene otras filas en OTHER que en FILE. Tome también «banks», o nombre las filas como memory:0-199</translation>
     </message>
     <message>
         <source>ROWS names no row of OTHER</source>
@@ -941,7 +941,7 @@
     </message>
     <message>
         <source>Use &quot;%1&quot;.</source>
-        <translation>Use &quot;%1&quot;.</translation>
+        <translation>Use «%1».</translation>
     </message>
     <message>
         <source>%1: the program that makes PDFs cannot be started. Install rq-m5 again, or print from the window.</source>
@@ -949,11 +949,11 @@
     </message>
     <message>
         <source>Try &quot;%1&quot;.</source>
-        <translation>Pruebe &quot;%1&quot;.</translation>
+        <translation>Pruebe «%1».</translation>
     </message>
     <message>
         <source>unknown command &quot;%1&quot;</source>
-        <translation>orden desconocida &quot;%1&quot;</translation>
+        <translation>orden desconocida «%1»</translation>
     </message>
     <message>
         <source>a command is missing</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>no device</source>
-        <translation>ningún dispositivo</translation>
+        <translation>sin dispositivo</translation>
     </message>
     <message>
         <source>%1: there is a file already; choose another name</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message>
         <source>line 1 is not &quot;%1&quot;, so this is no clone file. Choose a clone file (*.RQ5); a CSV file is imported instead.</source>
-        <translation>la línea 1 no es &quot;%1&quot;, así que esto no es un archivo de clonación. Elija un archivo de clonación (*.RQ5); un archivo CSV se importa.</translation>
+        <translation>la línea 1 no es «%1», así que esto no es un archivo de clonación. Elija un archivo de clonación (*.RQ5); un archivo CSV se importa.</translation>
     </message>
     <message>
         <source>the file is empty.</source>
@@ -1217,11 +1217,11 @@
     </message>
     <message>
         <source>line %1 (%2) is not &quot;%3&quot;: lines were added or the file is damaged.</source>
-        <translation>la línea %1 (%2) no es &quot;%3&quot;: se añadieron líneas o el archivo está dañado.</translation>
+        <translation>la línea %1 (%2) no es «%3»: se añadieron líneas o el archivo está dañado.</translation>
     </message>
     <message>
         <source>line %1 (%2) holds a comma, which ends a note and shifts all that follows. File &gt; Repair, or &quot;rq-m5 repair&quot;, replaces it.</source>
-        <translation>la línea %1 (%2) contiene una coma, que termina una nota y desplaza todo lo que sigue. Archivo &gt; Reparar, o &quot;rq-m5 repair&quot;, la reemplaza.</translation>
+        <translation>la línea %1 (%2) contiene una coma, que termina una nota y desplaza todo lo que sigue. Archivo &gt; Reparar, o «rq-m5 repair», la reemplaza.</translation>
     </message>
     <message>
         <source>%1 is none of the receiver&apos;s</source>
@@ -1313,11 +1313,11 @@
     </message>
     <message>
         <source>there is no table &quot;%1&quot;; the record is passed over</source>
-        <translation>no hay ninguna tabla &quot;%1&quot;; el registro se pasa por alto</translation>
+        <translation>no hay ninguna tabla «%1»; el registro se pasa por alto</translation>
     </message>
     <message>
         <source>%1 has no channel &quot;%2&quot;; the record is passed over</source>
-        <translation>%1 no tiene ningún canal &quot;%2&quot;; el registro se pasa por alto</translation>
+        <translation>%1 no tiene ningún canal «%2»; el registro se pasa por alto</translation>
     </message>
     <message>
         <source>the record is short and is passed over</source>
@@ -1337,15 +1337,15 @@
     </message>
     <message>
         <source>the owner was %1 and is %2</source>
-        <translation>el propietario era %1 y es %2</translation>
+        <translation>el propietario era %1 y ahora es %2</translation>
     </message>
     <message>
         <source>the group was %1 and is %2</source>
-        <translation>el grupo era %1 y es %2</translation>
+        <translation>el grupo era %1 y ahora es %2</translation>
     </message>
     <message>
         <source>the permissions were %1 and are %2</source>
-        <translation>los permisos eran %1 y son %2</translation>
+        <translation>los permisos eran %1 y ahora son %2</translation>
     </message>
     <message>
         <source>the access list is gone</source>
@@ -1409,7 +1409,7 @@
     </message>
     <message>
         <source>there is no encoding &quot;%1&quot;; one of them is WINDOWS-1252</source>
-        <translation>no existe la codificación &quot;%1&quot;; una de ellas es WINDOWS-1252</translation>
+        <translation>no existe la codificación «%1»; una de ellas es WINDOWS-1252</translation>
     </message>
     <message>
         <source>the delimiter is tab, semicolon, comma or none</source>
@@ -1425,15 +1425,15 @@
     </message>
     <message>
         <source>&quot;%1&quot; is none of @encoding, @delimiter, @decimal and @titles</source>
-        <translation>&quot;%1&quot; no es @encoding, @delimiter, @decimal ni @titles</translation>
+        <translation>«%1» no es @encoding, @delimiter, @decimal ni @titles</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not followed by &quot;=&quot; and a field</source>
-        <translation>a &quot;%1&quot; no le sigue &quot;=&quot; y un campo</translation>
+        <translation>a «%1» no le sigue «=» y un campo</translation>
     </message>
     <message>
         <source>there is no field &quot;%1&quot;; the fields are %2</source>
-        <translation>no hay ningún campo &quot;%1&quot;; los campos son %2</translation>
+        <translation>no hay ningún campo «%1»; los campos son %2</translation>
     </message>
     <message>
         <source>one field a line</source>
@@ -1581,7 +1581,7 @@
     </message>
     <message>
         <source>%1 (no device)</source>
-        <translation>%1 (ningún dispositivo)</translation>
+        <translation>%1 (sin dispositivo)</translation>
     </message>
     <message>
         <source>Program</source>
@@ -1661,7 +1661,7 @@
     </message>
     <message>
         <source>Shift frequency</source>
-        <translation>Frecuencia de desplazamiento</translation>
+        <translation>Frec. de despl.</translation>
     </message>
     <message>
         <source>Note</source>
@@ -1673,7 +1673,7 @@
     </message>
     <message>
         <source>Seach Pass</source>
-        <translation>Seach Pass</translation>
+        <translation>Search Pass</translation>
     </message>
     <message>
         <source>Search Pass</source>
@@ -1885,7 +1885,7 @@
     </message>
     <message>
         <source>The group &quot;%1&quot; may use it. Add yourself with &quot;%2&quot;, then log out and in again.</source>
-        <translation>El grupo &quot;%1&quot; puede usarlo. Añádase con &quot;%2&quot;, cierre la sesión y vuelva a entrar.</translation>
+        <translation>El grupo «%1» puede usarlo. Añádase con «%2», cierre la sesión y vuelva a entrar.</translation>
     </message>
     <message>
         <source>No serial port was found. Plug the adapter in and try again.</source>
@@ -1929,7 +1929,7 @@
     </message>
     <message>
         <source>(no device)</source>
-        <translation>(ningún dispositivo)</translation>
+        <translation>(sin dispositivo)</translation>
     </message>
     <message>
         <source>the port failed</source>
@@ -2253,7 +2253,7 @@
     </message>
     <message>
         <source>%1 &quot;%2&quot;: it is %3</source>
-        <translation>%1 &quot;%2&quot;: debe ser %3</translation>
+        <translation>%1 «%2»: debe ser %3</translation>
     </message>
     <message>
         <source>on or off</source>
@@ -2261,7 +2261,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is no number of MHz, such as 145.5</source>
-        <translation>&quot;%1&quot; no es un número de MHz, como 145.5</translation>
+        <translation>«%1» no es un número de MHz, como 145.5</translation>
     </message>
     <message>
         <source>the %1 has no secret code</source>
@@ -2301,11 +2301,11 @@
     </message>
     <message>
         <source>&quot;%1&quot; is no FIELD=VALUE, such as mode=AM</source>
-        <translation>&quot;%1&quot; no es FIELD=VALUE, por ejemplo mode=AM</translation>
+        <translation>«%1» no es FIELD=VALUE, por ejemplo mode=AM</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no field; it is %2</source>
-        <translation>&quot;%1&quot; no es un campo; debe ser %2</translation>
+        <translation>«%1» no es un campo; debe ser %2</translation>
     </message>
     <message>
         <source>the model region does not have it</source>
@@ -2393,7 +2393,7 @@
     </message>
     <message>
         <source>there is no memory row &quot;%1&quot;</source>
-        <translation>no hay ninguna fila de memoria &quot;%1&quot;</translation>
+        <translation>no hay ninguna fila de memoria «%1»</translation>
     </message>
     <message>
         <source>the list names no row for it</source>
@@ -2401,7 +2401,7 @@
     </message>
     <message>
         <source>there is no channel &quot;%1&quot; in &quot;%2&quot;</source>
-        <translation>no hay ningún canal &quot;%1&quot; en &quot;%2&quot;</translation>
+        <translation>no hay ningún canal «%1» en «%2»</translation>
     </message>
     <message>
         <source>the row holds no channel, and no frequency comes</source>
@@ -2465,11 +2465,11 @@
     </message>
     <message>
         <source>%1: &quot;~&quot; looks for a text in the note, as in note~airport</source>
-        <translation>%1: &quot;~&quot; busca un texto en la nota, como en note~airport</translation>
+        <translation>%1: «~» busca un texto en la nota, como en note~airport</translation>
     </message>
     <message>
         <source>%1: write it with &quot;=&quot;, as in mode=AM</source>
-        <translation>%1: escríbalo con &quot;=&quot;, como en mode=AM</translation>
+        <translation>%1: escríbalo con «=», como en mode=AM</translation>
     </message>
     <message>
         <source>%1: the lower end comes first</source>
@@ -2681,7 +2681,7 @@
     </message>
     <message>
         <source>Auto Power Off (minutes)</source>
-        <translation>Apagado automático (minutos)</translation>
+        <translation>Apagado auto. (min)</translation>
     </message>
     <message>
         <source>Bug Sensitive Level</source>
@@ -2689,7 +2689,7 @@
     </message>
     <message>
         <source>MONI Key Function</source>
-        <translation>Función de la tecla MONI</translation>
+        <translation>Función tecla MONI</translation>
     </message>
     <message>
         <source>MONI Key</source>
@@ -3163,7 +3163,7 @@ Reemplazar conserva el archivo anterior como %2.</translation>
     </message>
     <message>
         <source>Auto Power Off (minutes)</source>
-        <translation>Apagado automático (minutos)</translation>
+        <translation>Apagado auto. (min)</translation>
     </message>
     <message>
         <source>After how many minutes without use the receiver switches itself off</source>
@@ -3179,7 +3179,7 @@ Reemplazar conserva el archivo anterior como %2.</translation>
     </message>
     <message>
         <source>MONI Key Function</source>
-        <translation>Función de la tecla MONI</translation>
+        <translation>Función tecla MONI</translation>
     </message>
     <message>
         <source>Whether the MONI key works while it is pushed or until it is pushed again</source>
@@ -3388,7 +3388,7 @@ Reemplazar conserva el archivo anterior como %2.</translation>
     </message>
     <message>
         <source>Clone file to open.</source>
-        <translation>Archivo de clonación por abrir.</translation>
+        <translation>Archivo de clonación que se abrirá.</translation>
     </message>
 </context>
 <context>
@@ -3462,7 +3462,7 @@ Reemplaza en el receptor: %2. La imagen abierta queda como está.</translation>
     </message>
     <message>
         <source>Link</source>
-        <translation>Enlazar</translation>
+        <translation>Enlace</translation>
     </message>
     <message>
         <source>Read Ban&amp;k</source>
@@ -3482,7 +3482,7 @@ Reemplaza en el receptor: %2. La imagen abierta queda como está.</translation>
     </message>
     <message>
         <source>Channels in all banks (1000 at most):</source>
-        <translation>Canales en todos los bancos (1000 como máximo):</translation>
+        <translation>Canales en los bancos (máx. 1000):</translation>
     </message>
     <message>
         <source>In no bank: %1 rows, %2 with a channel</source>
@@ -3577,11 +3577,11 @@ Ajuste los tamaños para que el total sea 1000 o menos.</translation>
     </message>
     <message>
         <source>Shift</source>
-        <translation>Desplazamiento</translation>
+        <translation>Despl.</translation>
     </message>
     <message>
         <source>ShiftFreq.</source>
-        <translation>Frec. desp.</translation>
+        <translation>Frec. despl.</translation>
     </message>
     <message>
         <source>Note</source>
@@ -3761,15 +3761,15 @@ Ajuste los tamaños para que el total sea 1000 o menos.</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation>Activado</translation>
+        <translation>Activados</translation>
     </message>
     <message>
         <source>Disabled</source>
-        <translation>Desactivado</translation>
+        <translation>Desactivados</translation>
     </message>
     <message>
         <source>Skipped</source>
-        <translation>Omitido</translation>
+        <translation>Omitidos</translation>
     </message>
     <message>
         <source>With a note</source>
@@ -4066,7 +4066,7 @@ Ajuste los tamaños para que el total sea 1000 o menos.</translation>
     </message>
     <message>
         <source>All channels shown</source>
-        <translation>Todos los canales mostrados</translation>
+        <translation>Canales mostrados</translation>
     </message>
     <message>
         <source>The offset is below 100 MHz.</source>
@@ -4516,7 +4516,7 @@ Are you sure that you want to do the delete?</source>
     </message>
     <message>
         <source>no device</source>
-        <translation>ningún dispositivo</translation>
+        <translation>sin dispositivo</translation>
     </message>
     <message>
         <source>%1, not present</source>
@@ -4986,7 +4986,7 @@ Are you sure that you want to do the delete?</source>
     </message>
     <message>
         <source>State</source>
-        <translation>Estado</translation>
+        <translation>Activo</translation>
     </message>
     <message>
         <source>Note</source>
@@ -4998,11 +4998,11 @@ Are you sure that you want to do the delete?</source>
     </message>
     <message>
         <source>on</source>
-        <translation>activado</translation>
+        <translation>sí</translation>
     </message>
     <message>
         <source>off</source>
-        <translation>desactivado</translation>
+        <translation>no</translation>
     </message>
     <message>
         <source>No frequency is stored more than once.</source>
@@ -5171,19 +5171,19 @@ Are you sure that you want to do the delete?</source>
     </message>
     <message>
         <source>Shift frequency</source>
-        <translation>Frecuencia de desplazamiento</translation>
+        <translation>Frec. de desplazamiento</translation>
     </message>
     <message>
         <source>Shift frequency in MHz</source>
-        <translation>Frec. de desplazamiento en MHz</translation>
+        <translation>Frec. despl. en MHz</translation>
     </message>
     <message>
         <source>Shift frequency in kHz</source>
-        <translation>Frec. de desplazamiento en kHz</translation>
+        <translation>Frec. despl. en kHz</translation>
     </message>
     <message>
         <source>Shift frequency in Hz</source>
-        <translation>Frec. de desplazamiento en Hz</translation>
+        <translation>Frec. despl. en Hz</translation>
     </message>
     <message>
         <source>Note</source>
@@ -5331,7 +5331,7 @@ No se puede usar.</translation>
     </message>
     <message>
         <source>&amp;Enable</source>
-        <translation>&amp;Activar</translation>
+        <translation>&amp;Activado</translation>
     </message>
     <message>
         <source>Scanning skips this channel</source>

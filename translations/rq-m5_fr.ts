@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>Round trip: lowest %1 ms, median %2 ms, highest %3 ms.</source>
-        <translation>Aller-retour&#xa0;: minimum %1 ms, médiane %2 ms, maximum %3 ms.</translation>
+        <translation>Aller-retour&#xa0;: min. %1 ms, médiane %2 ms, max. %3 ms.</translation>
     </message>
     <message>
         <source>%1 was removed or renamed by another program. Save will ask first.</source>
@@ -933,7 +933,7 @@
     </message>
     <message>
         <source>bank %1 has other rows in OTHER than in FILE. Take &quot;banks&quot; as well, or name the rows as memory:0-199</source>
-        <translation>la banque %1 n’a pas les mêmes lignes dans OTHER et dans FILE. Reprenez aussi «&#xa0;banks&#xa0;», ou indiquez les lignes comme memory:0-199</translation>
+        <translation>la banque %1 n’a pas les mêmes lignes dans OTHER et dans FILE. Reprenez aussi «&#xa0;banks&#xa0;», ou indiquez les lignes sous la forme memory:0-199</translation>
     </message>
     <message>
         <source>ROWS names no row of OTHER</source>
@@ -2361,7 +2361,7 @@
     </message>
     <message>
         <source>Every row of %1 from here on holds a channel or a note. Clear one, or make the bank larger on the Bank page.</source>
-        <translation>À partir d’ici, toutes les lignes de %1 contiennent un canal ou une note. Effacez-en une, ou agrandissez la banque sur la page des banques.</translation>
+        <translation>%1&#xa0;: à partir d’ici, toutes les lignes contiennent un canal ou une note. Effacez-en une, ou agrandissez la banque sur la page Banque.</translation>
     </message>
     <message>
         <source>Insert Row (%1)</source>
@@ -2485,11 +2485,11 @@
     </message>
     <message>
         <source>This clears %1, %2.</source>
-        <translation>Cela efface %1, %2.</translation>
+        <translation>Effacement&#xa0;: %1, %2.</translation>
     </message>
     <message>
         <source>This clears %1.</source>
-        <translation>Cela efface %1.</translation>
+        <translation>Effacement&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -2501,7 +2501,7 @@
     </message>
     <message>
         <source>This deletes %1, %2.</source>
-        <translation>Cela supprime %1, %2.</translation>
+        <translation>Suppression&#xa0;: %1, %2.</translation>
     </message>
     <message>
         <source>Delete (%1)</source>
@@ -3482,11 +3482,11 @@ Elle remplace dans le récepteur&#xa0;: %2. L’image ouverte reste inchangée.<
     </message>
     <message>
         <source>Channels in all banks (1000 at most):</source>
-        <translation>Canaux de toutes les banques (1000 au plus)&#xa0;:</translation>
+        <translation>Canaux des banques (max. 1000)&#xa0;:</translation>
     </message>
     <message>
         <source>In no bank: %1 rows, %2 with a channel</source>
-        <translation>Hors banque&#xa0;: %1 lignes, dont %2 avec un canal</translation>
+        <translation>Hors banque&#xa0;: %1 lignes, dont %2 occupées</translation>
     </message>
     <message>
         <source>ERROR</source>
@@ -4261,11 +4261,11 @@ Choisissez des tailles dont le total ne dépasse pas 1000.</translation>
     </message>
     <message>
         <source>not a serial port</source>
-        <translation>n’est pas un port série</translation>
+        <translation>pas un port série</translation>
     </message>
     <message>
         <source>not a serial port (%1)</source>
-        <translation>n’est pas un port série (%1)</translation>
+        <translation>pas un port série (%1)</translation>
     </message>
     <message>
         <source>the device has gone</source>

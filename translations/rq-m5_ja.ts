@@ -3482,11 +3482,11 @@ It replaces in the receiver: %2. The open image stays as it is.</source>
     </message>
     <message>
         <source>Channels in all banks (1000 at most):</source>
-        <translation>全バンクのチャンネル数 (1000以下):</translation>
+        <translation>全バンクの合計 (1000以下):</translation>
     </message>
     <message>
         <source>In no bank: %1 rows, %2 with a channel</source>
-        <translation>バンク外: %1行 (うちチャンネルあり: %2行)</translation>
+        <translation>バンク外: %1行 (チャンネルあり: %2行)</translation>
     </message>
     <message>
         <source>ERROR</source>
@@ -3711,7 +3711,7 @@ Please set for the total of the channel to become 1000 or less.</source>
     </message>
     <message>
         <source>Save changes to settings?</source>
-        <translation>設定の変更を保存しますか?</translation>
+        <translation>変更を保存しますか?</translation>
     </message>
     <message>
         <source>The file is saved, but a clone file cannot hold notes with a comma or quotes. While these notes stay as they are, the file cannot be opened again or shows them changed.</source>
@@ -4534,7 +4534,7 @@ Are you sure that you want to do the delete?</source>
     <name>rqm5::TransferBar</name>
     <message>
         <source>Cancel</source>
-        <translation>キャンセル</translation>
+        <translation>中止</translation>
     </message>
     <message>
         <source>Progress of the transfer</source>
@@ -5331,7 +5331,7 @@ It is not possible to set it.</source>
     </message>
     <message>
         <source>&amp;Enable</source>
-        <translation>有効化(&amp;E)</translation>
+        <translation>有効(&amp;E)</translation>
     </message>
     <message>
         <source>Scanning skips this channel</source>

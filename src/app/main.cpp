@@ -11,11 +11,11 @@
 #include "app/recovery.h"
 #include "app/start_up.h"
 #include "files/file_store.h"
-#include "files/plain_settings.h"
 #include "language/language.h"
 #include "link/knowledge_file.h"
 #include "link/port_file.h"
 #include "link/qt_serial_port.h"
+#include "platform/plain_settings.h"
 #include "ui/icons.h"
 #include "ui/message_dialogs.h"
 

@@ -6,13 +6,13 @@
 
 #include "cli/streams.h"
 #include "files/clone_file.h"
-#include "files/file_access.h"
 #include "files/file_store.h"
 #include "files/rescue.h"
 #include "files/round_trip.h"
 #include "image/display_text.h"
 #include "language/translated.h"
 #include "memory/start_image.h"
+#include "platform/file_access.h"
 
 namespace rqm5 {
 namespace {

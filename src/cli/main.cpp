@@ -6,8 +6,8 @@
 #include "cli/program.h"
 #include "cli/streams.h"
 #include "files/file_store.h"
-#include "files/plain_settings.h"
 #include "language/language.h"
+#include "platform/plain_settings.h"
 
 int main(int argc, char* argv[])
 {

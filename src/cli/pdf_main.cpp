@@ -9,8 +9,8 @@
 #include "cli/streams.h"
 #include "cli/values.h"
 #include "files/file_store.h"
-#include "files/plain_settings.h"
 #include "language/language.h"
+#include "platform/plain_settings.h"
 #include "printing/pdf_file.h"
 
 // The pages of "rq-m5 print --pdf", which starts this program with its own options.

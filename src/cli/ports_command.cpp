@@ -1,4 +1,4 @@
-#include <QFile>
+#include <cerrno>
 #include <ostream>
 
 #include "cli/channel_output.h"
@@ -7,23 +7,16 @@
 #include "image/display_text.h"
 #include "link/com_ports.h"
 #include "link/link_problems.h"
-#include "link/qt_serial_port.h"
-
-#ifdef Q_OS_UNIX
-#include <fcntl.h>
-#include <termios.h>
-#include <unistd.h>
-
-#include <cerrno>
-#endif
+#include "link/serial_port.h"
 
 namespace rqm5 {
 namespace {
 
-#ifdef Q_OS_UNIX
 PortFault FaultOf(int error)
 {
     switch (error) {
+        case 0:
+            return PortFault::None;
         case ENOENT:
         case ENODEV:
         case ENXIO:
@@ -37,25 +30,6 @@ PortFault FaultOf(int error)
             return PortFault::NotAPort;
     }
 }
-
-/// Opens and closes the device without setting it up, so that a program that uses it is not disturbed.
-PortFault TryToOpen(const QString& device)
-{
-    const int file = open(QFile::encodeName(device).constData(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
-    if (file < 0)
-        return FaultOf(errno);
-    termios settings = {};
-    const bool isPort = tcgetattr(file, &settings) == 0;
-    close(file);
-    return isPort ? PortFault::None : PortFault::NotAPort;
-}
-#else
-PortFault TryToOpen(const QString& device)
-{
-    QtSerialPort port(device);
-    return port.Open() ? PortFault::None : port.Fault();
-}
-#endif
 
 std::string StateText(PortFault fault)
 {
@@ -87,8 +61,7 @@ std::vector<Port> Ports()
             found.append(port);
     std::vector<Port> ports;
     for (const PortInfo& port : found)
-        ports.push_back(
-            {port, port.device.isEmpty() ? PortFault::NotFound : TryToOpen(DeviceNode(port.device))});
+        ports.push_back({port, port.device.isEmpty() ? PortFault::NotFound : FaultOf(TryPort(port.device))});
     return ports;
 }
 

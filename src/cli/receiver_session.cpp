@@ -47,8 +47,8 @@ ReceiverSession::ReceiverSession(const Arguments& arguments, Console& console)
       progress_(console),
       port_(DeviceOf(arguments, number_)),
       link_(port_),
-      interrupt_([this](bool isCtrlC) {
-          isCtrlC_ = isCtrlC;
+      signals_(EndSignals::Ignored::OnlyHangUpStaysIgnored, [this](int status) {
+          isCtrlC_ = status == kEndedByCtrlC;
           progress_.Cancel();
           link_.Cancel();
       })

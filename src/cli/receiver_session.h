@@ -7,10 +7,10 @@
 
 #include "cli/arguments.h"
 #include "cli/console.h"
-#include "cli/interrupt.h"
 #include "cli/progress_bar.h"
 #include "link/qt_serial_port.h"
 #include "link/radio_link.h"
+#include "platform/end_signals.h"
 
 namespace rqm5 {
 
@@ -70,7 +70,7 @@ class ReceiverSession
     ProgressBar progress_;
     QtSerialPort port_;
     RadioLink link_;
-    Interrupt interrupt_;
+    EndSignals signals_;
 };
 
 }  // namespace rqm5

@@ -11,30 +11,13 @@
 #include "cli/clone_files.h"
 #include "files/file_store.h"
 #include "image/display_text.h"
-
-#ifdef Q_OS_UNIX
-#include <sys/ioctl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-#endif
+#include "platform/terminal.h"
 
 namespace rqm5 {
 namespace {
 
 constexpr std::size_t kLongestInput = 16 * 1024 * 1024;
 constexpr int kUsualColumns = 80;
-
-/// True for what is read as it comes: pipes, terminals and what else is a device of characters.
-bool IsStream([[maybe_unused]] const std::string& path)
-{
-#ifdef Q_OS_UNIX
-    struct stat found = {};
-    return ::stat(path.c_str(), &found) == 0 &&
-           (S_ISFIFO(found.st_mode) || S_ISCHR(found.st_mode) || S_ISSOCK(found.st_mode));
-#else
-    return false;
-#endif
-}
 
 std::optional<Problem> ReadStream(std::FILE* stream, const Message& name, std::string& bytes)
 {
@@ -57,34 +40,20 @@ std::optional<Problem> ReadStream(std::FILE* stream, const Message& name, std::s
     return std::nullopt;
 }
 
-bool IsTerminal([[maybe_unused]] int descriptor)
-{
-#ifdef Q_OS_UNIX
-    return isatty(descriptor) != 0;
-#else
-    return false;
-#endif
-}
-
-bool TakesColour(int descriptor)
+bool TakesColour(StandardStream stream)
 {
     const std::string_view terminal = qEnvironmentVariableIsSet("TERM") ? std::getenv("TERM") : "";
-    return IsTerminal(descriptor) && qEnvironmentVariableIsEmpty("NO_COLOR") && !terminal.empty() &&
+    return IsTerminal(stream) && qEnvironmentVariableIsEmpty("NO_COLOR") && !terminal.empty() &&
            terminal != "dumb";
 }
 
 /// Columns of the terminal on standard error, 0 when it is none.
 int ErrorColumns()
 {
-#ifdef Q_OS_UNIX
-    if (!IsTerminal(STDERR_FILENO))
+    if (!IsTerminal(StandardStream::Error))
         return 0;
-    winsize size = {};
-    const bool isKnown = ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
-    return isKnown ? size.ws_col : kUsualColumns;
-#else
-    return 0;
-#endif
+    const int columns = TerminalColumns(StandardStream::Error);
+    return columns > 0 ? columns : kUsualColumns;
 }
 
 }  // namespace
@@ -93,7 +62,7 @@ std::optional<Problem> ReadInput(const std::string& path, std::string& bytes)
 {
     if (IsStandard(path))
         return ReadStream(stdin, kStandardInput, bytes);
-    if (!IsStream(path)) {
+    if (!IsReadAsItComes(path)) {
         auto problem = NameProblem(path);
         return problem ? problem : ReadWholeFile(PathOf(path), bytes);
     }
@@ -125,16 +94,15 @@ void Note(const std::string& path, Console& console, const Message& text)
 
 Console StandardConsole()
 {
+    LeaveBytesAsTheyAre();
     // A whole table in one piece: a reader such as head that leaves early does not cut a command short.
     static std::array<char, 1 << 16> buffer;
     std::ios::sync_with_stdio(false);
     std::cout.rdbuf()->pubsetbuf(buffer.data(), buffer.size());
     std::cin.tie(nullptr);
     Console console{std::cout, std::cerr, ErrorColumns()};
-#ifdef Q_OS_UNIX
-    console.paintsOut = TakesColour(STDOUT_FILENO);
-    console.paintsErr = TakesColour(STDERR_FILENO);
-#endif
+    console.paintsOut = TakesColour(StandardStream::Out);
+    console.paintsErr = TakesColour(StandardStream::Error);
     return console;
 }
 

@@ -66,11 +66,7 @@ Message RegionFault(std::string_view text)
 
 Message PortNumberFault(std::string_view text)
 {
-#ifdef Q_OS_WIN
-    const std::string_view number = text;  // COM15 and so on are devices
-#else
-    const std::string_view number = WithoutCom(text);
-#endif
+    const std::string_view number = AreComNamesDevices() ? text : WithoutCom(text);
     const bool isTaken = !IsNumber(number) || ReadComNumber(text);
     return isTaken ? Message()
                    : MESSAGE("port numbers are 1 to 14; a device path such as /dev/ttyUSB0 is taken too");

@@ -5,19 +5,13 @@
 
 #include "files/csv_fields.h"
 #include "files/csv_record.h"
-#include "files/file_access.h"
 #include "files/file_store.h"
 #include "files/replacing_file.h"
 #include "files/text_encoding.h"
 #include "image/display_text.h"
 #include "image/value_tables.h"
-
-#ifdef Q_OS_UNIX
-#include <unistd.h>
-
-#include <cerrno>
-#include <cstdio>
-#endif
+#include "platform/disk.h"
+#include "platform/file_access.h"
 
 namespace rqm5 {
 namespace {
@@ -76,26 +70,9 @@ QString CopyOf(const QString& path, const QString& copy)
 /// \return the system's reason, empty when the file has the second name
 QString AddName(const QString& path, const QString& second)
 {
-#ifdef Q_OS_UNIX
-    // A second name of the same file keeps all that belongs to it. The name is made aside first, so that an
-    // older file of that name stays until then.
-    const QByteArray from = QFile::encodeName(path);
-    const QByteArray to = QFile::encodeName(second);
-    const QByteArray aside =
-        QFile::encodeName(QFileInfo(second).absolutePath() +
-                          QStringLiteral("/.rq5-save-%1").arg(::getpid() % 1000000, 6, 10, QLatin1Char('0')));
-    ::unlink(aside.constData());
-    if (::link(from.constData(), aside.constData()) == 0) {
-        if (std::rename(aside.constData(), to.constData()) == 0) {
-            ::unlink(aside.constData());  // a rename between two names of one file leaves both
-            return {};
-        }
-        const int error = errno;
-        ::unlink(aside.constData());
-        return qt_error_string(error);
-    }
-#endif
-    return CopyOf(path, second);
+    QString reason;
+    // A second name of the same file keeps all that belongs to it.
+    return GiveSecondName(path, second, reason) == SecondName::Unknown ? CopyOf(path, second) : reason;
 }
 
 }  // namespace

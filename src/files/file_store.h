@@ -54,10 +54,6 @@ std::optional<Problem> SaveObstacle(const QString& path);
 /// The same before a long read, whose result would be lost: the disk must have room for it, too.
 std::optional<Problem> ReadingObstacle(const QString& path);
 
-/// Makes a write beyond the limit on file sizes fail like one on a full disk; it would end the program.
-/// Programs call it when they start.
-void TurnFileSizeLimitIntoError();
-
 /// What there is to know about a file that was written.
 struct WriteReport
 {

@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QStandardPaths>
 #include <QUuid>
 #include <algorithm>
 
@@ -43,18 +42,6 @@ void MakeFolder(const QString& path)
 }
 
 }  // namespace
-
-QString StateFolder()
-{
-#ifdef Q_OS_LINUX
-    const QString set = qEnvironmentVariable("XDG_STATE_HOME");
-    const QString base =
-        QDir::isAbsolutePath(set) ? set : QDir::home().filePath(QStringLiteral(".local/state"));
-    return QDir(base).filePath(QStringLiteral("rq-m5-clone"));
-#else
-    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
-#endif
-}
 
 RecoveryFile::RecoveryFile(const QString& folder, Work work) : RecoveryFile(Existing{NewPath(folder, work)})
 {

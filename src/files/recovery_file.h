@@ -11,11 +11,9 @@
 #include "files/file_store.h"
 #include "image/clone_image.h"
 #include "image/problem.h"
+#include "platform/user_folders.h"
 
 namespace rqm5 {
-
-/// Where the programs keep what is no setting and no document: the user's state folder.
-QString StateFolder();
 
 /// The file that work began with.
 struct RecoveryOrigin

@@ -2,12 +2,7 @@
 #include <QFileInfo>
 #include <QStorageInfo>
 
-#ifdef Q_OS_UNIX
-#include <sys/stat.h>
-#endif
-
 #include <cerrno>
-#include <csignal>
 
 #include "files/file_store.h"
 #include "files/replacing_file.h"
@@ -61,13 +56,9 @@ Message OpenRemedy(const QFileInfo& file)
 /// What helps against a fault of the disk. Only what the disk itself reports is blamed on it.
 Message Remedy(int code, const QFileInfo& file)
 {
+    if (IsDiskFull(code))
+        return MESSAGE("Free some space on the disk or save on another one, then repeat.");
     switch (code) {
-        case ENOSPC:
-        case EFBIG:
-#ifdef Q_OS_UNIX
-        case EDQUOT:
-#endif
-            return MESSAGE("Free some space on the disk or save on another one, then repeat.");
         case ENAMETOOLONG:
             return MESSAGE("Give a shorter name.");
         case EMFILE:
@@ -84,18 +75,6 @@ Message Remedy(int code, const QFileInfo& file)
     }
 }
 
-/// \return the system's reason why no file can have this name, empty when one can
-QString NameFault([[maybe_unused]] const QFileInfo& file)
-{
-#ifdef Q_OS_UNIX
-    struct stat found = {};
-    const QByteArray path = QFile::encodeName(file.absoluteFilePath());
-    if (::lstat(path.constData(), &found) != 0 && errno == ENAMETOOLONG)
-        return qt_error_string(ENAMETOOLONG);
-#endif
-    return {};
-}
-
 std::optional<Obstacle> WriteObstacle(const QFileInfo& file)
 {
     if (auto obstacle = NotAFile(file))
@@ -107,7 +86,7 @@ std::optional<Obstacle> WriteObstacle(const QFileInfo& file)
         return Obstacle{
             {MESSAGE("the folder %1 does not exist"), {VisibleText(folder.filePath().toStdString())}},
             MESSAGE("Make the folder or choose another one.")};
-    if (const QString fault = NameFault(target); !fault.isEmpty())
+    if (const QString fault = NameFault(target.absoluteFilePath()); !fault.isEmpty())
         return Obstacle{Reason(fault), Remedy(ENAMETOOLONG, file)};
     if ((file.exists() && !file.isWritable()) || !folder.isWritable())
         return Obstacle{MESSAGE("permission denied"), OpenRemedy(file)};
@@ -130,13 +109,6 @@ Obstacle TooLarge()
 }
 
 }  // namespace
-
-void TurnFileSizeLimitIntoError()
-{
-#ifdef Q_OS_UNIX
-    std::signal(SIGXFSZ, SIG_IGN);
-#endif
-}
 
 std::optional<Problem> SaveObstacle(const QString& path)
 {

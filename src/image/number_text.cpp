@@ -7,6 +7,8 @@
 #include <cstdlib>
 #include <limits>
 
+#include "image/double_from_chars.h"
+
 namespace rqm5 {
 namespace {
 
@@ -17,7 +19,7 @@ bool IsDigit(char c)
     return c >= '0' && c <= '9';
 }
 
-/// The part of the text that std::from_chars may see: it would take "inf" and "nan" for numbers too.
+/// The part of the text that DoubleFromChars may see: it would take "inf" and "nan" for numbers too.
 std::string_view NumericPart(std::string_view text)
 {
     std::size_t end = 0;
@@ -52,8 +54,7 @@ double ReadNumber(std::string_view text)
         text.remove_prefix(1);
     const std::string_view part = NumericPart(text);
     double value = 0;
-    const auto result =
-        std::from_chars(part.data(), part.data() + part.size(), value, std::chars_format::fixed);
+    const auto result = DoubleFromChars(part.data(), part.data() + part.size(), value);
     if (result.ec == std::errc::result_out_of_range) {
         const bool isHuge = std::min(part.find('.'), part.size()) > 300;
         value = !isHuge ? 0 : part.starts_with('-') ? -kLargest : kLargest;

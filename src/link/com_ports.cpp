@@ -1,6 +1,5 @@
 #include "link/com_ports.h"
 
-#include <QFileInfo>
 #include <QSerialPortInfo>
 #include <QSettings>
 
@@ -9,17 +8,6 @@ namespace {
 
 constexpr char kOrganisation[] = "Tervan";
 constexpr char kApplication[] = "Tervan RQ-M5 Clone Utility";
-
-/// COM numbers from `first` on stand for the devices `prefix` + 0, 1, ...
-struct UsualNames
-{
-    int first;
-    const char* prefix;
-};
-
-#ifdef Q_OS_LINUX
-constexpr UsualNames kUsualNames[] = {{10, "/dev/ttyACM"}, {5, "/dev/ttyUSB"}, {1, "/dev/ttyS"}};
-#endif
 
 QString DescriptionOf(const QSerialPortInfo& port)
 {
@@ -30,48 +18,16 @@ QList<PortInfo> ListedPorts()
 {
     QList<PortInfo> ports;
     for (const QSerialPortInfo& port : QSerialPortInfo::availablePorts()) {
-#ifdef Q_OS_WIN
-        const QString device = port.portName();
-#else
-        const QString device = port.systemLocation();
-#endif
-        ports.append({0, device, DescriptionOf(port), true});
+        const QString device = OfferedName(port);
+        if (!device.isEmpty())
+            ports.append({0, device, DescriptionOf(port), true});
     }
     return ports;
-}
-
-QString UsualDevice(int number)
-{
-#if defined(Q_OS_WIN)
-    return QStringLiteral("COM%1").arg(number);
-#elif defined(Q_OS_LINUX)
-    for (const UsualNames& names : kUsualNames)
-        if (number >= names.first)
-            return QString::fromLatin1(names.prefix) + QString::number(number - names.first);
-    return {};
-#else
-    const QList<PortInfo> ports = ListedPorts();
-    return number <= ports.size() ? ports[number - 1].device : QString();
-#endif
 }
 
 QString SettingsKey(int number)
 {
     return QStringLiteral("Ports/COM%1").arg(number);
-}
-
-bool IsPresent(const QString& device, bool isListed)
-{
-#ifdef Q_OS_WIN
-    return isListed;
-#else
-    const QFileInfo node(DeviceNode(device));
-    if (isListed || !node.exists())
-        return isListed;
-    // Nodes for built-in ports exist on every machine; the system lists those that have hardware, as far
-    // as it is allowed to look.
-    return !device.startsWith(QStringLiteral("/dev/ttyS")) || !node.isReadable();
-#endif
 }
 
 }  // namespace
@@ -107,31 +63,15 @@ QList<PortInfo> ComPorts()
         for (const PortInfo& known : listed)
             if (known.device == port.device)
                 port = {number, known.device, known.description, true};
-        port.isPresent = IsPresent(port.device, port.isPresent);
+        port.isPresent = port.isPresent || MayHaveHardware(port.device);
         ports.append(port);
     }
     return ports;
 }
 
-QString DeviceNode(const QString& device)
-{
-#ifdef Q_OS_WIN
-    return device;
-#else
-    return device.contains(QLatin1Char('/')) ? device : QStringLiteral("/dev/") + device;
-#endif
-}
-
 bool IsDevicePresent(const QString& device)
 {
-#ifdef Q_OS_WIN
-    for (const PortInfo& port : ListedPorts())
-        if (port.device == device)
-            return true;
-    return false;
-#else
-    return !device.isEmpty() && QFileInfo::exists(DeviceNode(device));
-#endif
+    return LookAt(device) != DeviceLook::NotThere;
 }
 
 QList<PortInfo> SystemPorts()

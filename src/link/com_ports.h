@@ -4,6 +4,8 @@
 #include <QString>
 #include <optional>
 
+#include "platform/serial_ports.h"
+
 namespace rqm5 {
 
 inline constexpr int kComPorts = 14;  ///< COM numbers are 1 to 14
@@ -26,9 +28,6 @@ struct PortInfo
 
 /// The devices of COM 1 to 14, in order.
 QList<PortInfo> ComPorts();
-
-/// Where the system keeps a device: a bare name such as ttyUSB0 stands for a node in /dev.
-QString DeviceNode(const QString& device);
 
 /// True while a device is there, as far as it shows without opening it.
 bool IsDevicePresent(const QString& device);

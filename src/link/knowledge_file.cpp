@@ -27,7 +27,7 @@ bool ReadBlock(const QByteArray& line, KnownBlocks& blocks)
     const MemoryBlock block(words[1].toStdString());
     if (!isAddress || !isTime || !block.IsHex() || !PlaceOf(address) || address % kBlockBytes != 0)
         return false;
-    blocks[address] = {block, QDateTime::fromMSecsSinceEpoch(time, Qt::UTC)};
+    blocks[address] = {block, QDateTime::fromMSecsSinceEpoch(time).toUTC()};
     return true;
 }
 

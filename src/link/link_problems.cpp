@@ -9,23 +9,6 @@
 namespace rqm5 {
 namespace {
 
-QString UserName()
-{
-    const QString name = qEnvironmentVariable("USER");
-    return name.isEmpty() ? QStringLiteral("$USER") : name;
-}
-
-/// What gives the user access to a device; empty when only the administrator of the computer can tell.
-QString PermissionCommand(const QString& device)
-{
-    const QFileInfo node(DeviceNode(device));
-    const QString group = node.group();
-    const bool groupMayUse = node.permission(QFile::ReadGroup) && node.permission(QFile::WriteGroup);
-    if (group.isEmpty() || group == QLatin1String("root") || !groupMayUse)
-        return {};
-    return QStringLiteral("sudo usermod -aG %1 %2").arg(group, UserName());
-}
-
 Message PermissionRemedy(const QString& device)
 {
     const QString command = PermissionCommand(device);

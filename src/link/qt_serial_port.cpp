@@ -60,13 +60,11 @@ bool QtSerialPort::Open()
     if (IsOpen())
         return true;
     Close();
-#ifndef Q_OS_WIN
-    const QFileInfo node(DeviceNode(device_));
-    if (device_.isEmpty() || !node.exists())
+    const DeviceLook look = LookAt(device_);
+    if (look == DeviceLook::NotThere)
         return Refuse(PortFault::NotFound, tr("no such device"));
-    if (node.isDir() || node.isFile())
+    if (look == DeviceLook::NoPort)
         return Refuse(PortFault::NotAPort, tr("not a serial port"));
-#endif
     // A name with a folder is a path from here on, not one below the folder of devices.
     const bool isPath = device_.contains(QLatin1Char('/'));
     port_.setPortName(isPath ? QFileInfo(device_).absoluteFilePath() : device_);

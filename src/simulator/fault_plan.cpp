@@ -3,6 +3,8 @@
 #include <charconv>
 #include <utility>
 
+#include "image/double_from_chars.h"
+
 namespace rqm5 {
 namespace {
 
@@ -16,8 +18,13 @@ constexpr std::pair<std::string_view, FaultKind> kKinds[] = {
 
 constexpr std::string_view kAfter = "after=";
 
-template <typename Number>
-bool ReadWhole(std::string_view text, Number& number)
+bool ReadWhole(std::string_view text, double& number)
+{
+    const auto [end, error] = DoubleFromChars(text.data(), text.data() + text.size(), number);
+    return error == std::errc() && end == text.data() + text.size();
+}
+
+bool ReadWhole(std::string_view text, int& number)
 {
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     return error == std::errc() && end == text.data() + text.size();

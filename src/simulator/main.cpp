@@ -1,10 +1,10 @@
 #include <QCoreApplication>
-#include <csignal>
 #include <fstream>
 #include <iostream>
 
 #include "files/file_store.h"
 #include "memory/start_image.h"
+#include "platform/end_wait.h"
 #include "simulator/demo_image.h"
 #include "simulator/program_options.h"
 #include "simulator/sim_session.h"
@@ -24,16 +24,6 @@ int Report(const std::string& what)
 {
     std::cerr << "rq-m5-sim: " << what << "\n";
     return kFailed;
-}
-
-/// The signals that end the program; waited for rather than handled.
-sigset_t EndSignals()
-{
-    sigset_t endSignals;
-    sigemptyset(&endSignals);
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
-        sigaddset(&endSignals, signal);
-    return endSignals;
 }
 
 int Save(const QString& path, const ReceiverMemory& memory, const CloneImage& notes)
@@ -67,14 +57,12 @@ int RunReceiver(const ProgramOptions& program, const CloneImage& image)
         if (log.is_open())
             log << command << std::endl;
     };
-    const sigset_t endSignals = EndSignals();
-    pthread_sigmask(SIG_BLOCK, &endSignals, nullptr);
+    const EndWait end;
     SimSession session(options);
     if (!session.Error().empty())
         return Report(session.Error());
     std::cout << session.Terminal().toStdString() << std::endl;
-    int received = 0;
-    sigwait(&endSignals, &received);
+    end.Wait();
     session.Stop();
     return program.save.isEmpty() ? kDone : Save(program.save, session.Memory(), image);
 }

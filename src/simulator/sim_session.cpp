@@ -1,12 +1,5 @@
 #include "simulator/sim_session.h"
 
-#include <poll.h>
-#include <sys/eventfd.h>
-#include <sys/prctl.h>
-#include <unistd.h>
-
-#include <algorithm>
-#include <array>
 #include <filesystem>
 
 namespace rqm5 {
@@ -35,14 +28,6 @@ void RemoveLink(const fs::path& link, const fs::path& target)
         fs::remove(link, error);
 }
 
-timespec Until(LinePacer::Clock::time_point due)
-{
-    constexpr std::int64_t kNanoseconds = 1'000'000'000;
-    const std::chrono::nanoseconds left = due - LinePacer::Clock::now();
-    const std::int64_t count = std::max<std::int64_t>(0, left.count());
-    return {count / kNanoseconds, count % kNanoseconds};
-}
-
 }  // namespace
 
 SimSession::SimSession(SimOptions options)
@@ -52,7 +37,6 @@ SimSession::SimSession(SimOptions options)
 {
     receiver_.SetLateDelay(options_.lateDelay);
     receiver_.SetStallTime(options_.stallTime);
-    wakeUp_ = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
     if (Connect())
         thread_ = std::thread([this] { Run(); });
 }
@@ -60,7 +44,6 @@ SimSession::SimSession(SimOptions options)
 SimSession::~SimSession()
 {
     Stop();
-    close(wakeUp_);
 }
 
 QString SimSession::Device() const
@@ -116,7 +99,7 @@ void SimSession::HangUp()
     if (!thread_.joinable())
         return;
     mustHangUp_ = true;
-    Wake();
+    waiter_.Wake();
     hungUp_.wait(lock, [this] { return !mustHangUp_ || mustStop_; });
 }
 
@@ -125,7 +108,7 @@ void SimSession::Stop()
     if (!thread_.joinable())
         return;
     mustStop_ = true;
-    Wake();
+    waiter_.Wake();
     thread_.join();
     const std::lock_guard lock(mutex_);
     if (!options_.link.empty())
@@ -144,8 +127,7 @@ bool SimSession::Connect()
 
 void SimSession::Run()
 {
-    // The pace of the line is kept to the microsecond; the system would group timers otherwise.
-    prctl(PR_SET_TIMERSLACK, 1UL);
+    LineWaiter::KeepExactTime();
     while (!mustStop_) {
         Wait();
         const std::lock_guard lock(mutex_);
@@ -159,19 +141,14 @@ void SimSession::Run()
 /// Sleeps until characters come in, some are due to go out, or another thread wants something.
 void SimSession::Wait()
 {
-    std::array<pollfd, 2> waited{};
+    int descriptor = -1;
     std::optional<LinePacer::Clock::time_point> due;
     {
         const std::lock_guard lock(mutex_);
-        waited = {pollfd{terminal_.Descriptor(), POLLIN, 0}, pollfd{wakeUp_, POLLIN, 0}};
+        descriptor = terminal_.Descriptor();
         due = pacer_.NextDue();
     }
-    const timespec left = due ? Until(*due) : timespec{};
-    ppoll(waited.data(), waited.size(), due ? &left : nullptr, nullptr);
-    if (waited[1].revents != 0) {
-        eventfd_t count = 0;
-        eventfd_read(wakeUp_, &count);
-    }
+    waiter_.Wait(descriptor, due);
 }
 
 void SimSession::Hear()
@@ -214,11 +191,6 @@ void SimSession::Reconnect()
         options_.onDevice(terminal_.Device());
     mustHangUp_ = false;
     hungUp_.notify_all();
-}
-
-void SimSession::Wake() const
-{
-    eventfd_write(wakeUp_, 1);
 }
 
 }  // namespace rqm5

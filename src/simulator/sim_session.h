@@ -10,8 +10,9 @@
 #include <thread>
 #include <vector>
 
+#include "platform/line_waiter.h"
+#include "platform/pseudo_terminal.h"
 #include "simulator/line_pacer.h"
-#include "simulator/pseudo_terminal.h"
 #include "simulator/simulated_receiver.h"
 
 namespace rqm5 {
@@ -86,7 +87,6 @@ class SimSession
     void Handle(const Answer& answer, LinePacer::Clock::time_point start);
     void Speak();
     void Reconnect();
-    void Wake() const;
 
     const SimOptions options_;
     std::string error_;
@@ -99,7 +99,7 @@ class SimSession
     bool mustHangUp_ = false;
     std::condition_variable hungUp_;
     std::atomic<bool> mustStop_ = false;
-    int wakeUp_ = -1;
+    LineWaiter waiter_;
     std::thread thread_;
 };
 

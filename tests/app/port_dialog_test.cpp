@@ -5,8 +5,8 @@
 #include <QRadioButton>
 
 #include "link/com_ports.h"
+#include "platform/pseudo_terminal.h"
 #include "simulator/demo_image.h"
-#include "simulator/pseudo_terminal.h"
 #include "simulator/sim_session.h"
 #include "window_fixture.h"
 

@@ -227,7 +227,7 @@ TEST_F(RecoveryTest, WhatIsKeptCanAlwaysBeLoaded)
 
 TEST_F(RecoveryTest, AFolderThatCannotBeWrittenIsToldAndTriedAgain)
 {
-    QFile(options_.stateFolder).open(QIODevice::WriteOnly);
+    ASSERT_TRUE(QFile(options_.stateFolder).open(QIODevice::WriteOnly));
     Start();
     QSignalSpy kept(window_->findChild<Recovery*>(), &Recovery::Kept);
     EditSomething();

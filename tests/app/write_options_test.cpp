@@ -188,7 +188,7 @@ TEST_F(WriteOptionsTest, WithoutItsBackupNothingIsWrittenAndACancelTellsWhatWas)
     qputenv("XDG_STATE_HOME", QFile::encodeName(Path("state")));
     At(100, [this] {
         QDir(Path("backups")).removeRecursively();
-        QFile(Path("backups")).open(QIODevice::WriteOnly);
+        EXPECT_TRUE(QFile(Path("backups")).open(QIODevice::WriteOnly));
     });
     for (const bool wasRead : {true, false}) {
         dialogs_.asked.clear();

@@ -548,11 +548,14 @@ TEST_F(Transfers, ASignalEndsARawReadAndUnderNohupNoRead)
         options.onCommand = [&](const std::string&) { std::call_once(isFirst, [&] { isBusy.set_value(); }); };
         const SimSession receiver(options);
         QProcess process;
-        process.setChildProcessModifier([] { std::signal(SIGHUP, SIG_IGN); });
         Words all = words;
         all.insert(all.end(), {"--port", receiver.Device().toStdString()});
+        // The program inherits it, as under nohup.
+        auto* const before = std::signal(SIGHUP, SIG_IGN);
         StartProgram(process, all);
-        ASSERT_TRUE(process.waitForStarted());
+        const bool isStarted = process.waitForStarted();
+        std::signal(SIGHUP, before);
+        ASSERT_TRUE(isStarted);
         isBusy.get_future().wait();
         kill(static_cast<pid_t>(process.processId()), signal);
         const RunResult run = FinishProgram(process);

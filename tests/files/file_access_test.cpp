@@ -1,4 +1,4 @@
-#include "files/file_access.h"
+#include "platform/file_access.h"
 
 #include <grp.h>
 #include <gtest/gtest.h>
@@ -10,8 +10,8 @@
 #include <QTemporaryDir>
 #include <fstream>
 
-#include "files/access_list.h"
 #include "files/file_store.h"
+#include "platform/access_list.h"
 
 namespace rqm5 {
 namespace {

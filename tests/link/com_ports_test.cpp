@@ -10,8 +10,8 @@
 #include <QTemporaryDir>
 #include <fstream>
 
-#include "files/plain_settings.h"
 #include "link/port_file.h"
+#include "platform/plain_settings.h"
 
 namespace rqm5 {
 namespace {

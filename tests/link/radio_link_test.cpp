@@ -133,7 +133,7 @@ TEST(RadioLink, PortFailuresEndTheWaitAtOnce)
 TEST(RetryRule, TriesABlockTenTimesUnlessItIsCancelled)
 {
     CloneImage image;
-    for (const std::size_t goodAttempt : {1, 10, 11}) {
+    for (const std::size_t goodAttempt : {1U, 10U, 11U}) {
         Link port({}, 2ms);
         port.answers = [&](std::size_t attempt) {
             return Pieces{attempt % goodAttempt == 0 ? kFrame : "bad"};

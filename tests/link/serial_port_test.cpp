@@ -8,7 +8,7 @@
 
 #include "link/link_problems.h"
 #include "link/simulated_line.h"
-#include "simulator/pseudo_terminal.h"
+#include "platform/pseudo_terminal.h"
 
 namespace rqm5 {
 namespace {

@@ -1,4 +1,4 @@
-#include "simulator/pseudo_terminal.h"
+#include "platform/pseudo_terminal.h"
 
 #include <fcntl.h>
 #include <sys/ioctl.h>

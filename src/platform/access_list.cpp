@@ -1,4 +1,4 @@
-#include "files/access_list.h"
+#include "platform/access_list.h"
 
 #include <algorithm>
 #include <cstring>
