@@ -2783,6 +2783,10 @@
         <source>%1 %2</source>
         <translation>%1%2</translation>
     </message>
+    <message>
+        <source>%1; %2</source>
+        <translation>%1、%2</translation>
+    </message>
 </context>
 <context>
     <name>MessageDialogs</name>

@@ -5,6 +5,7 @@
 
 #include "app/write_options.h"
 #include "files/file_store.h"
+#include "language/language.h"
 #include "language/translated.h"
 #include "ui/error_prompt.h"
 #include "ui/plain_text.h"
@@ -58,7 +59,8 @@ void BackupCommands::Compare(const BackupFile& backup)
     if (!Load(backup, image))
         return;
     const TransferScope scope = ScopeHeld(backup, image);
-    const Message time = QLocale().toString(backup.time, QLocale::ShortFormat).toStdString();
+    const Message time =
+        Language::OfProgram().Locale().toString(backup.time, QLocale::ShortFormat).toStdString();
     compare_.CompareWith({{MESSAGE("the backup of %1"), {time}},
                           {MESSAGE("Other side: backup of %1, which holds: %2"), {time, ScopeText(scope)}},
                           image,

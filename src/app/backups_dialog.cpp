@@ -8,6 +8,7 @@
 #include <QScreen>
 
 #include "files/file_store.h"
+#include "language/language.h"
 #include "language/translated.h"
 #include "memory/bank_layout.h"
 #include "settings/setting_texts.h"
@@ -182,7 +183,7 @@ void dlgBackups::ListBackups()
     lstBackups_->clear();
     for (std::size_t i = 0; i < backups_.size(); ++i) {
         auto* item = new QTreeWidgetItem(lstBackups_);
-        item->setText(kTime, QLocale().toString(backups_[i].time, QLocale::ShortFormat));
+        item->setText(kTime, Language::OfProgram().Locale().toString(backups_[i].time, QLocale::ShortFormat));
         item->setText(kHolds, Translated(ScopeText(backups_[i].scope)));
         item->setToolTip(kTime, PlainToolTip(VisibleText(backups_[i].path)));
         item->setTextAlignment(kRows, Qt::AlignRight | Qt::AlignVCenter);

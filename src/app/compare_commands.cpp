@@ -5,6 +5,7 @@
 
 #include "app/write_changes_dialog.h"
 #include "files/file_store.h"
+#include "language/language.h"
 #include "ui/error_prompt.h"
 #include "ui/plain_text.h"
 
@@ -13,7 +14,7 @@ namespace {
 
 std::string ShortTime(const QDateTime& time)
 {
-    return QLocale().toString(time, QLocale::ShortFormat).toStdString();
+    return Language::OfProgram().Locale().toString(time, QLocale::ShortFormat).toStdString();
 }
 
 /// A change of nothing but one place, for going there.

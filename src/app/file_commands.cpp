@@ -212,7 +212,8 @@ void FileCommands::mnuFileRepair_Click()
         return;
     const auto result = RepairNotes(bytes);
     if (const auto* error = std::get_if<ParseError>(&result)) {
-        Report(Problem{kDataError, Message::List({VisibleText(path).toStdString(), error->reason}, ": ")});
+        Report(Problem{kDataError,
+                       Message(MESSAGE("%1: %2"), {VisibleText(path).toStdString(), error->reason})});
         return;
     }
     const auto& repair = std::get<NoteRepair>(result);

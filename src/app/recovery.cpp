@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QLocale>
 
+#include "language/language.h"
 #include "language/translated.h"
 #include "ui/plain_text.h"
 
@@ -23,7 +24,8 @@ Choice Ask(Dialogs& dialogs, QWidget* parent, const RecoveryFile& file)
                         ? Recovery::tr("What was read from the receiver could not be saved. It was kept.")
                         : Recovery::tr("The program ended before your changes were saved. They were kept.");
     question.details =
-        Recovery::tr("File: %1\nKept: %2").arg(name, QLocale().toString(file.Time(), QLocale::ShortFormat));
+        Recovery::tr("File: %1\nKept: %2")
+            .arg(name, Language::OfProgram().Locale().toString(file.Time(), QLocale::ShortFormat));
     question.icon = QMessageBox::Question;
     question.buttons = QMessageBox::Yes | QMessageBox::Discard | QMessageBox::Cancel;
     question.defaultButton = QMessageBox::Yes;

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "image/display_text.h"
+#include "language/language.h"
 #include "language/translated.h"
 #include "link/change_writer.h"
 
@@ -58,10 +59,11 @@ dlgWriteChanges::dlgWriteChanges(const CloneImage& image, const ChangePlan& plan
     lblTime_->setObjectName(QStringLiteral("lblTime"));
     chkBackup_->setObjectName(QStringLiteral("chkBackup"));
     chkVerify_->setObjectName(QStringLiteral("chkVerify"));
-    lblKnown_->setText(tr("The receiver as it was read or written since %1, %2. Each block is read once more "
-                          "before the first one is written.")
-                           .arg(QLocale().toString(since.toLocalTime(), QLocale::ShortFormat),
-                                Translated(AgeText(since, QDateTime::currentDateTimeUtc()))));
+    lblKnown_->setText(
+        tr("The receiver as it was read or written since %1, %2. Each block is read once more "
+           "before the first one is written.")
+            .arg(Language::OfProgram().Locale().toString(since.toLocalTime(), QLocale::ShortFormat),
+                 Translated(AgeText(since, QDateTime::currentDateTimeUtc()))));
     lblKnown_->setWordWrap(true);
     lblTime_->setWordWrap(true);
     Build(ListChanges(image, plan));

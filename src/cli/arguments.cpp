@@ -144,7 +144,7 @@ class ArgumentParser
     void Refuse(const std::string& what, const Message& why)
     {
         if (!why.empty())
-            fault_ = Message::List({what, why}, ": ");
+            fault_ = Message(MESSAGE("%1: %2"), {what, why});
     }
 
     std::vector<std::string_view> OptionNames() const

@@ -117,7 +117,7 @@ std::optional<Problem> Parse(const std::string& path, const std::string& bytes, 
         return std::nullopt;
     const Message name = IsStandard(path) ? Message(kStandardInput)
                                           : Message(PathText(QFileInfo(PathOf(path)).absoluteFilePath()));
-    return Problem{kDataError, Message::List({name, error->reason}, ": ")};
+    return Problem{kDataError, Message(MESSAGE("%1: %2"), {name, error->reason})};
 }
 
 std::optional<Problem> Load(const std::string& path, CloneImage& image, std::string* bytes)

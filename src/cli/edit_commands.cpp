@@ -51,7 +51,7 @@ std::optional<Problem> SetFields(CloneImage& image, const RowChoice& choice,
         return std::get<Problem>(rows);
     for (const RowId id : ids)
         if (const Message fault = AssignFields(image, id, values); !fault.empty())
-            return Problem{kDataError, Message::List({RowName(image, id), fault}, ": ")};
+            return Problem{kDataError, Message(MESSAGE("%1: %2"), {RowName(image, id), fault})};
     return std::nullopt;
 }
 
@@ -60,7 +60,7 @@ std::variant<RowList, Problem> RoomAt(const CloneImage& image, const std::string
 {
     const RowChoice choice = ChoiceOfRows(to);
     if (const Message fault = choice.Fault(image); !fault.empty())
-        return Problem{kDataError, Message::List({"TO " + to, fault}, ": ")};
+        return Problem{kDataError, Message(MESSAGE("%1: %2"), {"TO " + to, fault})};
     const RowRange target = choice.Ranges(image).front();
     RowList room = EmptyRows(image, target);
     if (target.count == 1) {

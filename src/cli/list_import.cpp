@@ -61,9 +61,9 @@ ListImport PlanListImport(const std::string& bytes, const CloneImage& image, con
     list.plan = row ? PlanOn(image, RowsOf(RowsOnFrom(image, *row)), channels) : PlanNamed(image, channels);
     for (const PlannedRow& planned : list.plan) {
         if (!planned.IsTaken())
-            list.refused.push_back(Message::List({planned.source, planned.refusal}, ": "));
+            list.refused.push_back(Message(MESSAGE("%1: %2"), {planned.source, planned.refusal}));
         else if (!planned.remark.empty())
-            list.remarks.push_back(Message::List({planned.source, planned.remark}, ": "));
+            list.remarks.push_back(Message(MESSAGE("%1: %2"), {planned.source, planned.remark}));
     }
     return list;
 }

@@ -69,9 +69,10 @@ void ProgressBar::Message(const Problem& problem)
     Problem named = problem;
     // A failure of the port itself begins with the device.
     if (!portName_.empty())
-        named.details = problem.text == kComPortError
-                            ? rqm5::Message::List({portName_, problem.details}, ", ")
-                            : rqm5::Message::List({portName_ + ", " + portDevice_, problem.details}, ": ");
+        named.details =
+            problem.text == kComPortError
+                ? rqm5::Message::List({portName_, problem.details}, ", ")
+                : rqm5::Message(MESSAGE("%1: %2"), {portName_ + ", " + portDevice_, problem.details});
     Report(console_, named);
 }
 

@@ -56,7 +56,7 @@ Status RunRepair(const Arguments& arguments, Console& console)
         return Fail(console, *problem);
     const auto result = RepairNotes(bytes);
     if (const auto* error = std::get_if<ParseError>(&result))
-        return Fail(console, {kDataError, Message::List({arguments[0], error->reason}, ": ")});
+        return Fail(console, {kDataError, Message(MESSAGE("%1: %2"), {arguments[0], error->reason})});
     const auto& repair = std::get<NoteRepair>(result);
     if (repair.notes.empty()) {
         console.out << VisibleText(arguments[0]) << " can be opened; there is nothing to repair.\n";

@@ -117,7 +117,7 @@ void Judge::TellKept(Message finding, Column column)
     const std::string text = CellText(after_, RowKind::Memory, kNoRegion, column);
     const Message kept = text.empty() ? Message(MESSAGE("the row keeps what it has"))
                                       : Message(MESSAGE("the row keeps %1"), {text});
-    texts_.push_back(Message::List({std::move(finding), kept}, "; "));
+    texts_.push_back(Message(MESSAGE("%1; %2"), {std::move(finding), kept}));
 }
 
 /// A number is read as far as it goes; the rest of its field is not.
@@ -203,7 +203,7 @@ void JudgeRecord(const StoredRecord& stored, const CloneImage& image, CsvFinding
 {
     Judge judge(stored.record, stored.values, stored.before, image.At(stored.id));
     for (const Message& text : judge.Texts())
-        findings.Add(stored.line, Message::List({RowName(image, stored.id), text}, ": "));
+        findings.Add(stored.line, Message(MESSAGE("%1: %2"), {RowName(image, stored.id), text}));
     findings.keptRows += judge.KeepsValue() ? 1 : 0;
     findings.decimalCommas += judge.DecimalCommas();
 }
@@ -218,7 +218,8 @@ Message CsvFindings::Summary() const
     if (decimalCommas > 0)
         among.push_back(Counted(decimalCommas, MESSAGE("1 number has a decimal comma"),
                                 MESSAGE("%1 numbers have a decimal comma")));
-    return among.empty() ? remarks : Message::List({remarks, Message::List(std::move(among), ", ")}, ": ");
+    return among.empty() ? remarks
+                         : Message(MESSAGE("%1: %2"), {remarks, Message::List(std::move(among), ", ")});
 }
 
 std::vector<Message> CsvFindings::Lines() const
@@ -226,7 +227,8 @@ std::vector<Message> CsvFindings::Lines() const
     std::vector<Message> lines;
     lines.reserve(all.size());
     for (const CsvFinding& finding : all)
-        lines.push_back(Message::List({Message(MESSAGE("Line %1"), {finding.line}), finding.text}, ": "));
+        lines.push_back(
+            Message(MESSAGE("%1: %2"), {Message(MESSAGE("Line %1"), {finding.line}), finding.text}));
     return lines;
 }
 

@@ -87,7 +87,9 @@ std::optional<RowId> CsvImport::ReadRow(const std::string& model)
 
 std::optional<CsvRecord> CsvImport::ReadRecord(RowId id)
 {
-    const auto tell = [&](const char* text) { Tell(Message::List({RowName(image_, id), text}, ": ")); };
+    const auto tell = [&](const char* text) {
+        Tell(Message(MESSAGE("%1: %2"), {RowName(image_, id), text}));
+    };
     CsvRecord record;
     bool isShort = false;
     const auto take = [&](std::string& text) {

@@ -60,7 +60,7 @@ std::optional<Problem> LoadCloneFile(const QString& path, CloneImage& image, Fil
     if (mark != nullptr)
         *mark = MarkOf(bytes);
     if (const auto error = ParseCloneFile(bytes, image))
-        return Problem{kDataError, Message::List({NameOf(path), error->reason}, ": ")};
+        return Problem{kDataError, Message(MESSAGE("%1: %2"), {NameOf(path), error->reason})};
     return std::nullopt;
 }
 

@@ -102,6 +102,13 @@ QString Language::translate(const char* context, const char* source, const char*
     return own;
 }
 
+QLocale Language::Locale() const
+{
+    const QLocale system;
+    const QLocale own(code_);
+    return system.language() == own.language() ? system : own;
+}
+
 QString Language::SourceOf(const QString& shown) const
 {
     const QMutexLocker lock(&mutex_);

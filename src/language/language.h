@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QList>
+#include <QLocale>
 #include <QMutex>
 #include <QString>
 #include <QTranslator>
@@ -35,6 +36,9 @@ class Language : public QTranslator
 
     /// What is spoken: a code of Languages().
     QString Code() const { return code_; }
+
+    /// How dates are written: as the system does where it speaks this language, too.
+    QLocale Locale() const;
 
     /// The English text that was shown as this one, for what is found by it; the text itself when none was.
     QString SourceOf(const QString& shown) const;

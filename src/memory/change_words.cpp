@@ -74,7 +74,7 @@ Message RowLine(const Message& name, const ChangedItem<ChannelContents>* content
     if (flag != nullptr)
         changes.push_back(
             Message::List({MESSAGE("Enabled"), FromTo(OnOff(flag->before), OnOff(flag->after))}, " "));
-    return Message::List({name, Message::List(std::move(changes), ", ")}, ": ");
+    return Message(MESSAGE("%1: %2"), {name, Message::List(std::move(changes), ", ")});
 }
 
 void AddSettings(const ImageChange& change, Lines& lines)
@@ -101,10 +101,11 @@ void AddRows(const CloneImage& before, const ImageChange& change, Lines& lines)
 void AddBanks(const ImageChange& change, Lines& lines)
 {
     for (const ChangedItem<int>& item : change.BankSize)
-        lines.push_back(Message::List({BankSizeName(item.index), FromTo(item.before, item.after)}, ": "));
-    for (const ChangedItem<bool>& item : change.BankLink)
         lines.push_back(
-            Message::List({BankLinkName(item.index), FromTo(OnOff(item.before), OnOff(item.after))}, ": "));
+            Message(MESSAGE("%1: %2"), {BankSizeName(item.index), FromTo(item.before, item.after)}));
+    for (const ChangedItem<bool>& item : change.BankLink)
+        lines.push_back(Message(MESSAGE("%1: %2"),
+                                {BankLinkName(item.index), FromTo(OnOff(item.before), OnOff(item.after))}));
 }
 
 }  // namespace

@@ -69,11 +69,19 @@ void dlgDuplicates::Build()
     column->addWidget(lstDuplicates_, 1);
     column->addWidget(buttons);
     lstDuplicates_->setFocus();
+    resize(fontMetrics().averageCharWidth() * kLetters, fontMetrics().height() * 24);
+    FitColumns();
+}
+
+/// The titles have other lengths in other languages.
+void dlgDuplicates::FitColumns()
+{
     const int letter = fontMetrics().averageCharWidth();
-    resize(letter * kLetters, fontMetrics().height() * 24);
     const int widths[] = {32, 7, 7};
-    for (int i = 0; i < 3; ++i)
-        lstDuplicates_->setColumnWidth(i, letter * widths[i]);
+    for (int i = 0; i < 3; ++i) {
+        lstDuplicates_->resizeColumnToContents(i);
+        lstDuplicates_->setColumnWidth(i, std::max(letter * widths[i], lstDuplicates_->columnWidth(i)));
+    }
 }
 
 void dlgDuplicates::ShowDuplicates()
@@ -121,6 +129,7 @@ void dlgDuplicates::changeEvent(QEvent* event)
     if (event->type() == QEvent::LanguageChange) {
         SetFormTexts(*this);
         ShowDuplicates();
+        FitColumns();
     }
     QDialog::changeEvent(event);
 }

@@ -30,6 +30,7 @@ class dlgDuplicates : public QDialog
   private:
     void Build();
     void ShowDuplicates();
+    void FitColumns();
 
     const Document& document_;
     QLabel* lblDuplicates_;

@@ -12,7 +12,7 @@ void AddIfOutside(const CloneImage& image, RowId id, std::vector<Message>& names
     const Channel& channel = image.At(id);
     if (channel.HasChannel() && !IsInReceiverRange(channel.frequency))
         names.push_back(
-            Message::List({RowName(image, id), FormatMegahertz(channel.frequency) + " MHz"}, ": "));
+            Message(MESSAGE("%1: %2"), {RowName(image, id), FormatMegahertz(channel.frequency) + " MHz"}));
 }
 
 }  // namespace

@@ -20,7 +20,11 @@ DiskFault LastFault()
     const DWORD code = GetLastError();
     const bool isFull = code == ERROR_DISK_FULL || code == ERROR_HANDLE_DISK_FULL;
     const bool isForbidden = code == ERROR_ACCESS_DENIED || code == ERROR_SHARING_VIOLATION;
-    return {qt_error_string(static_cast<int>(code)).toStdString(), isFull ? ENOSPC : isForbidden ? EACCES : 0, false};
+    return {qt_error_string(static_cast<int>(code)).toStdString(),
+            isFull        ? ENOSPC
+            : isForbidden ? EACCES
+                          : 0,
+            false};
 }
 
 /// A file can be moved only when this program has it closed, so it is opened once more for this.

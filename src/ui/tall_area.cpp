@@ -1,5 +1,6 @@
 #include "ui/tall_area.h"
 
+#include <QEvent>
 #include <QScreen>
 #include <QScrollBar>
 
@@ -34,6 +35,13 @@ QSize TallArea::minimumSizeHint() const
         return QScrollArea::minimumSizeHint();
     return {TallArea::sizeHint().width() - widget()->sizeHint().width() + widget()->minimumSizeHint().width(),
             QScrollArea::minimumSizeHint().height()};
+}
+
+bool TallArea::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == widget() && event->type() == QEvent::LayoutRequest)
+        updateGeometry();
+    return QScrollArea::eventFilter(watched, event);
 }
 
 void TallArea::FitToScreen(QDialog& dialog)

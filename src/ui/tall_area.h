@@ -23,6 +23,9 @@ class TallArea : public QScrollArea
     /// As wide as the contents have to be, unless it scrolls sideways.
     QSize minimumSizeHint() const override;
 
+    /// Contents that change tell how wide they have to be now.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
     /// Gives a dialog the size that it asks for, as far as its screen has room.
     static void FitToScreen(QDialog& dialog);
 };

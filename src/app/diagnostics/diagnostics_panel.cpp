@@ -156,7 +156,9 @@ void DiagnosticsPanel::ShowTexts()
 {
     lblRawFault_->setText(Translated(fault_));
     lblLinkTest_->setText(Translated(linkTest_));
-    lblLinkTest_->setToolTip(lblLinkTest_->text());  // a narrow dock at the bottom may not show all of it
+    lblLinkTest_->setToolTip(lblLinkTest_->text());
+    // The grid counts on one line of a text that needs more of them.
+    lblLinkTest_->setMinimumHeight(lblLinkTest_->heightForWidth(lblLinkTest_->width()));
     // What was scrolled to stays in sight.
     if (const QString reply = Translated(reply_); reply != txtRawReply_->toPlainText())
         txtRawReply_->setPlainText(reply);

@@ -18,14 +18,14 @@ Message Milliseconds(std::chrono::microseconds time)
 
 Message PortFailureText(const SerialPort& port)
 {
-    return Message::List({kComPortError, ComPortProblem(port).details}, ": ");
+    return Message(MESSAGE("%1: %2"), {kComPortError, ComPortProblem(port).details});
 }
 
 Message Title(const CloneImage& image, int address)
 {
     const Message number = HexAddress(address);
     const Message name = BlockName(image, address);
-    return name.empty() ? number : Message::List({number, name}, ": ");
+    return name.empty() ? number : Message(MESSAGE("%1: %2"), {number, name});
 }
 
 /// The receiver's line, or its cable, repeated the command, and nothing followed.
@@ -66,7 +66,7 @@ void AddMeaning(int address, const RawReply& reply, std::vector<Message>& lines)
     if (fields.empty())
         lines.emplace_back(MESSAGE("An empty row."));
     for (const BlockField& field : fields)
-        lines.push_back(Message::List({field.name, field.text}, ": "));
+        lines.push_back(Message(MESSAGE("%1: %2"), {field.name, field.text}));
 }
 
 }  // namespace
