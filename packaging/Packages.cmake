@@ -5,7 +5,8 @@ set(RQM5_MAINTAINER "RQ-M5 clone utility authors <authors@rq-m5-clone.invalid>" 
 set(CPACK_PACKAGE_NAME rq-m5)
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_CONTACT ${RQM5_MAINTAINER})
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY ${PROJECT_DESCRIPTION})
+# Anything but this default would stand in front of what each package says of itself.
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${CMAKE_PROJECT_NAME} built using CMake")
 set(CPACK_STRIP_FILES ON)
 
 get_property(CPACK_COMPONENTS_ALL GLOBAL PROPERTY RQM5_COMPONENTS)
@@ -44,6 +45,8 @@ endforeach()
 set(CPACK_DEBIAN_RQ-M5-CLONE_PACKAGE_DEPENDS "libqt6svg6, qt6-translations-l10n")
 set(CPACK_DEBIAN_RQ-M5-CLONE_PACKAGE_RECOMMENDS "fonts-dejavu-core, fonts-ipafont-gothic")
 set(CPACK_DEBIAN_RQ-M5-CLONE_PACKAGE_SUGGESTS "rq-m5-sim")
+# Notes in PDF pages are in any script.
+set(CPACK_DEBIAN_RQ-M5_PACKAGE_RECOMMENDS "fonts-dejavu-core, fonts-ipafont-gothic")
 set(CPACK_DEBIAN_RQ-M5_PACKAGE_SUGGESTS "rq-m5-clone, rq-m5-sim")
 
 # Licence and changes, where the distribution wants them.

@@ -2942,6 +2942,21 @@
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>Zeigt Hilfe zu den Optionen der Befehlszeile.</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>Zeigt Hilfe einschließlich der Optionen von Qt.</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Zeigt die Version.</translation>
+    </message>
+</context>
+<context>
     <name>QPrintPreviewDialog</name>
     <message>
         <source>Page setup</source>
@@ -2950,6 +2965,33 @@
     <message>
         <source>Print</source>
         <translation>Drucken</translation>
+    </message>
+</context>
+<context>
+    <name>QSerialPort</name>
+    <message>
+        <source>Permission error while locking the device</source>
+        <translation>Das Gerät lässt sich nicht sperren</translation>
+    </message>
+    <message>
+        <source>Permission error while creating lock file</source>
+        <translation>Die Sperrdatei lässt sich nicht anlegen</translation>
+    </message>
+    <message>
+        <source>Error reading from device</source>
+        <translation>Fehler beim Lesen vom Gerät</translation>
+    </message>
+    <message>
+        <source>Error writing to device</source>
+        <translation>Fehler beim Schreiben auf das Gerät</translation>
+    </message>
+    <message>
+        <source>Operation timed out</source>
+        <translation>Zeit überschritten</translation>
+    </message>
+    <message>
+        <source>Unsupported open mode</source>
+        <translation>Das Gerät lässt sich so nicht öffnen</translation>
     </message>
 </context>
 <context>

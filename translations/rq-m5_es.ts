@@ -2942,6 +2942,21 @@
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>Muestra ayuda sobre las opciones de la línea de órdenes.</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>Muestra ayuda, incluidas las opciones propias de Qt.</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Muestra la versión.</translation>
+    </message>
+</context>
+<context>
     <name>QPrintPreviewDialog</name>
     <message>
         <source>Page setup</source>
@@ -2950,6 +2965,33 @@
     <message>
         <source>Print</source>
         <translation>Imprimir</translation>
+    </message>
+</context>
+<context>
+    <name>QSerialPort</name>
+    <message>
+        <source>Permission error while locking the device</source>
+        <translation>no se puede bloquear el dispositivo</translation>
+    </message>
+    <message>
+        <source>Permission error while creating lock file</source>
+        <translation>no se puede crear el archivo de bloqueo</translation>
+    </message>
+    <message>
+        <source>Error reading from device</source>
+        <translation>error al leer del dispositivo</translation>
+    </message>
+    <message>
+        <source>Error writing to device</source>
+        <translation>error al escribir en el dispositivo</translation>
+    </message>
+    <message>
+        <source>Operation timed out</source>
+        <translation>tiempo de espera agotado</translation>
+    </message>
+    <message>
+        <source>Unsupported open mode</source>
+        <translation>modo de apertura no admitido</translation>
     </message>
 </context>
 <context>

@@ -2942,6 +2942,21 @@
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>Affiche l’aide sur les options de la ligne de commande.</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>Affiche l’aide, y compris les options propres à Qt.</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Affiche la version.</translation>
+    </message>
+</context>
+<context>
     <name>QPrintPreviewDialog</name>
     <message>
         <source>Page setup</source>
@@ -2950,6 +2965,33 @@
     <message>
         <source>Print</source>
         <translation>Imprimer</translation>
+    </message>
+</context>
+<context>
+    <name>QSerialPort</name>
+    <message>
+        <source>Permission error while locking the device</source>
+        <translation>impossible de verrouiller le périphérique</translation>
+    </message>
+    <message>
+        <source>Permission error while creating lock file</source>
+        <translation>impossible de créer le fichier de verrouillage</translation>
+    </message>
+    <message>
+        <source>Error reading from device</source>
+        <translation>erreur de lecture du périphérique</translation>
+    </message>
+    <message>
+        <source>Error writing to device</source>
+        <translation>erreur d’écriture sur le périphérique</translation>
+    </message>
+    <message>
+        <source>Operation timed out</source>
+        <translation>délai dépassé</translation>
+    </message>
+    <message>
+        <source>Unsupported open mode</source>
+        <translation>mode d’ouverture non pris en charge</translation>
     </message>
 </context>
 <context>

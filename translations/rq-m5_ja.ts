@@ -2942,6 +2942,21 @@
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>コマンドラインオプションのヘルプを表示します。</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>Qt固有のオプションを含むヘルプを表示します。</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>バージョン情報を表示します。</translation>
+    </message>
+</context>
+<context>
     <name>QPrintPreviewDialog</name>
     <message>
         <source>Page setup</source>
@@ -2950,6 +2965,33 @@
     <message>
         <source>Print</source>
         <translation>印刷</translation>
+    </message>
+</context>
+<context>
+    <name>QSerialPort</name>
+    <message>
+        <source>Permission error while locking the device</source>
+        <translation>デバイスをロックできません</translation>
+    </message>
+    <message>
+        <source>Permission error while creating lock file</source>
+        <translation>ロックファイルを作成できません</translation>
+    </message>
+    <message>
+        <source>Error reading from device</source>
+        <translation>デバイスからの読み取りエラー</translation>
+    </message>
+    <message>
+        <source>Error writing to device</source>
+        <translation>デバイスへの書き込みエラー</translation>
+    </message>
+    <message>
+        <source>Operation timed out</source>
+        <translation>タイムアウトしました</translation>
+    </message>
+    <message>
+        <source>Unsupported open mode</source>
+        <translation>このモードでは開けません</translation>
     </message>
 </context>
 <context>

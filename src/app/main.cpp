@@ -30,6 +30,13 @@ void Introduce()
     rqm5::Language::OfProgram().Use(rqm5::ChosenLanguage());
 }
 
+/// What Qt says of its options, which its own translations do not have in each of our languages.
+[[maybe_unused]] constexpr const char* kOptionTexts[] = {
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Displays help on commandline options."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Displays help including Qt specific options."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Displays version information."),
+};
+
 void Describe(QCommandLineParser& parser)
 {
     parser.setApplicationDescription(
@@ -57,6 +64,7 @@ void AnswerAtTheTerminal(int argc, char** argv)
         return;
     const QCoreApplication application(argc, argv);
     Introduce();
+    rqm5::Language::OfProgram().Use({});  // the terminal's, not the windows'
     QCommandLineParser parser;
     Describe(parser);
     if (wantsVersion)

@@ -8,6 +8,16 @@
 namespace rqm5 {
 namespace {
 
+/// What Qt says of a port that fails; its own translations have few languages of it.
+[[maybe_unused]] constexpr const char* kReasons[] = {
+    QT_TRANSLATE_NOOP("QSerialPort", "Permission error while locking the device"),
+    QT_TRANSLATE_NOOP("QSerialPort", "Permission error while creating lock file"),
+    QT_TRANSLATE_NOOP("QSerialPort", "Error reading from device"),
+    QT_TRANSLATE_NOOP("QSerialPort", "Error writing to device"),
+    QT_TRANSLATE_NOOP("QSerialPort", "Operation timed out"),
+    QT_TRANSLATE_NOOP("QSerialPort", "Unsupported open mode"),
+};
+
 PortFault FaultOf(QSerialPort::SerialPortError error, const QFileInfo& node)
 {
     switch (error) {

@@ -11,7 +11,8 @@ RunResult RunIn(const char* language, const Words& words)
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove(QStringLiteral("LANGUAGE"));
-    environment.insert(QStringLiteral("LC_ALL"), QLatin1String(language));
+    environment.remove(QStringLiteral("LC_ALL"));
+    environment.insert(QStringLiteral("LANG"), QLatin1String(language));
     process.setProcessEnvironment(environment);
     StartProgram(process, words);
     return FinishProgram(process);
