@@ -2,6 +2,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QEvent>
+#include <QFile>
 #include <QImage>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -11,6 +12,7 @@
 
 #include "help/heading_anchors.h"
 #include "help/manual.h"
+#include "language/language.h"
 
 namespace rqm5 {
 namespace {
@@ -88,7 +90,9 @@ QVariant PageView::loadResource(int type, const QUrl& name)
 
 QVariant PageView::Picture(const QString& file) const
 {
-    QImage image(QLatin1String(kPicturesFolder) + file);
+    const QLatin1String folder(kPicturesFolder);
+    const QString translated = folder + Language::OfProgram().Code() + QLatin1Char('/') + file;
+    QImage image(QFile::exists(translated) ? translated : folder + file);
     const int room = viewport()->width() - 2 * kMargin;
     if (image.width() <= room)
         return image;

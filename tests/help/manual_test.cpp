@@ -130,7 +130,9 @@ Shape ShapeOf(const QString& markdown)
     Shape shape;
     const Links links = LinksOf(markdown);
     shape.targets = QStringList(links.targets).replaceInStrings(QStringLiteral("../"), QString());
-    shape.images = QStringList(links.images).replaceInStrings(QStringLiteral("../"), QString());
+    shape.images = QStringList(links.images);
+    for (QString& image : shape.images)  // each language has its own, of the same names
+        image = image.section(QLatin1Char('/'), -1);
     shape.targets.sort();
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         if (block.blockFormat().headingLevel() > 0)
@@ -157,6 +159,10 @@ TEST(Manual, IsWholeInEachOfItsLanguages)
             const QString text = QString::fromUtf8(translated.readAll());
             const Shape shape = ShapeOf(text);
             const std::string what = translated.fileName().toStdString();
+            for (const QString& image : shape.images)
+                EXPECT_TRUE(
+                    QFile::exists(QLatin1String(kPicturesFolder) + language + QLatin1Char('/') + image))
+                    << what;
             EXPECT_EQ(shape.levels, wanted.levels) << what;
             EXPECT_EQ(shape.targets, wanted.targets) << what;
             EXPECT_EQ(shape.images, wanted.images) << what;
