@@ -1,7 +1,5 @@
 #include "app/language_menu.h"
 
-#include <QActionGroup>
-
 #include "language/language.h"
 #include "ui/form_texts.h"
 #include "ui/settings_store.h"
@@ -25,7 +23,7 @@ LanguageMenu::LanguageMenu(QMenu& mnuView, QObject* parent) : QObject(parent)
     menu->setObjectName(QStringLiteral("mnuViewLanguage"));
     menu->menuAction()->setStatusTip(
         Designed(QT_TRANSLATE_NOOP("rqm5::frmMain", "Choose the language of every window")));
-    new QActionGroup(menu);
+    choices_ = new QActionGroup(menu);
     AddChoice(*menu, QStringLiteral("mnuLanguageSystem"),
               Designed(QT_TRANSLATE_NOOP("rqm5::frmMain", "&System")), {});
     menu->addSeparator();
@@ -40,7 +38,7 @@ void LanguageMenu::AddChoice(QMenu& menu, const QString& name, const QString& te
     QAction* choice = menu.addAction(text);
     choice->setObjectName(name);
     choice->setCheckable(true);
-    menu.findChild<QActionGroup*>()->addAction(choice);
+    choices_->addAction(choice);
     choice->setChecked(code == ChosenLanguage());
     connect(choice, &QAction::triggered, this, [code] {
         SettingsStore().setValue(kKey, code);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QActionGroup>
 #include <QMenu>
 #include <QObject>
 
@@ -18,6 +19,8 @@ class LanguageMenu : public QObject
 
   private:
     void AddChoice(QMenu& menu, const QString& name, const QString& text, const QString& code);
+
+    QActionGroup* choices_ = nullptr;
 };
 
 }  // namespace rqm5

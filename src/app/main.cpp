@@ -21,13 +21,13 @@
 
 namespace {
 
-/// Sets the names and the language, which texts at the terminal have, too.
-void Introduce()
+/// \param language  a code of Languages(), empty for the one of the system, which a terminal has
+void Introduce(const QString& language)
 {
     QCoreApplication::setOrganizationName(QStringLiteral("Tervan"));
     QCoreApplication::setApplicationName(QStringLiteral("Tervan RQ-M5 Clone Utility"));
     QCoreApplication::setApplicationVersion(QStringLiteral(RQM5_VERSION));
-    rqm5::Language::OfProgram().Use(rqm5::ChosenLanguage());
+    rqm5::Language::OfProgram().Use(language);
 }
 
 /// What Qt says of its options, which its own translations do not have in each of our languages.
@@ -63,8 +63,7 @@ void AnswerAtTheTerminal(int argc, char** argv)
     if (!wantsVersion && !Asks(argc, argv, {"-h", "-?", "--help"}))
         return;
     const QCoreApplication application(argc, argv);
-    Introduce();
-    rqm5::Language::OfProgram().Use({});  // the terminal's, not the windows'
+    Introduce({});
     QCommandLineParser parser;
     Describe(parser);
     if (wantsVersion)
@@ -88,7 +87,7 @@ int main(int argc, char** argv)
     rqm5::PassOverSettingsThatAreNoFiles();
     AnswerAtTheTerminal(argc, argv);
     QApplication application(argc, argv);
-    Introduce();
+    Introduce(rqm5::ChosenLanguage());
     QApplication::setDesktopFileName(QStringLiteral("rq-m5-clone"));
     QApplication::setWindowIcon(rqm5::ProgramIcon());
 

@@ -27,6 +27,14 @@ bool IsPlainLocale(const QByteArray& name)
     return name == "C" || name == "POSIX" || name.startsWith("C.");
 }
 
+/// The texts of a file; empty, so that they are in English, when there is no such file.
+std::unique_ptr<QTranslator> Catalog(const QString& name, const QString& code, const QString& folder)
+{
+    auto catalog = std::make_unique<QTranslator>();
+    [[maybe_unused]] const bool isThere = catalog->load(name + QLatin1Char('_') + code, folder);
+    return catalog;
+}
+
 bool IsKnown(const QString& code)
 {
     return std::ranges::any_of(Languages(),
@@ -44,13 +52,13 @@ const QList<LanguageName>& Languages()
 
 QString SystemLanguage()
 {
-    const QString locale = QString::fromLocal8Bit(EnvironmentLocale());
-    if (IsPlainLocale(EnvironmentLocale()))
+    const QByteArray locale = EnvironmentLocale();
+    if (IsPlainLocale(locale))
         return QLatin1String(kEnglish);
     // Where the environment says nothing, the system has settings for it.
     QStringList names = locale.isEmpty() ? QLocale::system().uiLanguages()
                                          : qEnvironmentVariable("LANGUAGE").split(QLatin1Char(':'));
-    names << locale;
+    names << QString::fromLocal8Bit(locale);
     static const QRegularExpression behind(QStringLiteral("[-_.@].*"));
     for (QString& name : names)
         if (const QString code = name.remove(behind); IsKnown(code))
@@ -58,7 +66,13 @@ QString SystemLanguage()
     return QLatin1String(kEnglish);
 }
 
-Language::Language(QObject* parent) : QTranslator(parent), code_(QLatin1String(kEnglish)) {}
+Language::Language(QObject* parent)
+    : QTranslator(parent),
+      code_(QLatin1String(kEnglish)),
+      own_(std::make_unique<QTranslator>()),
+      toolkit_(std::make_unique<QTranslator>())
+{
+}
 
 Language& Language::OfProgram()
 {
@@ -77,15 +91,15 @@ void Language::Use(const QString& code)
     if (wanted == code_)
         return;
     code_ = wanted;
+    auto own = Catalog(QStringLiteral("rq-m5"), wanted, QStringLiteral(":/translations"));
+    auto toolkit =
+        Catalog(QStringLiteral("qtbase"), wanted, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     {
         const QMutexLocker lock(&mutex_);
+        own_.swap(own);  // the old ones end behind the lock: their end waits for whoever is translating
+        toolkit_.swap(toolkit);
         sources_.clear();
     }
-    // Without a file that loads, a translator is empty: the texts are English then.
-    [[maybe_unused]] const bool isOwnThere =
-        own_.load(QStringLiteral(":/translations/rq-m5_%1.qm").arg(wanted));
-    [[maybe_unused]] const bool isToolkitThere = toolkit_.load(
-        QStringLiteral("qtbase_%1.qm").arg(wanted), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     emit Changed();
     QEvent change(QEvent::LanguageChange);
     QCoreApplication::sendEvent(QCoreApplication::instance(), &change);
@@ -94,10 +108,10 @@ void Language::Use(const QString& code)
 QString Language::translate(const char* context, const char* source, const char* disambiguation,
                             int count) const
 {
-    const QString own = own_.translate(context, source, disambiguation, count);
-    if (own.isNull())
-        return toolkit_.translate(context, source, disambiguation, count);
     const QMutexLocker lock(&mutex_);
+    const QString own = own_->translate(context, source, disambiguation, count);
+    if (own.isNull())
+        return toolkit_->translate(context, source, disambiguation, count);
     sources_.insert(own, QString::fromUtf8(source));
     return own;
 }

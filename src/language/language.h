@@ -6,6 +6,7 @@
 #include <QMutex>
 #include <QString>
 #include <QTranslator>
+#include <memory>
 
 namespace rqm5 {
 
@@ -54,10 +55,11 @@ class Language : public QTranslator
     explicit Language(QObject* parent);
 
     QString code_;
-    mutable QMutex mutex_;                     ///< problems are put into words in any thread
+    /// Guards what follows: files are written in threads of their own, and Qt words their faults there.
+    mutable QMutex mutex_;
     mutable QHash<QString, QString> sources_;  ///< by what was shown in their place
-    QTranslator own_;
-    QTranslator toolkit_;
+    std::unique_ptr<QTranslator> own_;
+    std::unique_ptr<QTranslator> toolkit_;
 };
 
 }  // namespace rqm5

@@ -10,7 +10,7 @@ namespace rqm5 {
 /// The message in the program's language, as it is now.
 QString Translated(const Message& message);
 
-/// The same for what is written to a terminal or kept in a Problem, as UTF-8.
+/// The same as UTF-8, for what is written to a terminal.
 std::string Said(const Message& message);
 
 }  // namespace rqm5
