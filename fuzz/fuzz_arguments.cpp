@@ -34,7 +34,8 @@ const Command& CommandOf(const std::string& word)
     std::vector<std::string_view> names;
     for (const Command& command : Commands())
         names.push_back(command.name);
-    Require(VisibleText(DidYouMean(word, names)).size() < 100, "a hint is short");
+    const std::string hint = DidYouMean("", word, names).English();
+    Require(VisibleText(hint).size() < 100, "a hint is short");
     return Commands()[word.size() % Commands().size()];
 }
 
@@ -70,7 +71,8 @@ void CheckArguments(std::string_view input)
     const auto parsed = ParseArguments(rest, command.operands, command.options);
     if (const auto* fault = std::get_if<UsageFault>(&parsed)) {
         Require(!fault->text.empty(), "a refusal says why");
-        Require(VisibleText(fault->text).find('\x1B') == std::string::npos, "no escape reaches the terminal");
+        Require(VisibleText(fault->text.English()).find('\x1B') == std::string::npos,
+                "no escape reaches the terminal");
         return;
     }
     const auto& taken = std::get<Arguments>(parsed);
@@ -80,7 +82,7 @@ void CheckArguments(std::string_view input)
     const int selector = SelectorOf(taken);
     Require(selector >= 0 && selector < kSelectorEntries, "the selector is one");
     if (command.conflict != nullptr)
-        Require(command.conflict(taken).size() < 400, "a conflict is a sentence");
+        Require(command.conflict(taken).English().size() < 400, "a conflict is a sentence");
 }
 
 }  // namespace
