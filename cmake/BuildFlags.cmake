@@ -51,6 +51,19 @@ elseif(NOT MSVC)
   target_compile_definitions(rqm5_flags INTERFACE _GLIBCXX_ASSERTIONS)
 endif()
 
+# Headers are most of what a file costs to compile; read once for a whole target or several, they halve the time of a
+# build. rqm5_precompile(TARGET HEADER...) or rqm5_precompile(TARGET REUSE_FROM OTHER-TARGET)
+function(rqm5_precompile target)
+  if(NOT RQM5_PRECOMPILE_HEADERS)
+    return()
+  endif()
+  if("REUSE_FROM" IN_LIST ARGN)
+    target_precompile_headers(${target} ${ARGN})
+  else()
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+  endif()
+endfunction()
+
 # Calls that Qt itself advises against do not compile: up to the oldest Qt that is supported, and with a newer one
 # up to the newest that the code was gone through for.
 function(rqm5_refuse_deprecated_calls target)

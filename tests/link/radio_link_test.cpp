@@ -185,7 +185,7 @@ TEST(QuietLine, LateRepliesAreHeardOutBeforeTheNextCommand)
     };
     for (const auto& [what, script] : kCases) {
         Link port({}, 200ms);
-        port.answers = [&script](std::size_t number) {
+        port.answers = [&script = script](std::size_t number) {
             return number <= script.size() ? script[number - 1] : Pieces{FrameOf(number - 2)};
         };
         RecordingObserver observer;

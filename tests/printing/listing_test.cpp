@@ -95,7 +95,9 @@ TEST(Listing, OfAllGroupsLosesNoChannel)
 TEST(Listing, BreaksLongTextsSoThatNothingIsLostAndNothingStrangeIsSent)
 {
     CloneImage image = StartUpImage(0);
-    PutChannel(image, 0, 145'000'000, std::string(39, 'n') + "東京\x1B[2J\xFF");
+    std::string note(39, 'n');
+    note += "東京\x1B[2J\xFF";
+    PutChannel(image, 0, 145'000'000, note);
     const Listing listing = MemoryListing(image, 0);
     const Texts& rows = listing.front().rows;
     ASSERT_EQ(rows.size(), 2U);
