@@ -11,9 +11,9 @@ void TellOutOfRange(const std::vector<Message>& rows, MessageBar& bar)
         bar.Withdraw(key);
         return;
     }
-    constexpr std::size_t kNamed = 3;
-    std::vector<Message> named(rows.begin(), rows.begin() + std::min(kNamed, rows.size()));
-    if (rows.size() > kNamed)
+    constexpr std::ptrdiff_t kNamed = 3;
+    std::vector<Message> named(rows.begin(), rows.begin() + std::min(kNamed, std::ssize(rows)));
+    if (std::ssize(rows) > kNamed)
         named.emplace_back(std::string("..."));
     bar.Show(
         {key,

@@ -46,10 +46,10 @@ BankPage::BankPage(Document& document, Dialogs& dialogs, QWidget* parent)
     // The receiver keeps six more link flags than there are banks. They have boxes that nobody sees.
     for (int flag = 0; flag < kLinkFlags; ++flag) {
         if (flag >= kBanks) {
-            chkLink_.at(flag) = new QCheckBox(this);
-            chkLink_.at(flag)->hide();
+            chkLink_[flag] = new QCheckBox(this);
+            chkLink_[flag]->hide();
         }
-        chkLink_.at(flag)->setObjectName(QStringLiteral("chkLink_%1").arg(flag));
+        chkLink_[flag]->setObjectName(QStringLiteral("chkLink_%1").arg(flag));
     }
     auto* page = new QVBoxLayout(this);
     grid->setRowStretch(kBanksPerColumn + 1, 1);
@@ -94,11 +94,11 @@ void BankPage::BuildBank(QGridLayout& grid, int bank)
     auto* label = new QLabel;
     label->setBuddy(box);
     auto* link = new QCheckBox;
-    lblBank_.at(bank) = label;
-    txtBank_.at(bank) = box;
-    chkLink_.at(bank) = link;
-    barFill_.at(bank) = new FillBar;
-    barFill_.at(bank)->setObjectName(QStringLiteral("barFill_%1").arg(bank));
+    lblBank_[bank] = label;
+    txtBank_[bank] = box;
+    chkLink_[bank] = link;
+    barFill_[bank] = new FillBar;
+    barFill_[bank]->setObjectName(QStringLiteral("barFill_%1").arg(bank));
 
     new KeyFilter(*box, KeySet::Digits);
     box->installEventFilter(this);
@@ -111,7 +111,7 @@ void BankPage::BuildBank(QGridLayout& grid, int bank)
         grid.addWidget(new QLabel(Designed(QT_TR_NOOP("Link"))), 0, column + 3);
     grid.addWidget(label, row, column);
     grid.addWidget(box, row, column + 1);
-    grid.addWidget(barFill_.at(bank), row, column + 2);
+    grid.addWidget(barFill_[bank], row, column + 2);
     grid.addWidget(link, row, column + 3);
     grid.setColumnStretch(column + 1, 1);
     grid.setColumnMinimumWidth(column + 4, 6);
@@ -121,12 +121,12 @@ void BankPage::ShowTexts()
 {
     for (int bank = 0; bank < kBanks; ++bank) {
         const QString name = Translated(SelectorText(bank));
-        lblBank_.at(bank)->setText(name);
-        txtBank_.at(bank)->setAccessibleName(name);
-        txtBank_.at(bank)->setStatusTip(
+        lblBank_[bank]->setText(name);
+        txtBank_[bank]->setAccessibleName(name);
+        txtBank_[bank]->setStatusTip(
             tr("Number of channels in bank %1; all banks together hold 1000 at most").arg(bank));
-        chkLink_.at(bank)->setAccessibleName(tr("Link bank %1").arg(bank));
-        chkLink_.at(bank)->setStatusTip(tr("Scan bank %1 together with the other linked banks").arg(bank));
+        chkLink_[bank]->setAccessibleName(tr("Link bank %1").arg(bank));
+        chkLink_[bank]->setStatusTip(tr("Scan bank %1 together with the other linked banks").arg(bank));
     }
 }
 
@@ -160,7 +160,7 @@ void BankPage::ShowFills()
     const CloneImage& image = document_.Image();
     picBanks_->ShowImage();
     for (int bank = 0; bank < kBanks; ++bank)
-        barFill_.at(bank)->Show(FillOf(image, GroupRows(image, bank)));
+        barFill_[bank]->Show(FillOf(image, GroupRows(image, bank)));
     const Fill outside = FillOf(image, RowsInNoBank(image));
     lblNoBank_->setText(tr("In no bank: %1 rows, %2 with a channel").arg(outside.rows).arg(outside.used));
 }
@@ -168,20 +168,20 @@ void BankPage::ShowFills()
 void BankPage::ShowLinks()
 {
     for (int flag = 0; flag < kLinkFlags; ++flag)
-        chkLink_.at(flag)->setChecked(document_.Image().BankLink(flag));
+        chkLink_[flag]->setChecked(document_.Image().BankLink(flag));
 }
 
 void BankPage::ShowSize(int bank)
 {
-    txtBank_.at(bank)->setText(QString::fromStdString(document_.Image().BankSizeText(bank)));
+    txtBank_[bank]->setText(QString::fromStdString(document_.Image().BankSizeText(bank)));
 }
 
 bool BankPage::CommitPending()
 {
     for (int bank = 0; bank < kBanks; ++bank)
-        if (txtBank_.at(bank) == window()->focusWidget() && !txtBank_LostFocus(bank)) {
-            txtBank_.at(bank)->setFocus(Qt::OtherFocusReason);
-            txtBank_.at(bank)->selectAll();
+        if (txtBank_[bank] == window()->focusWidget() && !txtBank_LostFocus(bank)) {
+            txtBank_[bank]->setFocus(Qt::OtherFocusReason);
+            txtBank_[bank]->selectAll();
             return false;
         }
     return true;
@@ -190,19 +190,19 @@ bool BankPage::CommitPending()
 void BankPage::GoToBank(int bank)
 {
     if (bank < kBanks)
-        txtBank_.at(bank)->setFocus(Qt::OtherFocusReason);
+        txtBank_[bank]->setFocus(Qt::OtherFocusReason);
 }
 
 void BankPage::GoToLink(int bank)
 {
     if (bank < kBanks)
-        chkLink_.at(bank)->setFocus(Qt::OtherFocusReason);
+        chkLink_[bank]->setFocus(Qt::OtherFocusReason);
 }
 
 bool BankPage::eventFilter(QObject* watched, QEvent* event)
 {
     for (int bank = 0; bank < kBanks; ++bank) {
-        if (watched != txtBank_.at(bank))
+        if (watched != txtBank_[bank])
             continue;
         if (event->type() == QEvent::FocusIn)
             txtBank_GotFocus(bank, static_cast<QFocusEvent*>(event)->reason());
@@ -218,7 +218,7 @@ bool BankPage::eventFilter(QObject* watched, QEvent* event)
 
 void BankPage::txtBank_GotFocus(int bank, Qt::FocusReason reason)
 {
-    QLineEdit* box = txtBank_.at(bank);
+    QLineEdit* box = txtBank_[bank];
     // The click that brings the focus puts the cursor somewhere afterwards and would undo the selection.
     if (reason == Qt::MouseFocusReason)
         QTimer::singleShot(0, box, &QLineEdit::selectAll);
@@ -233,14 +233,14 @@ bool BankPage::txtBank_KeyDown(int bank, int key)
         return false;
     const int next = isNext ? bank + 1 : bank - 1;
     if (next >= 0 && next < kBanks)
-        txtBank_.at(next)->setFocus(isNext ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        txtBank_[next]->setFocus(isNext ? Qt::TabFocusReason : Qt::BacktabFocusReason);
     return true;
 }
 
 bool BankPage::txtBank_LostFocus(int bank)
 {
     const CloneImage& image = document_.Image();
-    const CheckedBankSize typed = CheckBankSize(image, bank, txtBank_.at(bank)->text().toStdString());
+    const CheckedBankSize typed = CheckBankSize(image, bank, txtBank_[bank]->text().toStdString());
     if (typed.entry == BankEntry::Accepted && typed.size != image.BankSize(bank))
         offer_->SetSize(bank, typed.size);
     // A refused box is put right before the message comes up, which takes the focus from it once more.

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <QList>
 #include <QWidget>
-#include <array>
 
 #include "document/document.h"
 #include "ui/dialogs.h"
@@ -64,10 +64,10 @@ class BankPage : public QWidget
 
     Document& document_;
     Dialogs& dialogs_;
-    std::array<QLabel*, kBanks> lblBank_{};
-    std::array<QLineEdit*, kBanks> txtBank_{};
-    std::array<QCheckBox*, kLinkFlags> chkLink_{};
-    std::array<FillBar*, kBanks> barFill_{};
+    QList<QLabel*> lblBank_ = QList<QLabel*>(kBanks);
+    QList<QLineEdit*> txtBank_ = QList<QLineEdit*>(kBanks);
+    QList<QCheckBox*> chkLink_ = QList<QCheckBox*>(kLinkFlags);
+    QList<FillBar*> barFill_ = QList<FillBar*>(kBanks);
     BankStrip* picBanks_;
     BankMoveOffer* offer_;
     QLabel* lblChannels_;

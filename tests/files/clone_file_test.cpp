@@ -152,7 +152,9 @@ TEST(CloneFile, NotesAreReadAsFields)
 
 TEST(CloneFile, BlocksKeepTheirPlacesBehindCharactersThatNoBlockHolds)
 {
-    const std::string block = "0145\xE6\x9D\xB1" "000000100000000000000000000";
+    const std::string block =
+        "0145\xE6\x9D\xB1"
+        "000000100000000000000000000";
     CloneImage image;
     ASSERT_FALSE(ParseCloneFile(FileWith(StartUpImage(0), 17, block), image));
     EXPECT_EQ(image.MemText(0, kFrequency), "145.000000");

@@ -25,7 +25,8 @@ class Stalls : public testing::TestWithParam<std::tuple<bool, int>>
 
 TEST_P(Stalls, OfAnyLengthLeaveEveryBlockRight)
 {
-    const auto& [writes, baud] = GetParam();
+    const bool writes = std::get<0>(GetParam());
+    const int baud = std::get<1>(GetParam());
     std::vector<StallCase> stalls;
     int after = 0;
     const auto add = [&](int percent) {
@@ -41,7 +42,8 @@ TEST_P(Stalls, OfAnyLengthLeaveEveryBlockRight)
 // The second stop strikes when the replies to the first are thought to be through: only counting finds out.
 TEST_P(Stalls, ThatFollowEachOtherLeaveEveryBlockRight)
 {
-    const auto& [writes, baud] = GetParam();
+    const bool writes = std::get<0>(GetParam());
+    const int baud = std::get<1>(GetParam());
     std::vector<StallCase> stalls;
     for (int count = 2; count <= 4; ++count)
         for (const int percent : {110, 125, 160})
