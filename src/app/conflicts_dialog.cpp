@@ -2,7 +2,6 @@
 
 #include <QDialogButtonBox>
 #include <QLabel>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 

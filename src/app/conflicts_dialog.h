@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QPushButton>
+#include <QTreeWidget>
 #include <vector>
 
 #include "link/change_list.h"
@@ -24,7 +25,7 @@ class dlgWriteConflicts : public QDialog
   private:
     enum Decision { Open, Mine, Receivers };
 
-    void AddConflict(const ConflictRow& conflict, class QTreeWidget& list);
+    void AddConflict(const ConflictRow& conflict, QTreeWidget& list);
     void DecideAll(Decision decision);
     void EnableWrite();
 

@@ -20,6 +20,7 @@
 #include "link/port_file.h"
 #include "memory/bank_layout.h"
 #include "simulator/demo_image.h"
+#include "ui/message_dialogs.h"
 
 namespace rqm5 {
 
@@ -84,13 +85,25 @@ void WindowTour::Go()
     ShowDocks();
     ShowDiagnostics();
     ShowHelp();
+    ShowConflict();
+    ShowQuestions();
 }
 
-QMessageBox::StandardButton WindowTour::Ask(QWidget*, const Prompt& prompt)
+QMessageBox::StandardButton WindowTour::Ask(QWidget* parent, const Prompt& prompt)
 {
-    qCritical("%s", qPrintable(prompt.title + QLatin1Char('\n') + prompt.text + QLatin1Char('\n') +
-                               prompt.details));
-    return QMessageBox::NoButton;
+    if (!isAsking_) {
+        qCritical("%s", qPrintable(prompt.title + QLatin1Char('\n') + prompt.text + QLatin1Char('\n') +
+                                   prompt.details));
+        return QMessageBox::NoButton;
+    }
+    QTimer::singleShot(0, window_.get(), [this] {
+        QWidget* box = QApplication::activeModalWidget();
+        if (box == nullptr)
+            qFatal("no message box");
+        Show(*box, QStringLiteral("question"));
+        box->close();
+    });
+    return MessageDialogs().Ask(parent, prompt);
 }
 
 QString WindowTour::ChooseFile(QWidget*, FileChoice, const QString&)
@@ -110,7 +123,8 @@ int WindowTour::Run(QDialog& dialog)
     dialog.resize(dialog.sizeHint().expandedTo(dialog.size()));
     Show(dialog, dialog.objectName());
     dialog.close();
-    return QDialog::Rejected;
+    return isWriting_ && dialog.objectName() == QLatin1String("dlgWriteChanges") ? QDialog::Accepted
+                                                                                 : QDialog::Rejected;
 }
 
 void WindowTour::Show(QWidget& window, const QString& name)
@@ -278,6 +292,38 @@ void WindowTour::ShowHelp()
             Show(*window, QStringLiteral("help"));
             window->close();
         }
+}
+
+/// The same settings, changed here and at the receiver.
+void WindowTour::ShowConflict()
+{
+    constexpr int kSettings2 = 0x0050;
+    constexpr int kLamp = 4;
+    ReceiverMemory memory = receiver_.Memory();
+    memory.At(kSettings2).SetByte(kLamp, 1);
+    receiver_.SetMemory(memory);
+    Find<QTabWidget>("TabStrip1").setCurrentIndex(0);
+    Find<QAbstractButton>("opbScanMode_1").click();
+    isWriting_ = true;
+    Trigger("mnuWrChanges");
+    isWriting_ = false;
+    Trigger("mnuHistoryUndo");
+}
+
+/// Boxes that wait for an answer, each closed without one.
+void WindowTour::ShowQuestions()
+{
+    isAsking_ = true;
+    Find<QAbstractButton>("cmbDisable").click();
+    Trigger("mnuFileNew");
+    Trigger("mnuHistoryUndo");
+    const QString file = folder_.filePath(QStringLiteral("torn.RQ5"));
+    WriteWholeFile(file, "Tervan");
+    for (const QString& path : {file, folder_.filePath(QStringLiteral("gone.RQ5"))}) {
+        nextFile_ = path;
+        Trigger("mnuFileOpen");
+    }
+    isAsking_ = false;
 }
 
 }  // namespace rqm5

@@ -49,12 +49,16 @@ class WindowTour : public Dialogs
     void ShowDocks();
     void ShowDiagnostics();
     void ShowHelp();
+    void ShowQuestions();
+    void ShowConflict();
     template <typename Part>
     Part& Find(const char* name) const;
 
     Look look_;
     QTemporaryDir folder_;
     QString nextFile_;
+    bool isAsking_ = false;   ///< questions and messages are expected, and looked at
+    bool isWriting_ = false;  ///< what a write would send is accepted
     SimSession receiver_;
     QtSerialPort port_;
     std::unique_ptr<frmMain> window_;

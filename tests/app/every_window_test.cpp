@@ -225,11 +225,11 @@ void ExpectNamed(QWidget& window, const std::string& name)
 class EveryWindow : public testing::TestWithParam<const char*>
 {
   protected:
-    EveryWindow()
+    void SetUp() override
     {
         QSettings(QStringLiteral("Tervan"), QStringLiteral("Tervan RQ-M5 Clone Utility")).clear();
     }
-    ~EveryWindow() override { Language::OfProgram().Use(QStringLiteral("en")); }
+    void TearDown() override { Language::OfProgram().Use(QStringLiteral("en")); }
 };
 
 TEST_P(EveryWindow, HasWholeTextsAndLettersOfTheirOwn)
@@ -240,6 +240,9 @@ TEST_P(EveryWindow, HasWholeTextsAndLettersOfTheirOwn)
         ExpectOwnLetters(window, name.toStdString());
         ExpectNamed(window, name.toStdString());
         for (const int percent : {100, 150, 200}) {
+            // A message box measures itself once, when it comes up.
+            if (percent > 100 && window.inherits("QMessageBox"))
+                break;
             QFont font = usual;
             font.setPointSizeF(usual.pointSizeF() * percent / 100);
             QApplication::setFont(font);
@@ -266,7 +269,9 @@ TEST(EveryText, PassesThroughTheTranslationAndFollowsTheLanguage)
     Language::OfProgram().Use(QStringLiteral("en"));
     {
         bool isTranslated = false;
+        std::multiset<QString> seen;
         WindowTour tour([&](QWidget& window, const QString& name) {
+            seen.insert(name);
             if (isTranslated)
                 ExpectTranslated(window, name);
         });
@@ -276,6 +281,8 @@ TEST(EveryText, PassesThroughTheTranslationAndFollowsTheLanguage)
         Language::OfProgram().Use(QStringLiteral("de"));
         tour.Go();
         QCoreApplication::removeTranslator(&pseudo);
+        EXPECT_EQ(seen.count(QStringLiteral("dlgWriteConflicts")), 1U);
+        EXPECT_EQ(seen.count(QStringLiteral("question")), 3U);
     }
     Language::OfProgram().Use(QStringLiteral("en"));
 }
