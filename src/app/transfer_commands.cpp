@@ -23,7 +23,7 @@ TransferCommands::TransferCommands(Document& document, RadioLink& link, Dialogs&
     : QObject(&window), document_(document), link_(link), dialogs_(dialogs), window_(window)
 {
     connect(&Language::OfProgram(), &Language::Changed, this, [this] {
-        if (isRunning_)
+        if (isRunning_ && !progress_.Text().isEmpty())  // work without parts tells none
             TellProgress();
     });
 }

@@ -5,7 +5,6 @@
 #include <QFile>
 #include <QImage>
 #include <QScrollBar>
-#include <QTextBlock>
 #include <QTextFrame>
 #include <QTextTable>
 #include <algorithm>
@@ -120,28 +119,50 @@ void PageView::Link_Clicked(const QUrl& link)
         ShowTopic(link.fileName() + (link.hasFragment() ? QLatin1Char('#') + link.fragment() : QString()));
 }
 
-/// How many headings have been scrolled past.
-int PageView::HeadingsAbove() const
+/// What stands at the top: how many headings have begun, and how many blocks ago the last one did.
+PageView::Place PageView::PlaceAtTop() const
 {
     const int top = cursorForPosition({0, 0}).block().blockNumber();
-    int headings = 0;
+    Place place;
     for (QTextBlock block = document()->begin(); block.isValid() && block.blockNumber() <= top;
-         block = block.next())
-        headings += block.blockFormat().headingLevel() > 0 ? 1 : 0;
-    return headings;
+         block = block.next()) {
+        ++place.blocks;
+        if (block.blockFormat().headingLevel() > 0) {
+            ++place.headings;
+            place.blocks = 0;
+        }
+    }
+    return place;
+}
+
+/// A page has the same headings in every language; below one of them another number of blocks may stand.
+QTextBlock PageView::BlockAt(const Place& place) const
+{
+    QTextBlock block = document()->begin();
+    for (int headings = 0; block.isValid(); block = block.next())
+        if (block.blockFormat().headingLevel() > 0 && ++headings == place.headings)
+            break;
+    for (int i = 0; i < place.blocks && block.next().isValid(); ++i) {
+        if (block.next().blockFormat().headingLevel() > 0)
+            break;
+        block = block.next();
+    }
+    return block;
 }
 
 void PageView::ShowLanguage()
 {
     if (source().isEmpty())
         return;
-    const ManualPage* page = PageOfFile(Page());
-    const int headings = verticalScrollBar()->value() > 0 ? HeadingsAbove() : 0;
+    const bool isAtTop = verticalScrollBar()->value() == 0;
+    const Place place = PlaceAtTop();
     reload();
-    if (page == nullptr || headings == 0)
-        return;
     document()->documentLayout()->documentSize();  // finishes the layout, without which nothing scrolls
-    scrollToAnchor(page->anchors.value(headings - 1));
+    const QTextBlock block = BlockAt(place);
+    verticalScrollBar()->setValue(
+        isAtTop || place.headings == 0 || !block.isValid()
+            ? 0
+            : static_cast<int>(document()->documentLayout()->blockBoundingRect(block).top()));
 }
 
 void PageView::MarkWords(const QStringList& words)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTextBlock>
 #include <QTextBrowser>
 
 namespace rqm5 {
@@ -38,10 +39,17 @@ class PageView : public QTextBrowser
     void changeEvent(QEvent* event) override;
 
   private:
+    struct Place
+    {
+        int headings = 0;
+        int blocks = 0;  ///< since the last heading
+    };
+
     void Page_Loaded(const QUrl& url);
     void Link_Clicked(const QUrl& link);
     QVariant Picture(const QString& file) const;
-    int HeadingsAbove() const;
+    Place PlaceAtTop() const;
+    QTextBlock BlockAt(const Place& place) const;
     void ShowMarks();
     void SetPaletteColours();
 

@@ -68,7 +68,7 @@ void dlgCompare::ShowTexts()
         cbbCompareWhat_->setItemText(filter, filter < kFieldDiffers
                                                  ? tr(kFilters[filter])
                                                  : Translated(RowFieldName(filter - kFieldDiffers)));
-    CompareAgain();
+    ShowComparison();
 }
 
 QPushButton* dlgCompare::MakeButton(const char* name, const QString& text, const QString& hint)
@@ -168,6 +168,11 @@ void dlgCompare::CompareAgain()
 {
     soon_.stop();
     comparison_ = source_ ? rqm5::Compare(document_.Image(), source_->image, source_->parts) : Comparison();
+    ShowComparison();
+}
+
+void dlgCompare::ShowComparison()
+{
     lblCompareSource_->setText(source_ ? Translated(source_->title)
                                        : tr("Choose above what the open image is compared with."));
     ListGroups();

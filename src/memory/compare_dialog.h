@@ -60,6 +60,7 @@ class dlgCompare : public QDialog
     QPushButton* MakeButton(const char* name, const QString& text, const QString& hint);
     void ShowTexts();
     void CompareAgain();
+    void ShowComparison();
     void CompareSoon();
     void ListGroups();
     void ShowDifferences();

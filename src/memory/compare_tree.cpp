@@ -225,6 +225,10 @@ void CompareTree::KeepState()
 {
     closedGroups_.clear();
     openRows_.clear();
+    selectedRows_.clear();
+    for (const QTreeWidgetItem* item : selectedItems())
+        if (const auto id = IdOf(item))
+            selectedRows_.push_back(*id);
     current_ = IdOf(currentItem());
     scrolled_ = verticalScrollBar()->value();
     for (int i = 0; i < topLevelItemCount(); ++i) {
@@ -252,6 +256,11 @@ void CompareTree::RestoreState()
         }
     if (current != nullptr)
         setCurrentItem(current);
+    for (int i = 0; i < topLevelItemCount(); ++i)
+        for (int j = 0; j < topLevelItem(i)->childCount(); ++j)
+            if (QTreeWidgetItem* item = topLevelItem(i)->child(j);
+                std::ranges::count(selectedRows_, *IdOf(item)) > 0)
+                item->setSelected(true);
     verticalScrollBar()->setValue(scrolled_);
 }
 

@@ -53,6 +53,7 @@ class CompareTree : public QTreeWidget
     Comparison shown_;
     std::vector<int> closedGroups_;
     std::vector<ItemId> openRows_;
+    std::vector<ItemId> selectedRows_;
     std::optional<ItemId> current_;
     int scrolled_ = 0;
 };

@@ -84,11 +84,25 @@ void dlgDuplicates::FitColumns()
     }
 }
 
+/// By the first row of each; a list that is made anew leaves closed what was.
+std::vector<int> dlgDuplicates::ClosedFrequencies() const
+{
+    std::vector<int> closed;
+    for (int i = 0; i < lstDuplicates_->topLevelItemCount(); ++i)
+        if (const QTreeWidgetItem* frequency = lstDuplicates_->topLevelItem(i); !frequency->isExpanded())
+            closed.push_back(frequency->data(0, Qt::UserRole).toInt());
+    return closed;
+}
+
 void dlgDuplicates::ShowDuplicates()
 {
     const CloneImage& image = document_.Image();
     const std::vector<RepeatedFrequency> repeated = RepeatedFrequencies(image);
     const int scrolled = lstDuplicates_->verticalScrollBar()->value();
+    const std::vector<int> closed = ClosedFrequencies();
+    const QTreeWidgetItem* before = lstDuplicates_->currentItem();
+    const QVariant current = before != nullptr ? before->data(0, Qt::UserRole) : QVariant();
+    const bool isRow = before != nullptr && before->parent() != nullptr;
     lstDuplicates_->clear();
     for (const RepeatedFrequency& entry : repeated) {
         auto* frequency = new QTreeWidgetItem(lstDuplicates_);
@@ -96,6 +110,8 @@ void dlgDuplicates::ShowDuplicates()
                                        .arg(QString::fromStdString(FormatMegahertz(entry.frequency)))
                                        .arg(entry.rows.size()));
         frequency->setData(0, Qt::UserRole, entry.rows.front());
+        if (!isRow && current == entry.rows.front())
+            lstDuplicates_->setCurrentItem(frequency);
         for (const int row : entry.rows) {
             const Message place = PlaceOfRow(image, row);
             auto* item = new QTreeWidgetItem(frequency);
@@ -105,9 +121,11 @@ void dlgDuplicates::ShowDuplicates()
             item->setText(kTreeNote, QString::fromStdString(
                                          VisibleText(CutToWidth(image.MemData(row).note, kLongestNote))));
             item->setData(0, Qt::UserRole, row);
+            if (isRow && current == row)
+                lstDuplicates_->setCurrentItem(item);
         }
+        frequency->setExpanded(std::ranges::count(closed, entry.rows.front()) == 0);
     }
-    lstDuplicates_->expandAll();
     lstDuplicates_->verticalScrollBar()->setValue(scrolled);
     lblDuplicates_->setText(
         repeated.empty() ? tr("No frequency is stored more than once.")

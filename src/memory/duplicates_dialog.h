@@ -29,6 +29,7 @@ class dlgDuplicates : public QDialog
 
   private:
     void Build();
+    std::vector<int> ClosedFrequencies() const;
     void ShowDuplicates();
     void FitColumns();
 

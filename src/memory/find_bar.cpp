@@ -134,7 +134,8 @@ QString FindBar::LineOf(int row) const
     const Message place = PlaceOfRow(image, row);
     const std::string frequency = image.MemText(row, kFrequency);
     const auto indent = static_cast<std::size_t>(std::max(0, kFrequencyDigits - DisplayWidth(frequency)));
-    const std::string line = PadToWidth(Said(place.empty() ? RowLabel(image, row) : place), kPlace) +
+    const std::string name = Said(place.empty() ? RowLabel(image, row) : place);
+    const std::string line = PadToWidth(name, kPlace) + (DisplayWidth(name) < kPlace ? "" : " ") +
                              std::string(indent, ' ') + frequency + "  " +
                              PadToWidth(image.MemText(row, kMode), kModeLetters) +
                              VisibleText(CutToWidth(image.MemData(row).note, kNoteLetters));
@@ -223,6 +224,9 @@ bool FindBar::txtFind_KeyDown(QKeyEvent& event)
 bool FindBar::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == page_ && event->type() == QEvent::Resize && lstFound_->isVisible())
+        PlaceList();
+    if (watched == txtFind_ && (event->type() == QEvent::Move || event->type() == QEvent::Resize) &&
+        lstFound_->isVisible())
         PlaceList();
     if (watched == txtFind_ && event->type() == QEvent::FocusOut &&
         static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)

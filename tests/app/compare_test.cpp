@@ -7,6 +7,7 @@
 #include "app/receiver_window_fixture.h"
 #include "document/document.h"
 #include "files/file_store.h"
+#include "language/language.h"
 
 namespace rqm5 {
 namespace {
@@ -132,6 +133,38 @@ TEST_F(CompareTest, LastReadIsWhatIsKnownOfTheReceiverUntilItIsRead)
     Button("cmbCompareLastRead").click();
     EXPECT_TRUE(StatusText("lblCompareSource").contains(QStringLiteral("read or written since")));
     EXPECT_EQ(Count(), QStringLiteral("Nothing differs."));
+}
+
+TEST_F(CompareTest, KeepsWhatIsSelectedAndOpenInAnotherLanguage)
+{
+    if (!QFile::exists(QStringLiteral(":/translations/rq-m5_fr.qm")))
+        GTEST_SKIP() << "built without translations";
+    Item("mnuReAll").trigger();
+    CloneImage other = demo_;
+    for (const int row : {0, 1, 3})
+        other.MemData(row).mode = 2;
+    CompareWithFile(other);
+    Tree().setCurrentItem(&Row(0, 2));
+    Row(0, 0).setSelected(true);
+    Row(0, 1).setExpanded(true);
+    Item("mnuToolsDuplicates").trigger();
+    auto& twice = Find<QTreeWidget>("lstDuplicates");
+    ASSERT_GT(twice.topLevelItemCount(), 1);
+    twice.topLevelItem(0)->setExpanded(false);
+    twice.setCurrentItem(twice.topLevelItem(1)->child(1));
+    const QString english = Tree().topLevelItem(0)->text(0);
+
+    Language::OfProgram().Use(QStringLiteral("fr"));
+    QCoreApplication::processEvents();
+    EXPECT_NE(Tree().topLevelItem(0)->text(0), english);
+    EXPECT_TRUE(Row(0, 0).isSelected() && !Row(0, 1).isSelected() && Row(0, 2).isSelected());
+    EXPECT_TRUE(Row(0, 1).isExpanded());
+    EXPECT_FALSE(twice.topLevelItem(0)->isExpanded());
+    EXPECT_TRUE(twice.topLevelItem(1)->isExpanded());
+    EXPECT_EQ(twice.currentItem(), twice.topLevelItem(1)->child(1));
+    Language::OfProgram().Use(QStringLiteral("en"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Tree().topLevelItem(0)->text(0), english);
 }
 
 }  // namespace

@@ -158,10 +158,12 @@ void DiagnosticsPanel::ShowTexts()
     lblLinkTest_->setText(Translated(linkTest_));
     lblLinkTest_->setToolTip(lblLinkTest_->text());
     // The grid counts on one line of a text that needs more of them.
-    lblLinkTest_->setMinimumHeight(lblLinkTest_->heightForWidth(lblLinkTest_->width()));
+    lblLinkTest_->setMinimumHeight(std::max(0, lblLinkTest_->heightForWidth(lblLinkTest_->width())));
     // What was scrolled to stays in sight.
+    const int scrolled = txtRawReply_->verticalScrollBar()->value();
     if (const QString reply = Translated(reply_); reply != txtRawReply_->toPlainText())
         txtRawReply_->setPlainText(reply);
+    txtRawReply_->verticalScrollBar()->setValue(scrolled);
 }
 
 void DiagnosticsPanel::SetLineBusy(bool isBusy)
