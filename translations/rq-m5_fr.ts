@@ -2325,7 +2325,7 @@
     </message>
     <message>
         <source>Edit (%1)</source>
-        <translation>Modifier (%1)</translation>
+        <translation>Édition (%1)</translation>
     </message>
     <message>
         <source>%1 channels</source>
@@ -2786,6 +2786,50 @@
     <message>
         <source>%1; %2</source>
         <translation>%1&#xa0;; %2</translation>
+    </message>
+    <message>
+        <source>Nothing to change in %1</source>
+        <translation>Rien à modifier dans %1</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>Opération non permise</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Fichier ou dossier introuvable</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>Est un dossier</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>Système de fichiers en lecture seule</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>Plus d&apos;espace sur le disque</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>Quota de disque dépassé</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>Fichier trop volumineux</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Erreur d&apos;entrée/sortie</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Trop de fichiers ouverts</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>Nom de fichier trop long</translation>
     </message>
 </context>
 <context>

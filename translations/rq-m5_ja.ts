@@ -2325,7 +2325,7 @@
     </message>
     <message>
         <source>Edit (%1)</source>
-        <translation>編集 (%1)</translation>
+        <translation>入力 (%1)</translation>
     </message>
     <message>
         <source>%1 channels</source>
@@ -2785,7 +2785,51 @@
     </message>
     <message>
         <source>%1; %2</source>
-        <translation>%1、%2</translation>
+        <translation>%1。%2</translation>
+    </message>
+    <message>
+        <source>Nothing to change in %1</source>
+        <translation>%1に変更するものはありません</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>許可されていない操作です</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>ファイルまたはフォルダーがありません</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>フォルダーです</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>読み取り専用のファイルシステムです</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>ディスクに空きがありません</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>ディスクの割り当てを使い切りました</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>ファイルが大きすぎます</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>入出力エラーです</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>開いているファイルが多すぎます</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>ファイル名が長すぎます</translation>
     </message>
 </context>
 <context>

@@ -78,7 +78,7 @@ bool ChangeCommands::MayRead(std::size_t blocks)
     return blocks <= kFewBlocks ||
            dialogs_.Ask(&window_, {.title = tr("Write Changes"),
                                    .text = tr("What the receiver holds must be read first."),
-                                   .details = Translated(UnknownNote(blocks)) + QLatin1Char('.'),
+                                   .details = Translated({MESSAGE("%1."), {UnknownNote(blocks)}}),
                                    .icon = QMessageBox::Question,
                                    .buttons = QMessageBox::Ok | QMessageBox::Cancel,
                                    .defaultButton = QMessageBox::Ok,

@@ -21,7 +21,7 @@
 
 namespace {
 
-/// \param language  a code of Languages(), empty for the one of the system, which a terminal has
+/// \param language  a code of Languages(), empty for the one of the system
 void Introduce(const QString& language)
 {
     QCoreApplication::setOrganizationName(QStringLiteral("Tervan"));
@@ -63,7 +63,7 @@ void AnswerAtTheTerminal(int argc, char** argv)
     if (!wantsVersion && !Asks(argc, argv, {"-h", "-?", "--help"}))
         return;
     const QCoreApplication application(argc, argv);
-    Introduce({});
+    Introduce(rqm5::TerminalLanguage());
     QCommandLineParser parser;
     Describe(parser);
     if (wantsVersion)

@@ -36,7 +36,9 @@ Status SaveEdited(const std::string& path, const Arguments& arguments, const Clo
     const SaveEnd end =
         Save(path, image, console, arguments.Has("--force") ? Unopenable::IsWritten : Unopenable::IsRefused);
     if (end.isWritten && !console.isQuiet)
-        Note(path, console, {MESSAGE("%1 changed in %2"), {Summary(change), SourceName(path)}});
+        Note(path, console,
+             change.IsEmpty() ? Message(MESSAGE("Nothing to change in %1"), {SourceName(path)})
+                              : Message(MESSAGE("%1 changed in %2"), {Summary(change), SourceName(path)}));
     return end.status;
 }
 

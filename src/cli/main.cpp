@@ -15,7 +15,7 @@ int main(int argc, char* argv[])
     rqm5::PassOverSettingsThatAreNoFiles();
     // Translations need an application, and English need not pay for one.
     std::optional<QCoreApplication> application;
-    if (const QString language = rqm5::SystemLanguage(); language != QLatin1String("en")) {
+    if (const QString language = rqm5::TerminalLanguage(); language != QLatin1String("en")) {
         application.emplace(argc, argv);
         rqm5::Language::OfProgram().Use(language);
     }

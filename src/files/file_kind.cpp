@@ -113,7 +113,7 @@ std::optional<Problem> KeepOldFile(const QString& path, QString& kept)
     const QFileInfo info(kept);
     Message reason = MESSAGE("there is a folder or a device of that name");
     if (!info.exists() || info.isFile())
-        reason = VisibleText(AddName(target, kept).toStdString());
+        reason = SystemReason(AddName(target, kept));
     if (reason.empty())
         return std::nullopt;
     return Problem{

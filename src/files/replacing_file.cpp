@@ -50,7 +50,7 @@ std::optional<DiskFault> ReplacingFile::Open()
     errno = 0;
     if (file_->open())
         return std::nullopt;
-    return DiskFault{file_->errorString().toStdString(), errno};
+    return DiskFault{SystemReason(file_->errorString()), errno};
 }
 
 std::optional<DiskFault> ReplacingFile::Replace(const std::string& bytes)
@@ -80,7 +80,7 @@ std::optional<DiskFault> ReplacingFile::Rename()
     const QString name = file_->fileName();  // gives a nameless file its name
     if (name.isEmpty() || !QFileInfo::exists(name))
         return DiskFault{
-            {MESSAGE("the new file gets no name here (%1)"), {qt_error_string(errno).toStdString()}}, errno};
+            {MESSAGE("the new file gets no name here (%1)"), {SystemReason(qt_error_string(errno))}}, errno};
     identity_ = FileIdentity::Of(name);
     return PutInPlace(std::move(file_), name, target_);
 }

@@ -30,7 +30,7 @@ Problem ProblemWith(const QFileInfo& file, const Obstacle& obstacle)
 /// What the system or Qt says.
 Message Reason(const QString& text)
 {
-    return VisibleText(text.toStdString());
+    return SystemReason(QString::fromStdString(VisibleText(text.toStdString())));
 }
 
 /// What stands at the path but is no file that can be read or replaced.

@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QOperatingSystemVersion>
 #include <QPointer>
 #include <QRegularExpression>
 #include <algorithm>
@@ -13,10 +14,11 @@ namespace {
 
 constexpr char kEnglish[] = "en";
 
-/// What the environment says of the language of texts, in the order in which the system looks.
-QByteArray EnvironmentLocale()
+/// What the environment says of the language of texts (LC_MESSAGES) or their characters (LC_CTYPE), in the
+/// order in which the system looks.
+QByteArray EnvironmentLocale(const char* category)
 {
-    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"})
+    for (const char* name : {"LC_ALL", category, "LANG"})
         if (const QByteArray value = qgetenv(name); !value.isEmpty())
             return value;
     return {};
@@ -52,10 +54,11 @@ const QList<LanguageName>& Languages()
 
 QString SystemLanguage()
 {
-    const QByteArray locale = EnvironmentLocale();
-    if (IsPlainLocale(locale))
+    const QByteArray locale = EnvironmentLocale("LC_MESSAGES");
+    // Windows and macOS have settings for it where the environment says nothing; others mean C.
+    const bool hasSettings = QOperatingSystemVersion::currentType() != QOperatingSystemVersion::Unknown;
+    if (IsPlainLocale(locale) || (locale.isEmpty() && !hasSettings))
         return QLatin1String(kEnglish);
-    // Where the environment says nothing, the system has settings for it.
     QStringList names = locale.isEmpty() ? QLocale::system().uiLanguages()
                                          : qEnvironmentVariable("LANGUAGE").split(QLatin1Char(':'));
     names << QString::fromLocal8Bit(locale);
@@ -64,6 +67,16 @@ QString SystemLanguage()
         if (const QString code = name.remove(behind); IsKnown(code))
             return code;
     return QLatin1String(kEnglish);
+}
+
+QString TerminalLanguage()
+{
+    // "de_DE.UTF-8@euro": the character set stands between dot and at sign.
+    const QByteArray locale = EnvironmentLocale("LC_CTYPE");
+    const qsizetype dot = locale.indexOf('.');
+    const QByteArray characters = locale.mid(dot + 1).split('@').first().toLower().replace("-", "");
+    const bool isOther = dot < 0 ? IsPlainLocale(locale) : characters != "utf8";
+    return isOther ? QLatin1String(kEnglish) : SystemLanguage();
 }
 
 Language::Language(QObject* parent)

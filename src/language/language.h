@@ -22,6 +22,9 @@ const QList<LanguageName>& Languages();
 /// The first of the user's languages that there is a translation to; English for the locales C and POSIX.
 QString SystemLanguage();
 
+/// The same for what is written to a terminal, as UTF-8; English where the terminal has other characters.
+QString TerminalLanguage();
+
 /// The language that the program speaks: its own translations, and Qt's for buttons and system dialogs.
 class Language : public QTranslator
 {

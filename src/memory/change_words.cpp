@@ -81,10 +81,10 @@ void AddSettings(const ImageChange& change, Lines& lines)
 {
     for (const ChangedItem<int>& item : change.Settings)
         if (item.index < kSettingsInWords)
-            lines.push_back(Message::List(
-                {SettingCaption(item.index),
-                 FromTo(SettingValueText(item.index, item.before), SettingValueText(item.index, item.after))},
-                ": "));
+            lines.emplace_back(MESSAGE("%1: %2"),
+                               std::vector<Message>{SettingCaption(item.index),
+                                                    FromTo(SettingValueText(item.index, item.before),
+                                                           SettingValueText(item.index, item.after))});
 }
 
 void AddRows(const CloneImage& before, const ImageChange& change, Lines& lines)

@@ -154,10 +154,10 @@ void dlgFill::FillLikes()
         const Channel& channel = image_.MemData(row);
         if (!channel.HasChannel())
             continue;
-        std::string text = Said(PlaceOfRow(image_, row)) + ": ";
+        std::string values;
         for (const Column column : {kFrequency, kMode, kStep})
-            text += CellText(channel, RowKind::Memory, kNoRegion, column) + " ";
-        cbbFillLike_->addItem(QString::fromStdString(text).trimmed(), row);
+            values += (values.empty() ? "" : " ") + CellText(channel, RowKind::Memory, kNoRegion, column);
+        cbbFillLike_->addItem(Translated({MESSAGE("%1: %2"), {PlaceOfRow(image_, row), values}}), row);
     }
     cbbFillLike_->setCurrentIndex(std::max(0, cbbFillLike_->findData(from_)));
     cbbFillLike_->setMaxVisibleItems(20);

@@ -59,6 +59,10 @@ SecondName GiveSecondName(const QString& path, const QString& second, QString& r
 /// \return the system's reason why no file can have this name, empty when one can
 QString NameFault(const QString& path);
 
+/// What the system or Qt says of a fault, in the program's language of the moment; as a message when it is
+/// one of the usual reasons, so that it can be said in another language, too.
+Message SystemReason(const QString& text);
+
 /// True for the error numbers of a disk, or a user's share of it, that has no room left.
 bool IsDiskFull(int code);
 

@@ -13,9 +13,24 @@
 namespace rqm5 {
 namespace {
 
+struct UsualReason
+{
+    int code;
+    const char* text;
+};
+
+constexpr UsualReason kUsualReasons[] = {
+    {EACCES, MESSAGE("Permission denied")},         {EPERM, MESSAGE("Operation not permitted")},
+    {ENOENT, MESSAGE("No such file or directory")}, {EISDIR, MESSAGE("Is a directory")},
+    {EROFS, MESSAGE("Read-only file system")},      {ENOSPC, MESSAGE("No space left on device")},
+    {EDQUOT, MESSAGE("Disk quota exceeded")},       {EFBIG, MESSAGE("File too large")},
+    {EIO, MESSAGE("Input/output error")},           {EMFILE, MESSAGE("Too many open files")},
+    {ENAMETOOLONG, MESSAGE("File name too long")},
+};
+
 DiskFault SystemFault(int code)
 {
-    return {qt_error_string(code).toStdString(), code, false};
+    return {SystemReason(qt_error_string(code)), code, false};
 }
 
 /// Some disks tell only when all has to be on them that they are full or broken. A file system that cannot
@@ -119,6 +134,13 @@ QString NameFault(const QString& path)
     if (::lstat(QFile::encodeName(path).constData(), &found) != 0 && errno == ENAMETOOLONG)
         return qt_error_string(ENAMETOOLONG);
     return {};
+}
+
+Message SystemReason(const QString& text)
+{
+    const auto* const usual = std::ranges::find_if(
+        kUsualReasons, [&](const UsualReason& reason) { return qt_error_string(reason.code) == text; });
+    return usual == std::end(kUsualReasons) ? Message(text.toStdString()) : Message(usual->text);
 }
 
 bool IsDiskFull(int code)

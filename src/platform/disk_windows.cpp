@@ -97,6 +97,11 @@ QString NameFault(const QString& /*path*/)
     return {};
 }
 
+Message SystemReason(const QString& text)
+{
+    return text.toStdString();
+}
+
 bool IsDiskFull(int code)
 {
     return code == ENOSPC || code == EFBIG;

@@ -40,7 +40,8 @@ bool MayHaveHardware(const QString& device)
     const QFileInfo node(DeviceNode(device));
     // Nodes for built-in ports exist on every machine; the system lists those that have hardware, as far
     // as it is allowed to look.
-    return node.exists() && (!device.startsWith(QStringLiteral("/dev/ttyS")) || !node.isReadable());
+    return !device.isEmpty() && node.exists() &&
+           (!device.startsWith(QStringLiteral("/dev/ttyS")) || !node.isReadable());
 }
 
 QString PermissionCommand(const QString& device)

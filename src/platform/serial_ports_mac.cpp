@@ -21,7 +21,7 @@ QString UsualDevice(int number)
 
 bool MayHaveHardware(const QString& device)
 {
-    return QFileInfo::exists(DeviceNode(device));
+    return !device.isEmpty() && QFileInfo::exists(DeviceNode(device));
 }
 
 QString PermissionCommand(const QString& /*device*/)

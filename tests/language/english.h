@@ -11,6 +11,7 @@ namespace rqm5 {
 inline std::vector<std::string> English(const std::vector<Message>& messages)
 {
     std::vector<std::string> texts;
+    texts.reserve(messages.size());
     for (const Message& message : messages)
         texts.push_back(message.English());
     return texts;

@@ -16,7 +16,7 @@ class Environment
   public:
     explicit Environment(const std::map<QByteArray, QByteArray>& wanted)
     {
-        for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG", "LANGUAGE"}) {
+        for (const char* name : {"LC_ALL", "LC_MESSAGES", "LC_CTYPE", "LANG", "LANGUAGE"}) {
             before_[name] = qgetenv(name);
             const auto found = wanted.find(name);
             Set(name, found != wanted.end() ? found->second : QByteArray());
@@ -43,6 +43,7 @@ TEST(SystemLanguage, IsWhatTheEnvironmentAsksForAndWeHave)
 {
     const std::pair<std::map<QByteArray, QByteArray>, const char*> cases[] = {
         {{}, "en"},
+        {{{"LANGUAGE", "de"}}, "en"},
         {{{"LANG", "de_DE.UTF-8"}}, "de"},
         {{{"LANG", "ja_JP.UTF-8"}, {"LC_MESSAGES", "fr_FR.UTF-8"}}, "fr"},
         {{{"LANG", "de_DE.UTF-8"}, {"LC_ALL", "es_MX.UTF-8"}}, "es"},
@@ -56,6 +57,22 @@ TEST(SystemLanguage, IsWhatTheEnvironmentAsksForAndWeHave)
     for (const auto& [variables, code] : cases) {
         const Environment environment(variables);
         EXPECT_EQ(SystemLanguage().toStdString(), code);
+    }
+}
+
+TEST(TerminalLanguage, IsEnglishWhereOtherCharactersCannotBeShown)
+{
+    const std::pair<std::map<QByteArray, QByteArray>, const char*> cases[] = {
+        {{{"LANG", "de_DE.UTF-8"}}, "de"},
+        {{{"LANG", "de_DE.utf8@euro"}}, "de"},
+        {{{"LC_ALL", "ja_JP.eucJP"}}, "en"},
+        {{{"LANG", "de_DE.UTF-8"}, {"LC_CTYPE", "de_DE.ISO-8859-1"}}, "en"},
+        {{{"LANG", "de_DE.UTF-8"}, {"LC_CTYPE", "C"}}, "en"},
+        {{{"LANG", "de_DE.UTF-8"}, {"LC_CTYPE", "C.UTF-8"}}, "de"},
+    };
+    for (const auto& [variables, code] : cases) {
+        const Environment environment(variables);
+        EXPECT_EQ(TerminalLanguage().toStdString(), code);
     }
 }
 
