@@ -54,7 +54,7 @@ void RequireStableExport(const CloneImage& image)
     const ListChoice choice{{{0, kRadioRows}}, ListColumns(), DecimalSign::Comma};
     for (const PlannedRow& row : PlanNamed(image, ReadChannelList(FormatList(image, choice)))) {
         Require(row.IsTaken(), "an exported row is taken back");
-        ChannelContents back = row.channel;
+        auto back = static_cast<const ChannelContents&>(row.channel);
         const ChannelContents& there = image.MemData(row.row);
         back.blank = there.blank;
         Require(back == there, "no code moves");

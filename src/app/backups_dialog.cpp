@@ -258,6 +258,7 @@ void dlgBackups::Delete()
 {
     const std::vector<BackupFile> selected = Selected();
     std::vector<std::string> names;
+    names.reserve(selected.size());
     for (const BackupFile& backup : selected)
         names.push_back(VisibleText(QFileInfo(backup.path).fileName().toStdString()));
     constexpr std::size_t kNamed = 10;

@@ -87,6 +87,7 @@ Status CopyOrMove(const Arguments& arguments, Console& console, bool isMove)
         if (const auto* problem = std::get_if<Problem>(&room))
             return *problem;
         std::vector<Channel> channels;
+        channels.reserve(from.size());
         for (const int row : from)
             channels.push_back(image.MemData(row));
         if (isMove)

@@ -28,7 +28,8 @@ void TextTable::Print(std::ostream& out, bool isPainted) const
         // A note of a whole file's length must not widen all rows.
         for (std::size_t i = 0; i + 1 < cells.size(); ++i) {
             line += cells[i];
-            line.append(static_cast<std::size_t>(widths[i] - DisplayWidth(cells[i]) + 2), ' ');
+            const int blanks = widths[i] - DisplayWidth(cells[i]) + 2;
+            line.append(static_cast<std::size_t>(blanks), ' ');
         }
         if (!cells.empty())
             line += cells.back();

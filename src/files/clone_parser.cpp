@@ -114,9 +114,11 @@ void DecodeRows(const CloneLines& lines, RowKind kind, int count, int firstLine,
 {
     for (int row = 0; row < count; ++row) {
         Channel& channel = image.At({kind, row});
-        const MemoryBlock block = BlockOfLine(lines[static_cast<std::size_t>(firstLine + row)]);
+        const int line = firstLine + row;
+        const int note = firstNote + row;
+        const MemoryBlock block = BlockOfLine(lines[static_cast<std::size_t>(line)]);
         static_cast<ChannelContents&>(channel) = DecodeBlock(block, kind).value_or(ChannelContents{});
-        channel.note = lines[static_cast<std::size_t>(firstNote + row)];
+        channel.note = lines[static_cast<std::size_t>(note)];
     }
 }
 

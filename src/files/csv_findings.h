@@ -25,7 +25,7 @@ struct CsvFindings
     bool IsEmpty() const { return all.empty(); }
     void Add(int line, Message text) { all.push_back({line, std::move(text)}); }
 
-    /// "2 remarks, 1 row keeps an old value, 1 number has a decimal comma"
+    /// "2 remarks: 1 row keeps an old value, 1 number has a decimal comma"
     Message Summary() const;
 
     /// "Line 12: memory row 3 (Bank 0, channel 3): ..."

@@ -95,9 +95,10 @@ std::optional<CsvRecord> CsvImport::ReadRecord(RowId id)
     const auto take = [&](std::string& text) {
         isShort = isShort || reader_.EndsLine();
         auto field = reader_.Next();
-        if (field)
-            text = *std::move(field);
-        return field.has_value();
+        if (!field)
+            return false;
+        text = *std::move(field);
+        return true;
     };
     bool isWhole = std::ranges::all_of(record.texts, take);
     isWhole = isWhole && take(record.skip) && take(record.enable);

@@ -61,7 +61,8 @@ bool MemoryBlock::Bit(int index, int position) const
 void MemoryBlock::SetByte(int index, int value)
 {
     const std::string digits = HexByte(value);
-    std::copy(digits.begin(), digits.end(), &text_.at(static_cast<std::size_t>(2 * index)));
+    const int first = 2 * index;
+    std::copy(digits.begin(), digits.end(), &text_.at(static_cast<std::size_t>(first)));
 }
 
 int MemoryBlock::Word(int index) const

@@ -26,6 +26,7 @@ int Settings2Address()
 std::vector<MemoryBlock> BlocksOfArea(Area id, const BlockMap& blocks)
 {
     std::vector<MemoryBlock> found;
+    found.reserve(static_cast<std::size_t>(AreaOf(id).blocks));
     for (int index = 0; index < AreaOf(id).blocks; ++index)
         found.push_back(blocks.at(AreaOf(id).AddressOf(index)));
     return found;

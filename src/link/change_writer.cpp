@@ -70,6 +70,7 @@ TransferResult ReadBlocks(const std::vector<int>& addresses, const CloneImage& i
                           TransferObserver& observer, BlockMap& read)
 {
     std::vector<ExpectedBlock> asked;
+    asked.reserve(addresses.size());
     for (const int address : addresses)
         asked.push_back(Expected(address, MemoryBlock(), image));
     std::vector<BlockDifference> differences;

@@ -48,7 +48,8 @@ const FrequencyRange& LimitOf(const CloneImage& image, RowId id)
 {
     if (id.IsMemory())
         return kReceiverRange;
-    return BandLimit.at(static_cast<std::size_t>(id.row * kRegions + image.ModelNo()));
+    const int limit = id.row * kRegions + image.ModelNo();
+    return BandLimit.at(static_cast<std::size_t>(limit));
 }
 
 Verdict JudgeFrequency(const CloneImage& image, RowId id, int selector, double typed)

@@ -196,7 +196,7 @@ void MemoryTable::keyPressEvent(QKeyEvent* event)
     else if (isPlain && event->key() == Qt::Key_Space)
         emit TogglePressed();
     else if (event->key() == Qt::Key_F2)
-        QTableView::keyPressEvent(event);
+        QTableView::keyPressEvent(event);  // NOLINT(bugprone-parent-virtual-call): it opens the editor
     else
         ChannelTable::keyPressEvent(event);
 }

@@ -10,6 +10,7 @@ void Take(const ReceiverMemory& memory, const MemoryArea& area, CloneImage& imag
     if (area.decode == nullptr)
         return;
     std::vector<MemoryBlock> blocks;
+    blocks.reserve(static_cast<std::size_t>(area.blocks));
     for (int index = 0; index < area.blocks; ++index)
         blocks.push_back(memory.At(area.AddressOf(index)));
     if (!area.decodesSingly)

@@ -12,7 +12,11 @@ namespace {
 class LanguageMenuTest : public WindowTest
 {
   protected:
-    ~LanguageMenuTest() override { Language::OfProgram().Use(QStringLiteral("en")); }
+    void TearDown() override
+    {
+        WindowTest::TearDown();
+        Language::OfProgram().Use(QStringLiteral("en"));
+    }
 
     void Choose(const char* item)
     {

@@ -8,8 +8,16 @@ namespace {
 class ReadOptionsTest : public ReceiverWindowTest
 {
   protected:
-    ReadOptionsTest() { SaveReadTwice(false); }
-    ~ReadOptionsTest() override { SaveReadTwice(false); }
+    void SetUp() override
+    {
+        ReceiverWindowTest::SetUp();
+        SaveReadTwice(false);
+    }
+    void TearDown() override
+    {
+        ReceiverWindowTest::TearDown();
+        SaveReadTwice(false);
+    }
 
     QString Note() { return StatusText("lblHint"); }
 };

@@ -21,7 +21,6 @@ class EditCommands : public testing::Test
   protected:
     EditCommands()
     {
-        image = StartUpImage(0);
         for (const int row : {0, 3, 205, 1000, 1001, 1100}) {
             DecodeMemoryBlock(image, MemoryBlock("01455000000000080000001000600000"), row);
             image.MemData(row).frequency += row * 1'000'000;
@@ -42,7 +41,7 @@ class EditCommands : public testing::Test
 
     Folder folder;
     const std::string file = folder / "a.RQ5";
-    CloneImage image;
+    CloneImage image = StartUpImage(0);
 };
 
 TEST_F(EditCommands, SetChangesTheRowsThatAreNamedAndNoOthers)

@@ -50,7 +50,7 @@ TEST(AccessList, NobodyGainsWhenOwnerOrGroupIsAnother)
     list.Narrow(true, false, 6);
     EXPECT_EQ(list.entries[1].bits, 0);
     EXPECT_EQ(list.entries[4].bits, 4);
-    EXPECT_FALSE(AccessList::Parse("\x01\x00\x00\x00"));
+    EXPECT_FALSE(AccessList::Parse(std::string("\x01\x00\x00\x00", 4)));
 }
 
 class FileAccess : public testing::Test

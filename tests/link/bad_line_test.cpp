@@ -133,7 +133,8 @@ TEST(LinkTest, TellsTheLowestMiddleAndHighestTimeOfGoodReplies)
     LinkTestResult result = TestLink(line.link, 0x0040, 6, [](int) { return true; });
     EXPECT_EQ(result.reads, 6);
     EXPECT_EQ(result.errors, 2);
-    EXPECT_TRUE(0us < result.lowest && result.lowest <= result.median && result.median <= result.highest);
+    EXPECT_TRUE(result.lowest.count() > 0 && result.lowest <= result.median &&
+                result.median <= result.highest);
     line.Spoil("pieces:3:after=2", RadioLink::kTimeOut);  // with pauses, which no machine can make shorter
     result = TestLink(line.link, 0x0040, 5, [](int) { return true; });
     EXPECT_GE(result.median, 30ms);

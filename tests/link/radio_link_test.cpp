@@ -249,8 +249,11 @@ TEST(QuietLine, AWriteWhoseRepliesShiftIsInDoubt)
     for (const bool isMissing : {true, false}) {
         Link port({}, 20ms);
         port.answers = [isMissing](std::size_t number) {
-            const Pieces twice = {kWrite + kOk + kWrite + kOk};
-            return number == 4 ? twice : number == 2 && isMissing ? Pieces{} : Pieces{kWrite + kOk};
+            const std::string good = kWrite + kOk;
+            const std::string twice = good + good;
+            if (number == 2 && isMissing)
+                return Pieces{};
+            return Pieces{number == 4 ? twice : good};
         };
         RecordingObserver observer;
         ReceiverWriter writer({}, {.settings = false, .memory = false, .banks = true}, port.link, observer);

@@ -59,7 +59,7 @@ TEST_F(PastePlanTest, ARefusedChannelLeavesItsRowAndTheOthersKeepTheirs)
 TEST_F(PastePlanTest, NobodyIsAskedWhereNothingIsLost)
 {
     Put(5, 400);
-    const auto needsLook = [this](RowList rows, const std::vector<ListedChannel>& channels) {
+    const auto needsLook = [this](const RowList& rows, const std::vector<ListedChannel>& channels) {
         return NeedsLook(image_, PlanPaste(image_, rows, channels));
     };
     auto remarked = Channels({100});

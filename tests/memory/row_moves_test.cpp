@@ -18,7 +18,7 @@ CloneImage ImageWith(int first, std::string_view letters)
         Channel& row = image.MemData(first++);
         if (letter == '.')
             continue;
-        row.frequency = letter;
+        row.frequency = static_cast<unsigned char>(letter);
         row.note = std::string(1, letter);
         row.enabled = letter < 'a';
     }

@@ -114,7 +114,7 @@ TEST(FaultPlan, StrikesByCountByProbabilityAndAfterGoodCommands)
 {
     EXPECT_EQ(FaultsOf("drop", 1), "X" + std::string(39, '.'));
     EXPECT_EQ(FaultsOf("ng:3:after=2", 1), "..XXX" + std::string(35, '.'));
-    EXPECT_EQ(FaultsOf("cut:after=39:100%", 1), std::string(39, '.') + "X");
+    EXPECT_EQ(FaultsOf("cut:after=39:100%", 1), ".......................................X");
     EXPECT_EQ(FaultsOf("noise:0.0", 1), std::string(40, '.'));
     const std::string half = FaultsOf("late:0.5", 7);
     EXPECT_EQ(half, FaultsOf("late:50%", 7));
