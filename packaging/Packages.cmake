@@ -41,7 +41,8 @@ foreach(name RQ-M5 RQ-M5-CLONE RQ-M5-SIM)
   # No header of the package may name the component a second time.
   set(CPACK_COMPONENT_${name}_DISPLAY_NAME ${package})
 endforeach()
-# The window keeps its icons as SVG, takes the texts of standard buttons from Qt, draws notes in any script, and the simulator lets people try it.
+# The window keeps its icons as SVG, takes the texts of standard buttons from Qt, draws notes in any script, and the
+# simulator lets people try it.
 set(CPACK_DEBIAN_RQ-M5-CLONE_PACKAGE_DEPENDS "libqt6svg6, qt6-translations-l10n")
 set(CPACK_DEBIAN_RQ-M5-CLONE_PACKAGE_RECOMMENDS "fonts-dejavu-core, fonts-ipafont-gothic")
 set(CPACK_DEBIAN_RQ-M5-CLONE_PACKAGE_SUGGESTS "rq-m5-sim")

@@ -1,7 +1,6 @@
 #include "app/backup_commands.h"
 
 #include <QFileInfo>
-#include <QLocale>
 
 #include "app/write_options.h"
 #include "files/file_store.h"
@@ -59,10 +58,14 @@ void BackupCommands::Compare(const BackupFile& backup)
     if (!Load(backup, image))
         return;
     const TransferScope scope = ScopeHeld(backup, image);
-    const Message time =
-        Language::OfProgram().Locale().toString(backup.time, QLocale::ShortFormat).toStdString();
-    compare_.CompareWith({{MESSAGE("the backup of %1"), {time}},
-                          {MESSAGE("Other side: backup of %1, which holds: %2"), {time, ScopeText(scope)}},
+    const auto shortTime = [time = backup.time] {
+        return Message(Language::OfProgram().ShortTime(time).toStdString());
+    };
+    compare_.CompareWith({{MESSAGE("the backup of %1"), {shortTime()}},
+                          [shortTime, scope] {
+                              return Message(MESSAGE("Other side: backup of %1, which holds: %2"),
+                                             {shortTime(), ScopeText(scope)});
+                          },
                           image,
                           PartsHeld(scope, image)});
 }

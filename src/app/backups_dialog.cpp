@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFile>
 #include <QHeaderView>
-#include <QLocale>
 #include <QScreen>
 
 #include "files/file_store.h"
@@ -183,7 +182,7 @@ void dlgBackups::ListBackups()
     lstBackups_->clear();
     for (std::size_t i = 0; i < backups_.size(); ++i) {
         auto* item = new QTreeWidgetItem(lstBackups_);
-        item->setText(kTime, Language::OfProgram().Locale().toString(backups_[i].time, QLocale::ShortFormat));
+        item->setText(kTime, Language::OfProgram().ShortTime(backups_[i].time));
         item->setText(kHolds, Translated(ScopeText(backups_[i].scope)));
         item->setToolTip(kTime, PlainToolTip(VisibleText(backups_[i].path)));
         item->setTextAlignment(kRows, Qt::AlignRight | Qt::AlignVCenter);

@@ -1,7 +1,6 @@
 #include "app/compare_commands.h"
 
 #include <QFileInfo>
-#include <QLocale>
 
 #include "app/write_changes_dialog.h"
 #include "files/file_store.h"
@@ -12,9 +11,9 @@
 namespace rqm5 {
 namespace {
 
-std::string ShortTime(const QDateTime& time)
+Message ShortTime(const QDateTime& time)
 {
-    return Language::OfProgram().Locale().toString(time, QLocale::ShortFormat).toStdString();
+    return Language::OfProgram().ShortTime(time).toStdString();
 }
 
 /// A change of nothing but one place, for going there.
@@ -102,9 +101,10 @@ void CompareCommands::CompareWithFile()
     const QFileInfo file(path);
     const std::string name = VisibleText(file.fileName()).toStdString();
     CompareWith({name,
-                 {MESSAGE("Other side: the file %1, saved %2"), {name, ShortTime(file.lastModified())}},
-                 std::move(image),
-                 ComparedParts()});
+                 [name, saved = file.lastModified()] {
+                     return Message(MESSAGE("Other side: the file %1, saved %2"), {name, ShortTime(saved)});
+                 },
+                 std::move(image), ComparedParts()});
 }
 
 void CompareCommands::CompareWithLastRead()
@@ -113,11 +113,13 @@ void CompareCommands::CompareWithLastRead()
     const auto last = transfers_.LastFullRead();
     if (!last)
         return compare_->SetLastRead(false);
-    const std::string time = ShortTime(last->time);
-    const Message title =
-        last->isOfParts ? Message(MESSAGE("Other side: the receiver as it was read or written since %1, %2"),
-                                  {time, AgeText(last->time, QDateTime::currentDateTime())})
-                        : Message(MESSAGE("Other side: the receiver as it was read at %1"), {time});
+    const auto title = [time = last->time, isOfParts = last->isOfParts,
+                        age = AgeText(last->time, QDateTime::currentDateTime())] {
+        return isOfParts
+                   ? Message(MESSAGE("Other side: the receiver as it was read or written since %1, %2"),
+                             {ShortTime(time), age})
+                   : Message(MESSAGE("Other side: the receiver as it was read at %1"), {ShortTime(time)});
+    };
     CompareWith({MESSAGE("the last read"), title, last->image, kReceiverParts});
 }
 
@@ -127,10 +129,11 @@ void CompareCommands::CompareWithReceiver()
     if (transfers_.ReadBeside(image) != TransferResult::Done)
         return;
     CompareWith({MESSAGE("the receiver"),
-                 {MESSAGE("Other side: the receiver, read just now (%1)"),
-                  {ShortTime(transfers_.LastFullRead()->time)}},
-                 std::move(image),
-                 kReceiverParts});
+                 [time = transfers_.LastFullRead()->time] {
+                     return Message(MESSAGE("Other side: the receiver, read just now (%1)"),
+                                    {ShortTime(time)});
+                 },
+                 std::move(image), kReceiverParts});
 }
 
 void CompareCommands::GoTo(ItemId id)

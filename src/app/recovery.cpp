@@ -1,7 +1,6 @@
 #include "app/recovery.h"
 
 #include <QFileInfo>
-#include <QLocale>
 
 #include "language/language.h"
 #include "language/translated.h"
@@ -24,8 +23,7 @@ Choice Ask(Dialogs& dialogs, QWidget* parent, const RecoveryFile& file)
                         ? Recovery::tr("What was read from the receiver could not be saved. It was kept.")
                         : Recovery::tr("The program ended before your changes were saved. They were kept.");
     question.details =
-        Recovery::tr("File: %1\nKept: %2")
-            .arg(name, Language::OfProgram().Locale().toString(file.Time(), QLocale::ShortFormat));
+        Recovery::tr("File: %1\nKept: %2").arg(name, Language::OfProgram().ShortTime(file.Time()));
     question.icon = QMessageBox::Question;
     question.buttons = QMessageBox::Yes | QMessageBox::Discard | QMessageBox::Cancel;
     question.defaultButton = QMessageBox::Yes;

@@ -2,7 +2,6 @@
 
 #include <QDialogButtonBox>
 #include <QHeaderView>
-#include <QLocale>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -59,11 +58,10 @@ dlgWriteChanges::dlgWriteChanges(const CloneImage& image, const ChangePlan& plan
     lblTime_->setObjectName(QStringLiteral("lblTime"));
     chkBackup_->setObjectName(QStringLiteral("chkBackup"));
     chkVerify_->setObjectName(QStringLiteral("chkVerify"));
-    lblKnown_->setText(
-        tr("The receiver as it was read or written since %1, %2. Each block is read once more "
-           "before the first one is written.")
-            .arg(Language::OfProgram().Locale().toString(since.toLocalTime(), QLocale::ShortFormat),
-                 Translated(AgeText(since, QDateTime::currentDateTimeUtc()))));
+    lblKnown_->setText(tr("The receiver as it was read or written since %1, %2. Each block is read once more "
+                          "before the first one is written.")
+                           .arg(Language::OfProgram().ShortTime(since.toLocalTime()),
+                                Translated(AgeText(since, QDateTime::currentDateTimeUtc()))));
     lblKnown_->setWordWrap(true);
     lblTime_->setWordWrap(true);
     Build(ListChanges(image, plan));

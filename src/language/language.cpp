@@ -129,11 +129,11 @@ QString Language::translate(const char* context, const char* source, const char*
     return own;
 }
 
-QLocale Language::Locale() const
+QString Language::ShortTime(const QDateTime& time) const
 {
     const QLocale system;
     const QLocale own(code_);
-    return system.language() == own.language() ? system : own;
+    return (system.language() == own.language() ? system : own).toString(time, QLocale::ShortFormat);
 }
 
 QString Language::SourceOf(const QString& shown) const

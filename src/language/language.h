@@ -1,8 +1,8 @@
 #pragma once
 
+#include <QDateTime>
 #include <QHash>
 #include <QList>
-#include <QLocale>
 #include <QMutex>
 #include <QString>
 #include <QTranslator>
@@ -41,8 +41,8 @@ class Language : public QTranslator
     /// What is spoken: a code of Languages().
     QString Code() const { return code_; }
 
-    /// How dates are written: as the system does where it speaks this language, too.
-    QLocale Locale() const;
+    /// As the system writes times where it speaks this language, too, else as the language does.
+    QString ShortTime(const QDateTime& time) const;
 
     /// The English text that was shown as this one, for what is found by it; the text itself when none was.
     QString SourceOf(const QString& shown) const;

@@ -173,7 +173,7 @@ void dlgCompare::CompareAgain()
 
 void dlgCompare::ShowComparison()
 {
-    lblCompareSource_->setText(source_ ? Translated(source_->title)
+    lblCompareSource_->setText(source_ ? Translated(source_->title())
                                        : tr("Choose above what the open image is compared with."));
     ListGroups();
     ShowDifferences();

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTimer>
+#include <functional>
 
 #include "document/document.h"
 #include "memory/compare_tree.h"
@@ -24,8 +25,10 @@ class dlgCompare : public QDialog
     /// What the open image is compared with.
     struct Source
     {
-        Message name;   ///< in a step: "bank.RQ5"
-        Message title;  ///< in the window: "File /home/me/bank.RQ5, saved 31.01.26 18:05"
+        Message name;  ///< in a step: "bank.RQ5"
+        /// In the window, with times as the language of the moment writes them: "Other side: the file
+        /// bank.RQ5, saved 31.01.26 18:05"
+        std::function<Message()> title;
         CloneImage image;
         ComparedParts parts;
     };

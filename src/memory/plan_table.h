@@ -35,7 +35,7 @@ class PlanTableModel : public QAbstractTableModel
 /// A table that shows a plan, for a dialog.
 QTableView* MakePlanTable(PlanTableModel& model, QWidget* parent);
 
-/// "38 channels are written, 5 of them over others; 2 are refused."
+/// "Rows that are written: 38, of which 5 hold a channel now; ..."
 Message PlanSummary(const CloneImage& image, const PastePlan& plan);
 
 }  // namespace rqm5

@@ -157,6 +157,8 @@ TEST_F(CompareTest, KeepsWhatIsSelectedAndOpenInAnotherLanguage)
     Language::OfProgram().Use(QStringLiteral("fr"));
     QCoreApplication::processEvents();
     EXPECT_NE(Tree().topLevelItem(0)->text(0), english);
+    const QDateTime saved = QFileInfo(Path("other.RQ5")).lastModified();
+    EXPECT_TRUE(StatusText("lblCompareSource").contains(Language::OfProgram().ShortTime(saved)));
     EXPECT_TRUE(Row(0, 0).isSelected() && !Row(0, 1).isSelected() && Row(0, 2).isSelected());
     EXPECT_TRUE(Row(0, 1).isExpanded());
     EXPECT_FALSE(twice.topLevelItem(0)->isExpanded());
