@@ -122,8 +122,12 @@ void PageView::Link_Clicked(const QUrl& link)
 /// What stands at the top: how many headings have begun, and how many blocks ago the last one did.
 PageView::Place PageView::PlaceAtTop() const
 {
-    const int top = cursorForPosition({0, 0}).block().blockNumber();
+    const QTextBlock first = cursorForPosition({0, 0}).block();
+    const int top = first.blockNumber();
+    const QRectF shape = document()->documentLayout()->blockBoundingRect(first);
     Place place;
+    if (shape.height() > 0)
+        place.scrolled = std::clamp((verticalScrollBar()->value() - shape.top()) / shape.height(), 0.0, 1.0);
     for (QTextBlock block = document()->begin(); block.isValid() && block.blockNumber() <= top;
          block = block.next()) {
         ++place.blocks;
@@ -159,10 +163,10 @@ void PageView::ShowLanguage()
     reload();
     document()->documentLayout()->documentSize();  // finishes the layout, without which nothing scrolls
     const QTextBlock block = BlockAt(place);
-    verticalScrollBar()->setValue(
-        isAtTop || place.headings == 0 || !block.isValid()
-            ? 0
-            : static_cast<int>(document()->documentLayout()->blockBoundingRect(block).top()));
+    const QRectF shape = document()->documentLayout()->blockBoundingRect(block);
+    const bool isKnown = !isAtTop && place.headings > 0 && block.isValid();
+    verticalScrollBar()->setValue(isKnown ? static_cast<int>(shape.top() + place.scrolled * shape.height())
+                                          : 0);
 }
 
 void PageView::MarkWords(const QStringList& words)

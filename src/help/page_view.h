@@ -42,7 +42,8 @@ class PageView : public QTextBrowser
     struct Place
     {
         int headings = 0;
-        int blocks = 0;  ///< since the last heading
+        int blocks = 0;      ///< since the last heading
+        qreal scrolled = 0;  ///< how much of the block is above, 0 to 1; a picture is a high one
     };
 
     void Page_Loaded(const QUrl& url);

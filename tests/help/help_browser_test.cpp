@@ -9,6 +9,7 @@
 #include <QTextBrowser>
 
 #include "app/window_fixture.h"
+#include "language/language.h"
 
 namespace rqm5 {
 namespace {
@@ -69,6 +70,32 @@ TEST_F(HelpBrowserTest, F1OpensThePageForWhatHasTheFocus)
     GoTo(Tab::Memory);
     PressF1(*Tabs().tabBar());
     EXPECT_EQ(Source(), "channels-and-banks.md#the-memory-page");
+}
+
+/// The translated manual has the same sections in the same order.
+TEST_F(HelpBrowserTest, KeepsThePlaceInAnotherLanguage)
+{
+    if (!QFile::exists(QStringLiteral(":/translations/rq-m5_de.qm")))
+        GTEST_SKIP() << "built without translations";
+    GoTo(Tab::Bank);
+    PressF1(Find<QWidget>("txtBank_12"));
+    QScrollBar& bar = *Page().verticalScrollBar();
+    const auto switchTo = [](const char* code) {
+        Language::OfProgram().Use(QLatin1String(code));
+        QCoreApplication::processEvents();
+    };
+    ASSERT_GT(bar.value(), 0) << "opened at its section";
+    const int opened = bar.value();
+    bar.setValue(opened + 100);
+    switchTo("de");
+    EXPECT_TRUE(Page().toPlainText().contains(QStringLiteral("Kanal")));
+    EXPECT_GT(bar.value(), 0);
+    switchTo("en");
+    EXPECT_NEAR(bar.value(), opened + 100, 60);
+    bar.setValue(0);
+    switchTo("de");
+    EXPECT_EQ(bar.value(), 0) << "not back to the section";
+    switchTo("en");
 }
 
 TEST_F(HelpBrowserTest, F1WorksInDialogsAndMessageBoxes)
