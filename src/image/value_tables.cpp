@@ -64,4 +64,10 @@ const std::array<FrequencyRange, kBandCells> BandLimit = {{
     // clang-format on
 }};
 
+const FrequencyRange& BandLimitOf(int band, int region)
+{
+    const int cell = band * kRegions + region;
+    return BandLimit.at(static_cast<std::size_t>(cell));
+}
+
 }  // namespace rqm5

@@ -58,6 +58,7 @@ extern const std::array<std::string_view, kBandCells> BandRangeText;
 /// Two rows differ from the texts on purpose: band 2 of regions 2 and 3 starts at 29.0 MHz, and the rows
 /// of bands 8 and 9 in region 2, which are no bands there, hold the blocked cellular-telephone ranges.
 extern const std::array<FrequencyRange, kBandCells> BandLimit;
+const FrequencyRange& BandLimitOf(int band, int region);
 
 /// True for the two cellular-telephone ranges that region 2 refuses.
 bool IsCellular(std::int64_t hertz);

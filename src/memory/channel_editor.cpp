@@ -48,8 +48,7 @@ const FrequencyRange& LimitOf(const CloneImage& image, RowId id)
 {
     if (id.IsMemory())
         return kReceiverRange;
-    const int limit = id.row * kRegions + image.ModelNo();
-    return BandLimit.at(static_cast<std::size_t>(limit));
+    return BandLimitOf(id.row, image.ModelNo());
 }
 
 Verdict JudgeFrequency(const CloneImage& image, RowId id, int selector, double typed)

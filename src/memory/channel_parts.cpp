@@ -61,11 +61,7 @@ Channel NewChannel(const CloneImage& image, std::int64_t hertz)
 {
     const int region = image.ModelNo();
     int band = RegionOf(region).vfoBands - 1;
-    const auto limitOf = [region](int of) {
-        const int limit = of * kRegions + region;
-        return BandLimit.at(static_cast<std::size_t>(limit));
-    };
-    while (band > 0 && limitOf(band).low > Megahertz(hertz))
+    while (band > 0 && BandLimitOf(band, region).low > Megahertz(hertz))
         --band;
     Channel channel = DefaultVfoRow(region, band);
     channel.frequency = hertz;

@@ -74,8 +74,7 @@ class PictureBuilder
         const int region = std::clamp(image_.ModelNo(), 0, kRegions - 1);
         const int bands = RegionOf(region).vfoBands;
         for (int band = 0; band < kVfoRows; ++band) {
-            const int limit = band * kRegions + region;
-            const FrequencyRange range = BandLimit[static_cast<std::size_t>(limit)];
+            const FrequencyRange range = BandLimitOf(band, region);
             if (band < bands)
                 picture_.bands.push_back({band, range});
             else if (range.high > 0)  // the rows behind the bands hold what the region refuses
