@@ -27,12 +27,6 @@ Problem ProblemWith(const QFileInfo& file, const Obstacle& obstacle)
              {VisibleText(file.absoluteFilePath().toStdString()), obstacle.reason, obstacle.remedy}}};
 }
 
-/// What the system or Qt says.
-Message Reason(const QString& text)
-{
-    return SystemReason(QString::fromStdString(VisibleText(text.toStdString())));
-}
-
 /// What stands at the path but is no file that can be read or replaced.
 std::optional<Obstacle> NotAFile(const QFileInfo& file)
 {
@@ -87,7 +81,7 @@ std::optional<Obstacle> WriteObstacle(const QFileInfo& file)
             {MESSAGE("the folder %1 does not exist"), {VisibleText(folder.filePath().toStdString())}},
             MESSAGE("Make the folder or choose another one.")};
     if (const QString fault = NameFault(target.absoluteFilePath()); !fault.isEmpty())
-        return Obstacle{Reason(fault), Remedy(ENAMETOOLONG, file)};
+        return Obstacle{SystemReason(fault), Remedy(ENAMETOOLONG, file)};
     if ((file.exists() && !file.isWritable()) || !folder.isWritable())
         return Obstacle{MESSAGE("permission denied"), OpenRemedy(file)};
     return std::nullopt;
@@ -160,7 +154,7 @@ std::optional<Problem> ReadWholeFile(const QString& path, std::string& bytes)
         return ProblemWith(info, *obstacle);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return ProblemWith(info, {Reason(file.errorString()),
+        return ProblemWith(info, {SystemReason(file.errorString()),
                                   MESSAGE("Change the permissions of the file or open a copy.")});
     if (file.size() > kLargestFile)
         return ProblemWith(info, TooLarge());
@@ -169,7 +163,8 @@ std::optional<Problem> ReadWholeFile(const QString& path, std::string& bytes)
     if (read.size() > kLargestFile)
         return ProblemWith(info, TooLarge());
     if (file.error() != QFileDevice::NoError)
-        return ProblemWith(info, {Reason(file.errorString()), MESSAGE("Open a copy from another disk.")});
+        return ProblemWith(info,
+                           {SystemReason(file.errorString()), MESSAGE("Open a copy from another disk.")});
     bytes.assign(read.constData(), static_cast<std::size_t>(read.size()));
     return std::nullopt;
 }
